@@ -1,0 +1,9 @@
+# SPDX-License-Identifier: MIT
+# The warnings of our own code. The presets turn them into errors.
+add_library(brelex_warnings INTERFACE)
+target_compile_options(brelex_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough
+  -Wmissing-declarations -Wundef -Wextra-semi
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>
+  $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>)

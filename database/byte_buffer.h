@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+namespace brelex {
+
+/// Bytes of one owner that are not cleared when they are allocated.
+class ByteBuffer {
+  public:
+    ByteBuffer() = default;
+
+    explicit ByteBuffer(std::size_t size)
+        : bytes_(std::make_unique_for_overwrite<char[]>(size)),
+          size_(size) {}
+
+    [[nodiscard]] char* Data() { return bytes_.get(); }
+
+    [[nodiscard]] const char* Data() const { return bytes_.get(); }
+
+    [[nodiscard]] std::size_t Size() const { return size_; }
+
+    [[nodiscard]] std::string_view View() const { return {bytes_.get(), size_}; }
+
+  private:
+    std::unique_ptr<char[]> bytes_;
+    std::size_t size_ = 0;
+};
+
+}  // namespace brelex

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "database/database_check.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "database/database_builder.h"
+#include "database/modCRC32.h"
+#include "database/record_text.h"
+#include "database/string_order.h"
+#include "database/windows1252.h"
+
+namespace brelex {
+
+namespace {
+
+constexpr std::size_t kMostOfAKind = 10;
+
+// Collects findings of one kind and says how many more there were.
+class Findings {
+  public:
+    Findings(std::vector<std::string>& lines, std::string kind)
+        : lines_(lines),
+          kind_(std::move(kind)) {}
+
+    Findings(const Findings&) = delete;
+    Findings& operator=(const Findings&) = delete;
+
+    ~Findings() {
+        if (count_ > kMostOfAKind) {
+            lines_.push_back("... and " + std::to_string(count_ - kMostOfAKind) + " more " + kind_);
+        }
+    }
+
+    void Add(std::string line) {
+        if (++count_ <= kMostOfAKind) {
+            lines_.push_back(std::move(line));
+        }
+    }
+
+  private:
+    std::vector<std::string>& lines_;
+    std::string kind_;
+    std::size_t count_ = 0;
+};
+
+std::string RecordName(std::int32_t row) {
+    return "record " + std::to_string(row + 1);
+}
+
+void CheckBlock(const DatabaseHeader& header, const RecordStore& store,
+                std::vector<std::string>& lines) {
+    if (GetCRCFromBytes(store.Block()) != header.DataCRC) {
+        lines.emplace_back("the CRC of the records is not the header's DataCRC");
+    }
+    const auto nuls = std::count(store.Block().begin(), store.Block().end(), '\0');
+    if (nuls != header.RecordCount) {
+        lines.push_back("the record block holds " + std::to_string(nuls) +
+                        " NULs, RecordCount is " + std::to_string(header.RecordCount));
+    }
+}
+
+void CheckRecords(const RecordStore& store, std::vector<std::string>& lines) {
+    Findings malformed(lines, "records without TAB");
+    Findings disorder(lines, "records out of order");
+    for (std::int32_t row = 0; row < store.RowCount(); ++row) {
+        const std::string_view text = store.RowText(row);
+        if (text.find('\t') == std::string_view::npos) {
+            malformed.Add(RecordName(row) + " has no TAB");
+        }
+        if (row > 0 && CompareTexts(store.RowText(row - 1), text) > 0) {
+            disorder.Add(RecordName(row) +
+                         " stands behind a greater one: " + Utf8OfBytes(GetAbbreviation(text)));
+        }
+    }
+}
+
+void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
+                     std::vector<std::string>& lines) {
+    std::vector<std::string_view> records;
+    records.reserve(static_cast<std::size_t>(store.RowCount()));
+    for (std::int32_t row = 0; row < store.RowCount(); ++row) {
+        records.push_back(store.RowText(row));
+    }
+    const DatabaseHeader counted = ComputeStatistics(records);
+    const auto compare = [&](const char* name, std::int32_t DatabaseHeader::*field) {
+        if (header.*field != counted.*field) {
+            lines.push_back(std::string(name) + " is " + std::to_string(header.*field) +
+                            ", the records give " + std::to_string(counted.*field));
+        }
+    };
+    compare("RecordCount", &DatabaseHeader::RecordCount);
+    compare("MaxAbbrvLength", &DatabaseHeader::MaxAbbrvLength);
+    compare("MaxExpansionLength", &DatabaseHeader::MaxExpansionLength);
+    compare("AvgAbbrvLength", &DatabaseHeader::AvgAbbrvLength);
+    compare("AvgExpansionLength", &DatabaseHeader::AvgExpansionLength);
+    compare("LongestAbbrvIndex", &DatabaseHeader::LongestAbbrvIndex);
+    compare("LongestExpansionIndex", &DatabaseHeader::LongestExpansionIndex);
+    compare("CommonFirstLetterCount", &DatabaseHeader::CommonFirstLetterCount);
+    compare("MostExpansionsIndex", &DatabaseHeader::MostExpansionsIndex);
+    compare("MostExpansionsCount", &DatabaseHeader::MostExpansionsCount);
+    if (header.CommonFirstLetter != counted.CommonFirstLetter) {
+        lines.push_back("CommonFirstLetter is '" + Utf8OfBytes({&header.CommonFirstLetter, 1}) +
+                        "', the records give '" + Utf8OfBytes({&counted.CommonFirstLetter, 1}) +
+                        "'");
+    }
+}
+
+// A beginning that the record before shares leads to the same row, so each is looked up once per
+// run of records.
+void CheckReachability(const RecordStore& store, const PrefixFinder& find,
+                       std::vector<std::string>& lines) {
+    Findings unreachable(lines, "unreachable beginnings");
+    std::string_view previous;
+    for (std::int32_t row = 0; row < store.RowCount(); ++row) {
+        const std::string_view abbreviation = GetAbbreviation(store.RowText(row));
+        const auto shared =
+            static_cast<std::size_t>(std::mismatch(abbreviation.begin(), abbreviation.end(),
+                                                   previous.begin(), previous.end())
+                                         .first -
+                                     abbreviation.begin());
+        previous = abbreviation;
+        for (std::size_t bytes = shared + 1; bytes <= abbreviation.size(); ++bytes) {
+            const std::string_view beginning = abbreviation.substr(0, bytes);
+            const std::string_view found = store.RowText(find(store, beginning));
+            if (!EqualIgnoringCase(found.substr(0, bytes), beginning)) {
+                unreachable.Add("typing " + Utf8OfBytes(beginning) + " does not reach " +
+                                RecordName(row));
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> CheckDatabase(const DatabaseHeader& header, const RecordStore& store,
+                                       const PrefixFinder& find) {
+    std::vector<std::string> lines;
+    CheckBlock(header, store, lines);
+    CheckRecords(store, lines);
+    CheckStatistics(header, store, lines);
+    CheckReachability(store, find, lines);
+    return lines;
+}
+
+}  // namespace brelex

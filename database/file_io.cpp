@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "database/file_io.h"
+
+#include <cstddef>
+#include <fstream>
+#include <system_error>
+
+namespace brelex {
+
+namespace fs = std::filesystem;
+
+fs::path PathOfUtf8(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string Utf8OfPath(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::string WithTrailingSeparator(std::string folder) {
+    constexpr auto kSeparator = static_cast<char>(fs::path::preferred_separator);
+    if (!folder.ends_with(kSeparator)) {
+        folder.push_back(kSeparator);
+    }
+    return folder;
+}
+
+std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
+    std::error_code error;
+    const auto size = fs::file_size(path, error);
+    std::ifstream file;
+    file.rdbuf()->pubsetbuf(nullptr, 0);  // one read goes straight to its place
+    file.open(path, std::ios::binary);
+    if (error || !file) {
+        return std::nullopt;
+    }
+    ByteBuffer bytes(static_cast<std::size_t>(size));
+    file.read(bytes.Data(), static_cast<std::streamsize>(size));
+    return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
+                                                               : std::nullopt;
+}
+
+std::optional<std::string> ReplaceFile(const fs::path& path, std::string_view bytes) {
+    fs::path unfinished = path;
+    unfinished += ".part";
+    std::error_code ignored;
+    fs::remove(unfinished, ignored);
+    std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    std::error_code error;
+    if (file.fail()) {
+        fs::remove(unfinished, ignored);
+        return "cannot write " + Utf8OfPath(unfinished);
+    }
+    fs::rename(unfinished, path, error);
+    if (error) {
+        fs::remove(unfinished, ignored);
+        return "cannot replace " + Utf8OfPath(path) + ": " + error.message();
+    }
+    return std::nullopt;
+}
+
+}  // namespace brelex

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "database/byte_buffer.h"
+
+namespace brelex {
+
+/// The path that UTF-8 text names, and back. On systems whose paths are bytes they pass unchanged.
+[[nodiscard]] std::filesystem::path PathOfUtf8(std::string_view utf8);
+[[nodiscard]] std::string Utf8OfPath(const std::filesystem::path& path);
+
+/// `folder` with the system's separator at its end, where it has one already unchanged.
+[[nodiscard]] std::string WithTrailingSeparator(std::string folder);
+
+/// The whole content of a file; nothing if it cannot be read.
+[[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);
+
+/// Replaces the file at `path` by one with `bytes`, in one step: whoever reads it meanwhile gets
+/// the old content or the new. On failure returns the reason (for people) and leaves the old file
+/// as it was.
+[[nodiscard]] std::optional<std::string> ReplaceFile(const std::filesystem::path& path,
+                                                     std::string_view bytes);
+
+}  // namespace brelex

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "database/folder_picker.h"
+#include "database/message_sink.h"
+#include "database/program_values.h"
+
+namespace brelex {
+
+/// The name of the database file.
+inline constexpr const char* kDatabaseName = "Acronyms.dat";
+
+/// The path of the file named Acronyms.dat in `folder` (UTF-8, ending in the separator). Case does
+/// not matter, also where the file system tells cases apart; the exact spelling is preferred.
+[[nodiscard]] std::optional<std::string> FindDatabaseIn(const std::string& folder);
+
+/// Settles `values.AppFolder` (from `programFolder`) and `values.DatabasePath`. If the file is
+/// not in the program's folder, asks the user for its folder, again and again if need be. Returns
+/// false when the user gives up.
+[[nodiscard]] bool LocateDatabase(ProgramValues& values, const std::string& programFolder,
+                                  FolderPicker& picker, MessageSink& messages);
+
+}  // namespace brelex

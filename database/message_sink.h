@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace brelex {
+
+enum class MessageIcon {
+    Information,
+    Question,
+    Exclamation,
+    Stop
+};
+
+enum class MessageButtons {
+    Ok,
+    YesNo
+};
+
+enum class MessageAnswer {
+    Ok,
+    Yes,
+    No
+};
+
+/// One message to the user. Texts are UTF-8, lines end with "\n".
+struct Message {
+    std::string text;
+    std::string title;
+    MessageIcon icon = MessageIcon::Information;
+    MessageButtons buttons = MessageButtons::Ok;
+};
+
+/// Tells the user something and waits for the answer.
+class MessageSink {
+  public:
+    MessageSink() = default;
+    MessageSink(const MessageSink&) = delete;
+    MessageSink& operator=(const MessageSink&) = delete;
+    virtual ~MessageSink() = default;
+
+    /// Returns Ok for a message with an OK button, Yes or No for a question. Closing a question
+    /// without an answer counts as No.
+    virtual MessageAnswer Show(const Message& message) = 0;
+};
+
+}  // namespace brelex

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "database/message_sink.h"
+#include "database/program_values.h"
+#include "database/progress_sink.h"
+#include "database/record_store.h"
+#include "database/temporary_files.h"
+
+namespace brelex {
+
+/// The name of the temporary file in `TempFolder`.
+inline constexpr const char* kTempFileName = "~bx6120.tmp";
+
+/// What loading needs from outside.
+struct LoaderSurroundings {
+    TemporaryFiles& files;
+    ProgressSink& progress;
+    MessageSink& messages;
+};
+
+/// Loads the database at `values.DatabasePath` into `store` and sets the values that belong to
+/// it. The file is expanded into the temporary file, which is deleted once its records are in
+/// memory. On failure tells the user why and returns false; the store is then empty.
+[[nodiscard]] bool LoadDatabase(ProgramValues& values, RecordStore& store,
+                                const LoaderSurroundings& surroundings);
+
+/// `LoadingTime` between two readings of the clock in seconds since midnight, rounded to two
+/// decimals. Negative if midnight lay between them.
+[[nodiscard]] float LoadingTimeBetween(float before, float after);
+
+}  // namespace brelex

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "database/number_text.h"
+
+#include <charconv>
+#include <cstddef>
+#include <system_error>
+
+namespace brelex {
+
+namespace {
+
+std::string_view TrimBlanks(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r\n";
+    const auto first = text.find_first_not_of(kBlanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// `text` without its group separators; nothing if it is not digits, or not rightly grouped.
+std::optional<std::string> UngroupedDigits(std::string_view text, std::string_view separator) {
+    std::string digits;
+    std::size_t inGroup = 0;
+    bool grouped = false;
+    while (!text.empty()) {
+        if (IsDigit(text.front())) {
+            digits.push_back(text.front());
+            ++inGroup;
+            text.remove_prefix(1);
+            continue;
+        }
+        const bool goodGroup = grouped ? inGroup == 3 : inGroup >= 1 && inGroup <= 3;
+        if (separator.empty() || !text.starts_with(separator) || !goodGroup) {
+            return std::nullopt;
+        }
+        grouped = true;
+        inGroup = 0;
+        text.remove_prefix(separator.size());
+    }
+    if (digits.empty() || (grouped && inGroup != 3)) {
+        return std::nullopt;
+    }
+    return digits;
+}
+
+}  // namespace
+
+std::string FormatGrouped(std::int32_t number, std::string_view separator) {
+    const std::string digits = std::to_string(number < 0 ? -std::int64_t{number} : number);
+    std::string text = number < 0 ? "-" : "";
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i != 0 && (digits.size() - i) % 3 == 0) {
+            text += separator;
+        }
+        text.push_back(digits[i]);
+    }
+    return text;
+}
+
+std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_view separator) {
+    text = TrimBlanks(text);
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    const auto digits = UngroupedDigits(text, separator);
+    if (!digits) {
+        return std::nullopt;
+    }
+    const std::string signedDigits = (negative ? "-" : "") + *digits;
+    std::int32_t number = 0;
+    const auto [end, error] =
+        std::from_chars(signedDigits.data(), signedDigits.data() + signedDigits.size(), number);
+    return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+}  // namespace brelex

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "database/database_header.h"
+#include "database/row_list.h"
+
+namespace brelex {
+
+/// The application title, in captions and messages.
+inline constexpr const char* kAppTitle = "Brevilexicon";
+
+/// What the program says of itself. Texts are UTF-8.
+struct AppInfo {
+    int majorVersion = 0;
+    int minorVersion = 0;      ///< below 10, so that both parts joined by a point order as numbers
+    std::string copyright;     ///< the legal-rights text
+    std::string homePage;      ///< a web address
+    std::string donationPage;  ///< a web address
+    std::string supportAddress;
+};
+
+/// The values that the whole program shares. app/ owns the one instance. Paths are UTF-8; folders
+/// end in the system's separator.
+struct ProgramValues {
+    const RowList* AcronymList = nullptr;  ///< the entries; set before loading begins
+    std::int32_t RecordCount = 0;          ///< number of entries
+    std::string AppFolder;                 ///< the program's own folder
+    std::string TempFolder;                ///< the user's temporary folder
+    std::string DatabasePath;              ///< the database file
+    std::string TempFilePath;              ///< where the database file is expanded to
+    float LoadingTime = 0;                 ///< seconds that loading took, rounded to 2 decimals
+    float AppVersion = 0;                  ///< major and minor version as one number, as 6.1
+    DatabaseHeader Header;
+    std::int32_t ProgressStep = 1;  ///< records between two progress reports
+    AppInfo info;
+    std::string groupSeparator = ",";  ///< between thousands in shown numbers, UTF-8
+};
+
+}  // namespace brelex

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "database/progress_sink.h"
+#include "database/row_list.h"
+#include "database/szdd.h"
+
+namespace brelex {
+
+/// The only copy of the entries in memory: the expanded file as it was read and, for each record,
+/// the 32-bit offset of its first byte. Never changes once it is filled.
+class RecordStore final : public RowList {
+  public:
+    /// Takes `file`, whose record block begins at byte `blockAt`, and indexes `recordCount`
+    /// NUL-terminated records, none if the number is negative. Returns false, leaving the store
+    /// empty, if the block holds fewer. Reports to `progress` each time `progressStep` (1 or
+    /// more) records are done.
+    [[nodiscard]] bool Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
+                            std::int32_t progressStep, ProgressSink& progress);
+
+    [[nodiscard]] std::int32_t RowCount() const override {
+        return static_cast<std::int32_t>(offsets_.empty() ? 0 : offsets_.size() - 1);
+    }
+
+    [[nodiscard]] std::string_view RowText(std::int32_t row) const override {
+        const auto index = static_cast<std::size_t>(row);
+        return {block_.data() + offsets_[index], offsets_[index + 1] - offsets_[index] - 1};
+    }
+
+    [[nodiscard]] std::size_t AscendingPrefixBytes() const override { return ascendingPrefix_; }
+
+    /// The bytes of the record block.
+    [[nodiscard]] std::string_view Block() const { return block_; }
+
+  private:
+    ExpandedFile file_;
+    std::string_view block_;
+    std::vector<std::uint32_t> offsets_;  // one more than records: where the next would begin
+    std::size_t ascendingPrefix_ = 0;
+};
+
+/// Whole percent of `done` in `total` (more than 0), to the nearest, halves to even.
+[[nodiscard]] int PercentOf(std::int32_t done, std::int32_t total);
+
+}  // namespace brelex

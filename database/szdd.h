@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "database/byte_buffer.h"
+
+namespace brelex {
+
+/// The compressed file format "SZDD": a 14-byte header and LZSS data over a ring of 4096 bytes.
+/// docs/data-format.md describes it.
+
+/// Expanded files longer than this (1 GiB) are refused.
+inline constexpr std::size_t kMaxExpandedBytes = std::size_t{1} << 30U;
+
+/// What a compressed file expands to. The bytes stand in one buffer behind room for the ring's
+/// first content.
+class ExpandedFile {
+  public:
+    ExpandedFile() = default;
+
+    ExpandedFile(ByteBuffer buffer, std::size_t begin, std::size_t size)
+        : buffer_(std::move(buffer)),
+          begin_(begin),
+          size_(size) {}
+
+    [[nodiscard]] std::string_view View() const {
+        return size_ == 0 ? std::string_view() : buffer_.View().substr(begin_, size_);
+    }
+
+  private:
+    ByteBuffer buffer_;
+    std::size_t begin_ = 0;
+    std::size_t size_ = 0;
+};
+
+/// Expands `file`. As the Windows function LZCopy does: bytes without the signature are copied as
+/// they stand; the length that the header declares is only a hint; a stream that ends early gives
+/// what came out so far. Returns nothing if the result would be longer than kMaxExpandedBytes.
+[[nodiscard]] std::optional<ExpandedFile> ExpandSzdd(std::string_view file);
+
+/// Compresses `bytes` into a file that ExpandSzdd and LZCopy expand again. The same bytes always
+/// give the same file. Requires at most kMaxExpandedBytes.
+[[nodiscard]] std::string CompressSzdd(std::string_view bytes);
+
+}  // namespace brelex

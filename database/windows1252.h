@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brelex {
+
+/// The character of Windows-1252 byte `byte`. The five unassigned bytes (81, 8D, 8F, 90, 9D hex)
+/// map to the control characters of the same number, as the system's own conversion does.
+[[nodiscard]] char32_t CharacterOfByte(unsigned char byte);
+
+/// The Windows-1252 byte of `character`, or nothing if the code page lacks it.
+[[nodiscard]] std::optional<unsigned char> ByteOfCharacter(char32_t character);
+
+/// Decodes UTF-8. Every byte that belongs to no valid sequence (overlong forms, surrogates and
+/// values above 10FFFF included) becomes U+FFFD.
+[[nodiscard]] std::u32string DecodeUtf8(std::string_view utf8);
+
+/// Windows-1252 bytes as UTF-8.
+[[nodiscard]] std::string Utf8OfBytes(std::string_view bytes);
+
+/// UTF-8 text as Windows-1252 bytes, up to the first character that the code page lacks.
+struct EncodedText {
+    std::string bytes;
+    bool complete = true;  ///< false if the text was cut at a character outside the code page
+};
+
+[[nodiscard]] EncodedText BytesOfUtf8(std::string_view utf8);
+
+}  // namespace brelex

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "database/row_list.h"
+#include "lookup/list_navigation.h"
+
+class wxPoint;
+class wxWindow;
+
+namespace brelex {
+
+/// The list of entries on the screen: two columns without a header of its own, one row selected at
+/// most. It draws its rows straight from the entries, so a million open as fast as a hundred. On
+/// each system it is the control that looks native there and that a screen reader can read.
+/// Rows are 0-based, -1 is none.
+class AcronymList {
+  public:
+    AcronymList() = default;
+    AcronymList(const AcronymList&) = delete;
+    AcronymList& operator=(const AcronymList&) = delete;
+    virtual ~AcronymList() = default;
+
+    /// The control itself. Its parent owns it.
+    [[nodiscard]] virtual wxWindow& Window() = 0;
+
+    /// Shows `rows`, which must outlive the list, with none selected.
+    virtual void SetRows(const RowList& rows) = 0;
+
+    /// Selects a row; onClick is not called.
+    virtual void Select(std::int32_t row) = 0;
+
+    [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
+
+    /// Makes `row` the top visible row; near the end of the list as far as there are rows.
+    virtual void SetTopRow(std::int32_t row) = 0;
+
+    [[nodiscard]] virtual std::int32_t TopRow() const = 0;
+
+    /// Number of rows that are visible as a whole.
+    [[nodiscard]] virtual std::int32_t RowsPerPage() const = 0;
+
+    /// Height of a row in pixels.
+    [[nodiscard]] virtual int RowHeight() const = 0;
+
+    /// The row under a point of the control, -1 below the last one.
+    [[nodiscard]] virtual std::int32_t RowAt(const wxPoint& point) const = 0;
+
+    /// Does what the list does for a key pressed in it: moves the selection, scrolls it into view
+    /// and calls onClick if it changed; calls onEnter for Enter.
+    void SendKey(NavigationKey key);
+
+    std::function<void()> onClick;  ///< the user selected another row, by mouse or key
+    std::function<void()>
+        onEnter;  ///< Enter without Shift, Ctrl or Alt, or a double-click on a row
+
+  protected:
+    [[nodiscard]] virtual std::int32_t RowCount() const = 0;
+};
+
+/// Where the columns of the list begin and end, in pixels.
+struct AcronymListColumns {
+    int expansionTextAt = 0;  ///< where the text of the second column begins, from the list's edge
+};
+
+/// Creates the list for this system as a child of `parent`.
+AcronymList& CreateAcronymList(wxWindow& parent, const AcronymListColumns& columns);
+
+}  // namespace brelex

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "platform/acronym_list.h"
+
+#include <wx/listctrl.h>
+
+#include "database/record_text.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The system's list view over virtual rows.
+class AcronymListMsw final : public wxListView, public AcronymList {
+  public:
+    AcronymListMsw(wxWindow& parent, const AcronymListColumns& columns)
+        : wxListView(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                     wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL) {
+        const int cellPadding = FromDIP(6);  // of the list view's columns but the first
+        AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, columns.expansionTextAt - cellPadding);
+        AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
+        Bind(wxEVT_LIST_ITEM_SELECTED, &AcronymListMsw::OnSelected, this);
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
+        Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
+    }
+
+    wxWindow& Window() override { return *this; }
+
+    void SetRows(const RowList& rows) override {
+        rows_ = &rows;
+        selected_ = -1;
+        SetItemCount(rows.RowCount());
+        Refresh();
+    }
+
+    void Select(std::int32_t row) override {
+        quiet_ = true;  // the control tells of the change before it returns
+        // Or else selecting walks all rows of a virtual list (seen with Wine 8).
+        if (selected_ >= 0 && selected_ != row) {
+            SetItemState(selected_, 0, wxLIST_STATE_SELECTED);
+        }
+        constexpr long kState = wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED;
+        SetItemState(row, kState, kState);
+        selected_ = row;
+        quiet_ = false;
+    }
+
+    [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
+
+    void SetTopRow(std::int32_t row) override { ScrollList(0, (row - TopRow()) * RowHeight()); }
+
+    [[nodiscard]] std::int32_t TopRow() const override {
+        return static_cast<std::int32_t>(GetTopItem());
+    }
+
+    [[nodiscard]] std::int32_t RowsPerPage() const override { return GetCountPerPage(); }
+
+    [[nodiscard]] int RowHeight() const override {
+        wxRect area;
+        return RowCount() > 0 && GetItemRect(0, area) ? area.height : 1;
+    }
+
+    [[nodiscard]] std::int32_t RowAt(const wxPoint& point) const override {
+        int flags = 0;
+        return static_cast<std::int32_t>(HitTest(point, flags));
+    }
+
+  protected:
+    [[nodiscard]] std::int32_t RowCount() const override {
+        return rows_ == nullptr ? 0 : rows_->RowCount();
+    }
+
+  private:
+    [[nodiscard]] wxString OnGetItemText(long item, long column) const override {
+        const std::string_view text = rows_->RowText(static_cast<std::int32_t>(item));
+        return WxTextOfBytes(column == 0 ? GetAbbreviation(text) : GetExpansion(text));
+    }
+
+    void OnSelected(wxListEvent& event) {
+        const auto row = static_cast<std::int32_t>(event.GetIndex());
+        if (quiet_ || row == selected_) {
+            return;
+        }
+        selected_ = row;
+        if (onClick) {
+            onClick();
+        }
+    }
+
+    void OnActivated(wxListEvent& /*event*/) {
+        if (wxGetKeyState(WXK_SHIFT) || wxGetKeyState(WXK_CONTROL) || wxGetKeyState(WXK_ALT)) {
+            return;
+        }
+        if (selected_ >= 0 && onEnter) {
+            onEnter();
+        }
+    }
+
+    // The second column takes what the first leaves.
+    void OnSize(wxSizeEvent& event) {
+        SetColumnWidth(1, GetClientSize().x - GetColumnWidth(0));
+        event.Skip();
+    }
+
+    const RowList* rows_ = nullptr;
+    std::int32_t selected_ = -1;
+    bool quiet_ = false;
+};
+
+}  // namespace
+
+AcronymList& CreateAcronymList(wxWindow& parent, const AcronymListColumns& columns) {
+    return *new AcronymListMsw(parent, columns);
+}
+
+}  // namespace brelex

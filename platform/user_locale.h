@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace brelex {
+
+/// What the user's settings put between groups of digits (UTF-8); "," if they put nothing.
+[[nodiscard]] std::string UserGroupSeparator();
+
+}  // namespace brelex

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "database/file_io.h"
+#include "database/locate_database.h"
+#include "platform/program_folder.h"
+#include "tools/build_command.h"
+#include "tools/query_commands.h"
+
+namespace {
+
+std::string DatabaseBesideProgram() {
+    const std::string folder = brelex::ProgramFolder();
+    return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app("Looks abbreviations up and makes databases for Brevilexicon.", "brelex");
+    app.set_version_flag("--version", "brelex " BRELEX_VERSION);
+    app.require_subcommand(1);
+    app.fallthrough();
+    std::string database;
+    app.add_option("-d,--database", database,
+                   "The database file; without it, Acronyms.dat beside this program")
+        ->type_name("FILE");
+
+    brelex::BuildRequest build;
+    build.date = BRELEX_DATA_DATE;
+    build.output = brelex::kDatabaseName;
+    auto* buildCommand = app.add_subcommand("build", "Makes a database file");
+    buildCommand->add_option("--version", build.version, "The database's version, 1.0 if not given")
+        ->type_name("N.N");
+    buildCommand
+        ->add_option("--date", build.date, "Its release date, " BRELEX_DATA_DATE " if not given")
+        ->type_name("YYYY-MM-DD");
+    buildCommand
+        ->add_option("--search-list", build.searchList, "Suggested search texts, parted by commas")
+        ->type_name("TEXTS");
+    buildCommand
+        ->add_option("-o,--output", build.output, "The file to write, Acronyms.dat if not given")
+        ->type_name("FILE");
+    buildCommand
+        ->add_option("INPUT", build.inputs,
+                     "UTF-8 .tsv files (abbreviation, TAB, expansion) and dictd "
+                     "dictionaries (NAME.index beside NAME.dict.dz)")
+        ->required()
+        ->type_name("");
+
+    auto* infoCommand = app.add_subcommand("info", "Prints the database's header");
+    auto* dumpCommand = app.add_subcommand("dump", "Prints all records as UTF-8 TSV");
+    auto* checkCommand = app.add_subcommand("check", "Says what is wrong with the database");
+    auto* lookupCommand = app.add_subcommand(
+        "lookup", "Prints the entry that typing a text in the program would select");
+    std::vector<std::string> texts;
+    lookupCommand
+        ->add_option("TEXT", texts, "First letters of an abbreviation; - reads lines from input")
+        ->required()
+        ->type_name("");
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        constexpr int kRefused = 2;
+        return app.exit(error) == 0 ? 0 : kRefused;
+    }
+
+    std::ios::sync_with_stdio(false);
+    if (buildCommand->parsed()) {
+        return brelex::RunBuild(build, std::cout, std::cerr);
+    }
+    if (database.empty()) {
+        database = DatabaseBesideProgram();
+    }
+    if (infoCommand->parsed()) {
+        return brelex::RunInfo(database, std::cout, std::cerr);
+    }
+    if (dumpCommand->parsed()) {
+        return brelex::RunDump(database, std::cout, std::cerr);
+    }
+    if (checkCommand->parsed()) {
+        return brelex::RunCheck(database, std::cout, std::cerr);
+    }
+    return lookupCommand->parsed()
+               ? brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr)
+               : 2;
+}

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include "tools/dictd_reader.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <system_error>
+#include <zlib.h>
+
+#include "database/file_io.h"
+
+namespace brelex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string_view Trim(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Letters and digits in capitals: what a headword of the dictionary keeps of a spelling.
+std::string HeadwordForm(std::string_view spelling) {
+    std::string form;
+    for (const char c : spelling) {
+        if (c >= 'a' && c <= 'z') {
+            form.push_back(static_cast<char>(c - 'a' + 'A'));
+        } else if ((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')) {
+            form.push_back(c);
+        }
+    }
+    return form;
+}
+
+// Takes a last part in quotes, with the comma before it, off the end of `text`.
+std::optional<std::string> TakeLastQuoted(std::string_view& text) {
+    if (!text.ends_with('"') || text.size() < 2) {
+        return std::nullopt;
+    }
+    const auto open = text.rfind('"', text.size() - 2);
+    if (open == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const std::string_view before = Trim(text.substr(0, open));
+    if (!before.ends_with(',')) {
+        return std::nullopt;
+    }
+    std::string quoted(text.substr(open + 1, text.size() - open - 2));
+    text = Trim(before.substr(0, before.size() - 1));
+    return quoted;
+}
+
+void AddSense(std::string_view headword, std::string_view text, std::vector<DictdEntry>& entries) {
+    std::string_view rest = text;
+    std::vector<std::string> spellings;
+    while (auto quoted = TakeLastQuoted(rest)) {
+        spellings.insert(spellings.begin(), std::move(*quoted));
+    }
+    const bool spellsHeadword =
+        !spellings.empty() &&
+        std::all_of(spellings.begin(), spellings.end(), [&](const std::string& spelling) {
+            return HeadwordForm(spelling) == HeadwordForm(headword);
+        });
+    if (!spellsHeadword) {
+        spellings = {std::string(headword)};
+        rest = text;  // a quoted part that spells something else stays in the text
+    }
+    if (rest.empty() || rest.starts_with(',')) {
+        return;
+    }
+    for (const std::string& spelling : spellings) {
+        entries.push_back({spelling, std::string(rest)});
+    }
+}
+
+// A further entry on one line of an article: its abbreviation, a wide gap, its expansion. Only such
+// lines are both indented and parted in two.
+std::optional<DictdEntry> EntryOnLine(std::string_view line) {
+    constexpr std::string_view kGap = "    ";
+    const std::string_view text = Trim(line);
+    const auto gap = text.find(kGap);
+    if (!line.starts_with(kGap) || gap == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return DictdEntry{std::string(text.substr(0, gap)), std::string(Trim(text.substr(gap)))};
+}
+
+bool IsHeadword(std::string_view line) {
+    return !line.empty() && line.front() != ' ' && line.find(' ') == std::string_view::npos &&
+           !line.starts_with("00-database");
+}
+
+std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
+    constexpr std::string_view kDigits =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    constexpr std::size_t kMaxDigits = 6;
+    if (text.empty() || text.size() > kMaxDigits) {
+        return std::nullopt;
+    }
+    std::uint64_t number = 0;
+    for (const char c : text) {
+        const auto digit = kDigits.find(c);
+        if (digit == std::string_view::npos) {
+            return std::nullopt;
+        }
+        number = number * 64 + digit;
+    }
+    return number;
+}
+
+std::optional<std::string> InflateFile(const fs::path& path) {
+    // zlib reads a file that is not compressed as it stands.
+    gzFile file = gzopen(path.string().c_str(), "rb");
+    if (file == nullptr) {
+        return std::nullopt;
+    }
+    std::string content;
+    std::string chunk(std::size_t{1} << 16U, '\0');
+    int count = 0;
+    while ((count = gzread(file, chunk.data(), static_cast<unsigned>(chunk.size()))) > 0) {
+        content.append(chunk, 0, static_cast<std::size_t>(count));
+    }
+    const bool closed = gzclose(file) == Z_OK;
+    return count == 0 && closed ? std::optional(content) : std::nullopt;
+}
+
+fs::path DictionaryBeside(const fs::path& indexPath) {
+    fs::path compressed = indexPath;
+    compressed.replace_extension(".dict.dz");
+    std::error_code error;
+    if (fs::exists(compressed, error)) {
+        return compressed;
+    }
+    return fs::path(indexPath).replace_extension(".dict");
+}
+
+// The article that a line of the index (headword, offset, length, parted by TABs) points at.
+std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
+                                                   std::string_view dictionary) {
+    const auto first = line.find('\t');
+    const auto second = line.find('\t', first + 1);
+    if (first == std::string_view::npos || second == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto offset = DecodeBase64Number(line.substr(first + 1, second - first - 1));
+    const auto length = DecodeBase64Number(line.substr(second + 1));
+    if (!offset || !length || *offset > dictionary.size() ||
+        *length > dictionary.size() - *offset) {
+        return std::nullopt;
+    }
+    return dictionary.substr(static_cast<std::size_t>(*offset), static_cast<std::size_t>(*length));
+}
+
+}  // namespace
+
+std::vector<DictdEntry> EntriesOfArticle(std::string_view article) {
+    const std::vector<std::string_view> lines = SplitLines(article);
+    std::vector<DictdEntry> entries;
+    if (lines.empty()) {
+        return entries;
+    }
+    std::string text;
+    std::vector<DictdEntry> further;
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        if (auto entry = EntryOnLine(lines[i])) {
+            further.push_back(std::move(*entry));
+        } else if (const std::string_view part = Trim(lines[i]); !part.empty()) {
+            text += (text.empty() ? "" : " ") + std::string(part);
+        }
+    }
+    AddSense(Trim(lines.front()), text, entries);
+    entries.insert(entries.end(), further.begin(), further.end());
+    return entries;
+}
+
+std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article) {
+    const std::vector<std::string_view> lines = SplitLines(article);
+    std::vector<DictdEntry> entries;
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+        const bool expansionFollows = lines[i + 1].starts_with(' ') && !Trim(lines[i + 1]).empty();
+        if (IsHeadword(lines[i]) && expansionFollows) {
+            AddSense(lines[i], Trim(lines[i + 1]), entries);
+        }
+    }
+    return entries;
+}
+
+void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
+                   InputReport& report) {
+    const std::string indexName = Utf8OfPath(indexPath);
+    const fs::path dictionaryPath = DictionaryBeside(indexPath);
+    const auto index = ReadWholeFile(indexPath);
+    const auto dictionary = InflateFile(dictionaryPath);
+    if (!index) {
+        report.errors.push_back(indexName + ": cannot be read");
+        return;
+    }
+    if (!dictionary) {
+        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": cannot be read");
+        return;
+    }
+    std::size_t lineNumber = 0;
+    for (const std::string_view line : SplitLines(index->View())) {
+        const std::string place = indexName + ":" + std::to_string(++lineNumber);
+        const auto article = ArticleOfIndexLine(line, *dictionary);
+        if (!article) {
+            report.errors.push_back(place + ": does not point into the dictionary");
+            continue;
+        }
+        const bool header = line.starts_with("00database") || line.starts_with("00-database");
+        const auto entries = header ? EntriesOfHeaderArticle(*article) : EntriesOfArticle(*article);
+        if (entries.empty() && !header) {
+            report.warnings.push_back(place + ": no expansion, left out");
+        }
+        for (const DictdEntry& entry : entries) {
+            AddEntry(entry.abbreviation, entry.expansion, place, records, report);
+        }
+    }
+}
+
+}  // namespace brelex

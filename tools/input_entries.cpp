@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "tools/input_entries.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+#include "database/file_io.h"
+#include "database/string_order.h"
+#include "database/windows1252.h"
+
+namespace brelex {
+
+namespace {
+
+bool IsControl(char32_t c) {
+    return c < 0x20 || (c >= 0x7F && c <= 0x9F);
+}
+
+// Why `text` cannot be part of a record; nothing if it can.
+std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed) {
+    if (text.find_first_not_of(' ') == std::string_view::npos) {
+        return "is empty";
+    }
+    for (const char32_t c : DecodeUtf8(text)) {
+        if (c == '\t') {
+            if (!tabAllowed) {
+                return "holds a TAB";
+            }
+        } else if (c == 0) {
+            return "holds a NUL";
+        } else if (IsControl(c)) {
+            return "holds a control character";
+        } else if (!ByteOfCharacter(c)) {
+            return "holds a character outside Windows-1252, or is not UTF-8";
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+void AddEntry(std::string_view abbreviation, std::string_view expansion, const std::string& place,
+              std::vector<std::string>& records, InputReport& report) {
+    if (const auto reason = ReasonAgainst(abbreviation, false)) {
+        report.errors.push_back(place + ": the abbreviation " + *reason);
+        return;
+    }
+    if (const auto reason = ReasonAgainst(expansion, true)) {
+        report.errors.push_back(place + ": the expansion " + *reason);
+        return;
+    }
+    const std::string bytes = BytesOfUtf8(abbreviation).bytes;
+    if (!std::all_of(bytes.begin(), bytes.end(), [](char c) { return WeightOf(c).IsPlain(); })) {
+        report.warnings.push_back(place + ": the abbreviation " + std::string(abbreviation) +
+                                  " holds an accent, ligature, superscript or soft hyphen; "
+                                  "look-ups may miss it");
+    }
+    records.push_back(bytes + "\t" + BytesOfUtf8(expansion).bytes);
+}
+
+void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& records,
+                 InputReport& report) {
+    const std::string name = Utf8OfPath(path);
+    const auto file = ReadWholeFile(path);
+    if (!file) {
+        report.errors.push_back(name + ": cannot be read");
+        return;
+    }
+    std::string_view rest = file->View();
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (rest.starts_with(kByteOrderMark)) {
+        rest.remove_prefix(kByteOrderMark.size());
+    }
+    for (std::size_t line = 1; !rest.empty(); ++line) {
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        std::string_view text = rest.substr(0, end);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        if (text.ends_with('\r')) {
+            text.remove_suffix(1);
+        }
+        if (text.empty()) {
+            continue;
+        }
+        const std::string place = name + ":" + std::to_string(line);
+        const std::size_t tab = text.find('\t');
+        if (tab == std::string_view::npos) {
+            report.errors.push_back(place + ": no TAB between abbreviation and expansion");
+            continue;
+        }
+        AddEntry(text.substr(0, tab), text.substr(tab + 1), place, records, report);
+    }
+}
+
+}  // namespace brelex

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "tools/query_commands.h"
+
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "database/calendar_day.h"
+#include "database/database_check.h"
+#include "database/database_file.h"
+#include "database/file_io.h"
+#include "database/string_order.h"
+#include "database/windows1252.h"
+#include "lookup/prefix_search.h"
+
+namespace brelex {
+
+namespace {
+
+constexpr int kFound = 0;
+constexpr int kNothingFound = 1;
+constexpr int kFailed = 2;
+
+struct OpenDatabase {
+    DatabaseHeader header;
+    RecordStore store;
+};
+
+// Loads the database; says why on `err` if that fails. `unloadable` is the code for a file that
+// was read but cannot be used.
+int Load(const std::string& path, OpenDatabase& database, std::ostream& err,
+         int unloadable = kFailed) {
+    const auto file = ReadWholeFile(PathOfUtf8(path));
+    if (!file) {
+        err << "brelex: cannot read " << path << "\n";
+        return kFailed;
+    }
+    const LoadFailure failure = ReadDatabase(file->View(), database.header, database.store);
+    if (failure != LoadFailure::None) {
+        err << "brelex: " << path << ": " << ReasonText(failure) << "\n";
+        return unloadable;
+    }
+    return kFound;
+}
+
+template <typename Number>
+std::string PlainNumber(Number number) {
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return {digits.data(), end};
+}
+
+std::string VersionText(float version) {
+    const std::string text = PlainNumber(version);
+    const bool whole = text.find_first_not_of("-0123456789") == std::string::npos;
+    return whole ? text + ".0" : text;
+}
+
+std::string ReleaseDateText(double count) {
+    const auto day = DayOfCount(count);
+    return day ? FormatIsoDay(*day) : "not a date (" + PlainNumber(count) + ")";
+}
+
+std::string HexDigits(std::int32_t number) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text;
+    for (int shift = 28; shift >= 0; shift -= 4) {
+        text.push_back(kDigits[(std::bit_cast<std::uint32_t>(number) >> shift) & 0xFU]);
+    }
+    return text;
+}
+
+std::string SearchListItems(std::string_view list) {
+    list = list.substr(0, list.find_last_not_of(' ') + 1);
+    std::string items;
+    for (const char c : list) {
+        items += c == '1' ? ", " : Utf8OfBytes({&c, 1});
+    }
+    return items;
+}
+
+// Prints the line for one text; whether any beginning of it was found.
+bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out) {
+    const std::string bytes = BytesOfUtf8(text).bytes;
+    const std::int32_t row = FindFirstByPrefix(rows, bytes);
+    const std::string_view record = rows.RowText(row);
+    out << row + 1 << "\t" << Utf8OfBytes(record) << "\n";
+    return text.empty() ||
+           (!bytes.empty() && EqualIgnoringCase(record.substr(0, 1), bytes.substr(0, 1)));
+}
+
+}  // namespace
+
+int RunInfo(const std::string& path, std::ostream& out, std::ostream& err) {
+    OpenDatabase database;
+    if (const int failure = Load(path, database, err); failure != kFound) {
+        return failure;
+    }
+    const DatabaseHeader& header = database.header;
+    out << "Version: " << VersionText(header.Version) << "\n"
+        << "ReleaseDate: " << ReleaseDateText(header.ReleaseDate) << "\n"
+        << "MaxAbbrvLength: " << header.MaxAbbrvLength << "\n"
+        << "MaxExpansionLength: " << header.MaxExpansionLength << "\n"
+        << "RecordCount: " << header.RecordCount << "\n"
+        << "DataSize: " << header.DataSize << "\n"
+        << "Reserved: " << header.Reserved << "\n"
+        << "DataCRC: " << HexDigits(header.DataCRC) << "\n"
+        << "AvgAbbrvLength: " << header.AvgAbbrvLength << "\n"
+        << "AvgExpansionLength: " << header.AvgExpansionLength << "\n"
+        << "LongestAbbrvIndex: " << header.LongestAbbrvIndex << "\n"
+        << "LongestExpansionIndex: " << header.LongestExpansionIndex << "\n"
+        << "CommonFirstLetter: " << Utf8OfBytes({&header.CommonFirstLetter, 1}) << "\n"
+        << "CommonFirstLetterCount: " << header.CommonFirstLetterCount << "\n"
+        << "MostExpansionsIndex: " << header.MostExpansionsIndex << "\n"
+        << "MostExpansionsCount: " << header.MostExpansionsCount << "\n"
+        << "SearchListText: " << SearchListItems(header.SearchListText) << "\n";
+    return kFound;
+}
+
+int RunDump(const std::string& path, std::ostream& out, std::ostream& err) {
+    OpenDatabase database;
+    if (const int failure = Load(path, database, err); failure != kFound) {
+        return failure;
+    }
+    for (std::int32_t row = 0; row < database.store.RowCount(); ++row) {
+        out << Utf8OfBytes(database.store.RowText(row)) << "\n";
+    }
+    return database.store.RowCount() > 0 ? kFound : kNothingFound;
+}
+
+int RunCheck(const std::string& path, std::ostream& out, std::ostream& err) {
+    OpenDatabase database;
+    if (const int failure = Load(path, database, err, kNothingFound); failure != kFound) {
+        return failure;
+    }
+    const auto findings = CheckDatabase(database.header, database.store, FindFirstByPrefix);
+    for (const std::string& finding : findings) {
+        out << finding << "\n";
+    }
+    if (!findings.empty()) {
+        return kNothingFound;
+    }
+    out << path << ": " << database.store.RowCount() << " records, nothing wrong\n";
+    return kFound;
+}
+
+int RunLookup(const std::string& path, const std::vector<std::string>& texts, std::istream& in,
+              std::ostream& out, std::ostream& err) {
+    OpenDatabase database;
+    if (const int failure = Load(path, database, err); failure != kFound) {
+        return failure;
+    }
+    if (database.store.RowCount() == 0) {
+        return kNothingFound;
+    }
+    bool found = false;
+    for (const std::string& text : texts) {
+        if (text != "-") {
+            found |= PrintLookup(database.store, text, out);
+            continue;
+        }
+        std::string line;
+        while (std::getline(in, line)) {
+            if (line.ends_with('\r')) {
+                line.pop_back();
+            }
+            found |= PrintLookup(database.store, line, out);
+        }
+    }
+    return found ? kFound : kNothingFound;
+}
+
+}  // namespace brelex

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "ui/column_header.h"
+
+#include <array>
+
+#include <wx/dcbuffer.h>
+#include <wx/dcgraph.h>
+#include <wx/settings.h>
+
+namespace brelex {
+
+namespace {
+
+// All in layout units, from the left or top edge of the header.
+constexpr double kAbbreviationAt = 7;
+constexpr double kExpansionAt = 139.5;
+constexpr double kLineAt = 15;
+constexpr double kSunkenLineAt = 130.5;
+constexpr double kArrowAt = 95;
+constexpr double kArrowWidth = 8;
+constexpr double kArrowHeight = 4;
+
+}  // namespace
+
+ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
+    : wxPanel(parent),
+      units_(units) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);
+}
+
+void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
+    wxAutoBufferedPaintDC dc(this);
+    dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+    dc.Clear();
+    const wxSize size = GetClientSize();
+    const int line = units_.Pixels(kLineAt);
+    const wxColour shadow = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW);
+    const wxColour highlight = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT);
+    const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
+
+    dc.SetFont(units_.StripFont());
+    dc.SetTextForeground(text);
+    const int textTop = (line - dc.GetCharHeight()) / 2;
+    dc.DrawText("Abbreviation", units_.Pixels(kAbbreviationAt), textTop);
+    dc.DrawText("E x p a n s i o n", units_.Pixels(kExpansionAt), textTop);
+
+    dc.SetPen(wxPen(shadow));
+    dc.DrawLine(0, line, size.x, line);
+    const int divider = units_.Pixels(kSunkenLineAt);
+    dc.DrawLine(divider, units_.Pixels(2), divider, line - units_.Pixels(1));
+    dc.SetPen(wxPen(highlight));
+    dc.DrawLine(divider + 1, units_.Pixels(2), divider + 1, line - units_.Pixels(1));
+
+    const int left = units_.Pixels(kArrowAt);
+    const int top = (line - units_.Pixels(kArrowHeight)) / 2;
+    const std::array<wxPoint, 3> arrow = {
+        wxPoint(left, top + units_.Pixels(kArrowHeight)),
+        wxPoint(left + units_.Pixels(kArrowWidth), top + units_.Pixels(kArrowHeight)),
+        wxPoint(left + units_.Pixels(kArrowWidth / 2), top)};
+    dc.SetPen(wxPen(shadow));
+    dc.SetBrush(wxBrush(shadow));
+    dc.DrawPolygon(static_cast<int>(arrow.size()), arrow.data());
+}
+
+}  // namespace brelex

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/panel.h>
+
+#include "ui/layout_units.h"
+
+namespace brelex {
+
+/// The drawn header of the list, `picColHeader`: the names of its two columns, a line under them,
+/// a sunken line between them and an arrow for the ascending order.
+class ColumnHeader final : public wxPanel {
+  public:
+    ColumnHeader(wxWindow* parent, const LayoutUnits& units);
+
+  private:
+    void OnPaint(wxPaintEvent& event);
+
+    const LayoutUnits& units_;
+};
+
+}  // namespace brelex

@@ -1,0 +1,414 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmMain.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include <wx/dcclient.h>
+#include <wx/panel.h>
+#include <wx/statbmp.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
+
+#include "database/number_text.h"
+#include "platform/accessible_name.h"
+#include "ui/app_icon.h"
+#include "ui/column_header.h"
+#include "ui/frmSplash.h"
+#include "ui/main_menus.h"
+#include "ui/modGeneral.h"
+#include "ui/title_image.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kInnerWidth = 760;
+constexpr double kInnerHeight = 540;
+constexpr double kMargin = 8;
+constexpr double kTitleWidth = 190;
+constexpr double kHeaderHeight = 18;
+constexpr double kStatusFrameHeight = 18;
+constexpr double kHintWidth = 450;
+constexpr double kExpansionTextAt = 139.5;
+
+constexpr int kCommandDelayMs = 500;
+
+std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
+    switch (keyCode) {
+        case WXK_RETURN:
+        case WXK_NUMPAD_ENTER:
+            return NavigationKey::Enter;
+        case WXK_DOWN:
+        case WXK_NUMPAD_DOWN:
+            return NavigationKey::Down;
+        case WXK_UP:
+        case WXK_NUMPAD_UP:
+            return NavigationKey::Up;
+        case WXK_PAGEUP:
+        case WXK_NUMPAD_PAGEUP:
+            return NavigationKey::PageUp;
+        case WXK_PAGEDOWN:
+        case WXK_NUMPAD_PAGEDOWN:
+            return NavigationKey::PageDown;
+        default:
+            return std::nullopt;
+    }
+}
+
+// The address without its scheme, from the first "www" on.
+std::string ShownAddress(const std::string& address) {
+    const auto www = address.find("www");
+    return www == std::string::npos ? address : address.substr(www);
+}
+
+}  // namespace
+
+frmMain::frmMain(ProgramValues& values, RecordStore& store)
+    : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
+              wxDEFAULT_FRAME_STYLE & ~(wxRESIZE_BORDER | wxMAXIMIZE_BOX)),
+      values_(values),
+      store_(store),
+      messages_(this),
+      lookup_(values, *this, messages_),
+      units_(*this),
+      tmrCheckCommand(this) {
+    SetName("frmMain");
+    SetIcons(AppIcons());
+    SetMenuBar(CreateMainMenus());
+    CreateControls();
+    PlaceControls();
+    BindEvents();
+    txtAbbrv->SetFocus();
+}
+
+void frmMain::CreateControls() {
+    surface_ = new wxPanel(this);
+    lblAppTitle = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
+    imgAppTitle = new wxStaticBitmap(surface_, wxID_ANY, wxBitmap(1, 1));
+    lblInstruction = new wxStaticText(
+        surface_, wxID_ANY,
+        "&Type the first few letters of the acronym/abbreviation you are looking for:");
+    // Directly behind the instruction, whose access key leads to it.
+    txtAbbrv = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                              wxTE_PROCESS_ENTER);
+    lblColHeaderBack = new wxPanel(surface_, wxID_ANY);
+    picColHeader = new ColumnHeader(lblColHeaderBack, units_);
+    lstAcronyms = &CreateAcronymList(*surface_, {units_.Pixels(kExpansionTextAt)});
+    for (wxStaticText** label : {&lblRecNumber, &lblDescription, &lblRecCount}) {
+        *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                  wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+        (*label)->SetFont(units_.StripFont());
+    }
+    lblAppTitle->SetName("lblAppTitle");
+    lblInstruction->SetName("lblInstruction");
+    lblColHeaderBack->SetName("lblColHeaderBack");
+    SetNames(*imgAppTitle, "imgAppTitle", kAppTitle);
+    SetNames(*txtAbbrv, "txtAbbrv", "First letters of the abbreviation");
+    SetNames(*picColHeader, "picColHeader", "Abbreviation, Expansion");
+    SetNames(lstAcronyms->Window(), "lstAcronyms", "Entries");
+    lblRecNumber->SetName("lblRecNumber");
+    lblDescription->SetName("lblDescription");
+    lblRecCount->SetName("lblRecCount");
+}
+
+void frmMain::PlaceControls() {
+    const auto px = [this](double units) { return units_.Pixels(units); };
+    SetClientSize(px(kInnerWidth), px(kInnerHeight));
+    const wxSize inner(px(kInnerWidth), px(kInnerHeight));
+    surface_->SetSize(inner);
+
+    const int margin = px(kMargin);
+    const int boxLeft = 2 * margin + px(kTitleWidth);
+    const int boxTop = margin + lblInstruction->GetBestSize().y + px(3);
+    const int boxHeight = txtAbbrv->GetBestSize().y;
+    lblInstruction->SetPosition({boxLeft, margin});
+    txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
+    lblAppTitle->SetSize(margin, margin, px(kTitleWidth), boxTop + boxHeight - margin);
+
+    const int listTop = boxTop + boxHeight + margin + px(kHeaderHeight);
+    const int listBottom = inner.y - px(kStatusFrameHeight + 2) - margin;
+    lstAcronyms->Window().SetSize(margin, listTop, inner.x - 2 * margin, listBottom - listTop);
+}
+
+void frmMain::DrawColumnHeader() {
+    const wxRect list = lstAcronyms->Window().GetRect();
+    const int height = units_.Pixels(kHeaderHeight);
+    lblColHeaderBack->SetSize(list.x, list.y - height, list.width, height);
+    picColHeader->SetSize(0, 0, list.width, height);
+}
+
+void frmMain::LayoutStatusBar() {
+    const auto px = [this](double units) { return units_.Pixels(units); };
+    const wxSize inner = surface_->GetSize();
+    const int height = px(kStatusFrameHeight);
+    const int top = inner.y - height - px(2);
+    int x = px(1);
+    const auto place = [&](wxStaticText& label, int width) {
+        AddFrame(x, top, width, height);
+        label.SetSize(x + px(3), top + px(2), width - px(6), height - px(3));
+        x += width + px(3);
+    };
+    lblRecNumber->SetLabelText(wxEmptyString);
+    place(*lblRecNumber, lblAppTitle->GetSize().x);
+    lblDescription->SetLabelText(wxEmptyString);
+    place(*lblDescription, px(kHintWidth));
+    place(*lblRecCount, inner.x - x - px(2));
+    lblRecCount->SetLabelText(
+        WxText(FormatGrouped(values_.RecordCount, values_.groupSeparator) + " entries"));
+}
+
+void frmMain::PlaceTitleImage() {
+    const wxRect label = lblAppTitle->GetRect();
+    const int inset = units_.Pixels(6);
+    const wxBitmap image =
+        DrawTitleImage(*surface_, {label.width - 2 * inset, label.height - 2 * inset});
+    imgAppTitle->SetBitmap(image);
+    imgAppTitle->SetSize(label.x + (label.width - image.GetWidth()) / 2 + 1,
+                         label.y + (label.height - image.GetHeight()) / 2 + 1, image.GetWidth(),
+                         image.GetHeight());
+    AddFrame(label.x, label.y, label.width, label.height);
+}
+
+void frmMain::AddFrame(int left, int top, int width, int height) {
+    frames_.emplace_back(left, top, width, height);
+}
+
+void frmMain::BindEvents() {
+    surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
+    Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
+    Bind(wxEVT_MENU, &frmMain::OnMenu, this, kFileItem, kMenuIdEnd);
+    Bind(wxEVT_TIMER, &frmMain::OnCheckCommand, this, tmrCheckCommand.GetId());
+    txtAbbrv->Bind(wxEVT_TEXT, &frmMain::OnBoxText, this);
+    txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);
+    txtAbbrv->Bind(wxEVT_CHAR, &frmMain::OnBoxChar, this);
+    txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
+    lstAcronyms->onClick = [this] { lookup_.OnListClick(); };
+    lstAcronyms->onEnter = [this] { OpenEntryViewer(); };
+    lstAcronyms->Window().Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        lookup_.OnListGotFocus();
+        event.Skip();
+    });
+    lstAcronyms->Window().Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+        lookup_.OnListLostFocus();
+        event.Skip();
+    });
+    // Where a label is no window of its own, its mouse events are those of the surface under it.
+    lblRecNumber->Bind(wxEVT_LEFT_DCLICK, &frmMain::OnDoubleClick, this);
+    surface_->Bind(wxEVT_LEFT_DCLICK, &frmMain::OnDoubleClick, this);
+    picColHeader->Bind(wxEVT_LEFT_DOWN,
+                       [this](wxMouseEvent&) { lstAcronyms->Window().SetFocus(); });
+}
+
+bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
+    const float before = surroundings.secondsSinceMidnight();
+    if (!LoadDatabase(values_, store_, {surroundings.files, splash, messages_})) {
+        return false;
+    }
+    values_.LoadingTime = LoadingTimeBetween(before, surroundings.secondsSinceMidnight());
+    lstAcronyms->SetRows(store_);
+    SetTitle(WxText(std::string(kAppTitle) + " (" + ShownAddress(values_.info.homePage) + ")"));
+    DrawColumnHeader();
+    LayoutStatusBar();
+    PlaceTitleImage();
+    txtAbbrv->SetMaxLength(static_cast<unsigned long>(std::max(values_.Header.MaxAbbrvLength, 0)));
+    splash.Destroy();
+    commandLine_ = surroundings.commandLine;
+    tmrCheckCommand.StartOnce(kCommandDelayMs);
+    return true;
+}
+
+void frmMain::OpenModalForm(int number) {
+    static constexpr std::array kNames = {
+        "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
+        "About",           "Check Data Integrity", "Donate via PayPal"};
+    if (number >= 0 && number < static_cast<int>(kNames.size())) {
+        messages_.Show({std::string(kNames.at(static_cast<std::size_t>(number))) +
+                            " is not part of this version yet.",
+                        kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+    }
+}
+
+void frmMain::OpenEntryViewer() {
+    messages_.Show({"The entry viewer is not part of this version yet.", kAppTitle,
+                    MessageIcon::Information, MessageButtons::Ok});
+}
+
+void frmMain::GoToRecordNumber(std::int32_t nRecordNumber) {
+    FlushBoxChange();
+    lookup_.GoToRecordNumber(nRecordNumber);
+}
+
+void frmMain::UnloadOtherForms() {
+    const wxWindowList windows = wxTopLevelWindows;  // destroying changes the list
+    for (wxWindow* window : windows) {
+        if (window != this) {
+            window->Destroy();
+        }
+    }
+}
+
+void frmMain::OnPaint(wxPaintEvent& /*event*/) {
+    wxPaintDC dc(surface_);
+    for (const wxRect& frame : frames_) {
+        Draw3DFrame(dc, frame);
+    }
+}
+
+void frmMain::OnMenu(wxCommandEvent& event) {
+    const auto notYet = [this](const char* what) {
+        messages_.Show({std::string(what) + " is not part of this version yet.", kAppTitle,
+                        MessageIcon::Information, MessageButtons::Ok});
+    };
+    const int id = event.GetId();
+    switch (id) {
+        case kFileItem:
+            OpenModalForm(2);
+            break;
+        case kFileItem + 1:
+            OpenModalForm(5);
+            break;
+        case kFileItem + 3:
+            Close();
+            break;
+        case kSearchItem:
+        case kSearchItem + 1:
+            OpenModalForm(id - kSearchItem);
+            break;
+        case kSearchItem + 3:
+            GoToRecordNumber(-1);
+            break;
+        case kOptionsItem:
+        case kOptionsItem + 2:
+            GetMenuBar()->Check(id, false);  // nothing was switched on
+            notYet(id == kOptionsItem ? "Stay on Top" : "Run at Startup");
+            break;
+        case kHelpItem:
+            notYet("Help");
+            break;
+        case kHelpItem + 2:
+            notYet("ReadMe");
+            break;
+        case kHelpItem + 3:
+            OpenModalForm(3);
+            break;
+        case kHelpItem + 5:
+            OpenModalForm(6);
+            break;
+        case kHelpItem + 6:
+            OpenModalForm(4);
+            break;
+        default:
+            event.Skip();
+    }
+}
+
+void frmMain::OnClose(wxCloseEvent& /*event*/) {
+    tmrCheckCommand.Stop();
+    UnloadOtherForms();
+    Destroy();
+}
+
+// One edit is one change: overtyping a selection deletes and inserts, and on GTK that is reported
+// twice. So a change waits until the toolkit is done with the edit, but never beyond the next key.
+void frmMain::OnBoxText(wxCommandEvent& /*event*/) {
+    if (!boxChangePending_) {
+        boxChangePending_ = true;
+        CallAfter(&frmMain::FlushBoxChange);
+    }
+}
+
+void frmMain::FlushBoxChange() {
+    if (boxChangePending_) {
+        boxChangePending_ = false;
+        lookup_.OnBoxChanged();
+    }
+}
+
+void frmMain::OnBoxKeyDown(wxKeyEvent& event) {
+    FlushBoxChange();
+    if (const auto key = NavigationKeyOf(event.GetKeyCode())) {
+        lookup_.OnBoxKeyDown(*key);
+        return;
+    }
+    event.Skip();
+}
+
+void frmMain::OnBoxChar(wxKeyEvent& event) {
+    const wxChar typed = event.GetUnicodeKey();
+    if (typed >= 'a' && typed <= 'z' && !event.HasAnyModifiers()) {
+        txtAbbrv->WriteText(wxString(static_cast<wxChar>(typed - 'a' + 'A')));
+        return;
+    }
+    event.Skip();
+}
+
+void frmMain::OnBoxFocus(wxFocusEvent& event) {
+    // After the toolkit has placed the caret where the mouse was pressed.
+    CallAfter([this] { txtAbbrv->SelectAll(); });
+    event.Skip();
+}
+
+void frmMain::OnDoubleClick(wxMouseEvent& event) {
+    const bool onLabel = event.GetEventObject() == lblRecNumber;
+    if (onLabel || lblRecNumber->GetRect().Contains(event.GetPosition())) {
+        GoToRecordNumber(-1);
+    } else {
+        event.Skip();
+    }
+}
+
+void frmMain::OnCheckCommand(wxTimerEvent& /*event*/) {
+    if (commandLine_ == "/minimize") {
+        Iconize();
+    }
+}
+
+std::int32_t frmMain::SelectedRow() const {
+    return lstAcronyms->SelectedRow();
+}
+
+void frmMain::SelectRow(std::int32_t row) {
+    lstAcronyms->Select(row);
+    const std::int32_t top = lstAcronyms->TopRow();
+    const std::int32_t page = lstAcronyms->RowsPerPage();
+    if (row < top || row >= top + page) {
+        lstAcronyms->SetTopRow(row);
+    }
+}
+
+void frmMain::SetTopRow(std::int32_t row) {
+    lstAcronyms->SetTopRow(row);
+}
+
+void frmMain::SendKeyToList(NavigationKey key) {
+    lstAcronyms->SendKey(key);
+}
+
+std::string frmMain::BoxText() const {
+    return Utf8Text(txtAbbrv->GetValue());
+}
+
+void frmMain::SetBoxText(const std::string& text) {
+    txtAbbrv->ChangeValue(WxText(text));
+}
+
+void frmMain::MoveCaretToEnd() {
+    txtAbbrv->SetInsertionPointEnd();
+}
+
+void frmMain::SetRecordNumberText(const std::string& text) {
+    lblRecNumber->SetLabelText(WxText(text));
+}
+
+std::string frmMain::AskText(const std::string& title, const std::string& prompt,
+                             const std::string& defaultText) {
+    wxTextEntryDialog dialog(this, WxText(prompt), WxText(title), WxText(defaultText));
+    return dialog.ShowModal() == wxID_OK ? Utf8Text(dialog.GetValue()) : std::string();
+}
+
+}  // namespace brelex

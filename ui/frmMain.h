@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <wx/frame.h>
+#include <wx/timer.h>
+
+#include "database/modDataLoader.h"
+#include "lookup/lookup_box.h"
+#include "platform/acronym_list.h"
+#include "ui/layout_units.h"
+#include "ui/wx_message_sink.h"
+
+class wxPanel;
+class wxStaticBitmap;
+class wxStaticText;
+class wxTextCtrl;
+
+namespace brelex {
+
+class frmSplash;
+
+/// What frmMain loads with.
+struct MainSurroundings {
+    TemporaryFiles& files;
+    std::function<float()> secondsSinceMidnight;
+    std::string commandLine;  ///< the whole argument text (UTF-8)
+};
+
+/// The main window: the lookup box over the list of all entries. Closing it ends the program.
+class frmMain final : public wxFrame, private LookupView {
+  public:
+    /// `values` and `store` must outlive the window. `store` is still empty; Load fills it.
+    frmMain(ProgramValues& values, RecordStore& store);
+
+    /// Loads the database, reporting to the splash window, and gets the window ready to be shown.
+    /// Returns false, after telling the user, if the database cannot be loaded.
+    [[nodiscard]] bool Load(frmSplash& splash, const MainSurroundings& surroundings);
+
+    /// The behaviour of the lookup; its fields are the window's state.
+    [[nodiscard]] LookupBox& Lookup() { return lookup_; }
+
+    [[nodiscard]] AcronymList& List() { return *lstAcronyms; }
+
+    /// Opens a side window (0 to 6) modally.
+    void OpenModalForm(int number);
+
+    /// Selects an entry by its record number (1-based); -1 asks the user for it.
+    void GoToRecordNumber(std::int32_t nRecordNumber);
+
+  private:
+    void CreateControls();
+    void PlaceControls();
+    void DrawColumnHeader();
+    void LayoutStatusBar();
+    void PlaceTitleImage();
+    void BindEvents();
+    void AddFrame(int left, int top, int width, int height);
+    void UnloadOtherForms();
+    void OpenEntryViewer();
+
+    void OnPaint(wxPaintEvent& event);
+    void OnMenu(wxCommandEvent& event);
+    void OnClose(wxCloseEvent& event);
+    void OnBoxText(wxCommandEvent& event);
+    void OnBoxKeyDown(wxKeyEvent& event);
+    void OnBoxChar(wxKeyEvent& event);
+    void OnBoxFocus(wxFocusEvent& event);
+    void OnDoubleClick(wxMouseEvent& event);
+    void OnCheckCommand(wxTimerEvent& event);
+
+    /// Passes a pending change of the box's text on to the lookup.
+    void FlushBoxChange();
+
+    [[nodiscard]] std::int32_t SelectedRow() const override;
+    void SelectRow(std::int32_t row) override;
+    void SetTopRow(std::int32_t row) override;
+    void SendKeyToList(NavigationKey key) override;
+    [[nodiscard]] std::string BoxText() const override;
+    void SetBoxText(const std::string& text) override;
+    void MoveCaretToEnd() override;
+    void SetRecordNumberText(const std::string& text) override;
+    std::string AskText(const std::string& title, const std::string& prompt,
+                        const std::string& defaultText) override;
+
+    ProgramValues& values_;
+    RecordStore& store_;
+    WxMessageSink messages_;
+    LookupBox lookup_;
+    LayoutUnits units_;
+    std::string commandLine_;
+    std::vector<wxRect> frames_;  // the sunken frames that OnPaint draws
+    bool boxChangePending_ = false;
+
+    wxPanel* surface_ = nullptr;
+    wxStaticText* lblAppTitle = nullptr;
+    wxStaticBitmap* imgAppTitle = nullptr;
+    wxStaticText* lblInstruction = nullptr;
+    wxTextCtrl* txtAbbrv = nullptr;
+    wxPanel* lblColHeaderBack = nullptr;
+    wxPanel* picColHeader = nullptr;
+    AcronymList* lstAcronyms = nullptr;
+    wxStaticText* lblRecNumber = nullptr;
+    wxStaticText* lblDescription = nullptr;
+    wxStaticText* lblRecCount = nullptr;
+    wxTimer tmrCheckCommand;
+};
+
+}  // namespace brelex

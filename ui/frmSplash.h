@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/frame.h>
+
+#include "database/program_values.h"
+#include "database/progress_sink.h"
+
+class wxStaticText;
+
+namespace brelex {
+
+/// The window that is up while the database is loaded. It shows what the program is and how far
+/// the loading is.
+class frmSplash final : public wxFrame, public ProgressSink {
+  public:
+    explicit frmSplash(const AppInfo& info);
+
+    /// Shows the window and has it painted at once.
+    void ShowAndPaint();
+
+    void SetStatusText(std::string_view text) override;
+    void SetProgress(int percent) override;
+
+  private:
+    using wxFrame::SetStatusText;  // the frame's own is about a status bar, which this has not
+
+    wxStaticText* AddLabel(const wxString& name, const wxString& text);
+    void PlacePercent();
+    void RepaintIfDue(bool force);
+
+    wxStaticText* lblMessage = nullptr;
+    wxStaticText* lblPercent = nullptr;
+    wxLongLong lastPaintMs_ = 0;
+};
+
+}  // namespace brelex

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "ui/wx_message_sink.h"
+
+#include <wx/msgdlg.h>
+
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+long StyleOf(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::Information:
+            return wxICON_INFORMATION;
+        case MessageIcon::Question:
+            return wxICON_QUESTION;
+        case MessageIcon::Exclamation:
+            return wxICON_EXCLAMATION;
+        case MessageIcon::Stop:
+            break;
+    }
+    return wxICON_ERROR;
+}
+
+}  // namespace
+
+MessageAnswer WxMessageSink::Show(const Message& message) {
+    const bool question = message.buttons == MessageButtons::YesNo;
+    wxMessageDialog box(owner_, WxText(message.text), WxText(message.title),
+                        StyleOf(message.icon) | wxCENTRE | (question ? wxYES_NO : wxOK));
+    const int answer = box.ShowModal();
+    if (!question) {
+        return MessageAnswer::Ok;
+    }
+    return answer == wxID_YES ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+}  // namespace brelex

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "ui/wx_text.h"
+
+#include "database/windows1252.h"
+
+namespace brelex {
+
+wxString WxText(std::string_view utf8) {
+    return wxString::FromUTF8(utf8.data(), utf8.size());
+}
+
+std::string Utf8Text(const wxString& text) {
+    const wxScopedCharBuffer utf8 = text.utf8_str();
+    return {utf8.data(), utf8.length()};
+}
+
+wxString WxTextOfBytes(std::string_view bytes) {
+    return WxText(Utf8OfBytes(bytes));
+}
+
+}  // namespace brelex
