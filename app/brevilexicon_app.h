@@ -1,29 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
-
 #include <wx/app.h>
 
-#include "database/program_values.h"
-#include "database/record_store.h"
-#include "platform/instance_guard.h"
-#include "platform/system_temporary_files.h"
+#include "app/start_up.h"
 
 namespace brelex {
 
-/// The program: starts it in its order and owns what all windows share.
+/// The program.
 class BrevilexiconApp final : public wxApp {
   public:
     bool OnInit() override;
 
   private:
+    /// All arguments, parted by blanks.
     [[nodiscard]] std::string CommandLine() const;
 
-    std::unique_ptr<InstanceGuard> instance_;
-    ProgramValues values_;
-    RecordStore store_;
-    SystemTemporaryFiles files_;
+    StartUp startUp_;
 };
 
 }  // namespace brelex

@@ -29,9 +29,10 @@ constexpr std::size_t kMaxGroupOutput = 8 * kMaxMatch;
 // match is always a copy from within the buffer and the ring itself is not needed.
 class Expander {
   public:
-    Expander(std::string_view data, std::size_t expectedBytes)
+    Expander(std::string_view data, std::size_t expectedBytes, std::size_t mostBytes)
         : next_(data.data()),
-          end_(data.data() + data.size()) {
+          end_(data.data() + data.size()),
+          mostBytes_(mostBytes) {
         Grow(expectedBytes);
         std::memset(buffer_.Data(), ' ', kRingBytes);
     }
@@ -39,7 +40,7 @@ class Expander {
     std::optional<ExpandedFile> Run() {
         while (next_ != end_) {
             if (used_ + kMaxGroupOutput > buffer_.Size()) {
-                if (used_ - kRingBytes > kMaxExpandedBytes) {
+                if (used_ - kRingBytes > mostBytes_) {
                     return std::nullopt;
                 }
                 Grow((used_ - kRingBytes) * 2);
@@ -51,7 +52,7 @@ class Expander {
             }
         }
         const std::size_t size = used_ - kRingBytes;
-        if (size > kMaxExpandedBytes) {
+        if (size > mostBytes_) {
             return std::nullopt;
         }
         return ExpandedFile(std::move(buffer_), kRingBytes, size);
@@ -120,6 +121,7 @@ class Expander {
 
     const char* next_;
     const char* end_;
+    std::size_t mostBytes_;
     ByteBuffer buffer_;
     std::size_t used_ = kRingBytes;
 };
@@ -237,8 +239,11 @@ class GroupWriter {
 
 }  // namespace
 
-std::optional<ExpandedFile> ExpandSzdd(std::string_view file) {
+std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBytes) {
     if (file.size() < kFileHeaderBytes || !file.starts_with(kSignature)) {
+        if (file.size() > mostBytes) {
+            return std::nullopt;
+        }
         ByteBuffer copy(file.size());
         std::copy(file.begin(), file.end(), copy.Data());
         return ExpandedFile(std::move(copy), 0, file.size());
@@ -246,7 +251,7 @@ std::optional<ExpandedFile> ExpandSzdd(std::string_view file) {
     const std::string_view data = file.substr(kFileHeaderBytes);
     // However lying the declared length, no more is set aside than the data could give.
     const std::size_t most = (data.size() / kMaxGroupInput + 1) * kMaxGroupOutput;
-    return Expander(data, std::min({DeclaredLength(file), most, kMaxExpandedBytes})).Run();
+    return Expander(data, std::min({DeclaredLength(file), most, mostBytes}), mostBytes).Run();
 }
 
 std::string CompressSzdd(std::string_view bytes) {

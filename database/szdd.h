@@ -39,8 +39,9 @@ class ExpandedFile {
 
 /// Expands `file`. As the Windows function LZCopy does: bytes without the signature are copied as
 /// they stand; the length that the header declares is only a hint; a stream that ends early gives
-/// what came out so far. Returns nothing if the result would be longer than kMaxExpandedBytes.
-[[nodiscard]] std::optional<ExpandedFile> ExpandSzdd(std::string_view file);
+/// what came out so far. Returns nothing if the result would be longer than `mostBytes`.
+[[nodiscard]] std::optional<ExpandedFile> ExpandSzdd(std::string_view file,
+                                                     std::size_t mostBytes = kMaxExpandedBytes);
 
 /// Compresses `bytes` into a file that ExpandSzdd and LZCopy expand again. The same bytes always
 /// give the same file. Requires at most kMaxExpandedBytes.

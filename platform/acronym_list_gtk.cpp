@@ -45,14 +45,18 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
     AcronymListGtk(wxWindow& parent, const AcronymListColumns& columns)
         : wxDataViewCtrl(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                          wxDV_SINGLE | wxDV_NO_HEADER) {
-        AppendTextColumn("Abbreviation", 0, wxDATAVIEW_CELL_INERT, columns.expansionTextAt);
-        AppendTextColumn("Expansion", 1, wxDATAVIEW_CELL_INERT);
+        for (const unsigned column : {0U, 1U}) {
+            AppendTextColumn(wxEmptyString, column, wxDATAVIEW_CELL_INERT)
+                ->GetRenderer()
+                ->EnableEllipsize(wxELLIPSIZE_END);
+        }
         AssociateModel(model_.get());
         GtkTreeView* const view = TreeView();
         // Or else typing would open a search box over the list.
         gtk_tree_view_set_enable_search(view, FALSE);
+        PlaceColumns(columns.expansionTextAt);
+        // All rows are as high as the first, so that none but the visible ones are measured.
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
-        FitFirstColumn(columns.expansionTextAt);
         Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &AcronymListGtk::OnSelectionChanged, this);
         Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &AcronymListGtk::OnActivated, this);
     }
@@ -122,8 +126,10 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         return static_cast<int>(gtk_adjustment_get_value(Adjustment()));
     }
 
-    // Makes the first column end where the second's text begins less the padding of a cell.
-    void FitFirstColumn(int textAt) {
+    // Fixed columns: the first ends where the second's text begins less the padding of a cell, the
+    // second takes what is left.
+    void PlaceColumns(int textAt) {
+        GtkTreeViewColumn* const first = gtk_tree_view_get_column(TreeView(), 0);
         GtkTreeViewColumn* const second = gtk_tree_view_get_column(TreeView(), 1);
         GList* const cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(second));
         int padding = 0;
@@ -133,7 +139,13 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         g_list_free(cells);
         int separator = 0;
         gtk_widget_style_get(GTK_WIDGET(TreeView()), "horizontal-separator", &separator, nullptr);
-        GetColumn(0)->SetWidth(std::max(1, textAt - padding - separator / 2 - 1));
+        for (GtkTreeViewColumn* column : {first, second}) {
+            gtk_tree_view_column_set_sizing(column, GTK_TREE_VIEW_COLUMN_FIXED);
+        }
+        constexpr int kListEdge = 1;
+        const int width = textAt - kListEdge - padding - separator / 2;
+        gtk_tree_view_column_set_fixed_width(first, std::max(1, width));
+        gtk_tree_view_column_set_expand(second, TRUE);
     }
 
     void OnSelectionChanged(wxDataViewEvent& event) {

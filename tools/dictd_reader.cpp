@@ -179,7 +179,10 @@ std::vector<DictdEntry> EntriesOfArticle(std::string_view article) {
         if (auto entry = EntryOnLine(lines[i])) {
             further.push_back(std::move(*entry));
         } else if (const std::string_view part = Trim(lines[i]); !part.empty()) {
-            text += (text.empty() ? "" : " ") + std::string(part);
+            if (!text.empty()) {
+                text.push_back(' ');
+            }
+            text.append(part);
         }
     }
     AddSense(Trim(lines.front()), text, entries);

@@ -58,8 +58,9 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
         wxPoint(left, top + units_.Pixels(kArrowHeight)),
         wxPoint(left + units_.Pixels(kArrowWidth), top + units_.Pixels(kArrowHeight)),
         wxPoint(left + units_.Pixels(kArrowWidth / 2), top)};
-    dc.SetPen(wxPen(shadow));
-    dc.SetBrush(wxBrush(shadow));
+    const wxColour faint = wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT);
+    dc.SetPen(wxPen(faint));
+    dc.SetBrush(wxBrush(faint));
     dc.DrawPolygon(static_cast<int>(arrow.size()), arrow.data());
 }
 

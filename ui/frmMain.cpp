@@ -125,7 +125,8 @@ void frmMain::PlaceControls() {
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
     const int boxTop = margin + lblInstruction->GetBestSize().y + px(3);
-    const int boxHeight = txtAbbrv->GetBestSize().y;
+    // The toolkit's best height does not always follow a large font (seen with GTK 3.24).
+    const int boxHeight = std::max(txtAbbrv->GetBestSize().y, txtAbbrv->GetCharHeight() + px(11));
     lblInstruction->SetPosition({boxLeft, margin});
     txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
     lblAppTitle->SetSize(margin, margin, px(kTitleWidth), boxTop + boxHeight - margin);
@@ -133,6 +134,15 @@ void frmMain::PlaceControls() {
     const int listTop = boxTop + boxHeight + margin + px(kHeaderHeight);
     const int listBottom = inner.y - px(kStatusFrameHeight + 2) - margin;
     lstAcronyms->Window().SetSize(margin, listTop, inner.x - 2 * margin, listBottom - listTop);
+}
+
+// Ends the list, and the window with it, between two rows.
+void frmMain::ShowWholeRows() {
+    wxWindow& list = lstAcronyms->Window();
+    const int rest = list.GetClientSize().y % lstAcronyms->RowHeight();
+    list.SetSize(list.GetSize() - wxSize(0, rest));
+    SetClientSize(GetClientSize() - wxSize(0, rest));
+    surface_->SetSize(GetClientSize());
 }
 
 void frmMain::DrawColumnHeader() {
@@ -206,11 +216,12 @@ void frmMain::BindEvents() {
 
 bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     const float before = surroundings.secondsSinceMidnight();
-    if (!LoadDatabase(values_, store_, {surroundings.files, splash, messages_})) {
+    if (!LoadDatabase(values_, store_, {surroundings.files, splash, surroundings.messages})) {
         return false;
     }
     values_.LoadingTime = LoadingTimeBetween(before, surroundings.secondsSinceMidnight());
     lstAcronyms->SetRows(store_);
+    ShowWholeRows();
     SetTitle(WxText(std::string(kAppTitle) + " (" + ShownAddress(values_.info.homePage) + ")"));
     DrawColumnHeader();
     LayoutStatusBar();

@@ -26,6 +26,7 @@ class frmSplash;
 /// What frmMain loads with.
 struct MainSurroundings {
     TemporaryFiles& files;
+    MessageSink& messages;  ///< for messages before the window is shown
     std::function<float()> secondsSinceMidnight;
     std::string commandLine;  ///< the whole argument text (UTF-8)
 };
@@ -54,6 +55,7 @@ class frmMain final : public wxFrame, private LookupView {
   private:
     void CreateControls();
     void PlaceControls();
+    void ShowWholeRows();
     void DrawColumnHeader();
     void LayoutStatusBar();
     void PlaceTitleImage();

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "app/start_up.h"
+
+#include "app/app_info.h"
+#include "database/locate_database.h"
+#include "platform/user_locale.h"
+#include "ui/frmMain.h"
+#include "ui/frmSplash.h"
+
+namespace brelex {
+
+frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
+    instance_ = std::make_unique<InstanceGuard>();
+    if (instance_->IsAnotherRunning()) {
+        surroundings.messages.Show(
+            {std::string("An instance of ") + kAppTitle + " is running already", kAppTitle,
+             MessageIcon::Exclamation, MessageButtons::Ok});
+        return nullptr;
+    }
+    values_.info = ConfiguredAppInfo();
+    values_.groupSeparator = UserGroupSeparator();
+    if (!LocateDatabase(values_, surroundings.programFolder, surroundings.picker,
+                        surroundings.messages)) {
+        return nullptr;
+    }
+    auto* splash = new frmSplash(values_.info);
+    splash->ShowAndPaint();
+    values_.AcronymList = &store_;
+    values_.AppVersion = AppVersionOf(values_.info);
+    auto* main = new frmMain(values_, store_);
+    const MainSurroundings mainSurroundings{surroundings.files, surroundings.messages,
+                                            surroundings.secondsSinceMidnight,
+                                            surroundings.commandLine};
+    if (!main->Load(*splash, mainSurroundings)) {
+        splash->Destroy();
+        main->Destroy();
+        return nullptr;
+    }
+    return main;
+}
+
+}  // namespace brelex

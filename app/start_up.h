@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "database/folder_picker.h"
+#include "database/message_sink.h"
+#include "database/program_values.h"
+#include "database/record_store.h"
+#include "database/temporary_files.h"
+#include "platform/instance_guard.h"
+
+namespace brelex {
+
+class frmMain;
+
+/// What the program starts with.
+struct StartUpSurroundings {
+    MessageSink& messages;
+    FolderPicker& picker;
+    TemporaryFiles& files;
+    std::string programFolder;  ///< UTF-8
+    std::string commandLine;    ///< the whole argument text, UTF-8
+    std::function<float()> secondsSinceMidnight;
+};
+
+/// Starts the program in its order and owns what all windows share. Must outlive them.
+class StartUp {
+  public:
+    /// Refuses a second copy, locates the database, loads it behind the splash window. Returns the
+    /// main window, ready to be shown, or null if the program has to end; the user has been told
+    /// why then. Call once.
+    [[nodiscard]] frmMain* Run(const StartUpSurroundings& surroundings);
+
+    [[nodiscard]] const ProgramValues& Values() const { return values_; }
+
+  private:
+    std::unique_ptr<InstanceGuard> instance_;
+    ProgramValues values_;
+    RecordStore store_;
+};
+
+}  // namespace brelex

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "database/database_check.h"
+
+#include <algorithm>
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "database/database_file.h"
+#include "database/szdd.h"
+#include "lookup/prefix_search.h"
+#include "tests/support/test_files.h"
+
+namespace brelex {
+namespace {
+
+std::vector<std::string> Findings(const std::function<void(DatabaseHeader&, std::string&)>& damage,
+                                  const std::vector<std::string>& records = {
+                                      "ABC\tAlpha", "ABD\tBeta", "RAM\tMemory"}) {
+    const std::string expanded = ExpandedBytes(records);
+    DatabaseHeader header = DecodeHeader(expanded);
+    std::string block = expanded.substr(kHeaderBytes);
+    damage(header, block);
+    header.DataSize = static_cast<std::int32_t>(block.size());
+    RecordStore store;
+    EXPECT_EQ(ReadDatabase(CompressSzdd(EncodeHeader(header) + block), header, store),
+              LoadFailure::None);
+    return CheckDatabase(header, store, FindFirstByPrefix);
+}
+
+bool Contains(const std::vector<std::string>& lines, const std::string& part) {
+    return std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
+        return line.find(part) != std::string::npos;
+    });
+}
+
+TEST(CheckDatabase, FindsNothingInAGoodOne) {
+    EXPECT_EQ(Findings([](DatabaseHeader&, std::string&) {}), std::vector<std::string>());
+}
+
+TEST(CheckDatabase, AChangedLetterIsAWrongCrc) {
+    EXPECT_EQ(Findings([](DatabaseHeader&, std::string& block) { block[6] = 'l'; }),
+              std::vector<std::string>{"the CRC of the records is not the header's DataCRC"});
+}
+
+TEST(CheckDatabase, NulsAreComparedWithTheCount) {
+    EXPECT_TRUE(
+        Contains(Findings([](DatabaseHeader& header, std::string&) { header.RecordCount = 2; }),
+                 "the record block holds 3 NULs, RecordCount is 2"));
+}
+
+TEST(CheckDatabase, ARecordOutOfOrderIsNamed) {
+    EXPECT_TRUE(Contains(Findings([](DatabaseHeader&, std::string& block) { block[0] = 'Z'; }),
+                         "record 2 stands behind a greater one: ABD"));
+}
+
+TEST(CheckDatabase, ARecordWithoutTabIsNamed) {
+    EXPECT_TRUE(Contains(Findings([](DatabaseHeader&, std::string& block) { block[3] = 'x'; }),
+                         "record 1 has no TAB"));
+}
+
+TEST(CheckDatabase, EachWrongStatisticIsNamed) {
+    const auto lines = Findings([](DatabaseHeader& header, std::string&) {
+        header.MaxAbbrvLength = 77;
+        header.LongestExpansionIndex = -1;
+        header.CommonFirstLetter = 'Q';
+    });
+    EXPECT_TRUE(Contains(lines, "MaxAbbrvLength is 77, the records give 3"));
+    EXPECT_TRUE(Contains(lines, "LongestExpansionIndex is -1, the records give 2"));
+    EXPECT_TRUE(Contains(lines, "CommonFirstLetter is 'Q', the records give 'A'"));
+    EXPECT_EQ(lines.size(), 3U);
+}
+
+TEST(CheckDatabase, BeginningsThatAccentsHideAreNamed) {
+    // In order as wholes, but cut to one byte E-acute stands before E.
+    std::vector<std::string> records = {
+        "A\tx",
+        "\xC9"
+        "a\tx"};
+    for (const char* c : {"b", "c", "d", "f", "g", "h"}) {
+        records.push_back(std::string("E") + c + "\tx");
+    }
+    EXPECT_TRUE(Contains(Findings([](DatabaseHeader&, std::string&) {}, records),
+                         "does not reach record 2"));
+}
+
+TEST(CheckDatabase, ManyFindingsOfAKindAreSummedUp) {
+    const auto lines =
+        Findings([](DatabaseHeader&,
+                    std::string& block) { std::replace(block.begin(), block.end(), '\t', ' '); },
+                 NumberedRecords(30));
+    EXPECT_TRUE(Contains(lines, "... and 20 more records without TAB"));
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "database/number_text.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/named_case.h"
+
+namespace brelex {
+namespace {
+
+struct GroupedCase {
+    std::int32_t number;
+    const char* separator;
+    const char* text;
+};
+
+class FormatGroupedTest : public testing::TestWithParam<GroupedCase> {};
+
+TEST_P(FormatGroupedTest, GroupsByThousands) {
+    EXPECT_EQ(FormatGrouped(GetParam().number, GetParam().separator), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, FormatGroupedTest,
+    testing::Values(GroupedCase{0, ",", "0"}, GroupedCase{999, ",", "999"},
+                    GroupedCase{1234, ",", "1,234"}, GroupedCase{12345, ",", "12,345"},
+                    GroupedCase{1000000, ".", "1.000.000"},
+                    GroupedCase{1234567, "\u202F", "1\u202F234\u202F567"},
+                    GroupedCase{-1234, ",", "-1,234"},
+                    GroupedCase{std::numeric_limits<std::int32_t>::min(), ",", "-2,147,483,648"}));
+
+struct ParseCase {
+    const char* name;
+    const char* text;
+    std::optional<std::int32_t> number;
+};
+
+class ParseWholeNumberTest : public testing::TestWithParam<ParseCase> {};
+
+TEST_P(ParseWholeNumberTest, ReadsWhatAPersonTypes) {
+    EXPECT_EQ(ParseWholeNumber(GetParam().text, ","), GetParam().number);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ParseWholeNumberTest,
+    testing::Values(
+        ParseCase{"Plain", "42", 42}, ParseCase{"Zero", "0", 0}, ParseCase{"Negative", "-7", -7},
+        ParseCase{"Plus", "+7", 7}, ParseCase{"BlanksAround", "  42 ", 42},
+        ParseCase{"Grouped", "12,345", 12345}, ParseCase{"Largest", "2147483647", 2147483647},
+        ParseCase{"TooLarge", "2147483648", std::nullopt},
+        ParseCase{"Smallest", "-2147483648", -2147483647 - 1},
+        ParseCase{"TooSmall", "-2147483649", std::nullopt},
+        ParseCase{"FarTooLarge", "99999999999999999999", std::nullopt},
+        ParseCase{"Letters", "abc", std::nullopt},
+        ParseCase{"LettersBehind", "12abc", std::nullopt},
+        ParseCase{"Fraction", "1.5", std::nullopt}, ParseCase{"WrongGroups", "1,23", std::nullopt},
+        ParseCase{"LongFirstGroup", "1234,567", std::nullopt},
+        ParseCase{"SeparatorFirst", ",123", std::nullopt}, ParseCase{"OnlySign", "-", std::nullopt},
+        ParseCase{"TwoSigns", "--1", std::nullopt}, ParseCase{"OnlyBlanks", "   ", std::nullopt},
+        ParseCase{"Empty", "", std::nullopt}),
+    CaseName());
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "database/record_store.h"
+
+#include <limits>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/fakes.h"
+#include "tests/support/named_case.h"
+
+namespace brelex {
+namespace {
+
+ExpandedFile FileOf(std::string_view bytes) {
+    return *ExpandSzdd(bytes);  // plain bytes are copied
+}
+
+using namespace std::string_literals;
+
+TEST(RecordStore, KeepsTheRecordsInFileOrder) {
+    RecordStore store;
+    NoProgress progress;
+    ASSERT_TRUE(store.Fill(FileOf("B\tx\0A\ty\0A\tz\0"s), 0, 3, 1, progress));
+    EXPECT_EQ(store.RowCount(), 3);
+    EXPECT_EQ(store.RowText(0), "B\tx");
+    EXPECT_EQ(store.RowText(1), "A\ty");
+    EXPECT_EQ(store.RowText(2), "A\tz");
+}
+
+TEST(RecordStore, TheBlockBeginsBehindTheHeader) {
+    RecordStore store;
+    NoProgress progress;
+    ASSERT_TRUE(store.Fill(FileOf("head\0A\tx\0"s), 5, 1, 1, progress));
+    EXPECT_EQ(store.RowText(0), "A\tx");
+    EXPECT_EQ(store.Block(), "A\tx\0"s);
+}
+
+TEST(RecordStore, RecordsBeyondTheCountAreNotRead) {
+    RecordStore store;
+    NoProgress progress;
+    ASSERT_TRUE(store.Fill(FileOf("A\tx\0B\ty\0"s), 0, 1, 1, progress));
+    EXPECT_EQ(store.RowCount(), 1);
+}
+
+TEST(RecordStore, ACountThatTheBlockDoesNotHoldIsRefused) {
+    NoProgress progress;
+    for (const std::int32_t count : {3, 4, 100, std::numeric_limits<std::int32_t>::max()}) {
+        RecordStore store;
+        EXPECT_FALSE(store.Fill(FileOf("A\tx\0B\ty\0C\tz"s), 0, count, 1, progress)) << count;
+        EXPECT_EQ(store.RowCount(), 0);
+    }
+}
+
+TEST(RecordStore, ZeroOrFewerRecordsAreAnEmptyList) {
+    NoProgress progress;
+    for (const std::int32_t count : {0, -1, std::numeric_limits<std::int32_t>::min()}) {
+        RecordStore store;
+        EXPECT_TRUE(store.Fill(FileOf("A\tx\0"s), 0, count, 1, progress));
+        EXPECT_EQ(store.RowCount(), 0);
+    }
+}
+
+TEST(RecordStore, ARecordMayBeEmptyOrLackItsTab) {
+    RecordStore store;
+    NoProgress progress;
+    ASSERT_TRUE(store.Fill(FileOf("\0no tab\0"s), 0, 2, 1, progress));
+    EXPECT_EQ(store.RowText(0), "");
+    EXPECT_EQ(store.RowText(1), "no tab");
+}
+
+struct PrefixCase {
+    const char* name;
+    std::string block;
+    std::int32_t count;
+    std::size_t bytes;
+};
+
+class AscendingPrefixTest : public testing::TestWithParam<PrefixCase> {};
+
+TEST_P(AscendingPrefixTest, IsFound) {
+    RecordStore store;
+    NoProgress progress;
+    ASSERT_TRUE(store.Fill(FileOf(GetParam().block), 0, GetParam().count, 1, progress));
+    EXPECT_EQ(store.AscendingPrefixBytes(), GetParam().bytes);
+}
+
+constexpr auto kAnyLength = std::string_view::npos;
+
+INSTANTIATE_TEST_SUITE_P(
+    Blocks, AscendingPrefixTest,
+    testing::Values(PrefixCase{"SortedRows", "AA\tx\0AB\tx\0AB\ty\0"s, 3, kAnyLength},
+                    PrefixCase{"CaseDoesNotMatter", "ab\tx\0AB\ty\0"s, 2, kAnyLength},
+                    PrefixCase{"DescendingAtTheThirdByte", "ABD\0ABC\0"s, 2, 2},
+                    PrefixCase{"BeginningBehindTheLongerText", "ABC\0AB\0"s, 2, 2},
+                    PrefixCase{"AccentAtTheSecondByte", "AB\0A\xC9\0"s, 2, 1},
+                    PrefixCase{"AccentBehindTheDifference", "AB\xC9\0AC\xC9\0"s, 2, kAnyLength}),
+    CaseName());
+
+TEST(PercentOf, RoundsToTheNearestAndHalvesToEven) {
+    EXPECT_EQ(PercentOf(0, 250), 0);
+    EXPECT_EQ(PercentOf(3, 250), 1);      // 1.2
+    EXPECT_EQ(PercentOf(1, 200), 0);      // 0.5
+    EXPECT_EQ(PercentOf(3, 200), 2);      // 1.5
+    EXPECT_EQ(PercentOf(5, 200), 2);      // 2.5
+    EXPECT_EQ(PercentOf(199, 200), 100);  // 99.5
+    EXPECT_EQ(PercentOf(2147483646, 2147483647), 100);
+}
+
+}  // namespace
+}  // namespace brelex

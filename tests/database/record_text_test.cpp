@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "database/record_text.h"
+
+#include <gtest/gtest.h>
+
+namespace brelex {
+namespace {
+
+TEST(RecordText, ATabPartsAbbreviationAndExpansion) {
+    EXPECT_EQ(GetAbbreviation("ABC\tAlpha Beta Charlie"), "ABC");
+    EXPECT_EQ(GetExpansion("ABC\tAlpha Beta Charlie"), "Alpha Beta Charlie");
+}
+
+TEST(RecordText, OnlyTheFirstTabParts) {
+    EXPECT_EQ(GetAbbreviation("ABC\tOne\tTwo"), "ABC");
+    EXPECT_EQ(GetExpansion("ABC\tOne\tTwo"), "One\tTwo");
+}
+
+TEST(RecordText, ARecordWithoutTabIsAllExpansion) {
+    EXPECT_EQ(GetAbbreviation("no tab"), "");
+    EXPECT_EQ(GetExpansion("no tab"), "no tab");
+    EXPECT_EQ(GetExpansion(""), "");
+}
+
+}  // namespace
+}  // namespace brelex

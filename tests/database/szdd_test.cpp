@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "database/szdd.h"
+
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace brelex {
+namespace {
+
+std::string Expanded(std::string_view file) {
+    const auto expanded = ExpandSzdd(file);
+    return expanded ? std::string(expanded->View()) : "(too long)";
+}
+
+// A compressed file from its header's declared length and its data.
+std::string File(std::string_view data, unsigned declared = 100) {
+    std::string file = "SZDD\x88\xF0\x27\x33";
+    file += "A";
+    file.push_back('\0');
+    for (unsigned i = 0; i < 4; ++i) {
+        file.push_back(static_cast<char>((declared >> (8 * i)) & 0xFFU));
+    }
+    return file.append(data);
+}
+
+TEST(ExpandSzdd, LiteralsComeOutAsTheyAre) {
+    EXPECT_EQ(Expanded(File("\xFF"
+                            "ABCDEFGH"
+                            "\x03"
+                            "IJ")),
+              "ABCDEFGHIJ");
+}
+
+TEST(ExpandSzdd, AMatchRepeatsWhatWasWritten) {
+    // The first byte goes to ring position FF0 hex; length 3 + 2.
+    EXPECT_EQ(Expanded(File("\x03"
+                            "AB"
+                            "\xF0\xF2")),
+              "ABABABA");
+}
+
+TEST(ExpandSzdd, TheRingBeginsWithBlanks) {
+    EXPECT_EQ(Expanded(File(std::string("\x00\x00\x0F", 3))), std::string(18, ' '));
+}
+
+TEST(ExpandSzdd, AMatchMayReachAWholeRingBack) {
+    // At the start the position being written is FF0 hex itself: a byte of a round ago, a blank.
+    EXPECT_EQ(Expanded(File(std::string("\x00\xF0\xF0", 3))), "   ");
+}
+
+TEST(ExpandSzdd, TheDeclaredLengthIsNotTrusted) {
+    const std::string data =
+        "\x07"
+        "ABC";
+    EXPECT_EQ(Expanded(File(data, 0)), "ABC");
+    EXPECT_EQ(Expanded(File(data, 0xFFFFFFFF)), "ABC");
+}
+
+TEST(ExpandSzdd, AStreamThatEndsEarlyGivesWhatCameOut) {
+    EXPECT_EQ(Expanded(File("\xFF"
+                            "AB")),
+              "AB");
+    EXPECT_EQ(Expanded(File("\x01"
+                            "A\xF0")),
+              "A");  // half a match
+    EXPECT_EQ(Expanded(File("\xFF")), "");
+    EXPECT_EQ(Expanded(File("")), "");
+}
+
+TEST(ExpandSzdd, BytesWithoutTheSignatureAreCopied) {
+    EXPECT_EQ(Expanded("plain bytes, longer than a header"), "plain bytes, longer than a header");
+    EXPECT_EQ(Expanded(""), "");
+    EXPECT_EQ(Expanded("SZDD"), "SZDD");
+    std::string otherMethod = File(
+        "\x01"
+        "A");
+    otherMethod[8] = 'B';
+    EXPECT_EQ(Expanded(otherMethod), otherMethod);
+}
+
+TEST(ExpandSzdd, MoreThanTheLimitIsRefused) {
+    const std::string file = CompressSzdd(std::string(5000, 'x'));
+    EXPECT_TRUE(ExpandSzdd(file, 5000).has_value());
+    EXPECT_FALSE(ExpandSzdd(file, 4999).has_value());
+    EXPECT_FALSE(ExpandSzdd(file, 100).has_value());
+    EXPECT_TRUE(ExpandSzdd("plain bytes", 11).has_value());
+    EXPECT_FALSE(ExpandSzdd("plain bytes", 10).has_value());
+    EXPECT_EQ(kMaxExpandedBytes, 1073741824U);
+}
+
+std::string RandomText(std::mt19937& random, std::size_t length, unsigned letters) {
+    std::string text(length, ' ');
+    for (char& c : text) {
+        c = static_cast<char>('a' + random() % letters);
+    }
+    return text;
+}
+
+TEST(CompressSzdd, WhatItCompressesExpandsAgain) {
+    std::mt19937 random(7);
+    for (std::size_t length :
+         {0U, 1U, 2U, 3U, 17U, 18U, 19U, 4095U, 4096U, 4097U, 9000U, 100000U}) {
+        for (const unsigned letters : {1U, 2U, 5U, 26U}) {
+            const std::string text = RandomText(random, length, letters);
+            EXPECT_EQ(Expanded(CompressSzdd(text)), text) << length << " " << letters;
+        }
+    }
+}
+
+TEST(CompressSzdd, ExpandsToAllByteValues) {
+    std::mt19937 random(8);
+    std::string bytes(20000, '\0');
+    for (char& byte : bytes) {
+        byte = static_cast<char>(random());
+    }
+    EXPECT_EQ(Expanded(CompressSzdd(bytes)), bytes);
+}
+
+TEST(CompressSzdd, TheSameBytesGiveTheSameFile) {
+    std::mt19937 random(9);
+    const std::string text = RandomText(random, 50000, 4);
+    EXPECT_EQ(CompressSzdd(text), CompressSzdd(text));
+}
+
+TEST(CompressSzdd, RepetitionIsMadeSmall) {
+    EXPECT_LT(CompressSzdd(std::string(10000, 'x')).size(), 10000 / 8 + 100);
+}
+
+TEST(CompressSzdd, DeclaresTheExpandedLength) {
+    const std::string file = CompressSzdd(std::string(0x12345, 'x'));
+    EXPECT_EQ(file.substr(10, 4), std::string("\x45\x23\x01\x00", 4));
+}
+
+}  // namespace
+}  // namespace brelex

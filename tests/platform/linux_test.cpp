@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "database/file_io.h"
+#include "platform/instance_guard.h"
+#include "platform/system_temporary_files.h"
+#include "platform/user_locale.h"
+#include "tests/support/test_files.h"
+
+// What only Linux has: links, permissions, environment variables.
+
+namespace brelex {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Sets an environment variable, or unsets it, until the end of the test.
+class Environment {
+  public:
+    Environment(const char* name, std::optional<std::string> value) : name_(name) {
+        const char* old = std::getenv(name);
+        if (old != nullptr) {
+            old_ = old;
+        }
+        Set(value);
+    }
+
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+
+    ~Environment() { Set(old_); }
+
+  private:
+    void Set(const std::optional<std::string>& value) {
+        if (value) {
+            setenv(name_, value->c_str(), 1);
+        } else {
+            unsetenv(name_);
+        }
+    }
+
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+// Lets no file grow beyond 100 bytes, as a disk without room does.
+class SmallFilesOnly {
+  public:
+    SmallFilesOnly() : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &old_);
+        rlimit small = old_;
+        small.rlim_cur = 100;
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+
+    SmallFilesOnly(const SmallFilesOnly&) = delete;
+    SmallFilesOnly& operator=(const SmallFilesOnly&) = delete;
+
+    ~SmallFilesOnly() {
+        setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, oldHandler_);
+    }
+
+  private:
+    void (*oldHandler_)(int);
+    rlimit old_{};
+};
+
+TEST(TempFolderOnLinux, IsTheRuntimeFolderOrElseTmpdirOrElseTmp) {
+    const SystemTemporaryFiles files;
+    const Environment runtime("XDG_RUNTIME_DIR", "/run/user/1");
+    const Environment tmpdir("TMPDIR", "/var/tmp/");
+    EXPECT_EQ(files.GetTempFolder(), "/run/user/1/");
+    const Environment noRuntime("XDG_RUNTIME_DIR", std::nullopt);
+    EXPECT_EQ(files.GetTempFolder(), "/var/tmp/");
+    const Environment emptyTmpdir("TMPDIR", "");
+    EXPECT_EQ(files.GetTempFolder(), "/tmp/");
+}
+
+class TemporaryFileOnLinux : public testing::Test {
+  protected:
+    TestFolder folder_;
+    SystemTemporaryFiles files_;
+    fs::path path_ = folder_.Path() / "~bx6120.tmp";
+};
+
+TEST_F(TemporaryFileOnLinux, APlantedLinkIsNotFollowed) {
+    const std::string victim = folder_.Write("victim", "precious");
+    fs::create_symlink(victim, path_);
+    EXPECT_TRUE(files_.WriteNewFile(path_.string(), "new"));
+    EXPECT_EQ(ReadText(victim), "precious");
+    EXPECT_FALSE(fs::is_symlink(path_));
+    EXPECT_EQ(ReadText(path_), "new");
+}
+
+TEST_F(TemporaryFileOnLinux, ALinkToNowhereIsNotFollowed) {
+    fs::create_symlink(folder_.Path() / "nowhere", path_);
+    EXPECT_TRUE(files_.WriteNewFile(path_.string(), "new"));
+    EXPECT_FALSE(fs::exists(folder_.Path() / "nowhere"));
+}
+
+TEST_F(TemporaryFileOnLinux, OnlyTheUserCanReadIt) {
+    EXPECT_TRUE(files_.WriteNewFile(path_.string(), "new"));
+    EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(TemporaryFileOnLinux, AFullDiskIsAFailure) {
+    const SmallFilesOnly limit;
+    EXPECT_FALSE(files_.WriteNewFile(path_.string(), std::string(1000, 'x')));
+}
+
+TEST_F(TemporaryFileOnLinux, AReadOnlyFolderIsAFailure) {
+    if (geteuid() == 0) {
+        // The superuser may write anywhere but into the system's own views.
+        EXPECT_FALSE(files_.WriteNewFile("/proc/~bx6120.tmp", "x"));
+        return;
+    }
+    fs::permissions(folder_.Path(), fs::perms::owner_read | fs::perms::owner_exec);
+    EXPECT_FALSE(files_.WriteNewFile(path_.string(), "x"));
+}
+
+TEST(InstanceGuardOnLinux, ASecondCopyIsSeenWhileTheFirstRuns) {
+    const TestFolder folder;
+    const Environment runtime("XDG_RUNTIME_DIR", folder.Path().string());
+    {
+        const InstanceGuard first;
+        EXPECT_FALSE(first.IsAnotherRunning());
+        const InstanceGuard second;
+        EXPECT_TRUE(second.IsAnotherRunning());
+        const InstanceGuard third;
+        EXPECT_TRUE(third.IsAnotherRunning());
+    }
+    const InstanceGuard next;
+    EXPECT_FALSE(next.IsAnotherRunning());
+}
+
+TEST(InstanceGuardOnLinux, ACopyThatCrashedLeavesNothingBehind) {
+    const TestFolder folder;
+    const Environment runtime("XDG_RUNTIME_DIR", folder.Path().string());
+    const pid_t child = fork();
+    if (child == 0) {
+        const InstanceGuard guard;
+        _exit(guard.IsAnotherRunning() ? 1 : 0);  // without destroying it
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    const InstanceGuard guard;
+    EXPECT_FALSE(guard.IsAnotherRunning());
+}
+
+TEST(InstanceGuardOnLinux, WhereTheLockCannotBeMadeTheProgramStartsAllTheSame) {
+    const Environment runtime("XDG_RUNTIME_DIR", "/nowhere/at/all");
+    const InstanceGuard guard;
+    EXPECT_FALSE(guard.IsAnotherRunning());
+}
+
+TEST(UserGroupSeparatorOnLinux, IsACommaWhereTheLocaleHasNone) {
+    const Environment locale("LC_ALL", "C");
+    EXPECT_EQ(UserGroupSeparator(), ",");
+}
+
+TEST(UserGroupSeparatorOnLinux, AnUnknownLocaleIsAComma) {
+    const Environment locale("LC_ALL", "xx_YY.UTF-8");
+    EXPECT_EQ(UserGroupSeparator(), ",");
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "database/folder_picker.h"
+#include "database/message_sink.h"
+#include "database/progress_sink.h"
+#include "database/row_list.h"
+#include "database/temporary_files.h"
+
+namespace brelex {
+
+/// Keeps the messages it is given and answers questions from a list, No when that is used up.
+class FakeMessageSink final : public MessageSink {
+  public:
+    MessageAnswer Show(const Message& message) override;
+
+    std::vector<Message> shown;
+    std::deque<MessageAnswer> answers;
+};
+
+/// Gives folders from a list, then cancels.
+class FakeFolderPicker final : public FolderPicker {
+  public:
+    std::string BrowseForFolder(const std::string& title) override;
+
+    std::vector<std::string> titles;
+    std::deque<std::string> folders;
+};
+
+/// Writes down what it is told.
+class RecordingProgress final : public ProgressSink {
+  public:
+    void SetStatusText(std::string_view text) override { texts.emplace_back(text); }
+
+    void SetProgress(int percent) override { percents.push_back(percent); }
+
+    std::vector<std::string> texts;
+    std::vector<int> percents;
+};
+
+/// A temporary folder of the test's choice; writing can be made to fail.
+class FakeTemporaryFiles final : public TemporaryFiles {
+  public:
+    explicit FakeTemporaryFiles(std::string folder) : folder_(std::move(folder)) {}
+
+    [[nodiscard]] std::string GetTempFolder() const override { return folder_; }
+
+    [[nodiscard]] bool WriteNewFile(const std::string& path, std::string_view bytes) override;
+
+    std::vector<std::string> written;
+    bool diskIsFull = false;
+
+  private:
+    std::string folder_;
+};
+
+/// Rows from a list of texts.
+class FakeRows final : public RowList {
+  public:
+    explicit FakeRows(std::vector<std::string> rows) : rows_(std::move(rows)) {}
+
+    [[nodiscard]] std::int32_t RowCount() const override {
+        return static_cast<std::int32_t>(rows_.size());
+    }
+
+    [[nodiscard]] std::string_view RowText(std::int32_t row) const override {
+        return rows_[static_cast<std::size_t>(row)];
+    }
+
+  private:
+    std::vector<std::string> rows_;
+};
+
+}  // namespace brelex

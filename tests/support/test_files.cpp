@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/test_files.h"
+
+#include <chrono>
+#include <cstdint>
+#include <fstream>
+#include <random>
+
+#include "database/database_builder.h"
+#include "database/file_io.h"
+#include "database/szdd.h"
+
+namespace brelex {
+
+namespace fs = std::filesystem;
+
+TestFolder::TestFolder() {
+    static std::mt19937_64 random(std::random_device{}());
+    path_ = fs::temp_directory_path() / ("brelex-test-" + std::to_string(random()));
+    fs::create_directory(path_);
+}
+
+TestFolder::~TestFolder() {
+    std::error_code ignored;
+    fs::permissions(path_, fs::perms::owner_all, ignored);
+    fs::remove_all(path_, ignored);
+}
+
+std::string TestFolder::Text() const {
+    return WithTrailingSeparator(Utf8OfPath(path_));
+}
+
+std::string TestFolder::Write(const std::string& name, std::string_view bytes) const {
+    const fs::path path = path_ / PathOfUtf8(name);
+    std::ofstream file(path, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return Utf8OfPath(path);
+}
+
+std::string ReadText(const fs::path& path) {
+    const auto file = ReadWholeFile(path);
+    return file ? std::string(file->View()) : "(unreadable)";
+}
+
+std::string ExpandedBytes(const std::vector<std::string>& records) {
+    DatabaseContent content;
+    content.version = 1.5F;
+    content.releaseDate = std::chrono::year(2005) / 2 / 3;
+    content.records = records;
+    content.searchList = "network1memory";
+    return BuildDatabase(std::move(content)).expanded;
+}
+
+std::string DatabaseBytes(const std::vector<std::string>& records) {
+    return CompressSzdd(ExpandedBytes(records));
+}
+
+std::string Incompressible(std::size_t length) {
+    std::string text;
+    std::uint32_t value = 12345;
+    for (std::size_t i = 0; i < length; ++i) {
+        value = value * 1664525U + 1013904223U;
+        text.push_back(static_cast<char>(0x21 + (value >> 16U) % 94));
+    }
+    return text;
+}
+
+std::vector<std::string> NumberedRecords(int count) {
+    std::vector<std::string> records;
+    for (int i = 0; i < count; ++i) {
+        const std::string digits = std::to_string(100000 + i);
+        records.push_back("A" + digits + "\tEntry number " + digits);
+    }
+    return records;
+}
+
+}  // namespace brelex

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brelex {
+
+/// A folder of a test's own, removed with all that is in it at the end.
+class TestFolder {
+  public:
+    TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+    ~TestFolder();
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+    /// UTF-8, ending in the separator.
+    [[nodiscard]] std::string Text() const;
+
+    /// Writes a file and returns its path (UTF-8).
+    std::string Write(const std::string& name, std::string_view bytes) const;
+
+  private:
+    std::filesystem::path path_;
+};
+
+[[nodiscard]] std::string ReadText(const std::filesystem::path& path);
+
+/// The bytes of a database file with these records.
+[[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records);
+
+/// The same before it is compressed.
+[[nodiscard]] std::string ExpandedBytes(const std::vector<std::string>& records);
+
+/// `count` different records in ascending order, all beginning with the letter A.
+[[nodiscard]] std::vector<std::string> NumberedRecords(int count);
+
+/// `length` visible characters in which hardly any three occur twice.
+[[nodiscard]] std::string Incompressible(std::size_t length);
+
+}  // namespace brelex

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: MIT
+#include <iomanip>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "database/database_file.h"
+#include "database/file_io.h"
+#include "database/szdd.h"
+#include "tests/support/named_case.h"
+#include "tests/support/test_files.h"
+#include "tools/build_command.h"
+#include "tools/query_commands.h"
+
+namespace brelex {
+namespace {
+
+class CommandsTest : public testing::Test {
+  protected:
+    int Build(BuildRequest request) {
+        if (request.inputs.empty()) {
+            request.inputs = {folder_.Write(
+                "list.tsv", "RAM\tRandom Access Memory\nABC\tAlpha\nABC\tAlpha\nABCD\tLong\n")};
+        }
+        if (request.date.empty()) {
+            request.date = "2005-02-03";
+        }
+        request.output = database_;
+        return RunBuild(request, out_, err_);
+    }
+
+    int Lookup(const std::vector<std::string>& texts, const std::string& input = "") {
+        std::istringstream in(input);
+        return RunLookup(database_, texts, in, out_, err_);
+    }
+
+    std::string Output() {
+        std::string text = out_.str();
+        out_.str("");
+        return text;
+    }
+
+    TestFolder folder_;
+    std::string database_ = folder_.Text() + "Acronyms.dat";
+    std::ostringstream out_;
+    std::ostringstream err_;
+};
+
+TEST_F(CommandsTest, BuildSortsAndDropsDuplicates) {
+    ASSERT_EQ(Build({}), 0) << err_.str();
+    EXPECT_NE(Output().find("3 records, 1 duplicates dropped"), std::string::npos);
+    ASSERT_EQ(RunDump(database_, out_, err_), 0);
+    EXPECT_EQ(Output(), "ABC\tAlpha\nABCD\tLong\nRAM\tRandom Access Memory\n");
+    EXPECT_EQ(RunCheck(database_, out_, err_), 0) << out_.str();
+}
+
+TEST_F(CommandsTest, TheSameInputGivesTheSameBytes) {
+    ASSERT_EQ(Build({}), 0);
+    const std::string first = ReadText(PathOfUtf8(database_));
+    ASSERT_EQ(Build({}), 0);
+    EXPECT_EQ(ReadText(PathOfUtf8(database_)), first);
+}
+
+TEST_F(CommandsTest, InfoNamesEveryFieldInFileOrder) {
+    BuildRequest request;
+    request.version = "2.5";
+    request.searchList = "network, memory ,, disk";
+    ASSERT_EQ(Build(request), 0);
+    Output();
+    ASSERT_EQ(RunInfo(database_, out_, err_), 0);
+    EXPECT_EQ(
+        Output(),
+        "Version: 2.5\n"
+        "ReleaseDate: 2005-02-03\n"
+        "MaxAbbrvLength: 4\n"
+        "MaxExpansionLength: 20\n"
+        "RecordCount: 3\n"
+        "DataSize: 45\n"
+        "Reserved: 0\n"
+        "DataCRC: " +
+            [&] {
+                DatabaseHeader header;
+                RecordStore store;
+                EXPECT_EQ(ReadDatabase(ReadText(PathOfUtf8(database_)), header, store),
+                          LoadFailure::None);
+                std::ostringstream hex;
+                hex << std::hex << std::uppercase << std::setw(8) << std::setfill('0')
+                    << static_cast<std::uint32_t>(header.DataCRC);
+                return hex.str();
+            }() +
+            "\n"
+            "AvgAbbrvLength: 3\n"
+            "AvgExpansionLength: 10\n"
+            "LongestAbbrvIndex: 1\n"
+            "LongestExpansionIndex: 2\n"
+            "CommonFirstLetter: A\n"
+            "CommonFirstLetterCount: 2\n"
+            "MostExpansionsIndex: 0\n"
+            "MostExpansionsCount: 1\n"
+            "SearchListText: network, memory, disk\n");
+}
+
+TEST_F(CommandsTest, AWholeVersionIsShownWithOneDecimal) {
+    ASSERT_EQ(Build({}), 0);
+    Output();
+    ASSERT_EQ(RunInfo(database_, out_, err_), 0);
+    EXPECT_TRUE(Output().starts_with("Version: 1.0\n"));
+}
+
+TEST_F(CommandsTest, InfoOfADateThatIsNoneSaysSo) {
+    std::string expanded = ExpandedBytes({"ABC\tx"});
+    DatabaseHeader header = DecodeHeader(expanded);
+    header.ReleaseDate = 1e300;
+    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
+    folder_.Write("Acronyms.dat", CompressSzdd(expanded));
+    ASSERT_EQ(RunInfo(database_, out_, err_), 0);
+    EXPECT_NE(Output().find("ReleaseDate: not a date (1e+300)\n"), std::string::npos);
+}
+
+TEST_F(CommandsTest, LookupPrintsTheRowThatTypingSelects) {
+    ASSERT_EQ(Build({}), 0);
+    Output();
+    EXPECT_EQ(Lookup({"abcd", "ra", "AX"}), 0);
+    EXPECT_EQ(Output(), "2\tABCD\tLong\n3\tRAM\tRandom Access Memory\n1\tABC\tAlpha\n");
+}
+
+TEST_F(CommandsTest, LookupReadsLinesFromStandardInput) {
+    ASSERT_EQ(Build({}), 0);
+    Output();
+    EXPECT_EQ(Lookup({"-"}, "r\r\nabcd"), 0);
+    EXPECT_EQ(Output(), "3\tRAM\tRandom Access Memory\n2\tABCD\tLong\n");
+}
+
+TEST_F(CommandsTest, LookupOfWhatNoEntryBeginsWithExitsWithOne) {
+    ASSERT_EQ(Build({}), 0);
+    Output();
+    EXPECT_EQ(Lookup({"?"}), 1);
+    EXPECT_EQ(Output(), "1\tABC\tAlpha\n");
+    EXPECT_EQ(Lookup({"?", "r"}), 0);
+}
+
+TEST_F(CommandsTest, ALoadFailureGivesTheReasonAndExitsWithTwo) {
+    folder_.Write("Acronyms.dat", ExpandedBytes({"ABC\tx"}));
+    const std::string expected =
+        "brelex: " + database_ + ": Cannot decode a corrupt database. Loading was aborted.\n";
+    EXPECT_EQ(RunInfo(database_, out_, err_), 2);
+    EXPECT_EQ(err_.str(), expected);
+    EXPECT_EQ(RunDump(database_, out_, err_), 2);
+    EXPECT_EQ(Lookup({"A"}), 2);
+    EXPECT_EQ(out_.str(), "");
+}
+
+TEST_F(CommandsTest, AMissingFileExitsWithTwo) {
+    EXPECT_EQ(RunInfo(database_, out_, err_), 2);
+    EXPECT_EQ(err_.str(), "brelex: cannot read " + database_ + "\n");
+    EXPECT_EQ(RunCheck(database_, out_, err_), 2);
+}
+
+TEST_F(CommandsTest, CheckOfADamagedFileExitsWithOne) {
+    folder_.Write("Acronyms.dat", "SZDD");
+    EXPECT_EQ(RunCheck(database_, out_, err_), 1);
+    std::string expanded = ExpandedBytes({"ABC\tx"});
+    expanded.at(kHeaderBytes) = 'B';
+    folder_.Write("Acronyms.dat", CompressSzdd(expanded));
+    EXPECT_EQ(RunCheck(database_, out_, err_), 1);
+    EXPECT_NE(Output().find("the CRC of the records is not the header's DataCRC"),
+              std::string::npos);
+}
+
+struct BadRequest {
+    const char* name;
+    BuildRequest request;
+    std::string reason;
+};
+
+class BadRequestTest : public CommandsTest, public testing::WithParamInterface<BadRequest> {};
+
+TEST_P(BadRequestTest, IsRefusedAndNothingIsWritten) {
+    EXPECT_EQ(Build(GetParam().request), 2);
+    EXPECT_NE(err_.str().find(GetParam().reason), std::string::npos) << err_.str();
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(database_)));
+    EXPECT_EQ(out_.str(), "");
+}
+
+BuildRequest WithVersion(const char* version) {
+    BuildRequest request;
+    request.version = version;
+    return request;
+}
+
+BuildRequest WithDate(const char* date) {
+    BuildRequest request;
+    request.date = date;
+    return request;
+}
+
+BuildRequest WithList(const std::string& list) {
+    BuildRequest request;
+    request.searchList = list;
+    return request;
+}
+
+BuildRequest WithInput(const char* input) {
+    BuildRequest request;
+    request.inputs = {input};
+    return request;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Requests, BadRequestTest,
+    testing::Values(
+        BadRequest{"Version", WithVersion("2"), "the version is not of the form N.N: 2"},
+        BadRequest{"VersionWithLetters", WithVersion("2.x"), "not of the form N.N: 2.x"},
+        BadRequest{"VersionWithTwoPoints", WithVersion("2..1"), "not of the form N.N: 2..1"},
+        BadRequest{"Date", WithDate("2026-02-30"), "not a day of the form YYYY-MM-DD: 2026-02-30"},
+        BadRequest{"DigitOneInTheSearchList", WithList("network,802.11"),
+                   "the digit 1 parts the items of the search list, so none may hold it: 802.11"},
+        BadRequest{"LongSearchList", WithList(std::string(1025, 'x')),
+                   "the search list has 1025 characters; there is room for 1024"},
+        BadRequest{"SearchListOutsideTheCodePage", WithList("日本"), "outside Windows-1252: 日本"},
+        BadRequest{"UnknownKindOfInput", WithInput("list.csv"),
+                   "list.csv: neither .tsv nor a dictd dictionary"},
+        BadRequest{"MissingInput", WithInput("no.tsv"), "no.tsv: cannot be read"}),
+    CaseName());
+
+TEST_F(CommandsTest, ASearchListMayFillItsRoom) {
+    EXPECT_EQ(Build(WithList(std::string(1024, 'x'))), 0) << err_.str();
+}
+
+TEST_F(CommandsTest, AllBadLinesAreNamedAndNothingIsWritten) {
+    BuildRequest request;
+    request.inputs = {folder_.Write("bad.tsv", "A\tx\nB\nC\t\n")};
+    EXPECT_EQ(Build(request), 2);
+    EXPECT_NE(err_.str().find("bad.tsv:2: no TAB"), std::string::npos);
+    EXPECT_NE(err_.str().find("bad.tsv:3: the expansion is empty"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(database_)));
+}
+
+TEST_F(CommandsTest, AnEmptyInputIsRefused) {
+    BuildRequest request;
+    request.inputs = {folder_.Write("empty.tsv", "\n")};
+    EXPECT_EQ(Build(request), 2);
+    EXPECT_EQ(err_.str(), "brelex: the inputs hold no entry\n");
+}
+
+TEST_F(CommandsTest, ARefusedBuildLeavesTheOldFile) {
+    ASSERT_EQ(Build({}), 0);
+    const std::string before = ReadText(PathOfUtf8(database_));
+    EXPECT_EQ(Build(WithVersion("x")), 2);
+    EXPECT_EQ(ReadText(PathOfUtf8(database_)), before);
+}
+
+TEST_F(CommandsTest, StatisticsAboveSixteenBitsAreWarnedOf) {
+    std::string lines;
+    for (int i = 0; i < 33000; ++i) {
+        lines += "A" + std::to_string(100000 + i) + "\tx\n";
+    }
+    lines += "ZLONGEST\tThe longest expansion of all\n";
+    BuildRequest request;
+    request.inputs = {folder_.Write("many.tsv", lines)};
+    ASSERT_EQ(Build(request), 0);
+    EXPECT_NE(err_.str().find("warning: LongestAbbrvIndex is 33000, above 32767"),
+              std::string::npos);
+    EXPECT_NE(err_.str().find("warning: LongestExpansionIndex is 33000"), std::string::npos);
+    EXPECT_EQ(err_.str().find("MostExpansionsIndex"), std::string::npos);
+}
+
+TEST_F(CommandsTest, AFileOfEqualLengthsIsRefused) {
+    // Eight incompressible characters take nine bytes; so the two lengths draw near by one byte
+    // for each eight, and are equal for eight successive lengths.
+    std::size_t length = 1;
+    std::size_t gap = 1;
+    while (gap > 0 && length < 20000) {
+        BuildRequest request;
+        request.inputs = {folder_.Write("equal.tsv", "A\t" + Incompressible(length) + "\n")};
+        if (Build(request) == 2) {
+            break;
+        }
+        const std::string file = ReadText(PathOfUtf8(database_));
+        const std::size_t expanded = ExpandSzdd(file)->View().size();
+        ASSERT_GT(expanded, file.size());
+        gap = expanded - file.size();
+        length += gap > 1 ? 8 * (gap - 1) : 1;
+    }
+    EXPECT_NE(err_.str().find("would be as long as the expanded one"), std::string::npos)
+        << length << err_.str();
+}
+
+TEST_F(CommandsTest, ADictdDictionaryIsReadByEitherOfItsNames) {
+    folder_.Write("my.dict", "A\n  Alpha\n");
+    folder_.Write("my.index", "a\tA\tK\n");
+    for (const char* name : {"my.index", "my.dict"}) {
+        BuildRequest request;
+        request.inputs = {folder_.Text() + name};
+        EXPECT_EQ(Build(request), 0) << err_.str();
+    }
+}
+
+}  // namespace
+}  // namespace brelex
