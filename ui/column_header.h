@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/panel.h>
+#include <wx/window.h>
 
 #include "ui/layout_units.h"
 
@@ -9,9 +9,11 @@ namespace brelex {
 
 /// The drawn header of the list, `picColHeader`: the names of its two columns, a line under them,
 /// a sunken line between them and an arrow for the ascending order.
-class ColumnHeader final : public wxPanel {
+class ColumnHeader final : public wxWindow {
   public:
     ColumnHeader(wxWindow* parent, const LayoutUnits& units);
+
+    [[nodiscard]] bool AcceptsFocus() const override { return false; }
 
   private:
     void OnPaint(wxPaintEvent& event);

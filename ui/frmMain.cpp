@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include <wx/dcclient.h>
 #include <wx/panel.h>
@@ -96,8 +97,9 @@ void frmMain::CreateControls() {
     // Directly behind the instruction, whose access key leads to it.
     txtAbbrv = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                               wxTE_PROCESS_ENTER);
-    lblColHeaderBack = new wxPanel(surface_, wxID_ANY);
-    picColHeader = new ColumnHeader(lblColHeaderBack, units_);
+    lblColHeaderBack = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                        wxDefaultSize, wxST_NO_AUTORESIZE);
+    picColHeader = new ColumnHeader(surface_, units_);
     lstAcronyms = &CreateAcronymList(*surface_, {units_.Pixels(kExpansionTextAt)});
     for (wxStaticText** label : {&lblRecNumber, &lblDescription, &lblRecCount}) {
         *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
@@ -149,7 +151,7 @@ void frmMain::DrawColumnHeader() {
     const wxRect list = lstAcronyms->Window().GetRect();
     const int height = units_.Pixels(kHeaderHeight);
     lblColHeaderBack->SetSize(list.x, list.y - height, list.width, height);
-    picColHeader->SetSize(0, 0, list.width, height);
+    picColHeader->SetSize(list.x, list.y - height, list.width, height);
 }
 
 void frmMain::LayoutStatusBar() {
@@ -197,7 +199,13 @@ void frmMain::BindEvents() {
     txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);
     txtAbbrv->Bind(wxEVT_CHAR, &frmMain::OnBoxChar, this);
     txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
-    lstAcronyms->onClick = [this] { lookup_.OnListClick(); };
+    lstAcronyms->onClick = [this] {
+        // Only a list that is used is clicked; but on GTK the click comes before the focus it
+        // brings.
+        const bool wasNavigating = std::exchange(lookup_.IsNavigating, true);
+        lookup_.OnListClick();
+        lookup_.IsNavigating = wasNavigating;
+    };
     lstAcronyms->onEnter = [this] { OpenEntryViewer(); };
     lstAcronyms->Window().Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         lookup_.OnListGotFocus();

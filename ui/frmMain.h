@@ -102,8 +102,8 @@ class frmMain final : public wxFrame, private LookupView {
     wxStaticBitmap* imgAppTitle = nullptr;
     wxStaticText* lblInstruction = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
-    wxPanel* lblColHeaderBack = nullptr;
-    wxPanel* picColHeader = nullptr;
+    wxStaticText* lblColHeaderBack = nullptr;
+    wxWindow* picColHeader = nullptr;
     AcronymList* lstAcronyms = nullptr;
     wxStaticText* lblRecNumber = nullptr;
     wxStaticText* lblDescription = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmSplash.h"
 
+#include <wx/dcclient.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
@@ -16,7 +17,7 @@ namespace brelex {
 
 frmSplash::frmSplash(const AppInfo& info)
     : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
-              wxFRAME_NO_TASKBAR | wxBORDER_SIMPLE) {
+              wxFRAME_NO_TASKBAR | wxBORDER_NONE) {
     SetName("frmSplash");
     SetIcons(AppIcons());
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
@@ -48,12 +49,15 @@ frmSplash::frmSplash(const AppInfo& info)
     upper->Add(texts);
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(upper, 0, wxALL, 4 * gap);
-    // Room for the longest message and the percentage behind it, whatever is shown.
     all->Add(lblMessage, 0, wxLEFT | wxRIGHT | wxBOTTOM, 4 * gap);
-    all->SetItemMinSize(lblMessage, FromDIP(420), -1);
+    // Room for the longest message and the percentage behind it, whatever is shown.
+    all->SetMinSize(
+        GetTextExtent("Loading database (9,999,999 records). Please, wait...100%").x + 10 * gap,
+        -1);
     SetSizerAndFit(all);
     PlacePercent();
     CentreOnScreen();
+    Bind(wxEVT_PAINT, &frmSplash::OnPaint, this);
 }
 
 wxStaticText* frmSplash::AddLabel(const wxString& name, const wxString& text) {
@@ -61,6 +65,14 @@ wxStaticText* frmSplash::AddLabel(const wxString& name, const wxString& text) {
     label->SetLabelText(text);
     label->SetName(name);
     return label;
+}
+
+// An outline: without a title bar the window would melt into what is behind it.
+void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
+    wxPaintDC dc(this);
+    dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+    dc.SetBrush(*wxTRANSPARENT_BRUSH);
+    dc.DrawRectangle(GetClientRect());
 }
 
 void frmSplash::ShowAndPaint() {

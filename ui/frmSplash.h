@@ -26,6 +26,7 @@ class frmSplash final : public wxFrame, public ProgressSink {
     using wxFrame::SetStatusText;  // the frame's own is about a status bar, which this has not
 
     wxStaticText* AddLabel(const wxString& name, const wxString& text);
+    void OnPaint(wxPaintEvent& event);
     void PlacePercent();
     void RepaintIfDue(bool force);
 

@@ -1,0 +1,499 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmMain.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/menu.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
+
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/main_menus.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+namespace {
+
+class FrmMainLookup : public MainWindowTest {};
+
+TEST_F(FrmMainLookup, TypingTwoLettersShowsThemAsCapitalsAndSelectsTheFirstEntry) {
+    Type("ab", "AB");
+    EXPECT_EQ(SelectedRecord(), "AB\tAddress Bus");
+    EXPECT_EQ(LabelText("lblRecNumber"), "1");
+}
+
+TEST_F(FrmMainLookup, TheFoundRowIsSecondFromTheTop) {
+    Type("m1", "M1");
+    const std::int32_t row = window_->List().SelectedRow();
+    EXPECT_EQ(SelectedRecord(), "M10000\tMiddle entry");
+    EXPECT_EQ(window_->List().TopRow(), row - 1);
+    Type("0500", "M10500");
+    EXPECT_EQ(SelectedRecord(), "M10500\tMiddle entry");
+    EXPECT_EQ(window_->List().TopRow(), window_->List().SelectedRow() - 1);
+}
+
+TEST_F(FrmMainLookup, TheListFollowsEachKey) {
+    Type("a", "A");
+    EXPECT_EQ(SelectedRecord(), "AB\tAddress Bus");
+    Type("bc", "ABC");
+    EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+    user_.Char(WXK_BACK);
+    ASSERT_TRUE(WaitFor([&] { return BoxText() == "AB"; }));
+    EXPECT_TRUE(WaitFor([&] { return SelectedRecord() == "AB\tAddress Bus"; }));
+}
+
+TEST_F(FrmMainLookup, WithNoMatchTheFirstEntryOfTheLongestBeginningIsSelected) {
+    Type("xq", "XQ");
+    EXPECT_EQ(SelectedRecord(), "XML\tExtensible Markup Language");
+    EXPECT_EQ(LabelText("lblRecNumber"), "1,505");
+}
+
+TEST_F(FrmMainLookup, ClearingTheBoxSelectsTheFirstRow) {
+    Type("xss", "XSS");
+    SelectAllInBox();
+    user_.Char(WXK_DELETE);
+    ASSERT_TRUE(WaitFor([&] { return BoxText().empty(); }));
+    EXPECT_TRUE(WaitFor([&] { return window_->List().SelectedRow() == 0; }));
+    EXPECT_EQ(window_->List().TopRow(), 0);
+    EXPECT_EQ(LabelText("lblRecNumber"), "1");
+}
+
+TEST_F(FrmMainLookup, AnAmpersandIsShownAsItIs) {
+    Type("r", "R");
+    user_.Char('7', wxMOD_SHIFT);
+    ASSERT_TRUE(WaitFor([&] { return BoxText() == "R&"; })) << BoxText();
+    EXPECT_EQ(SelectedRecord(), "R&D\tResearch and Development");
+    user_.Char(WXK_UP);
+    user_.Char(WXK_DOWN);
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "R&D"; })) << BoxText();
+}
+
+TEST_F(FrmMainLookup, OvertypingASelectionIsOneChange) {
+    Type("xss", "XSS");
+    SelectAllInBox();
+    Type("a", "A");
+    EXPECT_EQ(SelectedRecord(), "AB\tAddress Bus");
+    SelectAllInBox();
+    Type("x", "X");
+    EXPECT_EQ(SelectedRecord(), "XML\tExtensible Markup Language");
+    EXPECT_FALSE(window_->Lookup().IsLookupBusy);
+    Type("s", "XS");
+    EXPECT_EQ(SelectedRecord(), "XSS\tCross-Site Scripting");
+}
+
+TEST_F(FrmMainLookup, RetypingTheSameTextStopsTheListFromFollowing) {
+    Type("a", "A");
+    SelectAllInBox();
+    user_.Char('a');
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsLookupBusy; }));
+    EXPECT_EQ(BoxText(), "A");
+    SelectAllInBox();
+    Type("x", "X");
+    EXPECT_EQ(SelectedRecord(), "AB\tAddress Bus");
+    user_.Char(WXK_DOWN);
+    EXPECT_TRUE(WaitFor([&] { return SelectedRecord() == "AB\tAudio Bus"; }));
+}
+
+TEST_F(FrmMainLookup, FastTypingAndErasingIsNotOneChange) {
+    Type("a", "A");
+    user_.Char('b');
+    user_.Char(WXK_BACK);
+    Settle(200);
+    EXPECT_EQ(BoxText(), "A");
+    EXPECT_FALSE(window_->Lookup().IsLookupBusy);
+}
+
+TEST_F(FrmMainLookup, DownMovesTheSelectionAndWritesItsAbbreviationIntoTheBox) {
+    Type("ab", "AB");
+    user_.Char(WXK_DOWN);
+    ASSERT_TRUE(WaitFor([&] { return SelectedRecord() == "AB\tAudio Bus"; }));
+    user_.Char(WXK_DOWN);
+    ASSERT_TRUE(WaitFor([&] { return BoxText() == "ABC"; }));
+    EXPECT_EQ(LabelText("lblRecNumber"), "3");
+    EXPECT_EQ(Box().GetInsertionPoint(), 3);
+    EXPECT_EQ(wxWindow::FindFocus(), &Box());
+    user_.Char(WXK_UP);
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "AB"; }));
+}
+
+TEST_F(FrmMainLookup, PageKeysMoveByThePageOfTheList) {
+    Type("m1", "M1");
+    const std::int32_t start = window_->List().SelectedRow();
+    const std::int32_t page = window_->List().RowsPerPage() - 1;
+    user_.Char(WXK_PAGEDOWN);
+    EXPECT_TRUE(WaitFor([&] { return window_->List().SelectedRow() == start + page; }));
+    user_.Char(WXK_PAGEUP);
+    EXPECT_TRUE(WaitFor([&] { return window_->List().SelectedRow() == start; }));
+}
+
+TEST_F(FrmMainLookup, AMovedSelectionStaysInSight) {
+    Type("m1", "M1");
+    for (int i = 0; i < 40; ++i) {
+        user_.Char(WXK_DOWN);
+    }
+    const std::int32_t target = window_->Lookup().FoundRow + 40;
+    ASSERT_TRUE(WaitFor([&] { return window_->List().SelectedRow() == target; }));
+    EXPECT_LE(window_->List().TopRow(), target);
+    EXPECT_GT(window_->List().TopRow() + window_->List().RowsPerPage(), target);
+}
+
+TEST_F(FrmMainLookup, HomeEndLeftAndRightStayWithTheBox) {
+    Type("abc", "ABC");
+    const std::int32_t row = window_->List().SelectedRow();
+    user_.Char(WXK_HOME);
+    ASSERT_TRUE(WaitFor([&] { return Box().GetInsertionPoint() == 0; }));
+    user_.Char(WXK_RIGHT);
+    ASSERT_TRUE(WaitFor([&] { return Box().GetInsertionPoint() == 1; }));
+    user_.Char(WXK_END);
+    ASSERT_TRUE(WaitFor([&] { return Box().GetInsertionPoint() == 3; }));
+    user_.Char(WXK_LEFT);
+    ASSERT_TRUE(WaitFor([&] { return Box().GetInsertionPoint() == 2; }));
+    EXPECT_EQ(window_->List().SelectedRow(), row);
+}
+
+TEST_F(FrmMainLookup, EnterInTheBoxGoesToTheList) {
+    Type("abc", "ABC");
+    int opened = 0;
+    window_->List().onEnter = [&] { ++opened; };
+    user_.Char(WXK_RETURN);
+    EXPECT_TRUE(WaitFor([&] { return opened == 1; }));
+    EXPECT_EQ(BoxText(), "ABC");
+}
+
+TEST_F(FrmMainLookup, EnterInTheListOpensTheEntryAndShiftEnterDoesNot) {
+    Type("abc", "ABC");
+    int opened = 0;
+    window_->List().onEnter = [&] { ++opened; };
+    window_->List().Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    user_.Char(WXK_RETURN, wxMOD_SHIFT);
+    user_.Char(WXK_RETURN, wxMOD_CONTROL);
+    Settle(150);
+    EXPECT_EQ(opened, 0);
+    user_.Char(WXK_RETURN);
+    EXPECT_TRUE(WaitFor([&] { return opened == 1; }));
+}
+
+TEST_F(FrmMainLookup, TheBoxTakesNoMoreThanTheLongestAbbreviation) {
+    Type("abcdefghij", "ABCDEF");
+}
+
+TEST_F(FrmMainLookup, GettingTheFocusSelectsTheWholeText) {
+    Type("abc", "ABC");
+    user_.Char(WXK_TAB);
+    ASSERT_TRUE(WaitFor([&] { return wxWindow::FindFocus() != &Box(); }));
+    user_.Char(WXK_TAB);
+    ASSERT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &Box(); }));
+    EXPECT_TRUE(WaitFor([&] { return Box().GetStringSelection() == "ABC"; }));
+    Type("x", "X");
+}
+
+TEST_F(FrmMainLookup, TheAccessKeyOfTheInstructionLeadsToTheBox) {
+    window_->List().Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    user_.Char('T', wxMOD_ALT);
+    EXPECT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &Box(); }));
+}
+
+TEST_F(FrmMainLookup, ClickingARowSelectsItAndWritesTheBox) {
+    Type("m1", "M1");
+    AcronymList& list = window_->List();
+    const std::int32_t row = list.TopRow() + 4;
+    const wxPoint point(40, 4 * list.RowHeight() + list.RowHeight() / 2);
+    ASSERT_EQ(list.RowAt(point), row);
+    user_.MouseMove(list.Window().ClientToScreen(point));
+    Settle();
+    user_.MouseClick();
+    EXPECT_TRUE(WaitFor([&] { return list.SelectedRow() == row; }));
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "M10003"; })) << BoxText();
+    EXPECT_TRUE(window_->Lookup().IsNavigating);
+}
+
+TEST_F(FrmMainLookup, KeysInTheListAreFollowedByTheBox) {
+    Type("ab", "AB");
+    window_->List().Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    user_.Char(WXK_DOWN);
+    user_.Char(WXK_DOWN);
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "ABC"; })) << BoxText();
+    EXPECT_EQ(LabelText("lblRecNumber"), "3");
+}
+
+TEST_F(FrmMainLookup, SelectingByLookupRaisesNoClick) {
+    int clicks = 0;
+    window_->List().onClick = [&] { ++clicks; };
+    Type("xss", "XSS");
+    window_->List().Select(3);
+    window_->GoToRecordNumber(5);
+    Settle();
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(FrmMainLookup, BelowTheLastRowThereIsNone) {
+    Start({"AB\tx", "AC\ty"});
+    AcronymList& list = window_->List();
+    EXPECT_EQ(list.RowAt(wxPoint(10, list.RowHeight() / 2)), 0);
+    EXPECT_EQ(list.RowAt(wxPoint(10, 5 * list.RowHeight())), -1);
+}
+
+TEST_F(FrmMainLookup, ARecordWithoutTabIsShownAsItStands) {
+    Start({"AB\tx", "no tab"});
+    window_->GoToRecordNumber(2);
+    EXPECT_EQ(BoxText(), "");
+    EXPECT_EQ(SelectedRecord(), "no tab");
+}
+
+struct GoToCase {
+    const char* name;
+    const char* answer;
+    const char* number;
+    bool refused = false;
+};
+
+// Answers the question for a record number.
+class AnswerRecordNumber final : public wxExpectModalBase<wxTextEntryDialog, AnswerRecordNumber> {
+  public:
+    explicit AnswerRecordNumber(const char* answer) : answer_(answer) {}
+
+  protected:
+    int OnInvoked(wxTextEntryDialog* dialog) const override {
+        EXPECT_EQ(dialog->GetTitle(), "Go to Record");
+        EXPECT_EQ(dialog->GetValue(), "4");  // the current one
+        dialog->SetValue(answer_);
+        return wxID_OK;
+    }
+
+  private:
+    const char* answer_;
+};
+
+class GoToRow : public FrmMainLookup, public testing::WithParamInterface<GoToCase> {};
+
+TEST_P(GoToRow, SelectsTheRecord) {
+    window_->GoToRecordNumber(4);
+    wxCommandEvent command(wxEVT_MENU, kSearchItem + 3);
+    if (GetParam().refused) {
+        wxTEST_DIALOG(window_->ProcessWindowEvent(command), AnswerRecordNumber(GetParam().answer),
+                      wxExpectModal<wxMessageDialog>(wxOK));
+    } else {
+        wxTEST_DIALOG(window_->ProcessWindowEvent(command), AnswerRecordNumber(GetParam().answer));
+    }
+    EXPECT_EQ(LabelText("lblRecNumber"), GetParam().number);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, GoToRow,
+                         testing::Values(GoToCase{"ANumber", "1234", "1,234"},
+                                         GoToCase{"Zero", "0", "1"},
+                                         GoToCase{"Huge", "999999", "1,506"},
+                                         GoToCase{"Letters", "abc", "4", true}),
+                         CaseName());
+
+TEST_F(FrmMainLookup, F5AsksForTheRecordWithTheKeyboard) {
+    wxTextEntryDialog* dialog = nullptr;
+    const auto typed = [&] {
+        for (wxWindow* child : dialog->GetChildren()) {
+            if (const auto* box = dynamic_cast<wxTextCtrl*>(child)) {
+                return Utf8Text(box->GetValue());
+            }
+        }
+        return std::string();
+    };
+    ModalDriver driver({
+        [&] {
+            for (wxWindow* window : wxTopLevelWindows) {
+                dialog = dynamic_cast<wxTextEntryDialog*>(window);
+                if (dialog != nullptr) {
+                    return dialog->IsActive();
+                }
+            }
+            return false;
+        },
+        [&] {
+            EXPECT_EQ(dialog->GetTitle(), "Go to Record");
+            bool prompted = false;
+            for (wxWindow* child : dialog->GetChildren()) {
+                prompted |= child->GetLabel() == "Go to record (1 - 1506):";
+            }
+            EXPECT_TRUE(prompted);
+            user_.Char('A', wxMOD_CONTROL);
+            user_.Char('7');
+            return true;
+        },
+        [&] { return typed() == "7"; },
+        [&] {
+            user_.Char(WXK_RETURN);
+            return true;
+        },
+    });
+    user_.Char(WXK_F5);
+    EXPECT_TRUE(WaitFor([&] { return driver.Done() && LabelText("lblRecNumber") == "7"; }, 9000));
+    EXPECT_EQ(BoxText(), "M10003");
+}
+
+TEST_F(FrmMainLookup, ADoubleClickOnTheRecordNumberAsksForTheRecord) {
+    Type("x", "X");
+    bool asked = false;
+    ModalDriver driver({[&] {
+        for (wxWindow* window : wxTopLevelWindows) {
+            auto* dialog = dynamic_cast<wxTextEntryDialog*>(window);
+            if (dialog != nullptr && dialog->IsModal()) {
+                asked = true;
+                dialog->EndModal(wxID_CANCEL);
+                return true;
+            }
+        }
+        return false;
+    }});
+    const wxWindow* label = Control("lblRecNumber");
+    user_.MouseMove(label->GetParent()->ClientToScreen(label->GetPosition() + wxPoint(5, 5)));
+    Settle();
+    user_.MouseDblClick();
+    EXPECT_TRUE(WaitFor([&] { return asked; }, 9000));
+    EXPECT_EQ(LabelText("lblRecNumber"), "1,505");
+}
+
+class FrmMainLayout : public MainWindowTest {};
+
+TEST_F(FrmMainLayout, TheCaptionShowsTheHomePageWithoutItsScheme) {
+    EXPECT_EQ(window_->GetTitle(), "Brevilexicon (www.brevilexicon.example)");
+}
+
+TEST_F(FrmMainLayout, TheStatusStripCountsTheEntriesAndIsElseEmpty) {
+    EXPECT_EQ(LabelText("lblRecCount"), "1,506 entries");
+    EXPECT_EQ(LabelText("lblRecNumber"), "");
+    EXPECT_EQ(LabelText("lblDescription"), "");
+}
+
+TEST_F(FrmMainLayout, TheStatusPanelsStandSideBySideInOneRow) {
+    const LayoutUnits units(*window_);
+    const auto px = [&](double value) { return units.Pixels(value); };
+    const wxSize inner = window_->GetClientSize();
+    const int title = Control("lblAppTitle")->GetSize().x;
+    const int labelTop = inner.y - px(18) - px(2) + px(2);
+    const wxRect number = Control("lblRecNumber")->GetRect();
+    EXPECT_EQ(number.x, px(1) + px(3));
+    EXPECT_EQ(number.y, labelTop);
+    EXPECT_EQ(number.width, title - px(6));
+    const wxRect hint = Control("lblDescription")->GetRect();
+    EXPECT_EQ(hint.x, px(1) + title + px(3) + px(3));
+    EXPECT_EQ(hint.y, labelTop);
+    const wxRect count = Control("lblRecCount")->GetRect();
+    const int countFrame = px(1) + title + px(3) + px(450) + px(3);
+    EXPECT_EQ(count.x, countFrame + px(3));
+    EXPECT_EQ(count.y, labelTop);
+    EXPECT_EQ(count.width, inner.x - countFrame - px(2) - px(6));
+}
+
+TEST_F(FrmMainLayout, TheColumnHeaderStandsOnTheListWithItsWidth) {
+    const wxRect header = Control("lblColHeaderBack")->GetRect();
+    const wxRect list = Control("lstAcronyms")->GetRect();
+    EXPECT_EQ(header.x, list.x);
+    EXPECT_EQ(header.width, list.width);
+    EXPECT_EQ(header.y + header.height, list.y);
+    EXPECT_TRUE(header.Contains(Control("picColHeader")->GetRect()));
+}
+
+TEST_F(FrmMainLayout, TheTitleImageIsCentredOnItsLabel) {
+    const wxRect label = Control("lblAppTitle")->GetRect();
+    const wxRect image = Control("imgAppTitle")->GetRect();
+    EXPECT_EQ(image.x, label.x + (label.width - image.width) / 2 + 1);
+    EXPECT_EQ(image.y, label.y + (label.height - image.height) / 2 + 1);
+    EXPECT_TRUE(label.Contains(image));
+}
+
+TEST_F(FrmMainLayout, NoTextIsCutOff) {
+    for (const char* name : {"lblInstruction", "lblRecCount"}) {
+        const auto* label = dynamic_cast<wxStaticText*>(Control(name));
+        EXPECT_LE(label->GetBestSize().y, label->GetSize().y) << name;
+        EXPECT_LE(label->GetTextExtent(label->GetLabelText()).x, label->GetSize().x) << name;
+    }
+}
+
+TEST_F(FrmMainLayout, TheListEndsBetweenTwoRows) {
+    EXPECT_EQ(window_->List().Window().GetClientSize().y % window_->List().RowHeight(), 0);
+}
+
+TEST_F(FrmMainLayout, ALargeCountIsGrouped) {
+    Start(NumberedRecords(12345));
+    EXPECT_EQ(LabelText("lblRecCount"), "12,345 entries");
+}
+
+struct MenuCase {
+    const char* name;
+    int id;
+    const char* menu;
+    const char* caption;  // with the access key's mark
+    const char* shortcut;
+};
+
+class MainMenu : public FrmMainLayout, public testing::WithParamInterface<MenuCase> {};
+
+TEST_P(MainMenu, HasTheItem) {
+    wxMenu* menu = nullptr;
+    const wxMenuItem* item = window_->GetMenuBar()->FindItem(GetParam().id, &menu);
+    ASSERT_NE(item, nullptr);
+    const wxString text = item->GetItemLabel();
+    EXPECT_EQ(text.BeforeFirst('\t'), GetParam().caption);
+    EXPECT_EQ(text.AfterFirst('\t'), GetParam().shortcut);
+    EXPECT_EQ(menu->GetTitle(), GetParam().menu);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Items, MainMenu,
+    testing::Values(MenuCase{"DatabaseInfo", kFileItem, "&File", "Database Info...", ""},
+                    MenuCase{"CheckData", kFileItem + 1, "&File", "Check Data Integrity...", ""},
+                    MenuCase{"Exit", kFileItem + 3, "&File", "E&xit                Alt+F4", ""},
+                    MenuCase{"Search", kSearchItem, "&Search", "Search Database...", "F3"},
+                    MenuCase{"Anagram", kSearchItem + 1, "&Search", "Anagrammatic Search...", ""},
+                    MenuCase{"GoToRow", kSearchItem + 3, "&Search", "Go to Row...", "F5"},
+                    MenuCase{"StayOnTop", kOptionsItem, "&Options", "Stay on Top", ""},
+                    MenuCase{"RunAtStartup", kOptionsItem + 2, "&Options", "Run at Startup", ""},
+                    MenuCase{"Help", kHelpItem, "&Help", "Help Contents", "F1"},
+                    MenuCase{"ReadMe", kHelpItem + 2, "&Help", "ReadMe", ""},
+                    MenuCase{"Smileys", kHelpItem + 3, "&Help", "Smiley Dictionary", ""},
+                    MenuCase{"Donate", kHelpItem + 5, "&Help", "Donate via PayPal...", ""},
+                    MenuCase{"About", kHelpItem + 6, "&Help", "About...", ""}),
+    CaseName());
+
+TEST_F(FrmMainLayout, TheMenusHaveTheirSeparators) {
+    const auto separatorAt = [&](std::size_t menu, std::size_t item) {
+        return window_->GetMenuBar()->GetMenu(menu)->FindItemByPosition(item)->IsSeparator();
+    };
+    EXPECT_TRUE(separatorAt(0, 2));
+    EXPECT_TRUE(separatorAt(1, 2));
+    EXPECT_TRUE(separatorAt(2, 1));
+    EXPECT_TRUE(separatorAt(3, 1));
+    EXPECT_TRUE(separatorAt(3, 4));
+}
+
+TEST_F(FrmMainLayout, ItemsOfLaterVersionsSaySo) {
+    for (const int id : {int{kFileItem}, kFileItem + 1, int{kSearchItem}, kSearchItem + 1,
+                         int{kOptionsItem}, kOptionsItem + 2, int{kHelpItem}, kHelpItem + 2,
+                         kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
+        wxCommandEvent command(wxEVT_MENU, id);
+        wxTEST_DIALOG(window_->ProcessWindowEvent(command), wxExpectModal<wxMessageDialog>(wxOK));
+    }
+}
+
+TEST_F(FrmMainLayout, ExitClosesTheWindow) {
+    frmMain* const window = window_;
+    window_ = nullptr;
+    wxCommandEvent command(wxEVT_MENU, kFileItem + 3);
+    window->ProcessWindowEvent(command);
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
+TEST_F(FrmMainLayout, ClosingUnloadsTheOtherWindows) {
+    auto* hidden = new wxFrame(nullptr, wxID_ANY, "loaded but hidden");
+    wxTopLevelWindowBase* const window = std::exchange(window_, nullptr);
+    window->Close();
+    EXPECT_TRUE(WaitFor([&] {
+        return wxTopLevelWindows.Find(hidden) == nullptr &&
+               wxTopLevelWindows.Find(window) == nullptr;
+    }));
+}
+
+}  // namespace
+}  // namespace brelex

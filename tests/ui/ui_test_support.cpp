@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "tests/ui/ui_test_support.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/stattext.h>
+#include <wx/stopwatch.h>
+#include <wx/textctrl.h>
+
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+bool WaitFor(const std::function<bool()>& condition, int patienceMs) {
+    const wxStopWatch watch;
+    do {
+        wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
+        wxTheApp->ProcessIdle();
+        if (condition()) {
+            return true;
+        }
+        wxMilliSleep(5);  // yielding alone would starve the toolkit's frame clock
+    } while (watch.Time() < patienceMs);
+    return condition();
+}
+
+void Settle(int ms) {
+    WaitFor([] { return false; }, ms);
+}
+
+ModalDriver::ModalDriver(std::vector<std::function<bool()>> steps) : steps_(std::move(steps)) {
+    constexpr int kStepMs = 50;
+    Start(kStepMs);
+}
+
+void ModalDriver::Notify() {
+    constexpr int kMostTicks = 160;
+    if (busy_ || Done()) {
+        return;
+    }
+    busy_ = true;
+    if (++ticks_ > kMostTicks) {
+        // Or else a failure would hang in the modal window for ever.
+        for (wxWindow* window : wxTopLevelWindows) {
+            auto* dialog = dynamic_cast<wxDialog*>(window);
+            if (dialog != nullptr && dialog->IsModal()) {
+                dialog->EndModal(wxID_CANCEL);
+            }
+        }
+    } else if (steps_[next_]()) {
+        ++next_;
+    }
+    busy_ = false;
+}
+
+void MainWindowTest::SetUp() {
+    Start(SampleEntries());
+}
+
+void MainWindowTest::TearDown() {
+    if (window_ != nullptr) {
+        window_->Destroy();
+        Settle();
+    }
+}
+
+void MainWindowTest::Start(const std::vector<std::string>& records,
+                           const std::string& commandLine) {
+    TearDown();
+    startUp_.reset();
+    folder_.Write("Acronyms.dat", DatabaseBytes(records));
+    startUp_ = std::make_unique<StartUp>();
+    window_ = startUp_->Run(
+        {messages_, picker_, files_, folder_.Text(), commandLine, [] { return 0.0F; }});
+    ASSERT_NE(window_, nullptr);
+    window_->Show();
+    window_->Raise();
+    // Without the focus no simulated key arrives.
+    ASSERT_TRUE(
+        WaitFor([this] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); }, 6000));
+    Settle(50);
+}
+
+wxWindow* MainWindowTest::Control(const char* name) const {
+    return wxWindow::FindWindowByName(name, window_);
+}
+
+wxTextCtrl& MainWindowTest::Box() const {
+    return *dynamic_cast<wxTextCtrl*>(Control("txtAbbrv"));
+}
+
+std::string MainWindowTest::BoxText() const {
+    return Utf8Text(Box().GetValue());
+}
+
+std::string MainWindowTest::LabelText(const char* name) const {
+    return Utf8Text(dynamic_cast<wxStaticText*>(Control(name))->GetLabelText());
+}
+
+std::string MainWindowTest::SelectedRecord() const {
+    const std::int32_t row = window_->List().SelectedRow();
+    return row < 0 ? std::string() : std::string(startUp_->Values().AcronymList->RowText(row));
+}
+
+void MainWindowTest::Type(const char* keys, const std::string& shown) {
+    for (const char* key = keys; *key != '\0'; ++key) {
+        user_.Char(*key);
+    }
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == shown; })) << BoxText();
+    Settle(30);
+}
+
+void MainWindowTest::SelectAllInBox() {
+    user_.Char('A', wxMOD_CONTROL);
+    EXPECT_TRUE(WaitFor([&] { return Utf8Text(Box().GetStringSelection()) == BoxText(); }));
+}
+
+std::vector<std::string> SampleEntries() {
+    std::vector<std::string> records = {"AB\tAddress Bus",
+                                        "AB\tAudio Bus",
+                                        "ABC\tAtanasoff-Berry Computer",
+                                        "R&D\tResearch and Development",
+                                        "XML\tExtensible Markup Language",
+                                        "XSS\tCross-Site Scripting"};
+    for (int i = 0; i < 1500; ++i) {
+        records.push_back("M" + std::to_string(10000 + i) + "\tMiddle entry");
+    }
+    return records;
+}
+
+}  // namespace brelex

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/testing.h>
+#include <wx/timer.h>
+#include <wx/uiaction.h>
+
+#include "app/start_up.h"
+#include "tests/support/fakes.h"
+#include "tests/support/test_files.h"
+#include "ui/frmMain.h"
+
+class wxTextCtrl;
+
+namespace brelex {
+
+/// Runs the event loop until `condition` holds; false if it does not within `patienceMs`.
+bool WaitFor(const std::function<bool()>& condition, int patienceMs = 3000);
+
+/// Runs the event loop for a while, for what must not happen.
+void Settle(int ms = 80);
+
+/// Drives a modal window: takes its steps in order, each as soon as the one before returned true.
+class ModalDriver final : public wxTimer {
+  public:
+    explicit ModalDriver(std::vector<std::function<bool()>> steps);
+
+    [[nodiscard]] bool Done() const { return next_ == steps_.size(); }
+
+    void Notify() override;
+
+  private:
+    std::vector<std::function<bool()>> steps_;
+    std::size_t next_ = 0;
+    int ticks_ = 0;
+    bool busy_ = false;
+};
+
+/// The started program over a small database of a test's own, its main window shown and active.
+class MainWindowTest : public testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Starts the program over `records` and waits until its main window can be typed into.
+    void Start(const std::vector<std::string>& records, const std::string& commandLine = "");
+
+    [[nodiscard]] wxWindow* Control(const char* name) const;
+    [[nodiscard]] wxTextCtrl& Box() const;
+    [[nodiscard]] std::string BoxText() const;
+    [[nodiscard]] std::string LabelText(const char* name) const;
+
+    /// The record text of the selected row; empty if there is none.
+    [[nodiscard]] std::string SelectedRecord() const;
+
+    /// Types with real key events and waits until the box shows `shown`.
+    void Type(const char* keys, const std::string& shown);
+
+    void SelectAllInBox();
+
+    TestFolder folder_;
+    FakeMessageSink messages_;
+    FakeFolderPicker picker_;
+    FakeTemporaryFiles files_{folder_.Text()};
+    std::unique_ptr<StartUp> startUp_;
+    frmMain* window_ = nullptr;
+    wxUIActionSimulator user_;
+};
+
+/// Entries for tests that need no special ones.
+[[nodiscard]] std::vector<std::string> SampleEntries();
+
+}  // namespace brelex

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+
+namespace {
+
+// Runs the tests inside the event loop, as simulated events need a running one.
+class TestApp final : public wxApp {
+  public:
+    bool OnInit() override {
+        SetExitOnFrameDelete(false);
+        CallAfter([this] {
+            result_ = RUN_ALL_TESTS();
+            ExitMainLoop();
+        });
+        return true;
+    }
+
+    int OnRun() override {
+        wxApp::OnRun();
+        return result_;
+    }
+
+    // A failed assertion of the toolkit is a failed test, not a dialog.
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* function,
+                         const wxChar* condition, const wxChar* message) override {
+        ADD_FAILURE() << wxString(file) << ":" << line << " " << wxString(function) << " "
+                      << wxString(condition) << " " << wxString(message);
+    }
+
+  private:
+    int result_ = 1;
+};
+
+}  // namespace
+
+wxIMPLEMENT_APP_NO_MAIN(TestApp);
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    constexpr int kSkipped = 77;  // how ctest is told that there is no display
+    if (!wxEntryStart(argc, argv)) {
+        return kSkipped;
+    }
+    wxTheApp->CallOnInit();
+    const int result = wxTheApp->OnRun();
+    wxTheApp->OnExit();
+    wxEntryCleanup();
+    return result;
+}
