@@ -1,0 +1,44 @@
+# SPDX-License-Identifier: MIT
+# Shared by the scripts; to be sourced.
+
+step() { printf '\n== %s\n' "$*"; }
+fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "needs root or sudo for: $*"
+    fi
+}
+
+# need_packages NAME...: installs the Debian packages that are missing.
+need_packages() {
+    local missing=() package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} = 0 ] && return
+    command -v apt-get >/dev/null || fail "install these first: ${missing[*]}"
+    step "installing ${missing[*]}"
+    as_root apt-get -q -o APT::Architectures="$(dpkg --print-architecture)" update
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install \
+        "${missing[@]}" || fail "could not install ${missing[*]}"
+}
+
+build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev zlib1g-dev
+                libcli11-dev ca-certificates)
+display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
+                  librsvg2-common util-linux)
+
+# configure_and_build PRESET [TARGET...]
+configure_and_build() {
+    local preset=$1; shift
+    step "building ($preset)"
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" ||
+        fail "configuring $preset failed"
+    cmake --build --preset "$preset" ${1:+--target "$@"} || fail "building $preset failed"
+}

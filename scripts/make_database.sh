@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# make_database.sh FOLDER: makes Acronyms.dat in the folder of the built programs from the
+# entries in data/ and the V.E.R.A. list of Debian's package dict-vera. The package is fetched by
+# name and only unpacked. Without it the database is made from data/ alone.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/common.sh
+
+folder=${1:?folder of the built programs}
+brelex=$folder/brelex
+output=$folder/Acronyms.dat
+vera=build/data/vera
+
+find_vera() {
+    local index=/usr/share/dictd/vera.index
+    if [ -f "$index" ]; then
+        echo "$index"
+        return
+    fi
+    if [ ! -f "$vera/vera.index" ]; then
+        rm -rf "$vera.part"
+        mkdir -p "$vera.part/package"
+        # What apt says goes to the error output: the path is all that this function prints.
+        (cd "$vera.part" && apt-get -q download dict-vera && dpkg-deb -x dict-vera_*.deb package) \
+            >&2 || return 1
+        mv "$vera.part"/package/usr/share/dictd/vera.* "$vera.part/"
+        cp "$vera.part/package/usr/share/doc/dict-vera/copyright" "$vera.part/"
+        rm -rf "$vera" "$vera.part/package" "$vera.part"/*.deb
+        mv "$vera.part" "$vera"
+    fi
+    echo "$vera/vera.index"
+}
+
+inputs=(data/*.tsv)
+if index=$(find_vera); then
+    inputs+=("$index")
+else
+    echo "make_database: the package dict-vera cannot be had; using data/*.tsv alone" >&2
+fi
+
+newest=$(ls -t "${inputs[@]}" data/search-words.txt "$brelex" | head -1)
+stamp=$folder/.database-inputs
+if [ -f "$output" ] && [ ! "$newest" -nt "$output" ] &&
+    [ "$(cat "$stamp" 2>/dev/null)" = "${inputs[*]}" ]; then
+    exit 0
+fi
+step "making the database"
+"$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" "${inputs[@]}" ||
+    fail "the database could not be made"
+echo "${inputs[*]}" > "$stamp"

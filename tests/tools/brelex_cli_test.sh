@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# brelex_cli_test.sh BRELEX: the command line of brelex, as a script meets it.
+set -u
+brelex=$1
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+failures=0
+
+# expect CODE NAME COMMAND...: runs it, keeping its output in $folder/out and $folder/err.
+expect() {
+    local code=$1 name=$2; shift 2
+    "$@" >"$folder/out" 2>"$folder/err" </dev/null
+    local got=$?
+    if [ $got != "$code" ]; then
+        echo "FAILED: $name: exit $got, not $code"; cat "$folder/out" "$folder/err"
+        failures=$((failures + 1))
+    fi
+}
+contains() {
+    if ! grep -qF -- "$2" "$folder/$1"; then
+        echo "FAILED: no \"$2\" in the $1put:"; cat "$folder/$1"
+        failures=$((failures + 1))
+    fi
+}
+
+cp "$brelex" "$folder/brelex"
+brelex=$folder/brelex
+printf 'RAM\tRandom Access Memory\nABC\tAlpha\n' > "$folder/list.tsv"
+
+expect 0 "help" "$brelex" --help;                 contains out lookup
+for command in build info dump check lookup; do
+    expect 0 "help of $command" "$brelex" $command --help
+done
+expect 2 "no command" "$brelex"
+expect 2 "unknown command" "$brelex" frobnicate
+expect 2 "unknown option" "$brelex" info --frobnicate
+expect 2 "look-up of nothing" "$brelex" lookup
+expect 2 "no database beside the program" "$brelex" info;   contains err "cannot read"
+expect 2 "build without input" "$brelex" build
+expect 2 "build with a bad version" "$brelex" build --version x -o "$folder/x.dat" "$folder/list.tsv"
+contains err "not of the form N.N"
+expect 0 "build" "$brelex" build --version 2.5 --date 2005-02-03 --search-list "net, disk" \
+    -o "$folder/ACRONYMS.dat" "$folder/list.tsv"
+contains out "2 records"
+# Without -d: the file beside the program, whatever its name's case.
+expect 0 "info" "$brelex" info
+contains out "Version: 2.5"; contains out "ReleaseDate: 2005-02-03"; contains out "SearchListText: net, disk"
+expect 0 "dump" "$brelex" dump;                   contains out "RAM	Random Access Memory"
+expect 0 "check" "$brelex" check
+expect 0 "look-up" "$brelex" lookup ra;           contains out "2	RAM	Random Access Memory"
+expect 0 "-d before the command" "$brelex" -d "$folder/ACRONYMS.dat" lookup abc
+contains out "1	ABC	Alpha"
+expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'
+expect 2 "look-up in a file that is no database" "$brelex" -d "$folder/list.tsv" lookup ra
+contains err "Cannot decode a corrupt database. Loading was aborted."
+printf 'r\n' | "$brelex" lookup - | grep -q RAM || { echo "FAILED: standard input"; failures=$((failures + 1)); }
+[ $failures = 0 ] && echo "1 passed, 0 failed"
+exit $failures
