@@ -24,10 +24,12 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
         return nullptr;
     }
     auto* splash = new frmSplash(values_.info);
-    splash->ShowAndPaint();
+    splash->Show();
     values_.AcronymList = &store_;
     values_.AppVersion = AppVersionOf(values_.info);
+    // Made while the desktop brings the splash window up; the loading waits until that is seen.
     auto* main = new frmMain(values_, store_);
+    splash->PaintAtOnce();
     const MainSurroundings mainSurroundings{surroundings.files, surroundings.messages,
                                             surroundings.secondsSinceMidnight,
                                             surroundings.commandLine};

@@ -121,7 +121,7 @@ BuiltDatabase BuildDatabase(DatabaseContent content) {
     std::vector<std::string>& records = content.records;
     std::sort(records.begin(), records.end(), [](const std::string& a, const std::string& b) {
         const auto order = CompareTexts(a, b);
-        return order != 0 ? order < 0 : a < b;
+        return std::is_eq(order) ? a < b : std::is_lt(order);
     });
     const auto unique = std::unique(records.begin(), records.end());
     BuiltDatabase built;

@@ -70,7 +70,7 @@ void CheckRecords(const RecordStore& store, std::vector<std::string>& lines) {
         if (text.find('\t') == std::string_view::npos) {
             malformed.Add(RecordName(row) + " has no TAB");
         }
-        if (row > 0 && CompareTexts(store.RowText(row - 1), text) > 0) {
+        if (row > 0 && std::is_gt(CompareTexts(store.RowText(row - 1), text))) {
             disorder.Add(RecordName(row) +
                          " stands behind a greater one: " + Utf8OfBytes(GetAbbreviation(text)));
         }

@@ -10,7 +10,7 @@ namespace brelex {
 
 // One line holds eight bytes, the first of which its comment names.
 // clang-format off
-constinit const std::array<ByteWeight, 256> kByteWeights = {{
+constexpr std::array<ByteWeight, 256> kByteWeights = {{
     {0, 0, 0, 0}, {1, 0, 0, 0}, {2, 0, 0, 0}, {3, 0, 0, 0}, {4, 0, 0, 0}, {5, 0, 0, 0}, {6, 0, 0, 0}, {7, 0, 0, 0},  // 00
     {8, 0, 0, 0}, {34, 0, 0, 0}, {35, 0, 0, 0}, {36, 0, 0, 0}, {37, 0, 0, 0}, {38, 0, 0, 0}, {9, 0, 0, 0}, {10, 0, 0, 0},  // 08
     {11, 0, 0, 0}, {12, 0, 0, 0}, {13, 0, 0, 0}, {14, 0, 0, 0}, {15, 0, 0, 0}, {16, 0, 0, 0}, {17, 0, 0, 0}, {18, 0, 0, 0},  // 10
@@ -46,6 +46,14 @@ constinit const std::array<ByteWeight, 256> kByteWeights = {{
 }};
 
 // clang-format on
+
+constexpr std::array<std::uint8_t, 256> kPlainWeights = [] {
+    std::array<std::uint8_t, 256> weights{};
+    for (std::size_t i = 0; i < weights.size(); ++i) {
+        weights[i] = kByteWeights[i].IsPlain() ? kByteWeights[i].primary : std::uint8_t{0};
+    }
+    return weights;
+}();
 
 namespace {
 
@@ -119,13 +127,13 @@ std::weak_ordering CompareTexts(std::string_view left, std::string_view right) {
         if (left[i] == right[i]) {
             continue;  // the same elements on both sides decide nothing
         }
-        const ByteWeight& a = WeightOf(left[i]);
-        const ByteWeight& b = WeightOf(right[i]);
-        if (!a.IsPlain() || !b.IsPlain()) {
+        const std::uint8_t a = PlainWeightOf(left[i]);
+        const std::uint8_t b = PlainWeightOf(right[i]);
+        if (a == 0 || b == 0) {
             return CompareElements(left.substr(i), right.substr(i));
         }
-        if (a.primary != b.primary) {
-            return a.primary <=> b.primary;
+        if (a != b) {
+            return a <=> b;
         }
     }
     return CompareElements(left.substr(common), right.substr(common));

@@ -33,6 +33,13 @@ extern const std::array<ByteWeight, 256> kByteWeights;
     return kByteWeights[static_cast<unsigned char>(byte)];
 }
 
+/// The primary weight of a plain byte, 0 for any other. Plain bytes are equal if these are.
+extern const std::array<std::uint8_t, 256> kPlainWeights;
+
+[[nodiscard]] inline std::uint8_t PlainWeightOf(char byte) {
+    return kPlainWeights[static_cast<unsigned char>(byte)];
+}
+
 /// Compares two texts of Windows-1252 bytes: first the primary weights of all elements, a text
 /// that is the beginning of another being less; at a tie the accents from left to right; at a tie
 /// the residues.

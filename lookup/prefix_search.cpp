@@ -2,6 +2,8 @@
 #include "lookup/prefix_search.h"
 
 #include <algorithm>
+#include <compare>
+#include <cstddef>
 #include <optional>
 
 #include "database/string_order.h"
@@ -10,66 +12,91 @@ namespace brelex {
 
 namespace {
 
-std::string_view CutRow(const RowList& rows, std::int32_t row, std::size_t bytes) {
-    return rows.RowText(row).substr(0, bytes);
+struct Comparison {
+    std::weak_ordering order;  // of the row, cut to the length of the text, to the text
+    std::size_t same;          // so many first bytes of both are plain and equal
+};
+
+// Compares a row with a text whose first `from` bytes it is known to begin with.
+Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view text,
+                      std::size_t from) {
+    const std::string_view cut = rows.RowText(row).substr(0, text.size());
+    std::size_t i = from;
+    for (; i < cut.size(); ++i) {
+        const std::uint8_t ofRow = PlainWeightOf(cut[i]);
+        const std::uint8_t ofText = PlainWeightOf(text[i]);
+        if (ofRow == 0 || ofText == 0) {
+            return {CompareTexts(cut.substr(i), text.substr(i)), i};
+        }
+        if (ofRow != ofText) {
+            return {ofRow <=> ofText, i};
+        }
+    }
+    return {i == text.size() ? std::weak_ordering::equivalent
+                             : CompareTexts(cut.substr(i), text.substr(i)),
+            i};
 }
 
-bool BeginsWith(const RowList& rows, std::int32_t row, std::string_view probe) {
-    return EqualIgnoringCase(CutRow(rows, row, probe.size()), probe);
+// The first row that begins with the text, among rows whose beginnings of its length ascend. What
+// both ends of the range being searched have in common with the text, all rows between have too,
+// and it is not compared again.
+std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view text) {
+    std::int32_t low = 0;
+    std::int32_t count = rows.RowCount();
+    std::size_t sameAtLow = 0;
+    std::size_t sameAtEnd = 0;
+    bool endBegins = false;  // whether the row behind the range begins with the text
+    while (count > 0) {
+        const std::int32_t half = count / 2;
+        const auto [order, same] =
+            CompareRow(rows, low + half, text, std::min(sameAtLow, sameAtEnd));
+        if (std::is_lt(order)) {
+            sameAtLow = same;
+            low += half + 1;
+            count -= half + 1;
+        } else {
+            sameAtEnd = same;
+            endBegins = std::is_eq(order);
+            count = half;
+        }
+    }
+    return endBegins ? std::optional(low) : std::nullopt;
 }
 
-// Any row that begins with `probe`.
-std::optional<std::int32_t> FindAnyByPrefix(const RowList& rows, std::string_view probe) {
+// The row that halving and then stepping back one by one gives. Rows with accents in their
+// beginnings can be out of order there, so that the way taken decides which row is found.
+std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view text) {
     std::int32_t low = 0;
     std::int32_t high = rows.RowCount() - 1;
     while (low <= high) {
-        const std::int32_t mid = low + (high - low) / 2;
-        const auto order = CompareTexts(probe, CutRow(rows, mid, probe.size()));
-        if (order < 0) {
+        std::int32_t mid = low + (high - low) / 2;
+        const auto order = CompareRow(rows, mid, text, 0).order;
+        if (std::is_gt(order)) {
             high = mid - 1;
-        } else if (order > 0) {
+        } else if (std::is_lt(order)) {
             low = mid + 1;
         } else {
+            while (mid > 0 && std::is_eq(CompareRow(rows, mid - 1, text, 0).order)) {
+                --mid;
+            }
             return mid;
         }
     }
     return std::nullopt;
 }
 
-// The first row of the run of rows around `row` that begin with `probe`, as stepping back one by
-// one finds it.
-std::int32_t WalkBack(const RowList& rows, std::int32_t row, std::string_view probe) {
-    if (probe.size() > rows.AscendingPrefixBytes()) {
-        while (row > 0 && BeginsWith(rows, row - 1, probe)) {
-            --row;
-        }
-        return row;
-    }
-    // Here the run has no gap, so growing strides find its beginning as well: at a million
-    // entries a run can be tens of thousands of rows long.
-    std::int32_t inside = row;
-    std::int32_t outside = row;
-    for (std::int32_t stride = 1;; stride *= 2) {
-        outside = stride > inside ? -1 : inside - stride;
-        if (outside < 0 || !BeginsWith(rows, outside, probe)) {
-            break;
-        }
-        inside = outside;
-    }
-    while (inside - outside > 1) {
-        const std::int32_t mid = outside + (inside - outside) / 2;
-        (BeginsWith(rows, mid, probe) ? inside : outside) = mid;
-    }
-    return inside;
-}
-
 }  // namespace
 
 std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text) {
+    const std::size_t ascending = rows.AscendingPrefixBytes();
     std::string_view probe = text.substr(0, text.find('\0'));
     for (; !probe.empty(); probe.remove_suffix(1)) {
-        if (const auto row = FindAnyByPrefix(rows, probe)) {
-            return WalkBack(rows, *row, probe);
+        // In order, both ways give the same row; this one takes no step for each row of a run,
+        // which at a million entries can be tens of thousands long.
+        const auto row =
+            probe.size() <= ascending ? FindInOrder(rows, probe) : FindStepByStep(rows, probe);
+        if (row) {
+            return *row;
         }
     }
     return 0;

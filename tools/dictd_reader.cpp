@@ -68,8 +68,9 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
     std::string_view rest = text;
     std::vector<std::string> spellings;
     while (auto quoted = TakeLastQuoted(rest)) {
-        spellings.insert(spellings.begin(), std::move(*quoted));
+        spellings.push_back(std::move(*quoted));
     }
+    std::reverse(spellings.begin(), spellings.end());
     const bool spellsHeadword =
         !spellings.empty() &&
         std::all_of(spellings.begin(), spellings.end(), [&](const std::string& spelling) {

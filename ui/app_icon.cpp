@@ -11,7 +11,7 @@ wxBitmapBundle AppIcon(int size) {
 
 wxIconBundle AppIcons() {
     wxIconBundle icons;
-    for (const int size : {16, 24, 32, 48, 64, 128}) {
+    for (const int size : {16, 32, 48, 64}) {
         wxIcon icon;
         icon.CopyFromBitmap(AppIcon(size).GetBitmap(wxSize(size, size)));
         icons.AddIcon(icon);

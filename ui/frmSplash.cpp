@@ -19,7 +19,6 @@ frmSplash::frmSplash(const AppInfo& info)
     : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
               wxFRAME_NO_TASKBAR | wxBORDER_NONE) {
     SetName("frmSplash");
-    SetIcons(AppIcons());
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
 
@@ -75,8 +74,7 @@ void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
     dc.DrawRectangle(GetClientRect());
 }
 
-void frmSplash::ShowAndPaint() {
-    Show();
+void frmSplash::PaintAtOnce() {
     PaintNow(*this);
     lastPaintMs_ = wxGetUTCTimeMillis();
 }
@@ -84,28 +82,25 @@ void frmSplash::ShowAndPaint() {
 void frmSplash::SetStatusText(std::string_view text) {
     lblMessage->SetLabelText(WxText(text));
     PlacePercent();
-    RepaintIfDue(true);
 }
 
+// Setting a label and painting it cost more than loading a hundredth of the entries does. More
+// pictures a second than a screen shows would only make people wait.
 void frmSplash::SetProgress(int percent) {
-    lblPercent->SetLabelText(wxString::Format("%d%%", percent));
-    RepaintIfDue(false);
+    constexpr long kFrameMs = 40;
+    constexpr int kDone = 100;
+    const bool due = wxGetUTCTimeMillis() - lastPaintMs_ >= kFrameMs;
+    if (due || percent == kDone) {
+        lblPercent->SetLabelText(wxString::Format("%d%%", percent));
+    }
+    if (due) {
+        PaintAtOnce();
+    }
 }
 
 void frmSplash::PlacePercent() {
     lblMessage->SetSize(lblMessage->GetBestSize());
     lblPercent->SetPosition(lblMessage->GetPosition() + wxPoint(lblMessage->GetSize().x, 0));
-}
-
-// Painting costs more than loading a hundredth of the entries does. More pictures a second than a
-// screen shows would only make people wait.
-void frmSplash::RepaintIfDue(bool force) {
-    constexpr long kFrameMs = 40;
-    const wxLongLong now = wxGetUTCTimeMillis();
-    if (force || now - lastPaintMs_ >= kFrameMs) {
-        PaintNow(*this);
-        lastPaintMs_ = wxGetUTCTimeMillis();
-    }
 }
 
 }  // namespace brelex

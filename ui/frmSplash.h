@@ -16,8 +16,8 @@ class frmSplash final : public wxFrame, public ProgressSink {
   public:
     explicit frmSplash(const AppInfo& info);
 
-    /// Shows the window and has it painted at once.
-    void ShowAndPaint();
+    /// Has the window, which is shown, painted before this returns.
+    void PaintAtOnce();
 
     void SetStatusText(std::string_view text) override;
     void SetProgress(int percent) override;
@@ -28,7 +28,6 @@ class frmSplash final : public wxFrame, public ProgressSink {
     wxStaticText* AddLabel(const wxString& name, const wxString& text);
     void OnPaint(wxPaintEvent& event);
     void PlacePercent();
-    void RepaintIfDue(bool force);
 
     wxStaticText* lblMessage = nullptr;
     wxStaticText* lblPercent = nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/title_image.h"
 
+#include <algorithm>
+
 #include <wx/dcgraph.h>
 #include <wx/dcmemory.h>
 #include <wx/image.h>
@@ -14,20 +16,17 @@ namespace brelex {
 
 namespace {
 
-// The largest bold font in which the name fits into `size`.
+// A bold font in which the name fills `size` as far as it goes. Widths grow with the point size.
 wxFont FittingFont(const wxWindow& window, const wxSize& size) {
     wxFont font = window.GetFont().Bold();
-    wxFont larger = font;
-    while (true) {
-        larger.SetFractionalPointSize(larger.GetFractionalPointSize() + 0.5);
-        int width = 0;
-        int height = 0;
-        window.GetTextExtent(kAppTitle, &width, &height, nullptr, nullptr, &larger);
-        if (width > size.x || height > size.y) {
-            return font;
-        }
-        font = larger;
-    }
+    int width = 0;
+    int height = 0;
+    window.GetTextExtent(kAppTitle, &width, &height, nullptr, nullptr, &font);
+    const double scale = std::min(static_cast<double>(size.x) / std::max(width, 1),
+                                  static_cast<double>(size.y) / std::max(height, 1));
+    constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
+    font.SetFractionalPointSize(font.GetFractionalPointSize() * scale * kMargin);
+    return font;
 }
 
 }  // namespace

@@ -73,10 +73,9 @@ TEST(CheckDatabase, EachWrongStatisticIsNamed) {
 
 TEST(CheckDatabase, BeginningsThatAccentsHideAreNamed) {
     // In order as wholes, but cut to one byte E-acute stands before E.
-    std::vector<std::string> records = {
-        "A\tx",
-        "\xC9"
-        "a\tx"};
+    std::vector<std::string> records = {"A\tx",
+                                        "\xC9"
+                                        "a\tx"};
     for (const char* c : {"b", "c", "d", "f", "g", "h"}) {
         records.push_back(std::string("E") + c + "\tx");
     }

@@ -19,8 +19,8 @@ struct OrderCase {
 class CompareTextsTest : public testing::TestWithParam<OrderCase> {};
 
 TEST_P(CompareTextsTest, OneStandsBeforeTheOther) {
-    EXPECT_TRUE(CompareTexts(GetParam().less, GetParam().greater) < 0);
-    EXPECT_TRUE(CompareTexts(GetParam().greater, GetParam().less) > 0);
+    EXPECT_TRUE(std::is_lt(CompareTexts(GetParam().less, GetParam().greater)));
+    EXPECT_TRUE(std::is_gt(CompareTexts(GetParam().greater, GetParam().less)));
     EXPECT_FALSE(EqualIgnoringCase(GetParam().less, GetParam().greater));
 }
 
@@ -84,9 +84,11 @@ TEST(CompareTexts, IsConsistentForAllPairsOfBytes) {
         for (int j = 1; j < 256; ++j) {
             const std::string a(1, static_cast<char>(i));
             const std::string b(1, static_cast<char>(j));
-            EXPECT_EQ(CompareTexts(a, b) < 0, CompareTexts(b, a) > 0) << i << " " << j;
+            EXPECT_EQ(std::is_lt(CompareTexts(a, b)), std::is_gt(CompareTexts(b, a)))
+                << i << " " << j;
             // Behind the same text nothing changes.
-            EXPECT_EQ(CompareTexts("Q" + a, "q" + b) < 0, CompareTexts(a, b) < 0) << i << " " << j;
+            EXPECT_EQ(std::is_lt(CompareTexts("Q" + a, "q" + b)), std::is_lt(CompareTexts(a, b)))
+                << i << " " << j;
         }
     }
 }

@@ -124,6 +124,7 @@ TEST_F(LookupBoxTest, TextOutsideTheCodePageMatchesNothing) {
 
 TEST_F(LookupBoxTest, RecordNumbersAreGrouped) {
     std::vector<std::string> many;
+    many.reserve(1500);
     for (int i = 0; i < 1500; ++i) {
         many.push_back("A" + std::to_string(10000 + i) + "\tx");
     }

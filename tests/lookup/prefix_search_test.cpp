@@ -58,25 +58,34 @@ TEST(FindFirstByPrefix, OneRowIsFoundOrFallenBackTo) {
     EXPECT_EQ(FindFirstByPrefix(rows, "C"), 0);
 }
 
+bool Begins(const RowList& rows, std::int32_t row, std::string_view probe) {
+    return EqualIgnoringCase(rows.RowText(row).substr(0, probe.size()), probe);
+}
+
+// Any row that begins with the probe, by halving; -1 if that meets none.
+std::int32_t Halving(const RowList& rows, std::string_view probe) {
+    std::int32_t low = 0;
+    std::int32_t high = rows.RowCount() - 1;
+    while (low <= high) {
+        const std::int32_t mid = (low + high) / 2;
+        const auto order = CompareTexts(probe, rows.RowText(mid).substr(0, probe.size()));
+        if (std::is_eq(order)) {
+            return mid;
+        }
+        std::is_lt(order) ? high = mid - 1 : low = mid + 1;
+    }
+    return -1;
+}
+
 // The search as it is defined, with every step back taken singly.
 std::int32_t StepByStep(const RowList& rows, std::string_view text) {
     for (std::string_view probe = text; !probe.empty(); probe.remove_suffix(1)) {
-        std::int32_t low = 0;
-        std::int32_t high = rows.RowCount() - 1;
-        while (low <= high) {
-            std::int32_t mid = (low + high) / 2;
-            const auto order = CompareTexts(probe, rows.RowText(mid).substr(0, probe.size()));
-            if (order < 0) {
-                high = mid - 1;
-            } else if (order > 0) {
-                low = mid + 1;
-            } else {
-                while (mid > 0 &&
-                       EqualIgnoringCase(rows.RowText(mid - 1).substr(0, probe.size()), probe)) {
-                    --mid;
-                }
-                return mid;
+        std::int32_t row = Halving(rows, probe);
+        if (row >= 0) {
+            while (row > 0 && Begins(rows, row - 1, probe)) {
+                --row;
             }
+            return row;
         }
     }
     return 0;
@@ -92,8 +101,9 @@ void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view let
         }
         records.push_back(text + "\tx");
     }
-    std::sort(records.begin(), records.end(),
-              [](const std::string& a, const std::string& b) { return CompareTexts(a, b) < 0; });
+    std::sort(records.begin(), records.end(), [](const std::string& a, const std::string& b) {
+        return std::is_lt(CompareTexts(a, b));
+    });
     std::string block;
     for (const std::string& record : records) {
         block += record;

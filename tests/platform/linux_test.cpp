@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 // Sets an environment variable, or unsets it, until the end of the test.
 class Environment {
   public:
-    Environment(const char* name, std::optional<std::string> value) : name_(name) {
+    Environment(const char* name, const std::optional<std::string>& value) : name_(name) {
         const char* old = std::getenv(name);
         if (old != nullptr) {
             old_ = old;

@@ -67,9 +67,14 @@ std::string Incompressible(std::size_t length) {
 
 std::vector<std::string> NumberedRecords(int count) {
     std::vector<std::string> records;
+    records.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         const std::string digits = std::to_string(100000 + i);
-        records.push_back("A" + digits + "\tEntry number " + digits);
+        std::string record = "A";
+        record += digits;
+        record += "\tEntry number ";
+        record += digits;
+        records.push_back(std::move(record));
     }
     return records;
 }

@@ -155,7 +155,8 @@ class FrmSplashTest : public testing::Test {
         info_.copyright = "Copyright & more";
         info_.homePage = "https://www.example.org";
         splash_ = new frmSplash(info_);
-        splash_->ShowAndPaint();
+        splash_->Show();
+        splash_->PaintAtOnce();
     }
 
     void TearDown() override {
@@ -188,6 +189,7 @@ TEST_F(FrmSplashTest, ShowsWhatTheProgramIs) {
 TEST_F(FrmSplashTest, ThePercentageStartsRightBehindTheMessage) {
     ProgressSink& progress = *splash_;
     progress.SetStatusText("Loading database (1,234 records). Please, wait...");
+    wxMilliSleep(50);
     progress.SetProgress(42);
     EXPECT_EQ(Text("lblMessage"), "Loading database (1,234 records). Please, wait...");
     EXPECT_EQ(Text("lblPercent"), "42%");
@@ -198,6 +200,12 @@ TEST_F(FrmSplashTest, ThePercentageStartsRightBehindTheMessage) {
     EXPECT_TRUE(splash_->GetClientRect().Contains(percent))
         << percent.x << " " << percent.y << " " << percent.width << " " << percent.height << " in "
         << splash_->GetClientSize().x << " " << splash_->GetClientSize().y;
+}
+
+TEST_F(FrmSplashTest, TheLastPercentageIsAlwaysShown) {
+    splash_->SetProgress(99);
+    splash_->SetProgress(100);
+    EXPECT_EQ(Text("lblPercent"), "100%");
 }
 
 }  // namespace

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace brelex {
+
+/// The bytes of a database file of `count` generated entries, like real ones in the lengths of
+/// their parts and in how often abbreviations repeat. The same count gives the same file.
+[[nodiscard]] std::string GeneratedDatabase(std::int64_t count);
+
+}  // namespace brelex
