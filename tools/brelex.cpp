@@ -20,7 +20,8 @@ std::string DatabaseBesideProgram() {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+// What is thrown here beyond the parser's errors is "out of memory".
+int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
     CLI::App app("Looks abbreviations up and makes databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);
     app.require_subcommand(1);

@@ -94,12 +94,12 @@ bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out
 
 }  // namespace
 
-int RunInfo(const std::string& path, std::ostream& out, std::ostream& err) {
-    OpenDatabase database;
-    if (const int failure = Load(path, database, err); failure != kFound) {
+int RunInfo(const std::string& database, std::ostream& out, std::ostream& err) {
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err); failure != kFound) {
         return failure;
     }
-    const DatabaseHeader& header = database.header;
+    const DatabaseHeader& header = opened.header;
     out << "Version: " << VersionText(header.Version) << "\n"
         << "ReleaseDate: " << ReleaseDateText(header.ReleaseDate) << "\n"
         << "MaxAbbrvLength: " << header.MaxAbbrvLength << "\n"
@@ -120,46 +120,46 @@ int RunInfo(const std::string& path, std::ostream& out, std::ostream& err) {
     return kFound;
 }
 
-int RunDump(const std::string& path, std::ostream& out, std::ostream& err) {
-    OpenDatabase database;
-    if (const int failure = Load(path, database, err); failure != kFound) {
+int RunDump(const std::string& database, std::ostream& out, std::ostream& err) {
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err); failure != kFound) {
         return failure;
     }
-    for (std::int32_t row = 0; row < database.store.RowCount(); ++row) {
-        out << Utf8OfBytes(database.store.RowText(row)) << "\n";
+    for (std::int32_t row = 0; row < opened.store.RowCount(); ++row) {
+        out << Utf8OfBytes(opened.store.RowText(row)) << "\n";
     }
-    return database.store.RowCount() > 0 ? kFound : kNothingFound;
+    return opened.store.RowCount() > 0 ? kFound : kNothingFound;
 }
 
-int RunCheck(const std::string& path, std::ostream& out, std::ostream& err) {
-    OpenDatabase database;
-    if (const int failure = Load(path, database, err, kNothingFound); failure != kFound) {
+int RunCheck(const std::string& database, std::ostream& out, std::ostream& err) {
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err, kNothingFound); failure != kFound) {
         return failure;
     }
-    const auto findings = CheckDatabase(database.header, database.store, FindFirstByPrefix);
+    const auto findings = CheckDatabase(opened.header, opened.store, FindFirstByPrefix);
     for (const std::string& finding : findings) {
         out << finding << "\n";
     }
     if (!findings.empty()) {
         return kNothingFound;
     }
-    out << path << ": " << database.store.RowCount() << " records, nothing wrong\n";
+    out << database << ": " << opened.store.RowCount() << " records, nothing wrong\n";
     return kFound;
 }
 
-int RunLookup(const std::string& path, const std::vector<std::string>& texts, std::istream& in,
+int RunLookup(const std::string& database, const std::vector<std::string>& texts, std::istream& in,
               std::ostream& out, std::ostream& err) {
-    OpenDatabase database;
-    if (const int failure = Load(path, database, err); failure != kFound) {
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err); failure != kFound) {
         return failure;
     }
-    if (database.store.RowCount() == 0) {
+    if (opened.store.RowCount() == 0) {
         return kNothingFound;
     }
     bool found = false;
     for (const std::string& text : texts) {
         if (text != "-") {
-            found |= PrintLookup(database.store, text, out);
+            found |= PrintLookup(opened.store, text, out);
             continue;
         }
         std::string line;
@@ -167,7 +167,7 @@ int RunLookup(const std::string& path, const std::vector<std::string>& texts, st
             if (line.ends_with('\r')) {
                 line.pop_back();
             }
-            found |= PrintLookup(database.store, line, out);
+            found |= PrintLookup(opened.store, line, out);
         }
     }
     return found ? kFound : kNothingFound;

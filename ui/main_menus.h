@@ -7,13 +7,11 @@ namespace brelex {
 
 /// Identifiers of the main window's menu items: the menu's first one plus the item's index
 /// (0-based, separators counted).
-enum MenuId {
-    kFileItem = wxID_HIGHEST + 1,
-    kSearchItem = kFileItem + 10,
-    kOptionsItem = kSearchItem + 10,
-    kHelpItem = kOptionsItem + 10,
-    kMenuIdEnd = kHelpItem + 10
-};
+inline constexpr int kFileItem = wxID_HIGHEST + 1;
+inline constexpr int kSearchItem = kFileItem + 10;
+inline constexpr int kOptionsItem = kSearchItem + 10;
+inline constexpr int kHelpItem = kOptionsItem + 10;
+inline constexpr int kMenuIdEnd = kHelpItem + 10;
 
 /// The main window's menu bar. The frame that it is given to owns it.
 [[nodiscard]] wxMenuBar* CreateMainMenus();

@@ -469,9 +469,9 @@ TEST_F(FrmMainLayout, TheMenusHaveTheirSeparators) {
 }
 
 TEST_F(FrmMainLayout, ItemsOfLaterVersionsSaySo) {
-    for (const int id : {int{kFileItem}, kFileItem + 1, int{kSearchItem}, kSearchItem + 1,
-                         int{kOptionsItem}, kOptionsItem + 2, int{kHelpItem}, kHelpItem + 2,
-                         kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
+    for (const int id :
+         {kFileItem, kFileItem + 1, kSearchItem, kSearchItem + 1, kOptionsItem, kOptionsItem + 2,
+          kHelpItem, kHelpItem + 2, kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
         wxCommandEvent command(wxEVT_MENU, id);
         wxTEST_DIALOG(window_->ProcessWindowEvent(command), wxExpectModal<wxMessageDialog>(wxOK));
     }
