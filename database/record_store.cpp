@@ -43,7 +43,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     file_ = std::move(file);
     block_ = file_.View().substr(blockAt);
     offsets_.clear();
-    ascendingPrefix_ = 0;
+    SetRows(nullptr, nullptr, 0, 0);
     if (recordCount <= 0) {
         return true;
     }
@@ -75,7 +75,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
             progress.SetProgress(PercentOf(i, recordCount));
         }
     }
-    ascendingPrefix_ = ascending;
+    SetRows(block_.data(), offsets_.data(), recordCount, ascending);
     return true;
 }
 

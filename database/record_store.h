@@ -23,17 +23,6 @@ class RecordStore final : public RowList {
     [[nodiscard]] bool Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
                             std::int32_t progressStep, ProgressSink& progress);
 
-    [[nodiscard]] std::int32_t RowCount() const override {
-        return static_cast<std::int32_t>(offsets_.empty() ? 0 : offsets_.size() - 1);
-    }
-
-    [[nodiscard]] std::string_view RowText(std::int32_t row) const override {
-        const auto index = static_cast<std::size_t>(row);
-        return {block_.data() + offsets_[index], offsets_[index + 1] - offsets_[index] - 1};
-    }
-
-    [[nodiscard]] std::size_t AscendingPrefixBytes() const override { return ascendingPrefix_; }
-
     /// The bytes of the record block.
     [[nodiscard]] std::string_view Block() const { return block_; }
 
@@ -41,7 +30,6 @@ class RecordStore final : public RowList {
     ExpandedFile file_;
     std::string_view block_;
     std::vector<std::uint32_t> offsets_;  // one more than records: where the next would begin
-    std::size_t ascendingPrefix_ = 0;
 };
 
 /// Whole percent of `done` in `total` (more than 0), to the nearest, halves to even.

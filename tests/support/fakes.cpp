@@ -39,4 +39,13 @@ bool FakeTemporaryFiles::WriteNewFile(const std::string& path, std::string_view 
     return !file.fail() && !diskIsFull;
 }
 
+FakeRows::FakeRows(const std::vector<std::string>& rows) {
+    for (const std::string& row : rows) {
+        block_ += row;
+        block_.push_back('\0');
+        offsets_.push_back(static_cast<std::uint32_t>(block_.size()));
+    }
+    SetRows(block_.data(), offsets_.data(), static_cast<std::int32_t>(rows.size()), 0);
+}
+
 }  // namespace brelex

@@ -61,21 +61,14 @@ class FakeTemporaryFiles final : public TemporaryFiles {
     std::string folder_;
 };
 
-/// Rows from a list of texts.
+/// Rows from a list of texts. They promise nothing of their order.
 class FakeRows final : public RowList {
   public:
-    explicit FakeRows(std::vector<std::string> rows) : rows_(std::move(rows)) {}
-
-    [[nodiscard]] std::int32_t RowCount() const override {
-        return static_cast<std::int32_t>(rows_.size());
-    }
-
-    [[nodiscard]] std::string_view RowText(std::int32_t row) const override {
-        return rows_[static_cast<std::size_t>(row)];
-    }
+    explicit FakeRows(const std::vector<std::string>& rows);
 
   private:
-    std::vector<std::string> rows_;
+    std::string block_;
+    std::vector<std::uint32_t> offsets_ = {0};
 };
 
 }  // namespace brelex
