@@ -18,6 +18,18 @@ std::string DatabaseBesideProgram() {
     return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
 }
 
+constexpr int kRefused = 2;
+
+// The exit code of a command, once all that it printed has got out.
+int Finished(int code) {
+    std::cout.flush();
+    if (!std::cout) {
+        std::cerr << "brelex: cannot write the output\n";
+        return kRefused;
+    }
+    return code;
+}
+
 }  // namespace
 
 // What is thrown here beyond the parser's errors is "out of memory".
@@ -67,27 +79,30 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        constexpr int kRefused = 2;
         return app.exit(error) == 0 ? 0 : kRefused;
     }
 
     std::ios::sync_with_stdio(false);
     if (buildCommand->parsed()) {
-        return brelex::RunBuild(build, std::cout, std::cerr);
+        if (!database.empty()) {
+            std::cerr << "brelex: build reads no database; name the file to write with -o\n";
+            return kRefused;
+        }
+        return Finished(brelex::RunBuild(build, std::cout, std::cerr));
     }
     if (database.empty()) {
         database = DatabaseBesideProgram();
     }
     if (infoCommand->parsed()) {
-        return brelex::RunInfo(database, std::cout, std::cerr);
+        return Finished(brelex::RunInfo(database, std::cout, std::cerr));
     }
     if (dumpCommand->parsed()) {
-        return brelex::RunDump(database, std::cout, std::cerr);
+        return Finished(brelex::RunDump(database, std::cout, std::cerr));
     }
     if (checkCommand->parsed()) {
-        return brelex::RunCheck(database, std::cout, std::cerr);
+        return Finished(brelex::RunCheck(database, std::cout, std::cerr));
     }
     return lookupCommand->parsed()
-               ? brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr)
-               : 2;
+               ? Finished(brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr))
+               : kRefused;
 }

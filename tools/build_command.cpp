@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/build_command.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <string_view>
@@ -102,6 +103,11 @@ std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
                      std::string(item);
             return std::nullopt;
         }
+        if (std::any_of(item.begin(), item.end(),
+                        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; })) {
+            reason = "the search list holds a control character";
+            return std::nullopt;
+        }
         const EncodedText encoded = BytesOfUtf8(item);
         if (!encoded.complete) {
             reason = "the search list holds a character outside Windows-1252: " + std::string(item);
@@ -141,6 +147,13 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
     InputReport report;
     for (const std::string& input : request.inputs) {
         ReadInput(input, content.records, report);
+    }
+    std::size_t blockBytes = 0;
+    for (const std::string& record : content.records) {
+        blockBytes += record.size() + 1;
+    }
+    if (blockBytes > kMaxExpandedBytes - kHeaderBytes) {
+        report.errors.emplace_back("the entries take more than the 1 GiB that the program reads");
     }
     if (report.errors.empty() && content.records.empty()) {
         report.errors.emplace_back("the inputs hold no entry");

@@ -19,7 +19,7 @@ bool IsControl(char32_t c) {
 
 // Why `text` cannot be part of a record; nothing if it can.
 std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed) {
-    if (text.find_first_not_of(' ') == std::string_view::npos) {
+    if (text.find_first_not_of(" \t") == std::string_view::npos) {
         return "is empty";
     }
     for (const char32_t c : DecodeUtf8(text)) {

@@ -19,7 +19,7 @@ expect() {
 }
 contains() {
     if ! grep -qF -- "$2" "$folder/$1"; then
-        echo "FAILED: no \"$2\" in the $1put:"; cat "$folder/$1"
+        echo "FAILED: no \"$2\" in its $1:"; cat "$folder/$1"
         failures=$((failures + 1))
     fi
 }
@@ -54,6 +54,12 @@ contains out "1	ABC	Alpha"
 expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'
 expect 2 "look-up in a file that is no database" "$brelex" -d "$folder/list.tsv" lookup ra
 contains err "Cannot decode a corrupt database. Loading was aborted."
+expect 2 "build of a database that is to be read" "$brelex" -d "$folder/x.dat" build "$folder/list.tsv"
+if [ -e /dev/full ]; then
+    "$brelex" dump >/dev/full 2>"$folder/err"
+    [ $? = 2 ] || { echo "FAILED: a full disk"; failures=$((failures + 1)); }
+    contains err "cannot write the output"
+fi
 printf 'r\n' | "$brelex" lookup - | grep -q RAM || { echo "FAILED: standard input"; failures=$((failures + 1)); }
 [ $failures = 0 ] && echo "1 passed, 0 failed"
 exit $failures

@@ -218,6 +218,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadRequest{"LongSearchList", WithList(std::string(1025, 'x')),
                    "the search list has 1025 characters; there is room for 1024"},
         BadRequest{"SearchListOutsideTheCodePage", WithList("日本"), "outside Windows-1252: 日本"},
+        BadRequest{"ControlCharacterInTheSearchList", WithList("net\twork"),
+                   "the search list holds a control character"},
         BadRequest{"UnknownKindOfInput", WithInput("list.csv"),
                    "list.csv: neither .tsv nor a dictd dictionary"},
         BadRequest{"MissingInput", WithInput("no.tsv"), "no.tsv: cannot be read"}),

@@ -71,6 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"EmptyAbbreviation", "\tx", "the abbreviation is empty"},
         BadLine{"BlankAbbreviation", "  \tx", "the abbreviation is empty"},
         BadLine{"EmptyExpansion", "ABC\t", "the expansion is empty"},
+        BadLine{"ExpansionOfTabs", "ABC\t\t ", "the expansion is empty"},
         BadLine{"NulInAbbreviation", std::string("A\0B\tx", 5), "the abbreviation holds a NUL"},
         BadLine{"NulInExpansion", std::string("AB\tx\0", 5), "the expansion holds a NUL"},
         BadLine{"ControlCharacter", "A\x1B\tx", "the abbreviation holds a control character"},
