@@ -107,4 +107,9 @@ std::string EncodeHeader(const DatabaseHeader& header) {
     return writer.Bytes();
 }
 
+std::int32_t RowOfHeaderIndex(std::int32_t index, std::int32_t rowCount) {
+    const auto row = static_cast<std::int16_t>(static_cast<std::uint32_t>(index) & 0xFFFFU);
+    return row >= 0 && row < rowCount ? row : -1;
+}
+
 }  // namespace brelex

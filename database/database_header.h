@@ -46,4 +46,8 @@ struct DatabaseHeader {
 /// is cut or padded.
 [[nodiscard]] std::string EncodeHeader(const DatabaseHeader& header);
 
+/// The row (0-based) that a record index in the header stands for: its low 16 bits as a signed
+/// number, as the list's items are addressed. -1 if there is no such row among `rowCount`.
+[[nodiscard]] std::int32_t RowOfHeaderIndex(std::int32_t index, std::int32_t rowCount);
+
 }  // namespace brelex

@@ -2,6 +2,7 @@
 #include "database/file_io.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <fstream>
 #include <system_error>
 
@@ -32,7 +33,8 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
     std::ifstream file;
     file.rdbuf()->pubsetbuf(nullptr, 0);  // one read goes straight to its place
     file.open(path, std::ios::binary);
-    if (error || !file) {
+    constexpr std::uintmax_t kMostBytes = std::uintmax_t{1} << 31U;
+    if (error || !file || size > kMostBytes) {
         return std::nullopt;
     }
     ByteBuffer bytes(static_cast<std::size_t>(size));

@@ -13,4 +13,12 @@ std::string_view GetExpansion(std::string_view recordText) {
     return tab == std::string_view::npos ? recordText : recordText.substr(tab + 1);
 }
 
+std::string_view ColumnText(std::string_view recordText, int column) {
+    const auto tab = recordText.find('\t');
+    if (column == 0) {
+        return recordText.substr(0, tab);
+    }
+    return tab == std::string_view::npos ? std::string_view() : recordText.substr(tab + 1);
+}
+
 }  // namespace brelex

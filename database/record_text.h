@@ -12,4 +12,8 @@ namespace brelex {
 /// record if it has no TAB.
 [[nodiscard]] std::string_view GetExpansion(std::string_view recordText);
 
+/// What a list of two columns shows of a record in each (0 and 1): abbreviation and expansion; of a
+/// record without TAB the whole text in the first.
+[[nodiscard]] std::string_view ColumnText(std::string_view recordText, int column);
+
 }  // namespace brelex

@@ -24,7 +24,7 @@ class RowModel final : public wxDataViewVirtualListModel {
 
     void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override {
         const std::string_view text = rows_->RowText(static_cast<std::int32_t>(row));
-        value = WxTextOfBytes(column == 0 ? GetAbbreviation(text) : GetExpansion(text));
+        value = WxTextOfBytes(ColumnText(text, static_cast<int>(column)));
     }
 
     bool SetValueByRow(const wxVariant& /*value*/, unsigned /*row*/, unsigned /*column*/) override {
@@ -35,6 +35,30 @@ class RowModel final : public wxDataViewVirtualListModel {
 
   private:
     const RowList* rows_ = nullptr;
+};
+
+// The event that the toolkit is working on, if there is one.
+class CurrentEvent {
+  public:
+    CurrentEvent() : event_(gtk_get_current_event()) {}
+
+    CurrentEvent(const CurrentEvent&) = delete;
+    CurrentEvent& operator=(const CurrentEvent&) = delete;
+
+    ~CurrentEvent() {
+        if (event_ != nullptr) {
+            gdk_event_free(event_);
+        }
+    }
+
+    [[nodiscard]] bool Is(GdkEventType type) const {
+        return event_ != nullptr && event_->type == type;
+    }
+
+    [[nodiscard]] const GdkEvent* Get() const { return event_; }
+
+  private:
+    GdkEvent* event_;
 };
 
 // A GtkTreeView over a virtual model. Positions come from its scroll position and the height of a
@@ -149,7 +173,11 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
     }
 
     void OnSelectionChanged(wxDataViewEvent& event) {
-        if (quiet_ || !event.GetItem().IsOk()) {
+        if (quiet_) {
+            return;
+        }
+        if (!event.GetItem().IsOk() || !IsListUsed()) {
+            CallAfter(&AcronymListGtk::KeepSelection);  // when the toolkit is done with it
             return;
         }
         const auto row = static_cast<std::int32_t>(model_->GetRow(event.GetItem()));
@@ -162,13 +190,45 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         }
     }
 
-    // A double-click or Enter; the latter with any modifier, which do not count here.
+    // Whether the selection changes because somebody clicked or pressed a key in the list. GTK also
+    // selects the first row when the list merely gets the focus.
+    [[nodiscard]] bool IsListUsed() const {
+        const CurrentEvent event;
+        if (event.Is(GDK_BUTTON_PRESS) || event.Is(GDK_BUTTON_RELEASE)) {
+            return event.Get()->button.window == gtk_tree_view_get_bin_window(TreeView());
+        }
+        if (event.Is(GDK_KEY_PRESS)) {
+            const guint key = event.Get()->key.keyval;
+            return HasFocus() && key != GDK_KEY_Tab && key != GDK_KEY_ISO_Left_Tab;
+        }
+        return !event.Is(GDK_FOCUS_CHANGE);
+    }
+
+    // Takes back what the toolkit did to the selection: a click with Ctrl clears it, too.
+    void KeepSelection() {
+        if (selected_ >= 0) {
+            Select(selected_);
+            return;
+        }
+        quiet_ = true;
+        UnselectAll();
+        quiet_ = false;
+    }
+
+    // A double-click, or a key. Of those the tree view takes more than the list does: blank, and
+    // Enter with whatever is held down with it.
     void OnActivated(wxDataViewEvent& /*event*/) {
-        GdkModifierType modifiers{};
-        gtk_get_current_event_state(&modifiers);
-        const bool plain = (static_cast<unsigned>(modifiers) &
-                            (GDK_SHIFT_MASK | GDK_CONTROL_MASK | GDK_MOD1_MASK)) == 0;
-        if (plain && selected_ >= 0 && onEnter) {
+        const CurrentEvent event;
+        if (event.Is(GDK_KEY_PRESS)) {
+            constexpr unsigned kModifiers = GDK_SHIFT_MASK | GDK_CONTROL_MASK | GDK_MOD1_MASK;
+            const GdkEventKey& key = event.Get()->key;
+            const bool enter = key.keyval == GDK_KEY_Return || key.keyval == GDK_KEY_KP_Enter ||
+                               key.keyval == GDK_KEY_ISO_Enter;
+            if (!enter || (key.state & kModifiers) != 0) {
+                return;
+            }
+        }
+        if (selected_ >= 0 && onEnter) {
             onEnter();
         }
     }

@@ -73,7 +73,7 @@ class AcronymListMsw final : public wxListView, public AcronymList {
   private:
     [[nodiscard]] wxString OnGetItemText(long item, long column) const override {
         const std::string_view text = rows_->RowText(static_cast<std::int32_t>(item));
-        return WxTextOfBytes(column == 0 ? GetAbbreviation(text) : GetExpansion(text));
+        return WxTextOfBytes(ColumnText(text, static_cast<int>(column)));
     }
 
     void OnSelected(wxListEvent& event) {

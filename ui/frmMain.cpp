@@ -6,7 +6,10 @@
 #include <optional>
 #include <utility>
 
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/dcclient.h>
+#include <wx/dialog.h>
 #include <wx/panel.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -199,6 +202,7 @@ void frmMain::BindEvents() {
     txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);
     txtAbbrv->Bind(wxEVT_CHAR, &frmMain::OnBoxChar, this);
     txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
+    txtAbbrv->Bind(wxEVT_TEXT_PASTE, &frmMain::OnBoxPaste, this);
     lstAcronyms->onClick = [this] {
         // Only a list that is used is clicked; but on GTK the click comes before the focus it
         // brings.
@@ -234,7 +238,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     DrawColumnHeader();
     LayoutStatusBar();
     PlaceTitleImage();
-    txtAbbrv->SetMaxLength(static_cast<unsigned long>(std::max(values_.Header.MaxAbbrvLength, 0)));
+    SetMaxBoxLength(static_cast<std::size_t>(std::max(values_.Header.MaxAbbrvLength, 0)));
     splash.Destroy();
     commandLine_ = surroundings.commandLine;
     tmrCheckCommand.StartOnce(kCommandDelayMs);
@@ -326,7 +330,16 @@ void frmMain::OnMenu(wxCommandEvent& event) {
     }
 }
 
-void frmMain::OnClose(wxCloseEvent& /*event*/) {
+void frmMain::OnClose(wxCloseEvent& event) {
+    const bool modalOpen =
+        std::any_of(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), [](wxWindow* window) {
+            const auto* dialog = dynamic_cast<wxDialog*>(window);
+            return dialog != nullptr && dialog->IsModal();
+        });
+    if (modalOpen && event.CanVeto()) {
+        event.Veto();  // the dialog lives on the stack of whoever shows it
+        return;
+    }
     tmrCheckCommand.Stop();
     UnloadOtherForms();
     Destroy();
@@ -350,16 +363,19 @@ void frmMain::FlushBoxChange() {
 
 void frmMain::OnBoxKeyDown(wxKeyEvent& event) {
     FlushBoxChange();
-    if (const auto key = NavigationKeyOf(event.GetKeyCode())) {
+    const auto key = NavigationKeyOf(event.GetKeyCode());
+    if (!key) {
+        event.Skip();
+    } else if (*key == NavigationKey::Enter && event.HasAnyModifiers()) {
+        MoveCaretToEnd();  // the list opens no entry then
+    } else {
         lookup_.OnBoxKeyDown(*key);
-        return;
     }
-    event.Skip();
 }
 
 void frmMain::OnBoxChar(wxKeyEvent& event) {
     const wxChar typed = event.GetUnicodeKey();
-    if (typed >= 'a' && typed <= 'z' && !event.HasAnyModifiers()) {
+    if (typed >= 'a' && typed <= 'z' && !event.HasModifiers()) {
         txtAbbrv->WriteText(wxString(static_cast<wxChar>(typed - 'a' + 'A')));
         return;
     }
@@ -367,9 +383,30 @@ void frmMain::OnBoxChar(wxKeyEvent& event) {
 }
 
 void frmMain::OnBoxFocus(wxFocusEvent& event) {
-    // After the toolkit has placed the caret where the mouse was pressed.
-    CallAfter([this] { txtAbbrv->SelectAll(); });
+    if (!std::exchange(caretStays_, false)) {
+        // After the toolkit has placed the caret where the mouse was pressed.
+        CallAfter([this] { txtAbbrv->SelectAll(); });
+    }
     event.Skip();
+}
+
+void frmMain::SetMaxBoxLength(std::size_t length) {
+    maxBoxLength_ = length;
+    txtAbbrv->SetMaxLength(static_cast<unsigned long>(length));
+}
+
+// Text that is too long is cut; GTK would delete the selection and then refuse all of it.
+void frmMain::OnBoxPaste(wxClipboardTextEvent& event) {
+    wxTextDataObject text;
+    const wxClipboardLocker clipboard;
+    if (!clipboard || !wxTheClipboard->GetData(text)) {
+        event.Skip();
+        return;
+    }
+    const std::size_t kept =
+        txtAbbrv->GetValue().length() - txtAbbrv->GetStringSelection().length();
+    const std::size_t room = maxBoxLength_ > kept ? maxBoxLength_ - kept : 0;
+    txtAbbrv->WriteText(text.GetText().BeforeFirst('\n').Left(room));
 }
 
 void frmMain::OnDoubleClick(wxMouseEvent& event) {
@@ -413,7 +450,12 @@ std::string frmMain::BoxText() const {
 }
 
 void frmMain::SetBoxText(const std::string& text) {
-    txtAbbrv->ChangeValue(WxText(text));
+    const wxString shown = WxText(text);
+    if (shown.length() > maxBoxLength_) {
+        // A damaged header may say less than its abbreviations have. GTK would show nothing then.
+        SetMaxBoxLength(shown.length());
+    }
+    txtAbbrv->ChangeValue(shown);
 }
 
 void frmMain::MoveCaretToEnd() {
@@ -426,6 +468,8 @@ void frmMain::SetRecordNumberText(const std::string& text) {
 
 std::string frmMain::AskText(const std::string& title, const std::string& prompt,
                              const std::string& defaultText) {
+    // The box gets the focus back with its caret where it is put meanwhile.
+    caretStays_ = txtAbbrv->HasFocus();
     wxTextEntryDialog dialog(this, WxText(prompt), WxText(title), WxText(defaultText));
     return dialog.ShowModal() == wxID_OK ? Utf8Text(dialog.GetValue()) : std::string();
 }

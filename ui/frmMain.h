@@ -14,6 +14,7 @@
 #include "ui/layout_units.h"
 #include "ui/wx_message_sink.h"
 
+class wxClipboardTextEvent;
 class wxPanel;
 class wxStaticBitmap;
 class wxStaticText;
@@ -63,6 +64,7 @@ class frmMain final : public wxFrame, private LookupView {
     void AddFrame(int left, int top, int width, int height);
     void UnloadOtherForms();
     void OpenEntryViewer();
+    void SetMaxBoxLength(std::size_t length);
 
     void OnPaint(wxPaintEvent& event);
     void OnMenu(wxCommandEvent& event);
@@ -71,6 +73,7 @@ class frmMain final : public wxFrame, private LookupView {
     void OnBoxKeyDown(wxKeyEvent& event);
     void OnBoxChar(wxKeyEvent& event);
     void OnBoxFocus(wxFocusEvent& event);
+    void OnBoxPaste(wxClipboardTextEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
     void OnCheckCommand(wxTimerEvent& event);
 
@@ -96,6 +99,8 @@ class frmMain final : public wxFrame, private LookupView {
     std::string commandLine_;
     std::vector<wxRect> frames_;  // the sunken frames that OnPaint draws
     bool boxChangePending_ = false;
+    bool caretStays_ = false;  // getting the focus next time selects nothing
+    std::size_t maxBoxLength_ = 0;
 
     wxPanel* surface_ = nullptr;
     wxStaticText* lblAppTitle = nullptr;

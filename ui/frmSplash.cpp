@@ -57,6 +57,8 @@ frmSplash::frmSplash(const AppInfo& info)
     PlacePercent();
     CentreOnScreen();
     Bind(wxEVT_PAINT, &frmSplash::OnPaint, this);
+    // Whoever loads still needs the window; it goes by Destroy() when that is done.
+    Bind(wxEVT_CLOSE_WINDOW, [](wxCloseEvent& event) { event.Veto(); });
 }
 
 wxStaticText* frmSplash::AddLabel(const wxString& name, const wxString& text) {
@@ -82,6 +84,7 @@ void frmSplash::PaintAtOnce() {
 void frmSplash::SetStatusText(std::string_view text) {
     lblMessage->SetLabelText(WxText(text));
     PlacePercent();
+    PaintAtOnce();
 }
 
 // Setting a label and painting it cost more than loading a hundredth of the entries does. More

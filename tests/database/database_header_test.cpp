@@ -91,5 +91,23 @@ TEST(DatabaseHeader, ASearchListIsPaddedOrCutToItsRoom) {
     EXPECT_EQ(EncodeHeader(header).size(), kHeaderBytes);
 }
 
+TEST(RowOfHeaderIndex, TheLowSixteenBitsCountAsASignedNumber) {
+    constexpr std::int32_t kRows = 100000;
+    EXPECT_EQ(RowOfHeaderIndex(0, kRows), 0);
+    EXPECT_EQ(RowOfHeaderIndex(32767, kRows), 32767);
+    EXPECT_EQ(RowOfHeaderIndex(32768, kRows), -1);  // -32768
+    EXPECT_EQ(RowOfHeaderIndex(65535, kRows), -1);
+    EXPECT_EQ(RowOfHeaderIndex(65536, kRows), 0);
+    EXPECT_EQ(RowOfHeaderIndex(65537, kRows), 1);
+    EXPECT_EQ(RowOfHeaderIndex(-1, kRows), -1);
+    EXPECT_EQ(RowOfHeaderIndex(-65535, kRows), 1);
+}
+
+TEST(RowOfHeaderIndex, NoRowOutsideTheListIsAddressed) {
+    EXPECT_EQ(RowOfHeaderIndex(2, 3), 2);
+    EXPECT_EQ(RowOfHeaderIndex(3, 3), -1);
+    EXPECT_EQ(RowOfHeaderIndex(0, 0), -1);
+}
+
 }  // namespace
 }  // namespace brelex

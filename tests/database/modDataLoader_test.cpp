@@ -124,6 +124,16 @@ TEST_F(LoadDatabaseTest, AHeaderWithoutDataIsRefused) {
     ExpectFailure(kCorruptHeader);
 }
 
+TEST_F(LoadDatabaseTest, AHeaderThatSaysNoRecordsAndNoDataIsRefused) {
+    EXPECT_FALSE(LoadDamaged([](std::string& bytes) {
+        DatabaseHeader header = DecodeHeader(bytes);
+        header.RecordCount = 0;
+        header.DataSize = 0;
+        bytes = EncodeHeader(header);
+    }));
+    ExpectFailure(kCorruptHeader);
+}
+
 TEST_F(LoadDatabaseTest, AnExpandedFileShorterThanTheHeaderIsRefused) {
     EXPECT_FALSE(LoadDamaged([](std::string& bytes) { bytes.resize(10); }));
     ExpectFailure(kCorruptHeader);

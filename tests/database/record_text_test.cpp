@@ -22,5 +22,12 @@ TEST(RecordText, ARecordWithoutTabIsAllExpansion) {
     EXPECT_EQ(GetExpansion(""), "");
 }
 
+TEST(RecordText, ARecordWithoutTabStandsInTheFirstColumn) {
+    EXPECT_EQ(ColumnText("no tab", 0), "no tab");
+    EXPECT_EQ(ColumnText("no tab", 1), "");
+    EXPECT_EQ(ColumnText("ABC\tOne\tTwo", 0), "ABC");
+    EXPECT_EQ(ColumnText("ABC\tOne\tTwo", 1), "One\tTwo");
+}
+
 }  // namespace
 }  // namespace brelex

@@ -3,11 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
+#include <wx/dataview.h>
 #include <wx/menu.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include "database/szdd.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/main_menus.h"
@@ -176,6 +180,119 @@ TEST_F(FrmMainLookup, EnterInTheListOpensTheEntryAndShiftEnterDoesNot) {
     EXPECT_TRUE(WaitFor([&] { return opened == 1; }));
 }
 
+TEST_F(FrmMainLookup, ShiftEnterInTheBoxOpensNothing) {
+    Type("abc", "ABC");
+    int opened = 0;
+    window_->List().onEnter = [&] { ++opened; };
+    user_.Char(WXK_RETURN, wxMOD_SHIFT);
+    user_.Char(WXK_RETURN, wxMOD_CONTROL);
+    Settle(150);
+    EXPECT_EQ(opened, 0);
+    EXPECT_EQ(BoxText(), "ABC");
+}
+
+TEST_F(FrmMainLookup, ABlankInTheListOpensNothing) {
+    Type("abc", "ABC");
+    int opened = 0;
+    window_->List().onEnter = [&] { ++opened; };
+    window_->List().Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    user_.Char(WXK_SPACE);
+    Settle(150);
+    EXPECT_EQ(opened, 0);
+}
+
+TEST_F(FrmMainLookup, ADoubleClickOnARowOpensTheEntry) {
+    int opened = 0;
+    AcronymList& list = window_->List();
+    list.onEnter = [&] { ++opened; };
+    const wxPoint point(40, 2 * list.RowHeight() + list.RowHeight() / 2);
+    user_.MouseMove(list.Window().ClientToScreen(point));
+    Settle();
+    user_.MouseDblClick();
+    EXPECT_TRUE(WaitFor([&] { return opened == 1; }));
+    EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+}
+
+TEST_F(FrmMainLookup, AClickWithCtrlKeepsTheRowSelected) {
+    Type("ab", "AB");
+    AcronymList& list = window_->List();
+    user_.MouseMove(list.Window().ClientToScreen(wxPoint(40, list.RowHeight() / 2)));
+    Settle();
+    user_.MouseClick();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    Settle(600);  // not to be taken for a double-click
+    user_.KeyDown(WXK_CONTROL);
+    user_.MouseClick();
+    user_.KeyUp(WXK_CONTROL);
+    Settle(150);
+    EXPECT_EQ(list.SelectedRow(), 0);
+    EXPECT_EQ(dynamic_cast<wxDataViewCtrl&>(list.Window()).GetSelectedItemsCount(), 1);
+}
+
+TEST_F(FrmMainLookup, GettingTheFocusSelectsNoRow) {
+    user_.Char(WXK_TAB);
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    Settle(100);
+    EXPECT_EQ(window_->List().SelectedRow(), -1);
+    EXPECT_EQ(BoxText(), "");
+    user_.Char(WXK_DOWN);
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "AB"; })) << BoxText();
+}
+
+TEST_F(FrmMainLookup, AClickOnTheHeaderGivesTheListTheFocusAndSelectsNothing) {
+    user_.MouseMove(Control("picColHeader")->ClientToScreen(wxPoint(200, 8)));
+    Settle();
+    user_.MouseClick();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    Settle(100);
+    EXPECT_EQ(window_->List().SelectedRow(), -1);
+    EXPECT_EQ(BoxText(), "");
+}
+
+TEST_F(FrmMainLookup, ASmallLetterTypedWithShiftIsRaisedToo) {
+    wxKeyEvent event(wxEVT_CHAR);
+    event.m_uniChar = 'x';  // as with caps lock and Shift
+    event.m_keyCode = 'x';
+    event.SetShiftDown(true);
+    Box().ProcessWindowEvent(event);
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "X"; })) << BoxText();
+}
+
+class PastedText : public FrmMainLookup {
+  protected:
+    void Paste(const wxString& text) {
+        {
+            const wxClipboardLocker clipboard;
+            ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
+        }
+        user_.Char('V', wxMOD_CONTROL);
+    }
+};
+
+TEST_F(PastedText, IsLookedUpAsItIs) {
+    Paste("xss");
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "xss"; })) << BoxText();
+    EXPECT_TRUE(WaitFor([&] { return SelectedRecord() == "XSS\tCross-Site Scripting"; }));
+}
+
+TEST_F(PastedText, IsCutToTheRoomThereIs) {
+    Type("ab", "AB");
+    SelectAllInBox();
+    Paste("xss and much more");
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "xss an"; })) << BoxText();
+}
+
+TEST_F(FrmMainLookup, AnAbbreviationBeyondTheHeadersMaximumIsShown) {
+    std::string expanded = ExpandedBytes({"AB\tx", "ABCDE\ty"});
+    DatabaseHeader header = DecodeHeader(expanded);
+    header.MaxAbbrvLength = 2;
+    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
+    StartWith(CompressSzdd(expanded), "");
+    window_->GoToRecordNumber(2);
+    EXPECT_EQ(BoxText(), "ABCDE");
+}
+
 TEST_F(FrmMainLookup, TheBoxTakesNoMoreThanTheLongestAbbreviation) {
     Type("abcdefghij", "ABCDEF");
 }
@@ -330,6 +447,11 @@ TEST_F(FrmMainLookup, F5AsksForTheRecordWithTheKeyboard) {
     user_.Char(WXK_F5);
     EXPECT_TRUE(WaitFor([&] { return driver.Done() && LabelText("lblRecNumber") == "7"; }, 9000));
     EXPECT_EQ(BoxText(), "M10003");
+    // The caret stands behind the text, also when the box has its focus back.
+    ASSERT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &Box(); }));
+    Settle(150);
+    EXPECT_EQ(Box().GetInsertionPoint(), 6);
+    EXPECT_EQ(Box().GetStringSelection(), "");
 }
 
 TEST_F(FrmMainLookup, ADoubleClickOnTheRecordNumberAsksForTheRecord) {

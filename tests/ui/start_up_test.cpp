@@ -202,6 +202,13 @@ TEST_F(FrmSplashTest, ThePercentageStartsRightBehindTheMessage) {
         << splash_->GetClientSize().x << " " << splash_->GetClientSize().y;
 }
 
+TEST_F(FrmSplashTest, TheUserCannotCloseItWhileLoading) {
+    splash_->Close();
+    Settle();
+    EXPECT_NE(wxWindow::FindWindowByName("frmSplash"), nullptr);
+    splash_->PaintAtOnce();
+}
+
 TEST_F(FrmSplashTest, TheLastPercentageIsAlwaysShown) {
     splash_->SetProgress(99);
     splash_->SetProgress(100);

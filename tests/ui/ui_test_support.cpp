@@ -66,9 +66,13 @@ void MainWindowTest::TearDown() {
 
 void MainWindowTest::Start(const std::vector<std::string>& records,
                            const std::string& commandLine) {
+    StartWith(DatabaseBytes(records), commandLine);
+}
+
+void MainWindowTest::StartWith(const std::string& databaseFile, const std::string& commandLine) {
     TearDown();
     startUp_.reset();
-    folder_.Write("Acronyms.dat", DatabaseBytes(records));
+    folder_.Write("Acronyms.dat", databaseFile);
     startUp_ = std::make_unique<StartUp>();
     window_ = startUp_->Run(
         {messages_, picker_, files_, folder_.Text(), commandLine, [] { return 0.0F; }});

@@ -52,6 +52,9 @@ class MainWindowTest : public testing::Test {
     /// Starts the program over `records` and waits until its main window can be typed into.
     void Start(const std::vector<std::string>& records, const std::string& commandLine = "");
 
+    /// The same over the bytes of a database file.
+    void StartWith(const std::string& databaseFile, const std::string& commandLine);
+
     [[nodiscard]] wxWindow* Control(const char* name) const;
     [[nodiscard]] wxTextCtrl& Box() const;
     [[nodiscard]] std::string BoxText() const;
