@@ -90,13 +90,10 @@ void frmSplash::SetStatusText(std::string_view text) {
 // Setting a label and painting it cost more than loading a hundredth of the entries does. More
 // pictures a second than a screen shows would only make people wait.
 void frmSplash::SetProgress(int percent) {
-    constexpr long kFrameMs = 40;
+    constexpr long kFrameMs = 16;
     constexpr int kDone = 100;
-    const bool due = wxGetUTCTimeMillis() - lastPaintMs_ >= kFrameMs;
-    if (due || percent == kDone) {
+    if (percent == kDone || wxGetUTCTimeMillis() - lastPaintMs_ >= kFrameMs) {
         lblPercent->SetLabelText(wxString::Format("%d%%", percent));
-    }
-    if (due) {
         PaintAtOnce();
     }
 }
