@@ -527,7 +527,7 @@ TEST_F(FrmMainLayout, TheTitleImageIsCentredOnItsLabel) {
 
 TEST_F(FrmMainLayout, NoTextIsCutOff) {
     for (const char* name : {"lblInstruction", "lblRecCount"}) {
-        const auto* label = dynamic_cast<wxStaticText*>(Control(name));
+        const auto* label = &dynamic_cast<wxStaticText&>(*Control(name));
         EXPECT_LE(label->GetBestSize().y, label->GetSize().y) << name;
         EXPECT_LE(label->GetTextExtent(label->GetLabelText()).x, label->GetSize().x) << name;
     }

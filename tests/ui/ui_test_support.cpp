@@ -90,7 +90,7 @@ wxWindow* MainWindowTest::Control(const char* name) const {
 }
 
 wxTextCtrl& MainWindowTest::Box() const {
-    return *dynamic_cast<wxTextCtrl*>(Control("txtAbbrv"));
+    return dynamic_cast<wxTextCtrl&>(*Control("txtAbbrv"));
 }
 
 std::string MainWindowTest::BoxText() const {
@@ -98,7 +98,7 @@ std::string MainWindowTest::BoxText() const {
 }
 
 std::string MainWindowTest::LabelText(const char* name) const {
-    return Utf8Text(dynamic_cast<wxStaticText*>(Control(name))->GetLabelText());
+    return Utf8Text(dynamic_cast<wxStaticText&>(*Control(name)).GetLabelText());
 }
 
 std::string MainWindowTest::SelectedRecord() const {
