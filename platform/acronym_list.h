@@ -34,6 +34,9 @@ class AcronymList {
 
     [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
 
+    /// Whether the screen shows `row` as selected.
+    [[nodiscard]] virtual bool IsHighlighted(std::int32_t row) const = 0;
+
     /// Makes `row` the top visible row; near the end of the list as far as there are rows.
     virtual void SetTopRow(std::int32_t row) = 0;
 

@@ -106,6 +106,10 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
 
     [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
 
+    [[nodiscard]] bool IsHighlighted(std::int32_t row) const override {
+        return IsSelected(model_->GetItem(static_cast<unsigned>(row)));
+    }
+
     void SetTopRow(std::int32_t row) override {
         gtk_adjustment_set_value(Adjustment(), static_cast<double>(row) * RowHeight());
     }

@@ -21,7 +21,9 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
         Bind(wxEVT_LIST_ITEM_SELECTED, &AcronymListMsw::OnSelected, this);
         Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
+        Bind(wxEVT_LIST_ITEM_DESELECTED, &AcronymListMsw::OnDeselected, this);
         Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
+        Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown);
     }
 
     wxWindow& Window() override { return *this; }
@@ -46,6 +48,8 @@ class AcronymListMsw final : public wxListView, public AcronymList {
     }
 
     [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
+
+    [[nodiscard]] bool IsHighlighted(std::int32_t row) const override { return IsSelected(row); }
 
     void SetTopRow(std::int32_t row) override { ScrollList(0, (row - TopRow()) * RowHeight()); }
 
@@ -84,6 +88,24 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         selected_ = row;
         if (onClick) {
             onClick();
+        }
+    }
+
+    // A click with Ctrl clears the selection, as does one below the last row; a list box keeps it.
+    void OnDeselected(wxListEvent& /*event*/) {
+        if (!quiet_) {
+            CallAfter([this] {
+                if (selected_ >= 0 && !IsSelected(selected_)) {
+                    Select(selected_);
+                }
+            });
+        }
+    }
+
+    // A blank would open the entry.
+    static void OnKeyDown(wxKeyEvent& event) {
+        if (event.GetKeyCode() != WXK_SPACE) {
+            event.Skip();
         }
     }
 

@@ -23,7 +23,7 @@ constexpr double kArrowHeight = 4;
 }  // namespace
 
 ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
-    : wxWindow(parent, wxID_ANY),
+    : Backdrop(parent),
       units_(units) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);

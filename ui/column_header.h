@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/window.h>
-
+#include "ui/backdrop.h"
 #include "ui/layout_units.h"
 
 namespace brelex {
 
 /// The drawn header of the list, `picColHeader`: the names of its two columns, a line under them,
 /// a sunken line between them and an arrow for the ascending order.
-class ColumnHeader final : public wxWindow {
+class ColumnHeader final : public Backdrop {
   public:
     ColumnHeader(wxWindow* parent, const LayoutUnits& units);
-
-    [[nodiscard]] bool AcceptsFocus() const override { return false; }
 
   private:
     void OnPaint(wxPaintEvent& event);

@@ -19,6 +19,7 @@
 #include "database/number_text.h"
 #include "platform/accessible_name.h"
 #include "ui/app_icon.h"
+#include "ui/backdrop.h"
 #include "ui/column_header.h"
 #include "ui/frmSplash.h"
 #include "ui/main_menus.h"
@@ -92,17 +93,16 @@ frmMain::frmMain(ProgramValues& values, RecordStore& store)
 
 void frmMain::CreateControls() {
     surface_ = new wxPanel(this);
-    lblAppTitle = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
-    imgAppTitle = new wxStaticBitmap(surface_, wxID_ANY, wxBitmap(1, 1));
+    lblAppTitle = new Backdrop(surface_);
+    imgAppTitle = new wxStaticBitmap(lblAppTitle, wxID_ANY, wxBitmap(1, 1));
     lblInstruction = new wxStaticText(
         surface_, wxID_ANY,
         "&Type the first few letters of the acronym/abbreviation you are looking for:");
     // Directly behind the instruction, whose access key leads to it.
     txtAbbrv = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                               wxTE_PROCESS_ENTER);
-    lblColHeaderBack = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                        wxDefaultSize, wxST_NO_AUTORESIZE);
-    picColHeader = new ColumnHeader(surface_, units_);
+    lblColHeaderBack = new Backdrop(surface_);
+    picColHeader = new ColumnHeader(lblColHeaderBack, units_);
     lstAcronyms = &CreateAcronymList(*surface_, {units_.Pixels(kExpansionTextAt)});
     for (wxStaticText** label : {&lblRecNumber, &lblDescription, &lblRecCount}) {
         *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
@@ -132,7 +132,8 @@ void frmMain::PlaceControls() {
     const int boxTop = margin + lblInstruction->GetBestSize().y + px(3);
     // The toolkit's best height does not always follow a large font (seen with GTK 3.24).
     const int boxHeight = std::max(txtAbbrv->GetBestSize().y, txtAbbrv->GetCharHeight() + px(11));
-    lblInstruction->SetPosition({boxLeft, margin});
+    lblInstruction->SetSize(boxLeft, margin, inner.x - boxLeft - margin,
+                            lblInstruction->GetBestSize().y);
     txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
     lblAppTitle->SetSize(margin, margin, px(kTitleWidth), boxTop + boxHeight - margin);
 
@@ -154,7 +155,7 @@ void frmMain::DrawColumnHeader() {
     const wxRect list = lstAcronyms->Window().GetRect();
     const int height = units_.Pixels(kHeaderHeight);
     lblColHeaderBack->SetSize(list.x, list.y - height, list.width, height);
-    picColHeader->SetSize(list.x, list.y - height, list.width, height);
+    picColHeader->SetSize(0, 0, list.width, height);
 }
 
 void frmMain::LayoutStatusBar() {
@@ -183,10 +184,11 @@ void frmMain::PlaceTitleImage() {
     const wxBitmap image =
         DrawTitleImage(*surface_, {label.width - 2 * inset, label.height - 2 * inset});
     imgAppTitle->SetBitmap(image);
-    imgAppTitle->SetSize(label.x + (label.width - image.GetWidth()) / 2 + 1,
-                         label.y + (label.height - image.GetHeight()) / 2 + 1, image.GetWidth(),
+    imgAppTitle->SetSize((label.width - image.GetWidth()) / 2 + 1,
+                         (label.height - image.GetHeight()) / 2 + 1, image.GetWidth(),
                          image.GetHeight());
-    AddFrame(label.x, label.y, label.width, label.height);
+    // Round the label, which covers what is drawn under it.
+    AddFrame(label.x - 1, label.y - 1, label.width + 1, label.height + 1);
 }
 
 void frmMain::AddFrame(int left, int top, int width, int height) {

@@ -103,11 +103,11 @@ class frmMain final : public wxFrame, private LookupView {
     std::size_t maxBoxLength_ = 0;
 
     wxPanel* surface_ = nullptr;
-    wxStaticText* lblAppTitle = nullptr;
+    wxWindow* lblAppTitle = nullptr;
     wxStaticBitmap* imgAppTitle = nullptr;
     wxStaticText* lblInstruction = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
-    wxStaticText* lblColHeaderBack = nullptr;
+    wxWindow* lblColHeaderBack = nullptr;
     wxWindow* picColHeader = nullptr;
     AcronymList* lstAcronyms = nullptr;
     wxStaticText* lblRecNumber = nullptr;

@@ -115,7 +115,8 @@ void MainWindowTest::Type(const char* keys, const std::string& shown) {
 }
 
 void MainWindowTest::SelectAllInBox() {
-    user_.Char('A', wxMOD_CONTROL);
+    user_.Char(WXK_HOME);
+    user_.Char(WXK_END, wxMOD_SHIFT);
     EXPECT_TRUE(WaitFor([&] { return Utf8Text(Box().GetStringSelection()) == BoxText(); }));
 }
 

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/window.h>
+
+namespace brelex {
+
+/// A bare piece of window that other things stand on. It never takes the focus.
+class Backdrop : public wxWindow {
+  public:
+    explicit Backdrop(wxWindow* parent) : wxWindow(parent, wxID_ANY) {}
+
+    [[nodiscard]] bool AcceptsFocus() const override { return false; }
+};
+
+}  // namespace brelex
