@@ -252,15 +252,17 @@ void frmMain::OpenModalForm(int number) {
         "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
         "About",           "Check Data Integrity", "Donate via PayPal"};
     if (number >= 0 && number < static_cast<int>(kNames.size())) {
-        messages_.Show({std::string(kNames.at(static_cast<std::size_t>(number))) +
-                            " is not part of this version yet.",
-                        kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+        SayNotYet(kNames.at(static_cast<std::size_t>(number)));
     }
 }
 
 void frmMain::OpenEntryViewer() {
-    messages_.Show({"The entry viewer is not part of this version yet.", kAppTitle,
-                    MessageIcon::Information, MessageButtons::Ok});
+    SayNotYet("The entry viewer");
+}
+
+void frmMain::SayNotYet(const std::string& what) {
+    messages_.Show({what + " is not part of this version yet.", kAppTitle, MessageIcon::Information,
+                    MessageButtons::Ok});
 }
 
 void frmMain::GoToRecordNumber(std::int32_t nRecordNumber) {
@@ -285,10 +287,6 @@ void frmMain::OnPaint(wxPaintEvent& /*event*/) {
 }
 
 void frmMain::OnMenu(wxCommandEvent& event) {
-    const auto notYet = [this](const char* what) {
-        messages_.Show({std::string(what) + " is not part of this version yet.", kAppTitle,
-                        MessageIcon::Information, MessageButtons::Ok});
-    };
     const int id = event.GetId();
     switch (id) {
         case kFileItem:
@@ -310,13 +308,13 @@ void frmMain::OnMenu(wxCommandEvent& event) {
         case kOptionsItem:
         case kOptionsItem + 2:
             GetMenuBar()->Check(id, false);  // nothing was switched on
-            notYet(id == kOptionsItem ? "Stay on Top" : "Run at Startup");
+            SayNotYet(id == kOptionsItem ? "Stay on Top" : "Run at Startup");
             break;
         case kHelpItem:
-            notYet("Help");
+            SayNotYet("Help");
             break;
         case kHelpItem + 2:
-            notYet("ReadMe");
+            SayNotYet("ReadMe");
             break;
         case kHelpItem + 3:
             OpenModalForm(3);

@@ -64,6 +64,7 @@ class frmMain final : public wxFrame, private LookupView {
     void AddFrame(int left, int top, int width, int height);
     void UnloadOtherForms();
     void OpenEntryViewer();
+    void SayNotYet(const std::string& what);
     void SetMaxBoxLength(std::size_t length);
 
     void OnPaint(wxPaintEvent& event);
