@@ -123,20 +123,35 @@ std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
     return number;
 }
 
+// The content of a gzip file, of which a dictzip file is a kind; what is not compressed as it
+// stands.
 std::optional<std::string> InflateFile(const fs::path& path) {
-    // zlib reads a file that is not compressed as it stands.
-    gzFile file = gzopen(path.string().c_str(), "rb");
-    if (file == nullptr) {
+    const std::optional<ByteBuffer> file = ReadWholeFile(path);
+    if (!file) {
+        return std::nullopt;
+    }
+    const std::string_view bytes = file->View();
+    if (!bytes.starts_with("\x1f\x8b")) {
+        return std::string(bytes);
+    }
+    z_stream stream{};
+    stream.next_in = reinterpret_cast<const Bytef*>(bytes.data());
+    stream.avail_in = static_cast<uInt>(bytes.size());
+    constexpr int kGzip = 16;  // added to the window size: a gzip header is expected
+    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK) {
         return std::nullopt;
     }
     std::string content;
     std::string chunk(std::size_t{1} << 16U, '\0');
-    int count = 0;
-    while ((count = gzread(file, chunk.data(), static_cast<unsigned>(chunk.size()))) > 0) {
-        content.append(chunk, 0, static_cast<std::size_t>(count));
+    int status = Z_OK;
+    while (status == Z_OK) {
+        stream.next_out = reinterpret_cast<Bytef*>(chunk.data());
+        stream.avail_out = static_cast<uInt>(chunk.size());
+        status = inflate(&stream, Z_NO_FLUSH);
+        content.append(chunk, 0, chunk.size() - stream.avail_out);
     }
-    const bool closed = gzclose(file) == Z_OK;
-    return count == 0 && closed ? std::optional(content) : std::nullopt;
+    inflateEnd(&stream);
+    return status == Z_STREAM_END ? std::optional(content) : std::nullopt;
 }
 
 fs::path DictionaryBeside(const fs::path& indexPath) {

@@ -116,6 +116,18 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadIndexTest,
                          testing::Values("b\tB\tK", "b\tzzzzzz\tA", "b\tA\tzzzzzz", "b\tA", "b",
                                          "b\t*\tA", "b\tA\t", "b\tAAAAAAAAAAAAAAA\tA"));
 
+TEST_F(ReadDictdPairTest, AFolderWithAccentsInItsNameIsFine) {
+    WriteCompressed("my.dict.dz", "A\n  Alpha\n");
+    const std::filesystem::path inside = folder_.Path() / PathOfUtf8("W\xC3\xB6rter \xE5\xAD\x97");
+    std::filesystem::create_directory(inside);
+    std::filesystem::rename(folder_.Path() / "my.dict.dz", inside / "my.dict.dz");
+    folder_.Write("my.index", "a\tA\tK\n");
+    std::filesystem::rename(folder_.Path() / "my.index", inside / "my.index");
+    ReadDictdPair(inside / "my.index", records_, report_);
+    EXPECT_EQ(report_.errors, std::vector<std::string>());
+    EXPECT_EQ(records_, std::vector<std::string>{"A\tAlpha"});
+}
+
 TEST_F(ReadDictdPairTest, AMissingHalfIsAnError) {
     folder_.Write("my.index", "a\tA\tK\n");
     Read();
