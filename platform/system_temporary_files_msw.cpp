@@ -8,15 +8,17 @@
 #include <windows.h>
 
 #include "database/file_io.h"
+#include "platform/wide_text.h"
 
 namespace brelex {
 
 std::string SystemTemporaryFiles::GetTempFolder() const {
+    // A longer path leaves the buffer empty: the caller takes the program's folder then.
     std::array<char, 100> folder{};
     if (GetTempPathA(static_cast<DWORD>(folder.size()), folder.data()) == 0) {
         return {};
     }
-    return Utf8OfPath(std::filesystem::path(folder.data()));
+    return Utf8OfAnsi(folder.data());
 }
 
 bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {

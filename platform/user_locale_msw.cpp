@@ -2,11 +2,10 @@
 #include "platform/user_locale.h"
 
 #include <array>
-#include <filesystem>
 
 #include <windows.h>
 
-#include "database/file_io.h"
+#include "platform/wide_text.h"
 
 namespace brelex {
 
@@ -17,7 +16,7 @@ std::string UserGroupSeparator() {
     if (length <= 1) {  // the terminating zero counts
         return ",";
     }
-    return Utf8OfPath(std::filesystem::path(separator.data()));
+    return Utf8OfWide(separator.data());
 }
 
 }  // namespace brelex

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -8,6 +9,7 @@
 #include "database/file_io.h"
 #include "database/locate_database.h"
 #include "platform/program_folder.h"
+#include "platform/terminal.h"
 #include "tools/build_command.h"
 #include "tools/query_commands.h"
 
@@ -34,8 +36,11 @@ int Finished(int code) {
 
 // What is thrown here beyond the parser's errors is "out of memory".
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
+    const brelex::Utf8Terminal terminal;
     CLI::App app("Looks abbreviations up and makes databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);
+    // On Windows, too, "/x" is a text to look up or the path of a file.
+    app.allow_windows_style_options(false);
     app.require_subcommand(1);
     app.fallthrough();
     std::string database;
@@ -77,7 +82,9 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         ->type_name("");
 
     try {
-        app.parse(argc, argv);
+        std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
+        std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
+        app.parse(arguments);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : kRefused;
     }

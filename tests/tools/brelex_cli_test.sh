@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# brelex_cli_test.sh BRELEX: the command line of brelex, as a script meets it.
+# brelex_cli_test.sh BRELEX [EMULATOR]: the command line of brelex, as a script meets it.
 set -u
 brelex=$1
+emulator=${2:-}
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 failures=0
@@ -24,8 +25,11 @@ contains() {
     fi
 }
 
-cp "$brelex" "$folder/brelex"
-brelex=$folder/brelex
+copy=$folder/$(basename "$brelex")
+cp "$brelex" "$copy"
+brelex=$folder/run
+printf '#!/bin/sh\nexec %s "%s" "$@"\n' "$emulator" "$copy" >"$brelex"
+chmod +x "$brelex"
 printf 'RAM\tRandom Access Memory\nABC\tAlpha\n' > "$folder/list.tsv"
 
 expect 0 "help" "$brelex" --help;                 contains out lookup
@@ -51,6 +55,10 @@ expect 0 "check" "$brelex" check
 expect 0 "look-up" "$brelex" lookup ra;           contains out "2	RAM	Random Access Memory"
 expect 0 "-d before the command" "$brelex" -d "$folder/ACRONYMS.dat" lookup abc
 contains out "1	ABC	Alpha"
+cp "$folder/ACRONYMS.dat" "$folder/Wörter 字.dat"
+expect 0 "a file's name with any characters" "$brelex" -d "$folder/Wörter 字.dat" lookup ra
+expect 1 "a text beyond the code page" "$brelex" lookup '字'
+expect 1 "a text that begins with a slash" "$brelex" lookup /x
 expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'
 expect 2 "look-up in a file that is no database" "$brelex" -d "$folder/list.tsv" lookup ra
 contains err "Cannot decode a corrupt database. Loading was aborted."
