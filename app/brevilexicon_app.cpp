@@ -7,7 +7,7 @@
 #include "platform/program_folder.h"
 #include "platform/system_temporary_files.h"
 #include "ui/frmMain.h"
-#include "ui/modBrowseFolder.h"
+#include "ui/wx_folder_picker.h"
 #include "ui/wx_message_sink.h"
 #include "ui/wx_text.h"
 
@@ -27,7 +27,7 @@ bool BrevilexiconApp::OnInit() {
     SetAppName("brevilexicon");
     SetAppDisplayName(kAppTitle);
     WxMessageSink messages(nullptr);
-    DesktopFolderPicker picker;
+    WxFolderPicker picker;
     SystemTemporaryFiles files;
     frmMain* const main = startUp_.Run(
         {messages, picker, files, ProgramFolder(), CommandLine(), SecondsSinceMidnight});

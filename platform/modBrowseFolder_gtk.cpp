@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/modBrowseFolder.h"
+#include "platform/modBrowseFolder.h"
 
 #include <wx/dirdlg.h>
 
@@ -14,10 +14,6 @@ wxString BrowseForFolder(wxWindow* owner, const wxString& title) {
         return {};
     }
     return WxText(WithTrailingSeparator(Utf8Text(browser.GetPath())));
-}
-
-std::string DesktopFolderPicker::BrowseForFolder(const std::string& title) {
-    return Utf8Text(brelex::BrowseForFolder(nullptr, WxText(title)));
 }
 
 }  // namespace brelex

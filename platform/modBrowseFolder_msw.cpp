@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "platform/modBrowseFolder.h"
+
+#include <array>
+
+#include <wx/window.h>
+
+#include <windows.h>
+#include <shlobj.h>
+
+#include "database/file_io.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+wxString BrowseForFolder(wxWindow* owner, const wxString& title) {
+    BROWSEINFOW request{};
+    request.hwndOwner = owner != nullptr ? owner->GetHWND() : GetDesktopWindow();
+    request.lpszTitle = title.wc_str();
+    request.ulFlags = BIF_RETURNONLYFSDIRS;
+    PIDLIST_ABSOLUTE const chosen = SHBrowseForFolderW(&request);
+    if (chosen == nullptr) {
+        return {};
+    }
+    std::array<wchar_t, MAX_PATH> path{};
+    SHGetPathFromIDListW(chosen, path.data());
+    CoTaskMemFree(chosen);
+    return WxText(WithTrailingSeparator(Utf8Text(path.data())));
+}
+
+}  // namespace brelex
