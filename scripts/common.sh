@@ -29,8 +29,8 @@ need_packages() {
         "${missing[@]}" || fail "could not install ${missing[*]}"
 }
 
-build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev zlib1g-dev
-                libcli11-dev ca-certificates)
+build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev libkeybinder-3.0-dev
+                zlib1g-dev libcli11-dev ca-certificates)
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux)
 

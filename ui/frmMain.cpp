@@ -18,6 +18,7 @@
 
 #include "database/number_text.h"
 #include "platform/accessible_name.h"
+#include "platform/bring_forward.h"
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
@@ -196,6 +197,7 @@ void frmMain::AddFrame(int left, int top, int width, int height) {
 }
 
 void frmMain::BindEvents() {
+    LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
     Bind(wxEVT_MENU, &frmMain::OnMenu, this, kFileItem, kMenuIdEnd);
@@ -241,6 +243,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     LayoutStatusBar();
     PlaceTitleImage();
     SetMaxBoxLength(static_cast<std::size_t>(std::max(values_.Header.MaxAbbrvLength, 0)));
+    hotKey_ = std::make_unique<ActivationHotKey>(*this, [this] { BringForward(*this); });
     splash.Destroy();
     commandLine_ = surroundings.commandLine;
     tmrCheckCommand.StartOnce(kCommandDelayMs);

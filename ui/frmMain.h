@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "database/modDataLoader.h"
 #include "lookup/lookup_box.h"
 #include "platform/acronym_list.h"
+#include "platform/hot_key.h"
 #include "ui/layout_units.h"
 #include "ui/wx_message_sink.h"
 
@@ -102,6 +104,7 @@ class frmMain final : public wxFrame, private LookupView {
     bool boxChangePending_ = false;
     bool caretStays_ = false;  // getting the focus next time selects nothing
     std::size_t maxBoxLength_ = 0;
+    std::unique_ptr<ActivationHotKey> hotKey_;
 
     wxPanel* surface_ = nullptr;
     wxWindow* lblAppTitle = nullptr;

@@ -3,6 +3,9 @@
 
 class wxDC;
 class wxRect;
+class wxStaticText;
+class wxTopLevelWindow;
+class wxWindow;
 
 namespace brelex {
 
@@ -10,5 +13,9 @@ namespace brelex {
 /// button-shadow colour, then the right and bottom edges, which stand at left + width and
 /// top + height, in its button-highlight colour.
 void Draw3DFrame(wxDC& dc, const wxRect& area);
+
+/// Has the access key in the text of `label` lead to `target`. On GTK the label does so by itself;
+/// Windows promises it for dialogs only. Call once for each window.
+void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target);
 
 }  // namespace brelex
