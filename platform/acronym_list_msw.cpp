@@ -3,6 +3,9 @@
 
 #include <wx/listctrl.h>
 
+#include <windows.h>
+#include <commctrl.h>
+
 #include "database/record_text.h"
 #include "ui/wx_text.h"
 
@@ -72,6 +75,22 @@ class AcronymListMsw final : public wxListView, public AcronymList {
   protected:
     [[nodiscard]] std::int32_t RowCount() const override {
         return rows_ == nullptr ? 0 : rows_->RowCount();
+    }
+
+    // The row found is what a person typing into the box looks at: it keeps the colours of a
+    // selection while the list has not the focus, instead of a grey that hardly shows.
+    bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override {
+        auto* const drawing = reinterpret_cast<NMLVCUSTOMDRAW*>(parameter);
+        if (drawing->nmcd.hdr.code == NM_CUSTOMDRAW &&
+            drawing->nmcd.dwDrawStage == CDDS_ITEMPREPAINT && !HasFocus() &&
+            IsSelected(static_cast<long>(drawing->nmcd.dwItemSpec))) {
+            drawing->nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+            drawing->clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+            drawing->clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+            *result = CDRF_NEWFONT;
+            return true;
+        }
+        return wxListView::MSWOnNotify(control, parameter, result);
     }
 
   private:

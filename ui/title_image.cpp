@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include <wx/dcgraph.h>
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 #include <wx/settings.h>
@@ -29,6 +28,23 @@ wxFont FittingFont(const wxWindow& window, const wxSize& size) {
     return font;
 }
 
+// Drawn in white on black and then turned into coloured transparency: text does not show on a
+// transparent bitmap on every system (seen with Wine 8).
+wxImage ImageOfName(const wxFont& font, const wxSize& size) {
+    wxBitmap bitmap(size, 24);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(*wxBLACK_BRUSH);
+    dc.Clear();
+    dc.SetFont(font);
+    dc.SetTextForeground(*wxWHITE);
+    dc.DrawText(kAppTitle, 0, 0);
+    dc.SelectObject(wxNullBitmap);
+    wxImage image = bitmap.ConvertToImage();
+    const wxColour colour = wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
+    image.ConvertColourToAlpha(colour.Red(), colour.Green(), colour.Blue());
+    return image;
+}
+
 }  // namespace
 
 wxBitmap DrawTitleImage(const wxWindow& window, const wxSize& size) {
@@ -39,18 +55,13 @@ wxBitmap DrawTitleImage(const wxWindow& window, const wxSize& size) {
     int textHeight = 0;
     window.GetTextExtent(kAppTitle, &textWidth, &textHeight, nullptr, nullptr, &font);
 
-    wxBitmap bitmap(iconSize + gap + textWidth, size.y, 32);
-    bitmap.UseAlpha();
-    wxMemoryDC memory(bitmap);
-    wxGCDC dc(memory);
-    dc.SetBackground(*wxTRANSPARENT_BRUSH);
-    dc.Clear();
-    dc.DrawBitmap(AppIcon(iconSize).GetBitmap(wxSize(iconSize, iconSize)), 0, 0, true);
-    dc.SetFont(font);
-    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
-    dc.DrawText(kAppTitle, iconSize + gap, (size.y - textHeight) / 2);
-    memory.SelectObject(wxNullBitmap);
-    return bitmap;
+    wxImage image(iconSize + gap + textWidth, size.y);
+    image.InitAlpha();
+    std::fill_n(image.GetAlpha(), image.GetWidth() * image.GetHeight(), wxALPHA_TRANSPARENT);
+    image.Paste(AppIcon(iconSize).GetBitmap(wxSize(iconSize, iconSize)).ConvertToImage(), 0, 0);
+    image.Paste(ImageOfName(font, {textWidth, textHeight}), iconSize + gap,
+                (size.y - textHeight) / 2);
+    return {image};
 }
 
 }  // namespace brelex
