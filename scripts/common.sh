@@ -31,8 +31,18 @@ need_packages() {
 
 build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev libkeybinder-3.0-dev
                 zlib1g-dev libcli11-dev ca-certificates)
+windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev make dpkg-dev
+                  xz-utils mmdebstrap bubblewrap libcli11-dev librsvg2-bin icoutils
+                  ca-certificates)
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux)
+
+# What building and running the Windows program takes beyond packages.
+need_windows() {
+    need_packages "${windows_packages[@]}" "$@"
+    scripts/windows/build_wx || fail "wxWidgets for Windows could not be built"
+    scripts/windows/setup_wine || fail "the 32-bit Wine could not be set up"
+}
 
 # configure_and_build PRESET [TARGET...]
 configure_and_build() {

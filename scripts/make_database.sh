@@ -8,7 +8,10 @@ cd "$(dirname "$0")/.."
 . scripts/common.sh
 
 folder=${1:?folder of the built programs}
-brelex=$folder/brelex
+brelex=$folder/brelex emulator=
+if [ -f "$brelex.exe" ]; then
+    brelex=$brelex.exe emulator=scripts/windows/wine32
+fi
 output=$folder/Acronyms.dat
 vera=build/data/vera
 
@@ -46,6 +49,6 @@ if [ -f "$output" ] && [ ! "$newest" -nt "$output" ] &&
     exit 0
 fi
 step "making the database"
-"$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" "${inputs[@]}" ||
+$emulator "$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" "${inputs[@]}" ||
     fail "the database could not be made"
 echo "${inputs[*]}" > "$stamp"

@@ -1,20 +1,21 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# screenshot.sh PROGRAM PICTURE [TEXT]: starts the program on the current display, types TEXT into
-# it if xdotool is there, and writes a picture of its main window.
+# screenshot.sh PICTURE TEXT COMMAND...: starts the program on the current display, types TEXT into
+# it if there is any, and writes a picture of its main window.
 set -euo pipefail
-program=$1 picture=$2 text=${3:-}
-"$program" & pid=$!
+picture=$1 text=$2
+shift 2
+"$@" & pid=$!
 trap 'kill $pid 2>/dev/null' EXIT
 window=
-for _ in $(seq 200); do
+for _ in $(seq 400); do
     window=$(xwininfo -root -tree | sed -n 's/^ *\(0x[0-9a-f]*\) "Brevilexicon (.*/\1/p' | head -1)
     [ -n "$window" ] && break
     kill -0 $pid || exit 1
     sleep 0.05
 done
 [ -n "$window" ] || { echo "screenshot: no main window" >&2; exit 1; }
-sleep 0.5
+sleep 1
 if [ -n "$text" ]; then
     xdotool type --delay 40 "$text"
     sleep 0.4

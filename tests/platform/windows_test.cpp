@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// What the program asks of Windows, without its windows.
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include "database/file_io.h"
+#include "platform/instance_guard.h"
+#include "platform/program_folder.h"
+#include "platform/system_temporary_files.h"
+#include "platform/user_locale.h"
+#include "platform/wide_text.h"
+#include "tests/support/test_files.h"
+
+namespace brelex {
+namespace {
+
+// Sets environment variables for the length of a test.
+class Environment {
+  public:
+    explicit Environment(std::wstring name) : name_(std::move(name)) {
+        constexpr DWORD kRoom = 2000;
+        std::wstring before(kRoom, L'\0');
+        before.resize(GetEnvironmentVariableW(name_.c_str(), before.data(), kRoom));
+        before_ = before;
+    }
+
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+
+    ~Environment() { Set(before_); }
+
+    void Set(const std::wstring& value) const {
+        SetEnvironmentVariableW(name_.c_str(), value.empty() ? nullptr : value.c_str());
+    }
+
+  private:
+    std::wstring name_;
+    std::wstring before_;
+};
+
+TEST(GetTempFolderOnWindows, IsWhatTheSystemSays) {
+    const TestFolder folder;
+    const Environment tmp(L"TMP");
+    tmp.Set(folder.Path().wstring());
+    EXPECT_EQ(SystemTemporaryFiles().GetTempFolder(), folder.Text());
+}
+
+TEST(GetTempFolderOnWindows, KeepsAnAccentInTheUsersName) {
+    const TestFolder folder;
+    const std::filesystem::path inside = folder.Path() / L"Jos\u00E9";
+    std::filesystem::create_directory(inside);
+    const Environment tmp(L"TMP");
+    tmp.Set(inside.wstring());
+    EXPECT_EQ(SystemTemporaryFiles().GetTempFolder(), WithTrailingSeparator(Utf8OfPath(inside)));
+}
+
+TEST(GetTempFolderOnWindows, IsEmptyWhereThePathExceedsAHundredCharacters) {
+    const TestFolder folder;
+    const std::filesystem::path inside = folder.Path() / std::wstring(110, L'x');
+    std::filesystem::create_directory(inside);
+    const Environment tmp(L"TMP");
+    tmp.Set(inside.wstring());
+    EXPECT_EQ(SystemTemporaryFiles().GetTempFolder(), "");
+}
+
+TEST(ProgramFolderOnWindows, HasBackslashesAndEndsInOne) {
+    const std::string folder = ProgramFolder();
+    EXPECT_EQ(folder.back(), '\\');
+    EXPECT_EQ(folder.find('/'), std::string::npos);
+    EXPECT_EQ(folder[1], ':');
+}
+
+TEST(WithTrailingSeparatorOnWindows, ADriveRootGetsNoSecondBackslash) {
+    EXPECT_EQ(WithTrailingSeparator("C:\\"), "C:\\");
+    EXPECT_EQ(WithTrailingSeparator("C:\\Data"), "C:\\Data\\");
+}
+
+TEST(InstanceGuardOnWindows, OnlyTheFirstIsAlone) {
+    {
+        const InstanceGuard first;
+        EXPECT_FALSE(first.IsAnotherRunning());
+        const InstanceGuard second;
+        EXPECT_TRUE(second.IsAnotherRunning());
+    }
+    const InstanceGuard next;
+    EXPECT_FALSE(next.IsAnotherRunning());
+}
+
+class UserGroupSeparatorOnWindows : public testing::Test {
+  protected:
+    void SetUp() override { GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, before_, 16); }
+
+    void TearDown() override { Set(before_); }
+
+    static void Set(const wchar_t* separator) {
+        SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator);
+    }
+
+    wchar_t before_[16] = {};
+};
+
+TEST_F(UserGroupSeparatorOnWindows, IsTheOneOfTheUsersSettings) {
+    Set(L".");
+    EXPECT_EQ(UserGroupSeparator(), ".");
+    Set(L"\u00A0");
+    EXPECT_EQ(UserGroupSeparator(), "\xC2\xA0");
+}
+
+TEST_F(UserGroupSeparatorOnWindows, IsACommaWhereTheSettingsHaveNone) {
+    Set(L"");
+    EXPECT_EQ(UserGroupSeparator(), ",");
+}
+
+TEST(Utf8OfWide, KeepsAllCharactersAndMarksBrokenOnes) {
+    EXPECT_EQ(Utf8OfWide(L"a\u00E9\u4E2D\U0001F600"), "a\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80");
+    const wchar_t broken[] = {L'a', 0xD800, L'b', 0};
+    EXPECT_EQ(Utf8OfWide(broken),
+              "a\xEF\xBF\xBD"
+              "b");
+    EXPECT_EQ(Utf8OfWide(L""), "");
+}
+
+TEST(Utf8OfAnsi, TakesTheSystemsCodePage) {
+    ASSERT_EQ(GetACP(), 1252U);
+    EXPECT_EQ(Utf8OfAnsi("\xE9\x80"), "\xC3\xA9\xE2\x82\xAC");
+    EXPECT_EQ(Utf8OfAnsi(""), "");
+}
+
+}  // namespace
+}  // namespace brelex
