@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Times whole processes of a finished build against others, in turn, and prints medians and ratios.
 
-  benchmarks/processes.py build/bench/bin        (Acronyms.dat must be beside the programs)
+  benchmarks/processes.py build/bench/bin [build/win32/bin]
 
-Run it under scripts/with_display to have the start of the windows timed, too.
+Acronyms.dat must be beside the programs. Run it under scripts/with_display to have the start of the
+windows timed, too, with the second folder that of the Windows program under Wine.
 """
 import os
 import statistics
@@ -31,12 +32,16 @@ def pair(name, ours, theirs, measure, runs):
           f"ratio {statistics.median(ratios):.2f}")
 
 
-def until_window(timer, title):
-    def measure(program):
-        out = subprocess.run([timer, title(program), program], capture_output=True, text=True,
-                             check=True).stdout
-        return float(out)
-    return measure
+def start_of_window(timer, program, empty, runs):
+    def measure(command):
+        title = "Empty" if command is empty else "Brevilexicon ("
+        # Wine's server keeps a pipe open beyond the end of its programs.
+        with tempfile.TemporaryFile() as out:
+            subprocess.run([timer, title, *command], stdout=out, check=True)
+            out.seek(0)
+            return float(out.read())
+    pair(f"start to main window / empty frame ({program[-1].rpartition('/')[2]})", program, empty,
+         measure, runs)
 
 
 def main():
@@ -51,11 +56,14 @@ def main():
         pair("brelex lookup TCP / look -f tcp", [brelex, "lookup", "TCP"],
              ["look", "-f", "tcp", tsv], milliseconds, 60)
     if os.environ.get("DISPLAY"):
-        main_program = os.path.join(folder, "brevilexicon")
-        empty = os.path.join(folder, "empty_frame")
-        title = lambda program: "Empty" if program == empty else "Brevilexicon ("
-        measure = until_window(os.path.join(folder, "window_timer"), title)
-        pair("start to main window / empty frame", main_program, empty, measure, 15)
+        timer = os.path.join(folder, "window_timer")
+        start_of_window(timer, [os.path.join(folder, "brevilexicon")],
+                        [os.path.join(folder, "empty_frame")], 15)
+        if len(sys.argv) > 2:
+            wine = os.path.join(os.path.dirname(__file__), "../scripts/windows/wine32")
+            folder = os.path.abspath(sys.argv[2])
+            start_of_window(timer, [wine, os.path.join(folder, "brevilexicon.exe")],
+                            [wine, os.path.join(folder, "empty_frame.exe")], 15)
 
 
 main()
