@@ -4,6 +4,8 @@
 #include <wx/datetime.h>
 
 #include "database/program_values.h"
+#include "platform/command_line.h"
+#include "platform/modRunAtStartup.h"
 #include "platform/program_folder.h"
 #include "platform/system_temporary_files.h"
 #include "ui/frmMain.h"
@@ -29,22 +31,15 @@ bool BrevilexiconApp::OnInit() {
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
     SystemTemporaryFiles files;
-    frmMain* const main = startUp_.Run(
-        {messages, picker, files, ProgramFolder(), CommandLine(), SecondsSinceMidnight});
+    frmMain* const main = startUp_.Run({messages, picker, files, ProgramFolder(),
+                                        Utf8Text(ArgumentText(argv.GetArguments())),
+                                        SecondsSinceMidnight, SetRunAtStartup});
     if (main == nullptr) {
         return false;
     }
     SetTopWindow(main);
     main->Show();
     return true;
-}
-
-std::string BrevilexiconApp::CommandLine() const {
-    wxString text;
-    for (int i = 1; i < argc; ++i) {
-        text += (i > 1 ? " " : "") + wxString(argv[i]);
-    }
-    return Utf8Text(text);
 }
 
 }  // namespace brelex

@@ -13,9 +13,6 @@ class BrevilexiconApp final : public wxApp {
     bool OnInit() override;
 
   private:
-    /// All arguments, parted by blanks.
-    [[nodiscard]] std::string CommandLine() const;
-
     StartUp startUp_;
 };
 

@@ -30,9 +30,11 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
     // Made while the desktop brings the splash window up; the loading waits until that is seen.
     auto* main = new frmMain(values_, store_);
     splash->PaintAtOnce();
-    const MainSurroundings mainSurroundings{surroundings.files, surroundings.messages,
-                                            surroundings.secondsSinceMidnight,
-                                            surroundings.commandLine};
+    const MainSurroundings mainSurroundings{
+        surroundings.files, surroundings.messages, surroundings.secondsSinceMidnight,
+        surroundings.commandLine, [this, set = surroundings.setRunAtStartup](bool enable) {
+            return set(values_.AppFolder, enable);
+        }};
     if (!main->Load(*splash, mainSurroundings)) {
         splash->Destroy();
         main->Destroy();

@@ -24,6 +24,9 @@ struct StartUpSurroundings {
     std::string programFolder;  ///< UTF-8
     std::string commandLine;    ///< the whole argument text, UTF-8
     std::function<float()> secondsSinceMidnight;
+
+    /// Registers the program in a folder for the log-on, or no longer; see SetRunAtStartup.
+    std::function<bool(const std::string&, bool)> setRunAtStartup;
 };
 
 /// Starts the program in its order and owns what all windows share. Must outlive them.

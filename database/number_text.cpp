@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "database/number_text.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <system_error>
 
@@ -77,6 +80,32 @@ std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_
     const auto [end, error] =
         std::from_chars(signedDigits.data(), signedDigits.data() + signedDigits.size(), number);
     return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+std::string FormatOneDecimal(float number) {
+    // Long enough for the largest number, which has 39 digits, and for the smallest.
+    std::array<char, 160> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                      std::abs(number), std::chars_format::fixed);
+    std::string digits(buffer.data(), result.ptr);
+    if (!std::isfinite(number)) {
+        return digits;
+    }
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    const bool roundUp = digits.size() > point + 2 && digits[point + 2] >= '5';
+    // Tenths as a whole number in text, counted up by one if need be.
+    std::string tenths =
+        digits.substr(0, point) + (digits.size() > point ? digits[point + 1] : '0');
+    if (roundUp) {
+        std::size_t at = tenths.size();
+        while (at > 0 && tenths[at - 1] == '9') {
+            tenths[--at] = '0';
+        }
+        at == 0 ? static_cast<void>(tenths.insert(0, 1, '1')) : static_cast<void>(++tenths[at - 1]);
+    }
+    const std::string whole = tenths.substr(0, tenths.size() - 1);
+    const bool negative = number < 0 && tenths.find_first_not_of('0') != std::string::npos;
+    return (negative ? "-" : "") + (whole == "0" ? std::string() : whole) + "." + tenths.back();
 }
 
 }  // namespace brelex

@@ -12,6 +12,10 @@ namespace brelex {
 /// `separator` is UTF-8 and not empty.
 [[nodiscard]] std::string FormatGrouped(std::int32_t number, std::string_view separator);
 
+/// `number` with one decimal and no leading zero, "#.0": 6.1 is "6.1", 0.5 is ".5". Rounds halves
+/// of its shortest decimal text up: 1.25 is "1.3". Requires a finite number.
+[[nodiscard]] std::string FormatOneDecimal(float number);
+
 /// The whole number that `text` states: an optional sign and digits, with blanks around them and
 /// `separator` between groups of three allowed. Nothing if it states anything else or a number
 /// beyond 32 bits.

@@ -52,6 +52,13 @@ void LookupBox::OnListClick() {
     }
 }
 
+void LookupBox::OnListMenu() {
+    const bool wasNavigating = std::exchange(IsNavigating, true);
+    ShowRecordNumber();
+    WriteSelectedAbbreviation();
+    IsNavigating = wasNavigating;
+}
+
 void LookupBox::SelectByPrefix(const std::string& text) {
     FoundRow = FindFirstByPrefix(*values_.AcronymList, BytesOfUtf8(text).bytes);
     if (values_.AcronymList->RowCount() == 0 || FoundRow == view_.SelectedRow()) {

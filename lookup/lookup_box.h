@@ -68,6 +68,10 @@ class LookupBox {
     /// The user selected a row of the list, by mouse or key.
     void OnListClick();
 
+    /// The list, which has the focus, is about to show the menu of its selected row: shows the
+    /// row's number and writes its abbreviation into the box.
+    void OnListMenu();
+
     void OnListGotFocus() { IsNavigating = true; }
 
     void OnListLostFocus() { IsNavigating = false; }

@@ -1,7 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "platform/acronym_list.h"
 
+#include <wx/event.h>
+#include <wx/utils.h>
+#include <wx/window.h>
+
 namespace brelex {
+
+void AcronymList::RightPressed() {
+    const std::int32_t row = RowAt(Window().ScreenToClient(wxGetMousePosition()));
+    if (row >= 0 && onRightPress) {
+        onRightPress(row);
+    }
+}
+
+void AcronymList::OnContextMenu(wxContextMenuEvent& event) {
+    // With the mouse the pressed button has asked for it already.
+    if (event.GetPosition() == wxDefaultPosition && SelectedRow() >= 0 && onMenuKey) {
+        onMenuKey();
+    }
+}
 
 void AcronymList::SendKey(NavigationKey key) {
     if (key == NavigationKey::Enter) {

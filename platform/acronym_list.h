@@ -7,6 +7,7 @@
 #include "database/row_list.h"
 #include "lookup/list_navigation.h"
 
+class wxContextMenuEvent;
 class wxPoint;
 class wxWindow;
 
@@ -59,7 +60,15 @@ class AcronymList {
     std::function<void()>
         onEnter;  ///< Enter without Shift, Ctrl or Alt, or a double-click on a row
 
+    std::function<void(std::int32_t)> onRightPress;  ///< the right button was pressed on a row
+    std::function<void()> onMenuKey;  ///< the keyboard asks for the menu of the selected row
+
   protected:
+    /// The control tells of the right button, and then does nothing of its own for it; and of the
+    /// keyboard's wish for a menu.
+    void RightPressed();
+    void OnContextMenu(wxContextMenuEvent& event);
+
     [[nodiscard]] virtual std::int32_t RowCount() const = 0;
 };
 

@@ -83,6 +83,9 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
         Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &AcronymListGtk::OnSelectionChanged, this);
         Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &AcronymListGtk::OnActivated, this);
+        // Before the toolkit, whose own handling selects a row even for a press below the last.
+        g_signal_connect(view, "event", G_CALLBACK(&AcronymListGtk::OnEvent), this);
+        Bind(wxEVT_CONTEXT_MENU, &AcronymListGtk::OnContextMenu, this);
     }
 
     wxWindow& Window() override { return *this; }
@@ -174,6 +177,16 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         const int width = textAt - kListEdge - padding - separator / 2;
         gtk_tree_view_column_set_fixed_width(first, std::max(1, width));
         gtk_tree_view_column_set_expand(second, TRUE);
+    }
+
+    static gboolean OnEvent(GtkWidget* /*view*/, GdkEvent* event, AcronymListGtk* self) {
+        const bool right = event->type == GDK_BUTTON_PRESS &&
+                           event->button.button == GDK_BUTTON_SECONDARY &&
+                           event->button.window == gtk_tree_view_get_bin_window(self->TreeView());
+        if (right) {
+            self->RightPressed();
+        }
+        return right ? TRUE : FALSE;
     }
 
     void OnSelectionChanged(wxDataViewEvent& event) {

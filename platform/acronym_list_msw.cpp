@@ -27,6 +27,8 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         Bind(wxEVT_LIST_ITEM_DESELECTED, &AcronymListMsw::OnDeselected, this);
         Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
         Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown);
+        Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
+        Bind(wxEVT_CONTEXT_MENU, &AcronymListMsw::OnContextMenu, this);
     }
 
     wxWindow& Window() override { return *this; }

@@ -14,13 +14,24 @@ std::string Utf8OfWide(std::wstring_view text) {
     return utf8;
 }
 
-std::string Utf8OfAnsi(std::string_view text) {
+namespace {
+
+std::wstring WideOf(UINT codePage, std::string_view text) {
     const auto length = static_cast<int>(text.size());
-    std::wstring wide(
-        static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), length, nullptr, 0)),
-        L'\0');
-    MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), static_cast<int>(wide.size()));
-    return Utf8OfWide(wide);
+    const int needed = MultiByteToWideChar(codePage, 0, text.data(), length, nullptr, 0);
+    std::wstring wide(static_cast<std::size_t>(needed), L'\0');
+    MultiByteToWideChar(codePage, 0, text.data(), length, wide.data(), needed);
+    return wide;
+}
+
+}  // namespace
+
+std::wstring WideOfUtf8(std::string_view text) {
+    return WideOf(CP_UTF8, text);
+}
+
+std::string Utf8OfAnsi(std::string_view text) {
+    return Utf8OfWide(WideOf(CP_ACP, text));
 }
 
 }  // namespace brelex

@@ -30,12 +30,12 @@ need_packages() {
 }
 
 build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev libkeybinder-3.0-dev
-                zlib1g-dev libcli11-dev ca-certificates)
+                libdbusmenu-glib-dev zlib1g-dev libcli11-dev ca-certificates)
 windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev make dpkg-dev
                   xz-utils mmdebstrap bubblewrap libcli11-dev librsvg2-bin icoutils
                   ca-certificates)
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
-                  librsvg2-common util-linux)
+                  librsvg2-common util-linux trayer)
 
 # What building and running the Windows program takes beyond packages.
 need_windows() {

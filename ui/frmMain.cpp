@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <optional>
 #include <utility>
 
@@ -15,6 +16,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
+#include <wx/utils.h>
 
 #include "database/number_text.h"
 #include "platform/accessible_name.h"
@@ -25,6 +27,7 @@
 #include "ui/frmSplash.h"
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
+#include "ui/pending_events.h"
 #include "ui/title_image.h"
 #include "ui/wx_text.h"
 
@@ -74,6 +77,35 @@ std::string ShownAddress(const std::string& address) {
 
 }  // namespace
 
+// The time that a modal window is up: the icon shows no menu then, and the main window does not
+// stay above the other. Within one, another changes nothing.
+class frmMain::ModalScope {
+  public:
+    explicit ModalScope(frmMain& window)
+        : window_(window),
+          outermost_(!std::exchange(window.IsModalOpen, true)) {
+        if (outermost_ && window_.IsStayOnTop) {
+            SetTopMost(window_, false);
+        }
+    }
+
+    ModalScope(const ModalScope&) = delete;
+    ModalScope& operator=(const ModalScope&) = delete;
+
+    ~ModalScope() {
+        if (outermost_) {
+            if (window_.IsStayOnTop) {
+                SetTopMost(window_, true);
+            }
+            window_.IsModalOpen = false;
+        }
+    }
+
+  private:
+    frmMain& window_;
+    bool outermost_;
+};
+
 frmMain::frmMain(ProgramValues& values, RecordStore& store)
     : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE & ~(wxRESIZE_BORDER | wxMAXIMIZE_BOX)),
@@ -82,6 +114,7 @@ frmMain::frmMain(ProgramValues& values, RecordStore& store)
       messages_(this),
       lookup_(values, *this, messages_),
       units_(*this),
+      trayBehaviour_(*this),
       tmrCheckCommand(this) {
     SetName("frmMain");
     SetIcons(AppIcons());
@@ -197,6 +230,7 @@ void frmMain::AddFrame(int left, int top, int width, int height) {
 }
 
 void frmMain::BindEvents() {
+    Bind(wxEVT_ICONIZE, &frmMain::OnIconize, this);
     LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
@@ -207,6 +241,17 @@ void frmMain::BindEvents() {
     txtAbbrv->Bind(wxEVT_CHAR, &frmMain::OnBoxChar, this);
     txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
     txtAbbrv->Bind(wxEVT_TEXT_PASTE, &frmMain::OnBoxPaste, this);
+    BindListEvents();
+    // Where a control is no window of its own, its mouse events are those of the one under it.
+    for (wxWindow* window : std::initializer_list<wxWindow*>{surface_, lblRecNumber, lblRecCount,
+                                                             lblAppTitle, imgAppTitle}) {
+        window->Bind(wxEVT_LEFT_DCLICK, &frmMain::OnDoubleClick, this);
+    }
+    picColHeader->Bind(wxEVT_LEFT_DOWN,
+                       [this](wxMouseEvent&) { lstAcronyms->Window().SetFocus(); });
+}
+
+void frmMain::BindListEvents() {
     lstAcronyms->onClick = [this] {
         // Only a list that is used is clicked; but on GTK the click comes before the focus it
         // brings.
@@ -215,6 +260,8 @@ void frmMain::BindEvents() {
         lookup_.IsNavigating = wasNavigating;
     };
     lstAcronyms->onEnter = [this] { OpenEntryViewer(); };
+    lstAcronyms->onRightPress = [this](std::int32_t row) { ShowListMenu(row); };
+    lstAcronyms->onMenuKey = [this] { ShowListMenu(SelectedRow()); };
     lstAcronyms->Window().Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         lookup_.OnListGotFocus();
         event.Skip();
@@ -223,11 +270,38 @@ void frmMain::BindEvents() {
         lookup_.OnListLostFocus();
         event.Skip();
     });
-    // Where a label is no window of its own, its mouse events are those of the surface under it.
-    lblRecNumber->Bind(wxEVT_LEFT_DCLICK, &frmMain::OnDoubleClick, this);
-    surface_->Bind(wxEVT_LEFT_DCLICK, &frmMain::OnDoubleClick, this);
-    picColHeader->Bind(wxEVT_LEFT_DOWN,
-                       [this](wxMouseEvent&) { lstAcronyms->Window().SetFocus(); });
+}
+
+void frmMain::AddHints() {
+    const char* const listHint =
+        "Press Carriage Return or double-click an entry in the list to view it";
+    hints_.emplace(*surface_, *lblDescription);
+    hints_->Add(*txtAbbrv, "Type here the acronym/abbreviation you are looking for");
+    hints_->Add(lstAcronyms->Window(), listHint);
+    hints_->Add(*picColHeader, listHint);
+    hints_->Add(*lblRecCount,
+                "Number of entries in the database (double-click to view Database Info)");
+    hints_->Add(*lblRecNumber, "Current record number (double-click to go to specified record)");
+    hints_->Add(*imgAppTitle,
+                WxText(std::string(kAppTitle) + " version " + FormatOneDecimal(values_.AppVersion) +
+                       ", " + values_.info.copyright));
+    hints_->Watch();
+}
+
+TrayEvents frmMain::TrayEventsOfWindow() {
+    TrayEvents events;
+    events.onLeftRelease = [this] { trayBehaviour_.OnLeftRelease(); };
+    events.onRightRelease = [this] { trayBehaviour_.OnRightRelease(*trayIcon_); };
+    events.menu = [this] { return trayBehaviour_.Menu(); };
+    events.onMenuItem = [this](int index) { trayBehaviour_.OnMenuItem(index); };
+    events.onGone = [this] {
+        // A window that nothing could bring back must not stay hidden.
+        if (!IsShown()) {
+            Iconize();
+            Show();
+        }
+    };
+    return events;
 }
 
 bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
@@ -243,7 +317,11 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     LayoutStatusBar();
     PlaceTitleImage();
     SetMaxBoxLength(static_cast<std::size_t>(std::max(values_.Header.MaxAbbrvLength, 0)));
-    hotKey_ = std::make_unique<ActivationHotKey>(*this, [this] { BringForward(*this); });
+    AddHints();
+    hotKey_ = std::make_unique<ActivationHotKey>(*this, [this] { ActivateWindow(); });
+    trayIcon_ = AddTrayIcon(AppIcons(), kAppTitle, TrayEventsOfWindow());
+    setRunAtStartup_ = surroundings.setRunAtStartup;
+    setRunAtStartup_(true);
     splash.Destroy();
     commandLine_ = surroundings.commandLine;
     tmrCheckCommand.StartOnce(kCommandDelayMs);
@@ -251,6 +329,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
 }
 
 void frmMain::OpenModalForm(int number) {
+    const ModalScope modal(*this);
     static constexpr std::array kNames = {
         "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
         "About",           "Check Data Integrity", "Donate via PayPal"};
@@ -264,19 +343,22 @@ void frmMain::OpenEntryViewer() {
 }
 
 void frmMain::SayNotYet(const std::string& what) {
+    const ModalScope modal(*this);
     messages_.Show({what + " is not part of this version yet.", kAppTitle, MessageIcon::Information,
                     MessageButtons::Ok});
 }
 
 void frmMain::GoToRecordNumber(std::int32_t nRecordNumber) {
     FlushBoxChange();
+    const ModalScope modal(*this);  // it may ask, and complain
     lookup_.GoToRecordNumber(nRecordNumber);
 }
 
 void frmMain::UnloadOtherForms() {
     const wxWindowList windows = wxTopLevelWindows;  // destroying changes the list
     for (wxWindow* window : windows) {
-        if (window != this) {
+        // Ours have names; the toolkit has windows of its own among them.
+        if (window != this && window->GetName().StartsWith("frm")) {
             window->Destroy();
         }
     }
@@ -309,9 +391,11 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             GoToRecordNumber(-1);
             break;
         case kOptionsItem:
+            IsStayOnTop = event.IsChecked();
+            SetTopMost(*this, IsStayOnTop);
+            break;
         case kOptionsItem + 2:
-            GetMenuBar()->Check(id, false);  // nothing was switched on
-            SayNotYet(id == kOptionsItem ? "Stay on Top" : "Run at Startup");
+            setRunAtStartup_(event.IsChecked());
             break;
         case kHelpItem:
             SayNotYet("Help");
@@ -327,6 +411,12 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             break;
         case kHelpItem + 6:
             OpenModalForm(4);
+            break;
+        case kListboxRClickItem:
+            OpenEntryViewer();
+            break;
+        case kListboxRClickItem + 2:
+            CopyEntryToClipboard(store_.RowText(SelectedRow()));
             break;
         default:
             event.Skip();
@@ -345,6 +435,7 @@ void frmMain::OnClose(wxCloseEvent& event) {
     }
     tmrCheckCommand.Stop();
     UnloadOtherForms();
+    RemoveTrayIcon(trayIcon_);
     Destroy();
 }
 
@@ -413,12 +504,49 @@ void frmMain::OnBoxPaste(wxClipboardTextEvent& event) {
 }
 
 void frmMain::OnDoubleClick(wxMouseEvent& event) {
-    const bool onLabel = event.GetEventObject() == lblRecNumber;
-    if (onLabel || lblRecNumber->GetRect().Contains(event.GetPosition())) {
+    const wxPoint mouse = wxGetMousePosition();
+    if (lblRecNumber->GetScreenRect().Contains(mouse)) {
         GoToRecordNumber(-1);
+    } else if (lblRecCount->GetScreenRect().Contains(mouse)) {
+        OpenModalForm(2);
+    } else if (imgAppTitle->GetScreenRect().Contains(mouse)) {
+        OpenModalForm(4);
     } else {
         event.Skip();
     }
+}
+
+// Minimising hides the window into its icon. Without an icon on the screen it only minimises, as
+// nothing could bring it back.
+void frmMain::OnIconize(wxIconizeEvent& event) {
+    if (event.IsIconized() && trayIcon_ != nullptr && trayIcon_->IsShown()) {
+        Hide();
+    }
+    event.Skip();
+}
+
+void frmMain::RestoreWindow() {
+    BringForward(*this);
+}
+
+void frmMain::ActivateWindow() {
+    const auto modal =
+        std::find_if(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), [](wxWindow* window) {
+            const auto* dialog = dynamic_cast<wxDialog*>(window);
+            return dialog != nullptr && dialog->IsModal();
+        });
+    BringForward(*this);
+    if (modal != wxTopLevelWindows.end()) {
+        (*modal)->Raise();
+    }
+}
+
+void frmMain::ShowListMenu(std::int32_t row) {
+    SelectRow(row);
+    lstAcronyms->Window().SetFocus();
+    LetPendingEventsRun();
+    lookup_.OnListMenu();
+    PopupMenu(CreateListMenu().get());
 }
 
 void frmMain::OnCheckCommand(wxTimerEvent& /*event*/) {

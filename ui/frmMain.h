@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,10 @@
 #include "lookup/lookup_box.h"
 #include "platform/acronym_list.h"
 #include "platform/hot_key.h"
+#include "platform/modSysTray.h"
+#include "ui/hover_hints.h"
 #include "ui/layout_units.h"
+#include "ui/tray_behaviour.h"
 #include "ui/wx_message_sink.h"
 
 class wxClipboardTextEvent;
@@ -31,11 +35,12 @@ struct MainSurroundings {
     TemporaryFiles& files;
     MessageSink& messages;  ///< for messages before the window is shown
     std::function<float()> secondsSinceMidnight;
-    std::string commandLine;  ///< the whole argument text (UTF-8)
+    std::string commandLine;                    ///< the whole argument text (UTF-8)
+    std::function<bool(bool)> setRunAtStartup;  ///< registers the program for the log-on, or not
 };
 
 /// The main window: the lookup box over the list of all entries. Closing it ends the program.
-class frmMain final : public wxFrame, private LookupView {
+class frmMain final : public wxFrame, private LookupView, private TrayOwner {
   public:
     /// `values` and `store` must outlive the window. `store` is still empty; Load fills it.
     frmMain(ProgramValues& values, RecordStore& store);
@@ -49,13 +54,18 @@ class frmMain final : public wxFrame, private LookupView {
 
     [[nodiscard]] AcronymList& List() { return *lstAcronyms; }
 
-    /// Opens a side window (0 to 6) modally.
-    void OpenModalForm(int number);
+    /// Opens a side window (0 to 6) modally; any other number opens none.
+    void OpenModalForm(int number) override;
 
     /// Selects an entry by its record number (1-based); -1 asks the user for it.
     void GoToRecordNumber(std::int32_t nRecordNumber);
 
+    bool IsModalOpen = false;  ///< a modal window is up: the icon shows no menu
+    bool IsStayOnTop = false;  ///< as checked in the menu
+
   private:
+    class ModalScope;
+
     void CreateControls();
     void PlaceControls();
     void ShowWholeRows();
@@ -63,6 +73,9 @@ class frmMain final : public wxFrame, private LookupView {
     void LayoutStatusBar();
     void PlaceTitleImage();
     void BindEvents();
+    void BindListEvents();
+    void AddHints();
+    [[nodiscard]] TrayEvents TrayEventsOfWindow();
     void AddFrame(int left, int top, int width, int height);
     void UnloadOtherForms();
     void OpenEntryViewer();
@@ -78,6 +91,8 @@ class frmMain final : public wxFrame, private LookupView {
     void OnBoxFocus(wxFocusEvent& event);
     void OnBoxPaste(wxClipboardTextEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
+    void OnIconize(wxIconizeEvent& event);
+    void ShowListMenu(std::int32_t row);
     void OnCheckCommand(wxTimerEvent& event);
 
     /// Passes a pending change of the box's text on to the lookup.
@@ -94,6 +109,19 @@ class frmMain final : public wxFrame, private LookupView {
     std::string AskText(const std::string& title, const std::string& prompt,
                         const std::string& defaultText) override;
 
+    [[nodiscard]] bool IsWindowVisible() const override { return IsShown(); }
+
+    [[nodiscard]] bool IsWindowMinimised() const override { return IsIconized() || !IsShown(); }
+
+    [[nodiscard]] bool IsModalWindowOpen() const override { return IsModalOpen; }
+
+    void RestoreWindow() override;
+    void ActivateWindow() override;
+
+    void MinimiseWindow() override { Iconize(); }
+
+    void Exit() override { Close(); }
+
     ProgramValues& values_;
     RecordStore& store_;
     WxMessageSink messages_;
@@ -104,6 +132,10 @@ class frmMain final : public wxFrame, private LookupView {
     bool boxChangePending_ = false;
     bool caretStays_ = false;  // getting the focus next time selects nothing
     std::size_t maxBoxLength_ = 0;
+    std::function<bool(bool)> setRunAtStartup_;
+    std::optional<HoverHints> hints_;
+    TrayBehaviour trayBehaviour_;
+    std::unique_ptr<TrayIcon> trayIcon_;
     std::unique_ptr<ActivationHotKey> hotKey_;
 
     wxPanel* surface_ = nullptr;

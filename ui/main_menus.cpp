@@ -28,6 +28,10 @@ wxMenu* CreateMenu(int firstId, const std::vector<ItemSpec>& items) {
 
 }  // namespace
 
+std::unique_ptr<wxMenu> CreateListMenu() {
+    return std::unique_ptr<wxMenu>(CreateMenu(kListboxRClickItem, {{"&View"}, {"-"}, {"&Copy"}}));
+}
+
 wxMenuBar* CreateMainMenus() {
     auto* bar = new wxMenuBar;
     bar->Append(CreateMenu(kFileItem, {{"Database Info..."},
@@ -54,6 +58,7 @@ wxMenuBar* CreateMainMenus() {
                                        {"Donate via PayPal..."},
                                        {"About..."}}),
                 "&Help");
+    bar->Check(kOptionsItem + 2, true);  // every start registers the program
     return bar;
 }
 

@@ -2,11 +2,16 @@
 #include "ui/modGeneral.h"
 
 #include <wx/accel.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/dc.h>
 #include <wx/gdicmn.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
 #include <wx/toplevel.h>
+
+#include "database/record_text.h"
+#include "ui/wx_text.h"
 
 namespace brelex {
 
@@ -21,6 +26,20 @@ void Draw3DFrame(wxDC& dc, const wxRect& area) {
     dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
     dc.DrawLine(right, bottom, right, top);
     dc.DrawLine(left, bottom, right, bottom);
+}
+
+void SetTopMost(wxTopLevelWindow& window, bool topMost) {
+    const long style = window.GetWindowStyleFlag();
+    window.SetWindowStyleFlag(topMost ? style | wxSTAY_ON_TOP : style & ~wxSTAY_ON_TOP);
+}
+
+void CopyEntryToClipboard(std::string_view recordText) {
+    const wxClipboardLocker clipboard;
+    if (!clipboard) {
+        return;
+    }
+    wxTheClipboard->SetData(new wxTextDataObject(WxTextOfBytes(GetAbbreviation(recordText)) +
+                                                 " = " + WxTextOfBytes(GetExpansion(recordText))));
 }
 
 void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 class wxDC;
 class wxRect;
 class wxStaticText;
@@ -13,6 +15,13 @@ namespace brelex {
 /// button-shadow colour, then the right and bottom edges, which stand at left + width and
 /// top + height, in its button-highlight colour.
 void Draw3DFrame(wxDC& dc, const wxRect& area);
+
+/// Puts a window into the band of windows that stay above all others, or takes it out of it.
+void SetTopMost(wxTopLevelWindow& window, bool topMost);
+
+/// Puts the entry with this record text (Windows-1252 bytes) on the clipboard as text, in the form
+/// "RAM = Random Access Memory".
+void CopyEntryToClipboard(std::string_view recordText);
 
 /// Has the access key in the text of `label` lead to `target`. On GTK the label does so by itself;
 /// Windows promises it for dialogs only. Call once for each window.

@@ -31,6 +31,26 @@ INSTANTIATE_TEST_SUITE_P(
                     GroupedCase{-1234, ",", "-1,234"},
                     GroupedCase{std::numeric_limits<std::int32_t>::min(), ",", "-2,147,483,648"}));
 
+struct DecimalCase {
+    float number;
+    const char* text;
+};
+
+class FormatOneDecimalTest : public testing::TestWithParam<DecimalCase> {};
+
+TEST_P(FormatOneDecimalTest, HasOneDecimalAndNoLeadingZero) {
+    EXPECT_EQ(FormatOneDecimal(GetParam().number), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, FormatOneDecimalTest,
+    testing::Values(DecimalCase{6.1F, "6.1"}, DecimalCase{1.0F, "1.0"}, DecimalCase{0.5F, ".5"},
+                    DecimalCase{0.0F, ".0"}, DecimalCase{1.25F, "1.3"}, DecimalCase{1.24F, "1.2"},
+                    DecimalCase{1.35F, "1.4"}, DecimalCase{9.95F, "10.0"},
+                    DecimalCase{0.95F, "1.0"}, DecimalCase{0.04F, ".0"}, DecimalCase{-0.5F, "-.5"},
+                    DecimalCase{-0.04F, ".0"}, DecimalCase{1e20F, "100000000000000000000.0"},
+                    DecimalCase{std::numeric_limits<float>::infinity(), "inf"}));
+
 struct ParseCase {
     const char* name;
     const char* text;

@@ -6,6 +6,7 @@
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 #include <wx/menu.h>
+#include <wx/modalhook.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
@@ -592,9 +593,8 @@ TEST_F(FrmMainLayout, TheMenusHaveTheirSeparators) {
 }
 
 TEST_F(FrmMainLayout, ItemsOfLaterVersionsSaySo) {
-    for (const int id :
-         {kFileItem, kFileItem + 1, kSearchItem, kSearchItem + 1, kOptionsItem, kOptionsItem + 2,
-          kHelpItem, kHelpItem + 2, kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
+    for (const int id : {kFileItem, kFileItem + 1, kSearchItem, kSearchItem + 1, kHelpItem,
+                         kHelpItem + 2, kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
         wxCommandEvent command(wxEVT_MENU, id);
         wxTEST_DIALOG(window_->ProcessWindowEvent(command), wxExpectModal<wxMessageDialog>(wxOK));
     }
@@ -610,12 +610,289 @@ TEST_F(FrmMainLayout, ExitClosesTheWindow) {
 
 TEST_F(FrmMainLayout, ClosingUnloadsTheOtherWindows) {
     auto* hidden = new wxFrame(nullptr, wxID_ANY, "loaded but hidden");
+    hidden->SetName("frmSomething");
     wxTopLevelWindowBase* const window = std::exchange(window_, nullptr);
     window->Close();
     EXPECT_TRUE(WaitFor([&] {
         return wxTopLevelWindows.Find(hidden) == nullptr &&
                wxTopLevelWindows.Find(window) == nullptr;
     }));
+}
+
+class FrmMainMouse : public MainWindowTest {
+  protected:
+    void MoveTo(const wxWindow& control, const wxPoint& point) {
+        user_.MouseMove(control.GetScreenPosition() + point);
+        Settle();
+    }
+
+    [[nodiscard]] const wxWindow& List() const { return window_->List().Window(); }
+
+    // Presses the right button on a row and calls `check` when the menu is up.
+    void PressRightOnRow(int row, const std::function<void()>& check) {
+        bool opened = false;
+        window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
+            opened = true;
+            event.Skip();
+        });
+        ModalDriver driver({
+            [&] {
+                if (opened) {
+                    check();
+                }
+                return opened;
+            },
+            [&] {
+                user_.Char(WXK_ESCAPE);
+                return true;
+            },
+        });
+        const int height = window_->List().RowHeight();
+        MoveTo(List(), {40, row * height + height / 2});
+        user_.MouseClick(wxMOUSE_BTN_RIGHT);
+        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }, 6000));
+        Settle(100);
+    }
+};
+
+TEST_F(FrmMainMouse, EachControlHasItsHint) {
+    struct Place {
+        const char* control;
+        const char* hint;
+    };
+
+    const std::string listHint =
+        "Press Carriage Return or double-click an entry in the list to view it";
+    const std::string titleHint = "Brevilexicon version 1.0, " + startUp_->Values().info.copyright;
+    for (const Place& place : {
+             Place{"txtAbbrv", "Type here the acronym/abbreviation you are looking for"},
+             Place{"lstAcronyms", listHint.c_str()},
+             Place{"lblRecCount",
+                   "Number of entries in the database (double-click to view Database Info)"},
+             Place{"picColHeader", listHint.c_str()},
+             Place{"lblRecNumber",
+                   "Current record number (double-click to go to specified record)"},
+             Place{"imgAppTitle", titleHint.c_str()},
+         }) {
+        MoveTo(*Control(place.control), {6, 6});
+        EXPECT_TRUE(WaitFor([&] { return LabelText("lblDescription") == place.hint; }))
+            << place.control << ": " << LabelText("lblDescription");
+    }
+}
+
+TEST_F(FrmMainMouse, TheBareSurfaceHasNoHint) {
+    MoveTo(*Control("txtAbbrv"), {6, 6});
+    ASSERT_TRUE(WaitFor([&] { return !LabelText("lblDescription").empty(); }));
+    MoveTo(*Control("lblAppTitle")->GetParent(), {4, 4});
+    EXPECT_TRUE(WaitFor([&] { return LabelText("lblDescription").empty(); }));
+}
+
+struct DoubleClickCase {
+    const char* name;
+    const char* control;
+    const char* window;
+};
+
+class FrmMainDoubleClick : public FrmMainMouse,
+                           public testing::WithParamInterface<DoubleClickCase> {};
+
+// Answers message boxes at once and keeps what they say.
+class MessageBoxes final : public wxModalDialogHook {
+  public:
+    MessageBoxes() { Register(); }
+
+    std::vector<std::string> texts;
+
+  protected:
+    int Enter(wxDialog* dialog) override {
+        if (auto* const box = dynamic_cast<wxMessageDialog*>(dialog)) {
+            texts.push_back(Utf8Text(box->GetMessage()));
+        }
+        return wxID_OK;
+    }
+};
+
+TEST_P(FrmMainDoubleClick, OpensTheWindow) {
+    const MessageBoxes boxes;
+    MoveTo(*Control(GetParam().control), {8, 8});
+    user_.MouseDblClick();
+    ASSERT_TRUE(WaitFor([&] { return !boxes.texts.empty(); }));
+    Settle();
+    ASSERT_EQ(boxes.texts.size(), 1U);
+    EXPECT_EQ(boxes.texts[0], std::string(GetParam().window) + " is not part of this version yet.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, FrmMainDoubleClick,
+                         testing::Values(DoubleClickCase{"TheCount", "lblRecCount",
+                                                         "Database Info"},
+                                         DoubleClickCase{"TheTitle", "imgAppTitle", "About"}),
+                         CaseName());
+
+TEST_F(FrmMainMouse, TheRightButtonSelectsTheRowAndWritesItsAbbreviationBeforeTheMenu) {
+    PressRightOnRow(2, [&] {
+        EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+        EXPECT_EQ(BoxText(), "ABC");
+        EXPECT_EQ(LabelText("lblRecNumber"), "3");
+    });
+    EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+    EXPECT_EQ(BoxText(), "ABC");
+    EXPECT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));  // the list has the focus
+}
+
+TEST_F(FrmMainMouse, TheRightButtonDoesNotStopTheListFromFollowing) {
+    Type("x", "X");
+    PressRightOnRow(0, [] {});
+    Box().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return Box().GetStringSelection() == BoxText(); }));
+    Type("xs", "XS");
+    EXPECT_EQ(SelectedRecord(), "XSS\tCross-Site Scripting");
+}
+
+TEST_F(FrmMainMouse, BelowTheLastRowTheRightButtonDoesNothing) {
+    Start({"AB\tx", "AC\ty"});
+    bool opened = false;
+    window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent&) { opened = true; });
+    MoveTo(List(), {40, 10 * window_->List().RowHeight()});
+    user_.MouseClick(wxMOUSE_BTN_RIGHT);
+    Settle(200);
+    EXPECT_FALSE(opened);
+    EXPECT_EQ(window_->List().SelectedRow(), -1);
+    EXPECT_EQ(BoxText(), "");
+}
+
+TEST_F(FrmMainMouse, TheListsMenuViewsAndCopies) {
+    const auto menu = CreateListMenu();
+    ASSERT_EQ(menu->GetMenuItemCount(), 3U);
+    EXPECT_EQ(menu->FindItemByPosition(0)->GetItemLabel(), "&View");
+    EXPECT_TRUE(menu->FindItemByPosition(1)->IsSeparator());
+    EXPECT_EQ(menu->FindItemByPosition(2)->GetItemLabel(), "&Copy");
+    Type("abc", "ABC");
+    wxCommandEvent copy(wxEVT_MENU, kListboxRClickItem + 2);
+    window_->ProcessWindowEvent(copy);
+    wxTextDataObject text;
+    {
+        const wxClipboardLocker clipboard;
+        ASSERT_TRUE(wxTheClipboard->GetData(text));
+    }
+    EXPECT_EQ(text.GetText(), "ABC = Atanasoff-Berry Computer");
+    wxCommandEvent view(wxEVT_MENU, kListboxRClickItem);
+    wxTEST_DIALOG(window_->ProcessWindowEvent(view), wxExpectModal<wxMessageDialog>(wxOK));
+}
+
+TEST_F(FrmMainMouse, TheMenuKeyShowsTheMenuOfTheSelectedRow) {
+    Type("abc", "ABC");
+    window_->List().Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    bool opened = false;
+    window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent&) { opened = true; });
+    ModalDriver driver({[&] { return opened; },
+                        [&] {
+                            user_.Char(WXK_ESCAPE);
+                            return true;
+                        }});
+    user_.Char(WXK_F10, wxMOD_SHIFT);
+    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }, 6000));
+    EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+}
+
+class FrmMainOptions : public MainWindowTest {
+  protected:
+    void Choose(int item) {
+        const bool checked = window_->GetMenuBar()->IsChecked(item);
+        window_->GetMenuBar()->Check(item, !checked);  // as the toolkit does before it tells
+        wxCommandEvent event(wxEVT_MENU, item);
+        event.SetInt(checked ? 0 : 1);
+        window_->ProcessWindowEvent(event);
+    }
+
+    [[nodiscard]] bool IsTopMost() const { return window_->HasFlag(wxSTAY_ON_TOP); }
+};
+
+TEST_F(FrmMainOptions, EveryStartBeginsWithoutStayOnTop) {
+    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(kOptionsItem));
+    EXPECT_FALSE(window_->IsStayOnTop);
+    EXPECT_FALSE(IsTopMost());
+}
+
+TEST_F(FrmMainOptions, StayOnTopFollowsItsCheckMark) {
+    Choose(kOptionsItem);
+    EXPECT_TRUE(window_->IsStayOnTop);
+    EXPECT_TRUE(IsTopMost());
+    Choose(kOptionsItem);
+    EXPECT_FALSE(window_->IsStayOnTop);
+    EXPECT_FALSE(IsTopMost());
+}
+
+TEST_F(FrmMainOptions, AModalWindowStandsAboveAWindowThatStaysOnTop) {
+    Choose(kOptionsItem);
+    bool wasTopMost = true;
+    ModalDriver driver({
+        [&] {
+            if (window_->IsModalOpen) {
+                wasTopMost = IsTopMost();
+                return true;
+            }
+            return false;
+        },
+        [&] {
+            user_.Char(WXK_RETURN);
+            return !window_->IsModalOpen;
+        },
+    });
+    window_->OpenModalForm(4);
+    EXPECT_FALSE(wasTopMost);
+    EXPECT_TRUE(IsTopMost());
+    EXPECT_TRUE(window_->IsStayOnTop);
+}
+
+TEST_F(FrmMainOptions, RunAtStartupIsCheckedAtEveryStart) {
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    EXPECT_EQ(runAtStartup_, std::vector<bool>{true});
+    Choose(kOptionsItem + 2);
+    EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false}));
+    Start(SampleEntries());
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false, true}));
+}
+
+TEST_F(FrmMainOptions, TheCheckMarkStaysEvenIfNothingCouldBeWritten) {
+    runAtStartupWorks_ = false;
+    Choose(kOptionsItem + 2);
+    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    Choose(kOptionsItem + 2);
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false, true}));
+}
+
+TEST_F(FrmMainOptions, TheKeyboardReachesTheOptions) {
+    user_.Char('O', wxMOD_ALT);
+    Settle(300);
+    user_.Char(WXK_RETURN);  // the first item
+    EXPECT_TRUE(WaitFor([&] { return window_->IsStayOnTop; }));
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem));
+}
+
+TEST_F(FrmMainOptions, NumbersWithoutAWindowOpenNone) {
+    window_->OpenModalForm(-1);
+    window_->OpenModalForm(7);
+    EXPECT_FALSE(window_->IsModalOpen);
+}
+
+TEST_F(FrmMainOptions, AWindowOpenedByNumberIsModalUntilItCloses) {
+    bool wasModal = false;
+    ModalDriver driver({
+        [&] {
+            wasModal = window_->IsModalOpen;
+            return wasModal;
+        },
+        [&] {
+            user_.Char(WXK_RETURN);
+            return !window_->IsModalOpen;
+        },
+    });
+    user_.Char(WXK_F3);
+    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen; }, 6000));
+    EXPECT_TRUE(wasModal);
 }
 
 }  // namespace

@@ -21,11 +21,22 @@ class StartUpTest : public testing::Test {
   protected:
     void TearDown() override { Settle(); }
 
-    frmMain* Run() {
-        return startUp_.Run({messages_, picker_, files_, folder_.Text(), "", [this] {
-                                 clock_ += 1.234F;
-                                 return clock_;
-                             }});
+    frmMain* Run() { return startUp_.Run(Surroundings(messages_)); }
+
+    StartUpSurroundings Surroundings(MessageSink& messages) {
+        return {messages,
+                picker_,
+                files_,
+                folder_.Text(),
+                "",
+                [this] {
+                    clock_ += 1.234F;
+                    return clock_;
+                },
+                [this](const std::string& folder, bool enable) {
+                    registered_.emplace_back(folder, enable);
+                    return true;
+                }};
     }
 
     [[nodiscard]] static bool AnyWindow() {
@@ -39,6 +50,7 @@ class StartUpTest : public testing::Test {
     FakeTemporaryFiles files_{folder_.Text()};
     StartUp startUp_;
     float clock_ = 100;
+    std::vector<std::pair<std::string, bool>> registered_;  // what was asked of the log-on
 };
 
 TEST_F(StartUpTest, SetsTheValuesOfTheProgram) {
@@ -55,6 +67,21 @@ TEST_F(StartUpTest, SetsTheValuesOfTheProgram) {
     window->Destroy();
 }
 
+TEST_F(StartUpTest, EveryStartRegistersTheProgramForTheLogOn) {
+    folder_.Write("Acronyms.dat", DatabaseBytes({"ABC\tx"}));
+    frmMain* window = Run();
+    ASSERT_NE(window, nullptr);
+    ASSERT_EQ(registered_.size(), 1U);
+    EXPECT_EQ(registered_[0], std::pair(folder_.Text(), true));
+    window->Destroy();
+}
+
+TEST_F(StartUpTest, AStartThatFailsRegistersNothing) {
+    folder_.Write("Acronyms.dat", "not a database");
+    EXPECT_EQ(Run(), nullptr);
+    EXPECT_TRUE(registered_.empty());
+}
+
 TEST_F(StartUpTest, TheSplashWindowIsGoneWhenTheMainWindowIsReady) {
     folder_.Write("Acronyms.dat", DatabaseBytes({"ABC\tx"}));
     frmMain* window = Run();
@@ -69,15 +96,15 @@ TEST_F(StartUpTest, ASecondCopySaysSoAndEnds) {
     ASSERT_NE(window, nullptr);
     StartUp second;
     FakeMessageSink told;
-    EXPECT_EQ(second.Run({told, picker_, files_, folder_.Text(), "", [] { return 0.0F; }}),
-              nullptr);
+    EXPECT_EQ(second.Run(Surroundings(told)), nullptr);
     ASSERT_EQ(told.shown.size(), 1U);
     EXPECT_EQ(told.shown[0].text, "An instance of Brevilexicon is running already");
     EXPECT_EQ(told.shown[0].title, "Brevilexicon");
     EXPECT_EQ(told.shown[0].icon, MessageIcon::Exclamation);
     EXPECT_EQ(told.shown[0].buttons, MessageButtons::Ok);
     Settle();
-    EXPECT_EQ(wxTopLevelWindows.size(), 1U);  // the first is unaffected
+    EXPECT_NE(wxTopLevelWindows.Find(window), nullptr);  // the first is unaffected
+    EXPECT_EQ(registered_.size(), 1U);
     EXPECT_EQ(startUp_.Values().RecordCount, 1);
     window->Destroy();
 }
@@ -134,15 +161,18 @@ class CommandLineTest : public MainWindowTest, public testing::WithParamInterfac
 
 TEST_P(CommandLineTest, OnlyTheExactWordMinimises) {
     Start({"ABC\tx"}, GetParam().commandLine);
-    EXPECT_FALSE(window_->IsIconized());
-    WaitFor([&] { return window_->IsIconized(); }, 900);
-    EXPECT_EQ(window_->IsIconized(), GetParam().minimised);
+    // With an icon in the notification area it is hidden, too.
+    const auto isMinimised = [&] { return window_->IsIconized() || !window_->IsShown(); };
+    EXPECT_FALSE(isMinimised());
+    WaitFor(isMinimised, 900);
+    EXPECT_EQ(isMinimised(), GetParam().minimised);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, CommandLineTest,
                          testing::Values(CommandCase{"TheWord", "/minimize", true},
                                          CommandCase{"Capitals", "/MINIMIZE", false},
                                          CommandCase{"LeadingBlank", " /minimize", false},
+                                         CommandCase{"TrailingBlank", "/minimize ", false},
                                          CommandCase{"FurtherArgument", "/minimize x", false},
                                          CommandCase{"Nothing", "", false}),
                          CaseName());

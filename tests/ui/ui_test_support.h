@@ -72,6 +72,8 @@ class MainWindowTest : public testing::Test {
     FakeMessageSink messages_;
     FakeFolderPicker picker_;
     FakeTemporaryFiles files_{folder_.Text()};
+    std::vector<bool> runAtStartup_;  ///< what was asked of the log-on
+    bool runAtStartupWorks_ = true;
     std::unique_ptr<StartUp> startUp_;
     frmMain* window_ = nullptr;
     wxUIActionSimulator user_;

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "platform/modRunAtStartup.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+#include "database/file_io.h"
+#include "database/program_values.h"
+
+namespace brelex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// By the XDG Base Directory and Autostart specifications; a relative path counts as none.
+std::optional<fs::path> AutostartFile() {
+    constexpr const char* kName = "autostart/brevilexicon.desktop";
+    const char* const configuration = std::getenv("XDG_CONFIG_HOME");
+    if (configuration != nullptr && fs::path(configuration).is_absolute()) {
+        return fs::path(configuration) / kName;
+    }
+    const char* const home = std::getenv("HOME");
+    if (home == nullptr || !fs::path(home).is_absolute()) {
+        return std::nullopt;
+    }
+    return fs::path(home) / ".config" / kName;
+}
+
+// An argument in quotes as the Desktop Entry specification wants it: escaped for the command line,
+// then, as any string of the file, once more.
+std::string QuotedArgument(std::string_view text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '\\') {
+            quoted += "\\\\\\\\";
+        } else if (c == '"' || c == '`' || c == '$') {
+            quoted += "\\\\";
+            quoted += c;
+        } else {
+            quoted += c == '%' ? "%%" : std::string(1, c);
+        }
+    }
+    return quoted + "\"";
+}
+
+}  // namespace
+
+bool SetRunAtStartup(const std::string& appFolder, bool enable) {
+    const std::optional<fs::path> file = AutostartFile();
+    if (!file) {
+        return false;
+    }
+    std::error_code error;
+    if (!enable) {
+        return fs::remove(*file, error);
+    }
+    fs::create_directories(file->parent_path(), error);
+    const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
+                              "\nExec=" + QuotedArgument(appFolder + "brevilexicon") +
+                              " /minimize\n";
+    return !error && !ReplaceFile(*file, entry);
+}
+
+}  // namespace brelex

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <wx/iconbndl.h>
+
+namespace brelex {
+
+/// An item of the icon's menu. The caption "-" is a separator; "&" stands before the access key.
+struct TrayMenuItem {
+    std::string caption;
+    bool enabled = true;
+};
+
+/// What happens on the icon, and what it needs to know.
+struct TrayEvents {
+    std::function<void()> onLeftRelease;
+    std::function<void()> onRightRelease;
+
+    /// The menu as it has to look now; empty for none.
+    std::function<std::vector<TrayMenuItem>()> menu;
+
+    /// An item (0-based, separators counted) was chosen.
+    std::function<void(int)> onMenuItem;
+
+    /// No notification area shows the icon any longer, as its host ended.
+    std::function<void()> onGone;
+};
+
+/// The program's icon in the notification area, for as long as this lives. Where the desktop has no
+/// such area the icon waits for one.
+class TrayIcon {
+  public:
+    TrayIcon() = default;
+    TrayIcon(const TrayIcon&) = delete;
+    TrayIcon& operator=(const TrayIcon&) = delete;
+    virtual ~TrayIcon() = default;
+
+    /// Whether a notification area shows the icon.
+    [[nodiscard]] virtual bool IsShown() const = 0;
+
+    /// Shows the menu at the mouse. For use in onRightRelease; a desktop that shows the menu itself
+    /// never calls that.
+    virtual void PopUpMenu() = 0;
+};
+
+/// Adds the icon, with `tip` (UTF-8, fewer than 64 characters) shown while the mouse rests on it.
+[[nodiscard]] std::unique_ptr<TrayIcon> AddTrayIcon(const wxIconBundle& pictures,
+                                                    const std::string& tip, TrayEvents events);
+
+/// Removes the icon; none is fine, too.
+inline void RemoveTrayIcon(std::unique_ptr<TrayIcon>& icon) {
+    icon.reset();
+}
+
+}  // namespace brelex

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "platform/modSysTray.h"
+
+#include <utility>
+
+#include <wx/menu.h>
+#include <wx/taskbar.h>
+
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The toolkit's icon adds itself again when the taskbar comes back after a crash.
+class TrayIconMsw final : public wxTaskBarIcon, public TrayIcon {
+  public:
+    TrayIconMsw(const wxIconBundle& pictures, const std::string& tip, TrayEvents events)
+        : events_(std::move(events)) {
+        SetIcon(wxBitmapBundle::FromIconBundle(pictures), WxText(tip));
+        Bind(wxEVT_TASKBAR_LEFT_UP, [this](wxTaskBarIconEvent&) { events_.onLeftRelease(); });
+        Bind(wxEVT_TASKBAR_RIGHT_UP, [this](wxTaskBarIconEvent&) { events_.onRightRelease(); });
+    }
+
+    [[nodiscard]] bool IsShown() const override { return IsIconInstalled(); }
+
+    void PopUpMenu() override {
+        wxMenu menu;
+        int index = 0;
+        for (const TrayMenuItem& item : events_.menu()) {
+            if (item.caption == "-") {
+                menu.AppendSeparator();
+            } else {
+                menu.Append(kFirstItem + index, WxText(item.caption))->Enable(item.enabled);
+            }
+            ++index;
+        }
+        if (index == 0) {
+            return;
+        }
+        // What an item does may end the program and this icon: only when the menu is gone.
+        menu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
+            CallAfter([this, chosen = event.GetId() - kFirstItem] { events_.onMenuItem(chosen); });
+        });
+        PopupMenu(&menu);
+    }
+
+  private:
+    static constexpr int kFirstItem = wxID_HIGHEST + 1;
+
+    TrayEvents events_;
+};
+
+}  // namespace
+
+std::unique_ptr<TrayIcon> AddTrayIcon(const wxIconBundle& pictures, const std::string& tip,
+                                      TrayEvents events) {
+    return std::make_unique<TrayIconMsw>(pictures, tip, std::move(events));
+}
+
+}  // namespace brelex

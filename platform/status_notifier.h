@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <wx/iconbndl.h>
+
+#include "platform/modSysTray.h"
+
+namespace brelex {
+
+/// The program's icon as a StatusNotifierItem of the session bus, as the desktops KDE and, with an
+/// extension, GNOME show them. The desktop draws icon and menu and says what was chosen. Linux
+/// only.
+class StatusNotifier {
+  public:
+    /// `onHostChanged` is called when a desktop begins or ceases to show such icons.
+    StatusNotifier(const wxIconBundle& pictures, const std::string& tip, const TrayEvents& events,
+                   std::function<void()> onHostChanged);
+    StatusNotifier(const StatusNotifier&) = delete;
+    StatusNotifier& operator=(const StatusNotifier&) = delete;
+    ~StatusNotifier();
+
+    /// Whether a desktop shows the icon.
+    [[nodiscard]] bool IsShown() const;
+
+  private:
+    class Item;
+    std::unique_ptr<Item> item_;
+};
+
+}  // namespace brelex

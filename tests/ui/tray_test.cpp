@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+// The icon in a real notification area, which stands in the upper left corner of the display, and
+// the program on a desktop without one.
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+#include <wx/msgdlg.h>
+#include <wx/testing.h>
+
+#include "tests/ui/ui_test_support.h"
+#include "ui/main_menus.h"
+
+namespace brelex {
+namespace {
+
+bool HasTray() {
+    return std::getenv("WITH_TRAY") != nullptr;
+}
+
+class MainWindowWithTray : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        if (!HasTray()) {
+            GTEST_SKIP() << "needs WITH_TRAY=1";
+        }
+        MainWindowTest::SetUp();
+        Settle(200);  // the area takes the icon in
+    }
+
+    void TearDown() override {
+        MainWindowTest::TearDown();
+        Settle(150);  // and lets it go
+    }
+
+    void ClickIcon(int button) {
+        user_.MouseMove(12, 12);
+        Settle();
+        user_.MouseClick(button);
+    }
+
+    void Minimise() {
+        window_->Iconize();
+        ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+        Settle(100);
+    }
+
+    bool IsBack() {
+        return WaitFor(
+            [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
+    }
+};
+
+TEST_F(MainWindowWithTray, MinimisingHidesTheWindowAndALeftClickBringsItBack) {
+    Minimise();
+    ClickIcon(wxMOUSE_BTN_LEFT);
+    EXPECT_TRUE(IsBack());
+    // And again: what brought it back has left no trace.
+    Minimise();
+    ClickIcon(wxMOUSE_BTN_LEFT);
+    EXPECT_TRUE(IsBack());
+}
+
+TEST_F(MainWindowWithTray, ALeftClickBringsACoveredWindowForward) {
+    auto* other = new wxFrame(nullptr, wxID_ANY, "Another window", wxDefaultPosition, {300, 200});
+    other->Show();
+    other->Raise();
+    ASSERT_TRUE(WaitFor([&] { return !window_->IsActive(); }));
+    ClickIcon(wxMOUSE_BTN_LEFT);
+    EXPECT_TRUE(WaitFor([&] { return window_->IsActive(); }));
+    other->Destroy();
+}
+
+TEST_F(MainWindowWithTray, TheMenusRestoreItemBringsTheWindowBack) {
+    Minimise();
+    ModalDriver driver({
+        [&] {
+            user_.Char('R');
+            return true;
+        },
+    });
+    driver.Stop();
+    ClickIcon(wxMOUSE_BTN_RIGHT);
+    driver.Start(400);
+    EXPECT_TRUE(IsBack());
+}
+
+TEST_F(MainWindowWithTray, TheMenusMinimizeItemHidesTheWindow) {
+    ModalDriver driver({
+        [&] {
+            user_.Char('M');
+            return true;
+        },
+    });
+    driver.Stop();
+    ClickIcon(wxMOUSE_BTN_RIGHT);
+    driver.Start(400);
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+}
+
+TEST_F(MainWindowWithTray, ClosingTheMenuDoesNothing) {
+    ModalDriver driver({
+        [&] {
+            user_.Char(WXK_ESCAPE);
+            return true;
+        },
+    });
+    driver.Stop();
+    ClickIcon(wxMOUSE_BTN_RIGHT);
+    driver.Start(400);
+    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+    Settle(100);
+    EXPECT_TRUE(window_->IsShown());
+    EXPECT_FALSE(window_->IsModalOpen);
+}
+
+TEST_F(MainWindowWithTray, ClosingTheWindowWhileTheMenuIsUpEndsBoth) {
+    ModalDriver driver({
+        [&] {
+            window_->Close();
+            return true;
+        },
+        [&] {
+            user_.Char(WXK_ESCAPE);
+            return true;
+        },
+    });
+    driver.Stop();
+    ClickIcon(wxMOUSE_BTN_RIGHT);
+    frmMain* const window = window_;
+    driver.Start(400);
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+    window_ = nullptr;
+    WaitFor([&] { return driver.Done(); });
+}
+
+TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
+    bool looked = false;
+    ModalDriver driver({
+        [&] { return window_->IsModalOpen; },
+        [&] {
+            user_.MouseMove(12, 12);
+            user_.MouseClick(wxMOUSE_BTN_RIGHT);
+            return true;
+        },
+        [&] {
+            // Were there a menu, this key would choose its item and hide the window.
+            user_.Char('M');
+            looked = true;
+            return true;
+        },
+        [&] {
+            user_.Char(WXK_RETURN);
+            return !window_->IsModalOpen;
+        },
+    });
+    window_->OpenModalForm(0);
+    EXPECT_TRUE(looked);
+    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_TRUE(window_->IsShown());
+}
+
+TEST_F(MainWindowWithTray, TheWordMinimizeHidesTheWindow) {
+    Start(SampleEntries(), "/minimize");
+    EXPECT_TRUE(window_->IsShown());
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    ClickIcon(wxMOUSE_BTN_LEFT);
+    EXPECT_TRUE(IsBack());
+}
+
+class MainWindowWithoutTray : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        if (HasTray()) {
+            GTEST_SKIP() << "needs a display without a notification area";
+        }
+        MainWindowTest::SetUp();
+    }
+};
+
+TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    Settle(200);
+    EXPECT_TRUE(window_->IsShown());
+    window_->Iconize(false);
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized(); }));
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "ui/hover_hints.h"
+
+#include <algorithm>
+
+#include <wx/stattext.h>
+#include <wx/utils.h>
+#include <wx/window.h>
+
+namespace brelex {
+
+void HoverHints::Watch() {
+    WatchAll(surface_);
+}
+
+// Some controls have no window of their own on some systems, and then the one under them gets their
+// mouse events. So all are watched, and the place of the mouse says which it is.
+void HoverHints::WatchAll(wxWindow& window) {
+    window.Bind(wxEVT_MOTION, &HoverHints::OnMotion, this);
+    for (wxWindow* child : window.GetChildren()) {
+        WatchAll(*child);
+    }
+}
+
+void HoverHints::OnMotion(wxMouseEvent& event) {
+    event.Skip();
+    const wxPoint mouse = wxGetMousePosition();
+    const auto found = std::find_if(hints_.begin(), hints_.end(), [&](const Hint& hint) {
+        return hint.control.GetScreenRect().Contains(mouse);
+    });
+    const wxString text = found == hints_.end() ? wxString() : found->text;
+    if (label_.GetLabelText() != text) {
+        label_.SetLabelText(text);
+    }
+}
+
+}  // namespace brelex

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "ui/tray_behaviour.h"
+
+namespace brelex {
+
+namespace {
+
+// Sets a flag for as long as it lives.
+class Busy {
+  public:
+    explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
+
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+    ~Busy() { flag_ = false; }
+
+  private:
+    bool& flag_;
+};
+
+enum MenuIndex {
+    kSearch,
+    kAbout,
+    kMinimiseOrRestore,
+    kSeparator,
+    kExit
+};
+
+}  // namespace
+
+void TrayBehaviour::OnLeftRelease() {
+    if (IsTrayBusy) {
+        return;
+    }
+    const Busy busy(IsTrayBusy);
+    if (!owner_.IsWindowVisible()) {
+        owner_.RestoreWindow();
+    }
+    owner_.ActivateWindow();
+}
+
+void TrayBehaviour::OnRightRelease(TrayIcon& icon) {
+    if (IsTrayBusy) {
+        return;
+    }
+    const Busy busy(IsTrayBusy);
+    if (owner_.IsWindowVisible()) {
+        owner_.ActivateWindow();
+    }
+    if (!owner_.IsModalWindowOpen()) {
+        icon.PopUpMenu();
+    }
+}
+
+std::vector<TrayMenuItem> TrayBehaviour::Menu() const {
+    if (owner_.IsModalWindowOpen()) {
+        return {};
+    }
+    return {{"Search Database..."},
+            {"About..."},
+            {owner_.IsWindowMinimised() ? "&Restore Window" : "&Minimize Window"},
+            {"-"},
+            {"Exit"}};
+}
+
+void TrayBehaviour::OnMenuItem(int index) {
+    // A desktop may show a menu that it asked for before a modal window opened.
+    if (owner_.IsModalWindowOpen()) {
+        return;
+    }
+    switch (index) {
+        case kSearch:
+            owner_.OpenModalForm(0);
+            break;
+        case kAbout:
+            owner_.OpenModalForm(4);
+            break;
+        case kMinimiseOrRestore:
+            owner_.IsWindowMinimised() ? owner_.RestoreWindow() : owner_.MinimiseWindow();
+            break;
+        case kExit:
+            owner_.Exit();
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace brelex
