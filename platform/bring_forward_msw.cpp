@@ -9,11 +9,13 @@ namespace brelex {
 
 void BringForward(wxFrame& window) {
     HWND const handle = window.GetHWND();
-    if (!window.IsShown() || IsIconic(handle) != 0) {
+    window.Iconize(false);  // or else the toolkit would show a hidden one minimised
+    window.Show();
+    if (IsIconic(handle) != 0) {
         ShowWindow(handle, SW_RESTORE);
-        window.Show();  // the toolkit keeps a state of its own
     }
-    SetForegroundWindow(handle);
+    // A modal window over it gets the keyboard: the window itself takes no keys then.
+    SetForegroundWindow(GetLastActivePopup(handle));
 }
 
 }  // namespace brelex

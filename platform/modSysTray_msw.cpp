@@ -6,6 +6,8 @@
 #include <wx/menu.h>
 #include <wx/taskbar.h>
 
+#include <windows.h>
+
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -13,18 +15,14 @@ namespace brelex {
 namespace {
 
 // The toolkit's icon adds itself again when the taskbar comes back after a crash.
-class TrayIconMsw final : public wxTaskBarIcon, public TrayIcon {
+class TaskBarIcon final : public wxTaskBarIcon {
   public:
-    TrayIconMsw(const wxIconBundle& pictures, const std::string& tip, TrayEvents events)
-        : events_(std::move(events)) {
-        SetIcon(wxBitmapBundle::FromIconBundle(pictures), WxText(tip));
+    explicit TaskBarIcon(TrayEvents events) : events_(std::move(events)) {
         Bind(wxEVT_TASKBAR_LEFT_UP, [this](wxTaskBarIconEvent&) { events_.onLeftRelease(); });
         Bind(wxEVT_TASKBAR_RIGHT_UP, [this](wxTaskBarIconEvent&) { events_.onRightRelease(); });
     }
 
-    [[nodiscard]] bool IsShown() const override { return IsIconInstalled(); }
-
-    void PopUpMenu() override {
+    void PopUp() {
         wxMenu menu;
         int index = 0;
         for (const TrayMenuItem& item : events_.menu()) {
@@ -38,17 +36,45 @@ class TrayIconMsw final : public wxTaskBarIcon, public TrayIcon {
         if (index == 0) {
             return;
         }
-        // What an item does may end the program and this icon: only when the menu is gone.
+        // What an item does may end the program: only when the menu is gone.
         menu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
             CallAfter([this, chosen = event.GetId() - kFirstItem] { events_.onMenuItem(chosen); });
         });
         PopupMenu(&menu);
     }
 
+    // Its menu may be up, which needs the icon until it has gone.
+    void Withdraw() {
+        EndMenu();
+        RemoveIcon();
+        DeletePendingEvents();
+        Destroy();
+    }
+
   private:
     static constexpr int kFirstItem = wxID_HIGHEST + 1;
 
     TrayEvents events_;
+};
+
+class TrayIconMsw final : public TrayIcon {
+  public:
+    TrayIconMsw(const wxIconBundle& pictures, const std::string& tip, TrayEvents events)
+        : icon_(new TaskBarIcon(std::move(events))) {
+        icon_->SetIcon(wxBitmapBundle::FromIconBundle(pictures), WxText(tip));
+    }
+
+    TrayIconMsw(const TrayIconMsw&) = delete;
+    TrayIconMsw& operator=(const TrayIconMsw&) = delete;
+
+    ~TrayIconMsw() override { icon_->Withdraw(); }
+
+    [[nodiscard]] bool IsShown() const override { return icon_->IsIconInstalled(); }
+
+    void PopUpMenu() override { icon_->PopUp(); }
+
+  private:
+    TaskBarIcon* icon_;
 };
 
 }  // namespace

@@ -12,6 +12,7 @@
 
 #include "database/file_io.h"
 #include "platform/instance_guard.h"
+#include "platform/modRunAtStartup.h"
 #include "platform/system_temporary_files.h"
 #include "platform/user_locale.h"
 #include "tests/support/test_files.h"
@@ -172,6 +173,47 @@ TEST(UserGroupSeparatorOnLinux, IsACommaWhereTheLocaleHasNone) {
 TEST(UserGroupSeparatorOnLinux, AnUnknownLocaleIsAComma) {
     const Environment locale("LC_ALL", "xx_YY.UTF-8");
     EXPECT_EQ(UserGroupSeparator(), ",");
+}
+
+TEST(SetRunAtStartupOnLinux, WritesTheAutostartEntryAndDeletesIt) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    EXPECT_TRUE(SetRunAtStartup("/opt/Brevi Lexicon/", true));
+    const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
+    EXPECT_EQ(ReadText(file),
+              "[Desktop Entry]\nType=Application\nName=Brevilexicon\n"
+              "Exec=\"/opt/Brevi Lexicon/brevilexicon\" /minimize\n");
+    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", true));
+    EXPECT_NE(ReadText(file).find("/opt/elsewhere/"), std::string::npos);
+    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", false));
+    EXPECT_FALSE(fs::exists(file));
+    EXPECT_FALSE(SetRunAtStartup("/opt/elsewhere/", false));  // there was nothing to delete
+}
+
+TEST(SetRunAtStartupOnLinux, ReservedCharactersOfThePathAreEscaped) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    EXPECT_TRUE(SetRunAtStartup("/a\"b`c$d\\e%f/", true));
+    EXPECT_NE(ReadText(folder.Path() / "autostart/brevilexicon.desktop")
+                  .find("Exec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f/brevilexicon\" /minimize\n"),
+              std::string::npos);
+}
+
+TEST(SetRunAtStartupOnLinux, WithoutAConfigurationHomeItIsTheOneInTheHome) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", "relative/paths/count/as/none");
+    const Environment home("HOME", folder.Path().string());
+    EXPECT_TRUE(SetRunAtStartup("/opt/", true));
+    EXPECT_TRUE(fs::exists(folder.Path() / ".config/autostart/brevilexicon.desktop"));
+}
+
+TEST(SetRunAtStartupOnLinux, AConfigurationHomeThatCannotBeWrittenIsAFailure) {
+    const TestFolder folder;
+    folder.Write("file", "in the way");
+    const Environment configuration("XDG_CONFIG_HOME", (folder.Path() / "file").string());
+    EXPECT_FALSE(SetRunAtStartup("/opt/", true));
+    EXPECT_FALSE(SetRunAtStartup("/opt/", false));
+    EXPECT_EQ(ReadText(folder.Path() / "file"), "in the way");
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "database/file_io.h"
 #include "platform/instance_guard.h"
+#include "platform/modRunAtStartup.h"
 #include "platform/program_folder.h"
 #include "platform/system_temporary_files.h"
 #include "platform/user_locale.h"
@@ -130,6 +131,77 @@ TEST(Utf8OfAnsi, TakesTheSystemsCodePage) {
     ASSERT_EQ(GetACP(), 1252U);
     EXPECT_EQ(Utf8OfAnsi("\xE9\x80"), "\xC3\xA9\xE2\x82\xAC");
     EXPECT_EQ(Utf8OfAnsi(""), "");
+}
+
+// With a registry of the test's own: the user's entries stay as they are.
+class RunAtStartupOnWindows : public testing::Test {
+  protected:
+    static constexpr const wchar_t* kRun = L"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+    static constexpr const wchar_t* kOwn = L"Software\\Brevilexicon test";
+
+    void SetUp() override {
+        HKEY own = nullptr;
+        RegCreateKeyExW(HKEY_CURRENT_USER, kOwn, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &own,
+                        nullptr);
+        ASSERT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, own), ERROR_SUCCESS);
+        RegCloseKey(own);
+        CreateRun();
+    }
+
+    void TearDown() override {
+        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kOwn);
+    }
+
+    static void CreateRun() {
+        HKEY run = nullptr;
+        RegCreateKeyExW(HKEY_CURRENT_USER, kRun, 0, nullptr, 0, KEY_WRITE, nullptr, &run, nullptr);
+        RegCloseKey(run);
+    }
+
+    // The value of the registry as it is stored.
+    std::wstring Stored() {
+        HKEY run = nullptr;
+        RegOpenKeyExW(HKEY_CURRENT_USER, kRun, 0, KEY_READ, &run);
+        std::wstring data(500, L'#');
+        bytes_ = static_cast<DWORD>(data.size() * sizeof(wchar_t));
+        const LSTATUS status = RegQueryValueExW(run, L"Brevilexicon", nullptr, &type_,
+                                                reinterpret_cast<BYTE*>(data.data()), &bytes_);
+        RegCloseKey(run);
+        if (status != ERROR_SUCCESS) {
+            return L"(none)";
+        }
+        data.resize(bytes_ / sizeof(wchar_t));
+        return data;
+    }
+
+    DWORD type_ = 0;
+    DWORD bytes_ = 0;
+};
+
+TEST_F(RunAtStartupOnWindows, WritesTheCommandInSmallLettersWithItsZero) {
+    ASSERT_TRUE(SetRunAtStartup("C:\\Program Files\\BREVI\u00C9\\", true));
+    const std::wstring command = L"c:\\program files\\brevi\u00E9\\brevilexicon.exe /minimize";
+    EXPECT_EQ(Stored(), command + L'\0');
+    EXPECT_EQ(type_, static_cast<DWORD>(REG_SZ));
+    EXPECT_EQ(bytes_, (command.size() + 1) * sizeof(wchar_t));
+}
+
+TEST_F(RunAtStartupOnWindows, DeletesTheValueOnce) {
+    ASSERT_TRUE(SetRunAtStartup("C:\\", true));
+    EXPECT_TRUE(SetRunAtStartup("C:\\", false));
+    EXPECT_EQ(Stored(), L"(none)");
+    EXPECT_FALSE(SetRunAtStartup("C:\\", false));
+    EXPECT_TRUE(SetRunAtStartup("C:\\", true));
+    EXPECT_EQ(Stored(), std::wstring(L"c:\\brevilexicon.exe /minimize") + L'\0');
+}
+
+TEST_F(RunAtStartupOnWindows, WithoutTheKeyNothingIsWritten) {
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software");
+    EXPECT_FALSE(SetRunAtStartup("C:\\", true));
+    EXPECT_FALSE(SetRunAtStartup("C:\\", false));
+    CreateRun();
+    EXPECT_EQ(Stored(), L"(none)");
 }
 
 }  // namespace

@@ -1,18 +1,25 @@
 // SPDX-License-Identifier: MIT
 // What the windows ask of Windows.
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include <wx/app.h>
 #include <wx/timer.h>
 
 #include <windows.h>
+#include <commctrl.h>
 #include <shlobj.h>
 
+#include "database/file_io.h"
+#include "platform/command_line.h"
 #include "platform/modBrowseFolder.h"
 #include "platform/wide_text.h"
+#include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/modGeneral.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -69,6 +76,28 @@ TEST_F(MainWindowTest, StartingAsksForTheHotKeyCtrlShiftG) {
     ASSERT_EQ(messages.sent.size(), 1U);
     EXPECT_EQ(messages.sent[0].wParam, 839U);
     EXPECT_EQ(messages.sent[0].windowTitle.rfind("Brevilexicon (", 0), 0U);
+}
+
+// The system asks; when it then ends the session it ends the process itself.
+TEST(StartUpOnWindows, ALogOffThatArrivesWhileLoadingClosesTheWindowAfterwards) {
+    const TestFolder folder;
+    folder.Write("Acronyms.dat", DatabaseBytes(NumberedRecords(3000)));
+    FakeMessageSink messages;
+    FakeFolderPicker picker;
+    FakeTemporaryFiles files(folder.Text());
+    StartUp startUp;
+    auto* const question = new wxCloseEvent(wxEVT_QUERY_END_SESSION);
+    question->SetCanVeto(true);
+    wxTheApp->QueueEvent(question);
+    frmMain* const window =
+        startUp.Run({messages, picker, files, folder.Text(), "", [] { return 0.0F; },
+                     [](const std::string&, bool) { return true; }});
+    ASSERT_NE(window, nullptr);
+    wxTheApp->SetTopWindow(window);
+    window->Show();
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "~bx6120.tmp"));
+    wxTheApp->SetTopWindow(nullptr);
 }
 
 TEST_F(MainWindowTest, TheListIsTheSystemsListView) {
@@ -135,16 +164,39 @@ class BrowseForFolderTest : public testing::Test {
         };
     }
 
-    static std::function<bool()> ChooseIn(const std::wstring& folder) {
-        return [folder] {
+    // Selects a folder, again and again until the browser's tree shows it.
+    static std::function<bool()> ChooseIn(const std::wstring& folder, const std::string& shown) {
+        return [folder, shown] {
             HWND const browser = BrowserWindow();
             if (browser == nullptr) {
                 return false;
             }
             SendMessageW(browser, BFFM_SETSELECTIONW, TRUE,
                          reinterpret_cast<LPARAM>(folder.c_str()));
-            return true;
+            return SelectedName(browser).find(shown) != std::string::npos;
         };
+    }
+
+    static std::string SelectedName(HWND browser) {
+        HWND const tree = FindDescendant(browser, L"SysTreeView32");
+        std::wstring text(300, L'\0');
+        TVITEMW item{};
+        item.mask = TVIF_TEXT;
+        item.hItem = TreeView_GetSelection(tree);
+        item.pszText = text.data();
+        item.cchTextMax = static_cast<int>(text.size());
+        SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return Utf8OfWide(item.pszText);
+    }
+
+    static HWND FindDescendant(HWND window, const wchar_t* className) {
+        HWND found = FindWindowExW(window, nullptr, className, nullptr);
+        for (HWND child = FindWindowExW(window, nullptr, nullptr, nullptr);
+             child != nullptr && found == nullptr;
+             child = FindWindowExW(window, child, nullptr, nullptr)) {
+            found = FindDescendant(child, className);
+        }
+        return found;
     }
 };
 
@@ -156,15 +208,54 @@ TEST_F(BrowseForFolderTest, CancellingGivesAnEmptyText) {
 }
 
 TEST_F(BrowseForFolderTest, AFolderEndsInABackslash) {
-    const ModalDriver driver({ChooseIn(folder_.Path().wstring()), Press(IDOK)});
+    const ModalDriver driver(
+        {ChooseIn(folder_.Path().wstring(), Utf8OfPath(folder_.Path().filename())), Press(IDOK)});
     EXPECT_EQ(Utf8Text(BrowseForFolder(nullptr, "Location of Acronyms.dat")), folder_.Text());
     EXPECT_TRUE(driver.Done());
 }
 
 TEST_F(BrowseForFolderTest, ADriveKeepsItsOneBackslash) {
-    const ModalDriver driver({ChooseIn(L"C:\\"), Press(IDOK)});
+    const ModalDriver driver({ChooseIn(L"C:\\", "C:"), Press(IDOK)});
     EXPECT_EQ(Utf8Text(BrowseForFolder(nullptr, "Location of Acronyms.dat")), "C:\\");
     EXPECT_TRUE(driver.Done());
+}
+
+struct CommandLineCase {
+    const char* name;
+    const wchar_t* line;
+    const char* text;
+};
+
+class TextBehindProgramTest : public testing::TestWithParam<CommandLineCase> {};
+
+TEST_P(TextBehindProgramTest, IsTheWholeArgumentText) {
+    EXPECT_EQ(Utf8OfWide(TextBehindProgram(GetParam().line, L"C:\\My Programs\\brevilexicon.exe")),
+              GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, TextBehindProgramTest,
+    testing::Values(
+        CommandLineCase{"Quoted", L"\"C:\\My Programs\\brevilexicon.exe\" /minimize", "/minimize"},
+        CommandLineCase{"AsTheLogOnGivesIt", L"c:\\my programs\\brevilexicon.exe /minimize",
+                        "/minimize"},
+        CommandLineCase{"TypedByName", L"brevilexicon  /minimize", "/minimize"},
+        CommandLineCase{"NotTrimmedAtItsEnd", L"brevilexicon /minimize ", "/minimize "},
+        CommandLineCase{"TwoArguments", L"brevilexicon /minimize x", "/minimize x"},
+        CommandLineCase{"AnArgumentInQuotes", L"brevilexicon \" /minimize\"", "\" /minimize\""},
+        CommandLineCase{"Nothing", L"\"C:\\My Programs\\brevilexicon.exe\"", ""},
+        CommandLineCase{"AnOpenQuote", L"\"C:\\My", ""}, CommandLineCase{"Empty", L"", ""}),
+    CaseName());
+
+TEST_F(MainWindowTest, StayOnTopPutsTheWindowIntoTheTopmostBand) {
+    const auto isTopMost = [&] {
+        return (GetWindowLongW(window_->GetHWND(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    };
+    EXPECT_FALSE(isTopMost());
+    SetTopMost(*window_, true);
+    EXPECT_TRUE(isTopMost());
+    SetTopMost(*window_, false);
+    EXPECT_FALSE(isTopMost());
 }
 
 }  // namespace

@@ -712,6 +712,13 @@ class MessageBoxes final : public wxModalDialogHook {
     }
 };
 
+TEST_F(FrmMainMouse, F1AsksForHelp) {
+    const MessageBoxes boxes;
+    user_.Char(WXK_F1);
+    ASSERT_TRUE(WaitFor([&] { return !boxes.texts.empty(); }));
+    EXPECT_EQ(boxes.texts[0], "Help is not part of this version yet.");
+}
+
 TEST_P(FrmMainDoubleClick, OpensTheWindow) {
     const MessageBoxes boxes;
     MoveTo(*Control(GetParam().control), {8, 8});
@@ -865,9 +872,18 @@ TEST_F(FrmMainOptions, TheCheckMarkStaysEvenIfNothingCouldBeWritten) {
 }
 
 TEST_F(FrmMainOptions, TheKeyboardReachesTheOptions) {
+    bool opened = false;
+    window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
+        opened = true;
+        event.Skip();
+    });
+    // An open menu keeps the test from going on.
+    ModalDriver driver({[&] { return opened; },
+                        [&] {
+                            user_.Char(WXK_RETURN);  // the first item
+                            return true;
+                        }});
     user_.Char('O', wxMOD_ALT);
-    Settle(300);
-    user_.Char(WXK_RETURN);  // the first item
     EXPECT_TRUE(WaitFor([&] { return window_->IsStayOnTop; }));
     EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem));
 }

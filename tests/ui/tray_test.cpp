@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The icon in a real notification area, which stands in the upper left corner of the display, and
-// the program on a desktop without one.
+// The icon in a real notification area, which stands in the upper left corner of the display.
 #include <cstdlib>
 
 #include <gtest/gtest.h>
@@ -166,25 +165,6 @@ TEST_F(MainWindowWithTray, TheWordMinimizeHidesTheWindow) {
     EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
     ClickIcon(wxMOUSE_BTN_LEFT);
     EXPECT_TRUE(IsBack());
-}
-
-class MainWindowWithoutTray : public MainWindowTest {
-  protected:
-    void SetUp() override {
-        if (HasTray()) {
-            GTEST_SKIP() << "needs a display without a notification area";
-        }
-        MainWindowTest::SetUp();
-    }
-};
-
-TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
-    window_->Iconize();
-    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
-    Settle(200);
-    EXPECT_TRUE(window_->IsShown());
-    window_->Iconize(false);
-    EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized(); }));
 }
 
 }  // namespace

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <cstdio>
+#include <cstdlib>
+
 #include <gtest/gtest.h>
 
 #include <wx/app.h>
@@ -38,14 +41,31 @@ class TestApp final : public wxApp {
 
 wxIMPLEMENT_APP_NO_MAIN(TestApp);
 
+namespace {
+
+bool finished = false;
+
+// Something ended the program in the middle of the tests: that is no success.
+void FailIfUnfinished() {
+    if (!finished) {
+        std::fputs("ui_tests: ended before the last test\n", stderr);
+        std::_Exit(1);
+    }
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+    std::atexit(&FailIfUnfinished);
     testing::InitGoogleTest(&argc, argv);
     constexpr int kSkipped = 77;  // how ctest is told that there is no display
     if (!wxEntryStart(argc, argv)) {
+        finished = true;
         return kSkipped;
     }
     wxTheApp->CallOnInit();
     const int result = wxTheApp->OnRun();
+    finished = true;
     wxTheApp->OnExit();
     wxEntryCleanup();
     return result;

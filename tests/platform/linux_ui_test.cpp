@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: MIT
+// What the windows ask of an X11 desktop.
+#include <csignal>
+#include <cstdlib>
+#include <gio/gio.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/textctrl.h>
+
+#include "platform/modSysTray.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/app_icon.h"
+
+namespace brelex {
+namespace {
+
+class HotKey : public MainWindowTest {
+  protected:
+    void Press() { user_.Char('G', wxMOD_CONTROL | wxMOD_SHIFT); }
+
+    bool IsBack() {
+        return WaitFor(
+            [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
+    }
+
+    // A window that has the keyboard and lies over the main window.
+    wxFrame* Cover() {
+        auto* other = new wxFrame(nullptr, wxID_ANY, "Another window", window_->GetPosition(),
+                                  window_->GetSize());
+        other->Show();
+        other->Raise();
+        EXPECT_TRUE(WaitFor([&] { return other->IsActive(); }));
+        return other;
+    }
+};
+
+TEST_F(HotKey, BringsACoveredWindowForward) {
+    wxFrame* const other = Cover();
+    Press();
+    EXPECT_TRUE(IsBack());
+    other->Destroy();
+}
+
+TEST_F(HotKey, BringsAMinimisedWindowBack) {
+    wxFrame* const other = Cover();
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized() || !window_->IsShown(); }));
+    Settle(100);
+    Press();
+    EXPECT_TRUE(IsBack());
+    other->Destroy();
+}
+
+TEST_F(HotKey, BringsAHiddenWindowBack) {
+    wxFrame* const other = Cover();
+    window_->Hide();
+    ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    Press();
+    EXPECT_TRUE(IsBack());
+    other->Destroy();
+}
+
+TEST_F(HotKey, IsGivenBackWhenTheWindowCloses) {
+    TearDown();
+    window_ = nullptr;
+    auto* other = new wxFrame(nullptr, wxID_ANY, "Another window");
+    bool arrived = false;
+    auto* box = new wxTextCtrl(other, wxID_ANY);
+    box->SetFocus();
+    other->Bind(wxEVT_CHAR_HOOK, [&](wxKeyEvent& event) { arrived |= event.GetKeyCode() == 'G'; });
+    other->Show();
+    other->Raise();
+    ASSERT_TRUE(WaitFor([&] { return other->IsActive(); }));
+    Press();
+    EXPECT_TRUE(WaitFor([&] { return arrived; }));
+    other->Destroy();
+}
+
+// A panel with a notification area in the upper left corner.
+class Panel {
+  public:
+    Panel() : pid_(fork()) {
+        if (pid_ == 0) {
+            execlp("trayer", "trayer", "--edge", "top", "--align", "left", "--widthtype", "pixel",
+                   "--width", "24", "--heighttype", "pixel", "--height", "24", "--SetDockType",
+                   "true", "--SetPartialStrut", "true", nullptr);
+            _exit(127);
+        }
+    }
+
+    Panel(const Panel&) = delete;
+    Panel& operator=(const Panel&) = delete;
+
+    ~Panel() {
+        kill(pid_, SIGKILL);
+        waitpid(pid_, nullptr, 0);
+    }
+
+  private:
+    pid_t pid_;
+};
+
+// A desktop without a notification area. (Windows always has one.)
+class MainWindowWithoutTray : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        if (std::getenv("WITH_TRAY") != nullptr) {
+            GTEST_SKIP() << "needs a display without a notification area";
+        }
+        MainWindowTest::SetUp();
+    }
+};
+
+TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    Settle(200);
+    EXPECT_TRUE(window_->IsShown());
+    window_->Iconize(false);
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized(); }));
+}
+
+TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
+    {
+        const Panel panel;
+        // The icon waits for the panel: minimising hides as soon as it is there.
+        ASSERT_TRUE(WaitFor([&] {
+            window_->Iconize(false);
+            window_->Iconize();
+            Settle(100);
+            return !window_->IsShown();
+        }));
+    }
+    ASSERT_TRUE(WaitFor([&] { return window_->IsShown(); }, 6000));
+    const Panel panel;
+    Settle(1000);
+    user_.MouseMove(12, 12);
+    Settle();
+    user_.MouseClick();
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized() && window_->IsActive(); }));
+}
+
+// A desktop's host of StatusNotifierItems: the watcher, and calls as a panel makes them.
+class FakeHost {
+  public:
+    FakeHost() : bus_(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)) {
+        GDBusNodeInfo* const node = g_dbus_node_info_new_for_xml(
+            "<node><interface name='org.kde.StatusNotifierWatcher'>"
+            "<method name='RegisterStatusNotifierItem'><arg type='s' direction='in'/></method>"
+            "<property name='IsStatusNotifierHostRegistered' type='b' access='read'/>"
+            "<signal name='StatusNotifierHostRegistered'/></interface></node>",
+            nullptr);
+        static const GDBusInterfaceVTable kHandlers = {
+            &FakeHost::OnMethod, &FakeHost::OnGetProperty, nullptr, {}};
+        object_ =
+            g_dbus_connection_register_object(bus_, "/StatusNotifierWatcher", node->interfaces[0],
+                                              &kHandlers, this, nullptr, nullptr);
+        g_dbus_node_info_unref(node);
+        name_ = g_bus_own_name_on_connection(bus_, "org.kde.StatusNotifierWatcher",
+                                             G_BUS_NAME_OWNER_FLAGS_NONE, nullptr, nullptr, nullptr,
+                                             nullptr);
+    }
+
+    FakeHost(const FakeHost&) = delete;
+    FakeHost& operator=(const FakeHost&) = delete;
+
+    ~FakeHost() {
+        g_bus_unown_name(name_);
+        g_dbus_connection_unregister_object(bus_, object_);
+        g_object_unref(bus_);
+    }
+
+    // Calls a method of the item or its menu and waits for the answer, letting events run.
+    GVariant* Call(const char* path, const char* interface, const char* method,
+                   GVariant* arguments) {
+        answer_ = nullptr;
+        bool done = false;
+        done_ = &done;
+        g_dbus_connection_call(
+            bus_, item.c_str(), path, interface, method, arguments, nullptr, G_DBUS_CALL_FLAGS_NONE,
+            2000, nullptr,
+            [](GObject* bus, GAsyncResult* result, void* data) {
+                auto* const self = static_cast<FakeHost*>(data);
+                self->answer_ =
+                    g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, nullptr);
+                *self->done_ = true;
+            },
+            this);
+        EXPECT_TRUE(WaitFor([&] { return done; }));
+        return answer_;
+    }
+
+    // The item's property, as text.
+    std::string Property(const char* name) {
+        GVariant* const answer =
+            Call("/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
+                 g_variant_new("(ss)", "org.kde.StatusNotifierItem", name));
+        return Text(answer);
+    }
+
+    // The menu as the desktop gets it to draw, as text.
+    std::string Layout() {
+        GVariant* const shown =
+            Call("/MenuBar", "com.canonical.dbusmenu", "AboutToShow", g_variant_new("(i)", 0));
+        Text(shown);
+        const char* const none[] = {nullptr};
+        return Text(Call("/MenuBar", "com.canonical.dbusmenu", "GetLayout",
+                         g_variant_new("(ii^as)", 0, -1, none)));
+    }
+
+    // Chooses the item of the menu with a label.
+    void Choose(const std::string& label) {
+        const std::string layout = Layout();
+        const std::size_t at = layout.find("'" + label + "'");
+        ASSERT_NE(at, std::string::npos) << layout;
+        // An item is printed as (number, {... 'label': <'...'> ...
+        const std::size_t open = layout.rfind('(', at);
+        const int id = std::atoi(layout.c_str() + open + 1);
+        GVariant* const answer =
+            Call("/MenuBar", "com.canonical.dbusmenu", "Event",
+                 g_variant_new("(isvu)", id, "clicked", g_variant_new_int32(0), 0U));
+        Text(answer);
+    }
+
+    std::string item;  ///< the bus name of the item that registered itself
+    bool hasPanel = true;
+
+  private:
+    static std::string Text(GVariant* value) {
+        if (value == nullptr) {
+            return "(no answer)";
+        }
+        char* const printed = g_variant_print(value, FALSE);
+        std::string text = printed;
+        g_free(printed);
+        g_variant_unref(value);
+        return text;
+    }
+
+    static void OnMethod(GDBusConnection* /*bus*/, const char* /*sender*/, const char* /*path*/,
+                         const char* /*interface*/, const char* /*method*/, GVariant* arguments,
+                         GDBusMethodInvocation* call, void* data) {
+        const char* name = nullptr;
+        g_variant_get(arguments, "(&s)", &name);
+        static_cast<FakeHost*>(data)->item = name;
+        g_dbus_method_invocation_return_value(call, nullptr);
+    }
+
+    static GVariant* OnGetProperty(GDBusConnection* /*bus*/, const char* /*sender*/,
+                                   const char* /*path*/, const char* /*interface*/,
+                                   const char* /*property*/, GError** /*error*/, void* data) {
+        return g_variant_new_boolean(static_cast<FakeHost*>(data)->hasPanel ? TRUE : FALSE);
+    }
+
+    GDBusConnection* bus_;
+    guint object_ = 0;
+    guint name_ = 0;
+    GVariant* answer_ = nullptr;
+    bool* done_ = nullptr;
+};
+
+class StatusNotifierItem : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        MainWindowTest::SetUp();
+        ASSERT_TRUE(WaitFor([&] { return !host_.item.empty(); }));
+        Settle(200);
+    }
+
+    FakeHost host_;
+};
+
+TEST_F(StatusNotifierItem, SaysWhatItIs) {
+    EXPECT_EQ(host_.Property("Id"), "(<'brevilexicon'>,)");
+    EXPECT_EQ(host_.Property("Title"), "(<'Brevilexicon'>,)");
+    EXPECT_EQ(host_.Property("Status"), "(<'Active'>,)");
+    EXPECT_EQ(host_.Property("Category"), "(<'ApplicationStatus'>,)");
+    EXPECT_EQ(host_.Property("ItemIsMenu"), "(<false>,)");
+    EXPECT_EQ(host_.Property("Menu"), "(<objectpath '/MenuBar'>,)");
+    EXPECT_EQ(host_.Property("IconName"), "(<''>,)");
+    EXPECT_EQ(host_.Property("IconPixmap").rfind("(<[(16, 16, [", 0), 0U);
+    EXPECT_NE(host_.Property("ToolTip").find("'Brevilexicon'"), std::string::npos);
+}
+
+TEST_F(StatusNotifierItem, ActivatingItBringsTheHiddenWindowBack) {
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    GVariant* const answer = host_.Call("/StatusNotifierItem", "org.kde.StatusNotifierItem",
+                                        "Activate", g_variant_new("(ii)", 10, 10));
+    ASSERT_NE(answer, nullptr);
+    g_variant_unref(answer);
+    EXPECT_TRUE(WaitFor([&] { return window_->IsShown() && !window_->IsIconized(); }));
+}
+
+TEST_F(StatusNotifierItem, ItsMenuFollowsTheWindow) {
+    const std::string visible = host_.Layout();
+    for (const char* label :
+         {"'Search Database...'", "'About...'", "'_Minimize Window'", "'separator'", "'Exit'"}) {
+        EXPECT_NE(visible.find(label), std::string::npos) << label << " in " << visible;
+    }
+    host_.Choose("_Minimize Window");
+    ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    EXPECT_EQ(host_.Layout().find("Minimize"), std::string::npos);
+    host_.Choose("_Restore Window");
+    EXPECT_TRUE(WaitFor([&] { return window_->IsShown() && !window_->IsIconized(); }));
+}
+
+TEST_F(StatusNotifierItem, ItsMenuIsEmptyWhileAModalWindowIsUp) {
+    std::string layout;
+    ModalDriver driver({
+        [&] { return window_->IsModalOpen; },
+        [&] {
+            layout = host_.Layout();
+            return true;
+        },
+        [&] {
+            user_.Char(WXK_RETURN);
+            return !window_->IsModalOpen;
+        },
+    });
+    window_->OpenModalForm(0);
+    EXPECT_EQ(layout.find("Window"), std::string::npos) << layout;
+    EXPECT_EQ(layout.find("Exit"), std::string::npos) << layout;
+}
+
+TEST_F(StatusNotifierItem, ItsExitClosesTheWindow) {
+    frmMain* const window = window_;
+    host_.Choose("Exit");
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+    window_ = nullptr;
+}
+
+}  // namespace
+}  // namespace brelex
