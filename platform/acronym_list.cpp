@@ -14,7 +14,7 @@ void AcronymList::RightPressed() {
     }
 }
 
-void AcronymList::OnContextMenu(wxContextMenuEvent& event) {
+void AcronymList::OnContextMenu(wxContextMenuEvent& event) const {
     // With the mouse the pressed button has asked for it already.
     if (event.GetPosition() == wxDefaultPosition && SelectedRow() >= 0 && onMenuKey) {
         onMenuKey();

@@ -67,7 +67,7 @@ class AcronymList {
     /// The control tells of the right button, and then does nothing of its own for it; and of the
     /// keyboard's wish for a menu.
     void RightPressed();
-    void OnContextMenu(wxContextMenuEvent& event);
+    void OnContextMenu(wxContextMenuEvent& event) const;
 
     [[nodiscard]] virtual std::int32_t RowCount() const = 0;
 };
