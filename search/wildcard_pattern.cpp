@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "search/wildcard_pattern.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "database/windows1252.h"
+#include "search/letter_case.h"
+
+namespace brelex {
+
+namespace {
+
+using ByteSet = std::bitset<256>;
+
+constexpr int kBytes = 256;
+
+// The bytes whose character, made small if case does not matter, is in a range.
+class RangeReader {
+  public:
+    explicit RangeReader(bool matchCase) : matchCase_(matchCase) {}
+
+    [[nodiscard]] ByteSet Range(char32_t first, char32_t last) const {
+        ByteSet set;
+        for (int byte = 0; byte < kBytes; ++byte) {
+            const char32_t plain = CharacterOfByte(static_cast<unsigned char>(byte));
+            const char32_t character = matchCase_ ? plain : SmallLetterOf(plain);
+            set[static_cast<std::size_t>(byte)] = character >= first && character <= last;
+        }
+        return set;
+    }
+
+    // The list that begins behind the "[" at the front of `rest`, which is moved behind its "]".
+    // Nothing if it is malformed; an empty optional inside if it matches the empty text.
+    [[nodiscard]] std::optional<std::optional<ByteSet>> List(std::u32string_view& rest) const {
+        rest.remove_prefix(1);
+        const bool negated = rest.starts_with(U'!');
+        if (negated) {
+            rest.remove_prefix(1);
+        }
+        const bool empty = rest.starts_with(U']');
+        ByteSet set;
+        while (!rest.empty() && rest.front() != U']') {
+            const char32_t first = rest.front();
+            char32_t last = first;
+            rest.remove_prefix(1);
+            if (rest.size() >= 2 && rest[0] == U'-' && rest[1] != U']') {
+                last = rest[1];
+                rest.remove_prefix(2);
+            }
+            if (last < first) {
+                return std::nullopt;
+            }
+            set |= Range(first, last);
+        }
+        if (rest.empty()) {
+            return std::nullopt;
+        }
+        rest.remove_prefix(1);
+        if (empty && !negated) {
+            return std::optional<ByteSet>();
+        }
+        return negated ? ~set : set;
+    }
+
+  private:
+    bool matchCase_;
+};
+
+}  // namespace
+
+std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view pattern,
+                                                        bool matchCase) {
+    const std::u32string folded = matchCase ? std::u32string(pattern) : SmallLetters(pattern);
+    const RangeReader reader(matchCase);
+    WildcardPattern compiled;
+    std::u32string_view rest = folded;
+    while (!rest.empty()) {
+        const char32_t character = rest.front();
+        if (character == U'[') {
+            const auto list = reader.List(rest);
+            if (!list) {
+                return std::nullopt;
+            }
+            if (*list) {
+                compiled.segments_.back().push_back(**list);
+            }
+            continue;
+        }
+        rest.remove_prefix(1);
+        if (character == U'*') {
+            compiled.segments_.emplace_back();
+        } else if (character == U'?') {
+            compiled.segments_.back().push_back(ByteSet().set());
+        } else {
+            const bool digit = character == U'#';
+            compiled.segments_.back().push_back(
+                reader.Range(digit ? U'0' : character, digit ? U'9' : character));
+        }
+    }
+    return compiled;
+}
+
+bool WildcardPattern::SegmentMatchesAt(const Segment& segment, std::string_view text,
+                                       std::size_t position) {
+    for (std::size_t i = 0; i < segment.size(); ++i) {
+        if (!segment[i][static_cast<unsigned char>(text[position + i])]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The first segment stands at the beginning, the last at the end, and each of the others where it
+// first fits behind the one before: if that does not leave enough for the rest, no other place
+// does.
+bool WildcardPattern::Matches(std::string_view text) const {
+    const Segment& first = segments_.front();
+    const Segment& last = segments_.back();
+    if (segments_.size() == 1) {
+        return text.size() == first.size() && SegmentMatchesAt(first, text, 0);
+    }
+    if (text.size() < first.size() + last.size() || !SegmentMatchesAt(first, text, 0)) {
+        return false;
+    }
+    std::size_t position = first.size();
+    const std::size_t end = text.size() - last.size();
+    for (auto segment = segments_.begin() + 1; segment != segments_.end() - 1; ++segment) {
+        while (position + segment->size() <= end && !SegmentMatchesAt(*segment, text, position)) {
+            ++position;
+        }
+        position += segment->size();
+        if (position > end) {
+            return false;
+        }
+    }
+    return SegmentMatchesAt(last, text, end);
+}
+
+}  // namespace brelex
