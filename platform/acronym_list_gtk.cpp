@@ -85,7 +85,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &AcronymListGtk::OnActivated, this);
         // Before the toolkit, whose own handling selects a row even for a press below the last.
         g_signal_connect(view, "event", G_CALLBACK(&AcronymListGtk::OnEvent), this);
-        Bind(wxEVT_CONTEXT_MENU, &AcronymListGtk::OnContextMenu, this);
+        Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
     }
 
     wxWindow& Window() override { return *this; }

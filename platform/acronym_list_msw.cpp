@@ -28,7 +28,7 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
         Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown);
         Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
-        Bind(wxEVT_CONTEXT_MENU, &AcronymListMsw::OnContextMenu, this);
+        Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
     }
 
     wxWindow& Window() override { return *this; }

@@ -119,7 +119,7 @@ class TrayIconGtk final : public TrayIcon {
         TellIfGone();
     }
 
-    void TellIfGone() {
+    void TellIfGone() const {
         if (!IsShown()) {
             events_.onGone();
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/status_notifier.h"
 
+#include <cstddef>
 #include <libdbusmenu-glib/menuitem.h>
 #include <libdbusmenu-glib/server.h>
 #include <utility>
@@ -40,14 +41,14 @@ constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotif
 GVariant* PixmapOf(GdkPixbuf* picture) {
     const int width = gdk_pixbuf_get_width(picture);
     const int height = gdk_pixbuf_get_height(picture);
-    const int stride = gdk_pixbuf_get_rowstride(picture);
-    const int channels = gdk_pixbuf_get_n_channels(picture);
+    const auto stride = static_cast<std::ptrdiff_t>(gdk_pixbuf_get_rowstride(picture));
+    const auto channels = static_cast<std::ptrdiff_t>(gdk_pixbuf_get_n_channels(picture));
     const guchar* const pixels = gdk_pixbuf_read_pixels(picture);
     GVariantBuilder bytes;
     g_variant_builder_init(&bytes, G_VARIANT_TYPE("ay"));
     for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const guchar* const pixel = pixels + y * stride + x * channels;
+        const guchar* pixel = pixels + y * stride;
+        for (int x = 0; x < width; ++x, pixel += channels) {
             constexpr int kAlpha = 3;
             constexpr guchar kOpaque = 255;
             g_variant_builder_add(&bytes, "y", channels > kAlpha ? pixel[kAlpha] : kOpaque);

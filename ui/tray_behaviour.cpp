@@ -19,13 +19,11 @@ class Busy {
     bool& flag_;
 };
 
-enum MenuIndex {
-    kSearch,
-    kAbout,
-    kMinimiseOrRestore,
-    kSeparator,
-    kExit
-};
+// The items that do something, by their index.
+constexpr int kSearch = 0;
+constexpr int kAbout = 1;
+constexpr int kMinimiseOrRestore = 2;
+constexpr int kExit = 4;
 
 }  // namespace
 

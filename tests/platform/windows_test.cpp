@@ -163,8 +163,9 @@ class RunAtStartupOnWindows : public testing::Test {
     std::wstring Stored() {
         HKEY run = nullptr;
         RegOpenKeyExW(HKEY_CURRENT_USER, kRun, 0, KEY_READ, &run);
-        std::wstring data(500, L'#');
-        bytes_ = static_cast<DWORD>(data.size() * sizeof(wchar_t));
+        constexpr DWORD kRoom = 500;
+        std::wstring data(kRoom, L'#');
+        bytes_ = kRoom * DWORD{sizeof(wchar_t)};
         const LSTATUS status = RegQueryValueExW(run, L"Brevilexicon", nullptr, &type_,
                                                 reinterpret_cast<BYTE*>(data.data()), &bytes_);
         RegCloseKey(run);
