@@ -123,17 +123,16 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         }
     }
 
-    // A blank would open the entry.
+    // A blank would open the entry, and so would Enter with whatever is held down with it.
     static void OnKeyDown(wxKeyEvent& event) {
-        if (event.GetKeyCode() != WXK_SPACE) {
+        const int key = event.GetKeyCode();
+        const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+        if (key != WXK_SPACE && !(enter && event.HasAnyModifiers())) {
             event.Skip();
         }
     }
 
     void OnActivated(wxListEvent& /*event*/) {
-        if (wxGetKeyState(WXK_SHIFT) || wxGetKeyState(WXK_CONTROL) || wxGetKeyState(WXK_ALT)) {
-            return;
-        }
         if (selected_ >= 0 && onEnter) {
             onEnter();
         }

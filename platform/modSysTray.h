@@ -21,11 +21,14 @@ struct TrayEvents {
     std::function<void()> onLeftRelease;
     std::function<void()> onRightRelease;
 
-    /// The menu as it has to look now; empty for none.
+    /// The menu as it has to look now. There are always as many items.
     std::function<std::vector<TrayMenuItem>()> menu;
 
     /// An item (0-based, separators counted) was chosen.
     std::function<void(int)> onMenuItem;
+
+    /// A notification area has begun to show the icon, as its host came up.
+    std::function<void()> onShown;
 
     /// No notification area shows the icon any longer, as its host ended.
     std::function<void()> onGone;
@@ -46,6 +49,9 @@ class TrayIcon {
     /// Shows the menu at the mouse. For use in onRightRelease; a desktop that shows the menu itself
     /// never calls that.
     virtual void PopUpMenu() = 0;
+
+    /// The menu has to look different now. For desktops that show it themselves.
+    virtual void MenuChanged() = 0;
 };
 
 /// Adds the icon, with `tip` (UTF-8, fewer than 64 characters) shown while the mouse rests on it.

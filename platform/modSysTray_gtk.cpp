@@ -60,14 +60,10 @@ class TrayIconGtk final : public TrayIcon {
 
     void PopUpMenu() override {
         CloseMenu();
-        const std::vector<TrayMenuItem> items = events_.menu();
-        if (items.empty()) {
-            return;
-        }
         menu_ = gtk_menu_new();
         g_object_ref_sink(menu_);
         int index = 0;
-        for (const TrayMenuItem& item : items) {
+        for (const TrayMenuItem& item : events_.menu()) {
             GtkWidget* const entry =
                 item.caption == "-"
                     ? gtk_separator_menu_item_new()
@@ -82,6 +78,8 @@ class TrayIconGtk final : public TrayIcon {
         gtk_menu_popup(GTK_MENU(menu_), nullptr, nullptr, gtk_status_icon_position_menu, icon_,
                        pressedButton_, pressTime_);
     }
+
+    void MenuChanged() override { notifier_.MenuChanged(); }
 
   private:
     static constexpr int kPanelIcon = 24;
@@ -98,37 +96,21 @@ class TrayIconGtk final : public TrayIcon {
     }
 
     static void OnEmbedded(GtkStatusIcon* /*icon*/, GParamSpec* /*property*/, TrayIconGtk* self) {
-        self->TellIfGone();
+        self->Tell();
     }
 
-    // What an item does may end the program and this icon: only when the menu is done with it.
     static void OnItem(GtkMenuItem* entry, TrayIconGtk* self) {
-        self->chosen_ = GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey));
-        self->pendingItem_ = g_idle_add(
-            [](void* data) -> gboolean {
-                auto* const icon = static_cast<TrayIconGtk*>(data);
-                icon->pendingItem_ = 0;
-                icon->events_.onMenuItem(icon->chosen_);
-                return G_SOURCE_REMOVE;
-            },
-            self);
+        self->events_.onMenuItem(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey)));
     }
 
     void OnHostChanged() {
         gtk_status_icon_set_visible(icon_, notifier_.IsShown() ? FALSE : TRUE);
-        TellIfGone();
+        Tell();
     }
 
-    void TellIfGone() const {
-        if (!IsShown()) {
-            events_.onGone();
-        }
-    }
+    void Tell() const { IsShown() ? events_.onShown() : events_.onGone(); }
 
     void CloseMenu() {
-        if (pendingItem_ != 0) {
-            g_source_remove(std::exchange(pendingItem_, 0));
-        }
         if (menu_ != nullptr) {
             gtk_widget_destroy(menu_);
             g_object_unref(std::exchange(menu_, nullptr));
@@ -140,8 +122,6 @@ class TrayIconGtk final : public TrayIcon {
     GtkWidget* menu_ = nullptr;
     guint pressedButton_ = 0;
     guint pressTime_ = 0;
-    guint pendingItem_ = 0;
-    int chosen_ = 0;
     StatusNotifier notifier_;
 };
 

@@ -33,12 +33,8 @@ class TaskBarIcon final : public wxTaskBarIcon {
             }
             ++index;
         }
-        if (index == 0) {
-            return;
-        }
-        // What an item does may end the program: only when the menu is gone.
         menu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
-            CallAfter([this, chosen = event.GetId() - kFirstItem] { events_.onMenuItem(chosen); });
+            events_.onMenuItem(event.GetId() - kFirstItem);
         });
         PopupMenu(&menu);
     }
@@ -47,7 +43,6 @@ class TaskBarIcon final : public wxTaskBarIcon {
     void Withdraw() {
         EndMenu();
         RemoveIcon();
-        DeletePendingEvents();
         Destroy();
     }
 
@@ -72,6 +67,8 @@ class TrayIconMsw final : public TrayIcon {
     [[nodiscard]] bool IsShown() const override { return icon_->IsIconInstalled(); }
 
     void PopUpMenu() override { icon_->PopUp(); }
+
+    void MenuChanged() override {}
 
   private:
     TaskBarIcon* icon_;

@@ -26,6 +26,9 @@ class StatusNotifier {
     /// Whether a desktop shows the icon.
     [[nodiscard]] bool IsShown() const;
 
+    /// Shows the menu as it has to look now.
+    void MenuChanged();
+
   private:
     class Item;
     std::unique_ptr<Item> item_;

@@ -5,6 +5,7 @@
 #include <libdbusmenu-glib/menuitem.h>
 #include <libdbusmenu-glib/server.h>
 #include <utility>
+#include <vector>
 
 #include <wx/icon.h>
 
@@ -96,7 +97,8 @@ class StatusNotifier::Item {
         Withdraw();
     }
 
-    [[nodiscard]] bool IsShown() const { return hasHost_; }
+    // A watcher alone shows nothing, and one that refuses the item does not show it.
+    [[nodiscard]] bool IsShown() const { return hasHost_ && isRegistered_; }
 
   private:
     static void OnWatcherAppeared(GDBusConnection* connection, const char* /*name*/,
@@ -107,8 +109,12 @@ class StatusNotifier::Item {
     static void OnWatcherVanished(GDBusConnection* /*connection*/, const char* /*name*/,
                                   void* data) {
         auto* const self = static_cast<Item*>(data);
+        const bool wasShown = self->IsShown();
         self->Withdraw();
-        self->SetHasHost(false);
+        self->hasHost_ = false;
+        if (wasShown) {
+            self->onHostChanged_();
+        }
     }
 
     void Offer(GDBusConnection* connection) {
@@ -120,13 +126,12 @@ class StatusNotifier::Item {
         object_ = g_dbus_connection_register_object(connection_, kItemPath, node->interfaces[0],
                                                     &kHandlers, this, nullptr, nullptr);
         g_dbus_node_info_unref(node);
-        menuServer_ = dbusmenu_server_new(kMenuPath);
-        UpdateMenu();
+        MakeMenu();
         // The watcher takes the item that has our connection's own name.
-        g_dbus_connection_call(connection_, kWatcher, kWatcherPath, kWatcher,
-                               "RegisterStatusNotifierItem",
-                               g_variant_new("(s)", g_dbus_connection_get_unique_name(connection_)),
-                               nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancel_, nullptr, nullptr);
+        g_dbus_connection_call(
+            connection_, kWatcher, kWatcherPath, kWatcher, "RegisterStatusNotifierItem",
+            g_variant_new("(s)", g_dbus_connection_get_unique_name(connection_)), nullptr,
+            G_DBUS_CALL_FLAGS_NONE, -1, cancel_, &Item::OnRegistered, this);
         changes_ = g_dbus_connection_signal_subscribe(
             connection_, kWatcher, kWatcher, nullptr, kWatcherPath, nullptr,
             G_DBUS_SIGNAL_FLAGS_NONE, &Item::OnWatcherSignal, this, nullptr);
@@ -139,8 +144,24 @@ class StatusNotifier::Item {
         }
         g_dbus_connection_signal_unsubscribe(connection_, changes_);
         g_dbus_connection_unregister_object(connection_, object_);
-        g_clear_object(&menuServer_);
+        DropMenu();
+        isRegistered_ = false;
         g_clear_object(&connection_);
+    }
+
+    static void OnRegistered(GObject* connection, GAsyncResult* result, void* data) {
+        GError* error = nullptr;
+        GVariant* const answer =
+            g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error);
+        const bool cancelled = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE;
+        g_clear_error(&error);
+        if (!cancelled) {  // or else the item is gone
+            static_cast<Item*>(data)->SetState(static_cast<Item*>(data)->hasHost_,
+                                               answer != nullptr);
+        }
+        if (answer != nullptr) {
+            g_variant_unref(answer);
+        }
     }
 
     static void OnWatcherSignal(GDBusConnection* /*connection*/, const char* /*sender*/,
@@ -149,7 +170,6 @@ class StatusNotifier::Item {
         static_cast<Item*>(data)->AskForHost();
     }
 
-    // A watcher alone shows nothing.
     void AskForHost() {
         g_dbus_connection_call(
             connection_, kWatcher, kWatcherPath, "org.freedesktop.DBus.Properties", "Get",
@@ -175,11 +195,14 @@ class StatusNotifier::Item {
             g_variant_unref(value);
             g_variant_unref(answer);
         }
-        static_cast<Item*>(data)->SetHasHost(has);
+        static_cast<Item*>(data)->SetState(has, static_cast<Item*>(data)->isRegistered_);
     }
 
-    void SetHasHost(bool has) {
-        if (std::exchange(hasHost_, has) != has) {
+    void SetState(bool hasHost, bool isRegistered) {
+        const bool wasShown = IsShown();
+        hasHost_ = hasHost;
+        isRegistered_ = isRegistered;
+        if (IsShown() != wasShown) {
             onHostChanged_();
         }
     }
@@ -235,34 +258,52 @@ class StatusNotifier::Item {
         return g_variant_builder_end(&list);
     }
 
-    // The menu is drawn by the desktop, which asks before it shows it.
-    void UpdateMenu() {
-        DbusmenuMenuitem* const root = dbusmenu_menuitem_new();
+    // The menu is drawn by the desktop. Its items stay the same, as a desktop remembers them; what
+    // is disabled is not shown at all.
+    void MakeMenu() {
+        menuServer_ = dbusmenu_server_new(kMenuPath);
+        root_ = dbusmenu_menuitem_new();
         int index = 0;
         for (const TrayMenuItem& item : events_.menu()) {
             DbusmenuMenuitem* const entry = dbusmenu_menuitem_new();
             if (item.caption == "-") {
                 dbusmenu_menuitem_property_set(entry, DBUSMENU_MENUITEM_PROP_TYPE, "separator");
-            } else {
-                dbusmenu_menuitem_property_set(entry, DBUSMENU_MENUITEM_PROP_LABEL,
-                                               MenuLabel(item.caption).c_str());
-                dbusmenu_menuitem_property_set_bool(entry, DBUSMENU_MENUITEM_PROP_ENABLED,
-                                                    item.enabled ? TRUE : FALSE);
             }
             g_object_set_data(G_OBJECT(entry), kIndexKey, GINT_TO_POINTER(index));
             g_signal_connect(entry, DBUSMENU_MENUITEM_SIGNAL_ITEM_ACTIVATED,
                              G_CALLBACK(&Item::OnMenuItem), this);
-            dbusmenu_menuitem_child_append(root, entry);
-            g_object_unref(entry);
+            dbusmenu_menuitem_child_append(root_, entry);
+            entries_.push_back(entry);
             ++index;
         }
-        g_signal_connect(root, DBUSMENU_MENUITEM_SIGNAL_ABOUT_TO_SHOW,
-                         G_CALLBACK(&Item::OnAboutToShow), this);
-        dbusmenu_server_set_root(menuServer_, root);
-        g_object_unref(root);
+        MenuChanged();
+        dbusmenu_server_set_root(menuServer_, root_);
     }
 
-    static void OnAboutToShow(DbusmenuMenuitem* /*root*/, Item* self) { self->UpdateMenu(); }
+  public:
+    void MenuChanged() const {
+        const std::vector<TrayMenuItem> items = events_.menu();
+        for (std::size_t i = 0; i < entries_.size() && i < items.size(); ++i) {
+            if (items[i].caption != "-") {
+                dbusmenu_menuitem_property_set(entries_[i], DBUSMENU_MENUITEM_PROP_LABEL,
+                                               MenuLabel(items[i].caption).c_str());
+            }
+            dbusmenu_menuitem_property_set_bool(entries_[i], DBUSMENU_MENUITEM_PROP_VISIBLE,
+                                                items[i].enabled ? TRUE : FALSE);
+        }
+    }
+
+  private:
+    // What a desktop has asked for may still be on its way to an item: it must not come here then.
+    void DropMenu() {
+        for (DbusmenuMenuitem* entry : entries_) {
+            g_signal_handlers_disconnect_by_data(entry, this);
+            g_object_unref(entry);
+        }
+        entries_.clear();
+        g_clear_object(&root_);
+        g_clear_object(&menuServer_);
+    }
 
     static void OnMenuItem(DbusmenuMenuitem* entry, guint /*time*/, Item* self) {
         self->events_.onMenuItem(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey)));
@@ -275,6 +316,9 @@ class StatusNotifier::Item {
     const TrayEvents& events_;
     std::function<void()> onHostChanged_;
     bool hasHost_ = false;
+    bool isRegistered_ = false;
+    DbusmenuMenuitem* root_ = nullptr;
+    std::vector<DbusmenuMenuitem*> entries_;
     GCancellable* cancel_ = g_cancellable_new();
     GDBusConnection* connection_ = nullptr;
     DbusmenuServer* menuServer_ = nullptr;
@@ -288,6 +332,10 @@ StatusNotifier::StatusNotifier(const wxIconBundle& pictures, const std::string& 
     : item_(std::make_unique<Item>(pictures, tip, events, std::move(onHostChanged))) {}
 
 StatusNotifier::~StatusNotifier() = default;
+
+void StatusNotifier::MenuChanged() {
+    item_->MenuChanged();
+}
 
 bool StatusNotifier::IsShown() const {
     return item_->IsShown();

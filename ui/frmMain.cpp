@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include <wx/app.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 #include <wx/dcclient.h>
@@ -17,6 +18,7 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 #include <wx/utils.h>
+#include <wx/weakref.h>
 
 #include "database/number_text.h"
 #include "platform/accessible_name.h"
@@ -84,8 +86,11 @@ class frmMain::ModalScope {
     explicit ModalScope(frmMain& window)
         : window_(window),
           outermost_(!std::exchange(window.IsModalOpen, true)) {
-        if (outermost_ && window_.IsStayOnTop) {
-            SetTopMost(window_, false);
+        if (outermost_) {
+            window_.TrayMenuChanged();
+            if (window_.IsStayOnTop) {
+                SetTopMost(window_, false);
+            }
         }
     }
 
@@ -98,6 +103,7 @@ class frmMain::ModalScope {
                 SetTopMost(window_, true);
             }
             window_.IsModalOpen = false;
+            window_.TrayMenuChanged();
         }
     }
 
@@ -231,6 +237,7 @@ void frmMain::AddFrame(int left, int top, int width, int height) {
 
 void frmMain::BindEvents() {
     Bind(wxEVT_ICONIZE, &frmMain::OnIconize, this);
+    Bind(wxEVT_SHOW, &frmMain::OnShow, this);
     LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
@@ -293,7 +300,17 @@ TrayEvents frmMain::TrayEventsOfWindow() {
     events.onLeftRelease = [this] { trayBehaviour_.OnLeftRelease(); };
     events.onRightRelease = [this] { trayBehaviour_.OnRightRelease(*trayIcon_); };
     events.menu = [this] { return trayBehaviour_.Menu(); };
-    events.onMenuItem = [this](int index) { trayBehaviour_.OnMenuItem(index); };
+    // When the menu, and the desktop that may have sent this, are done with it: it can end the
+    // program.
+    events.onMenuItem = [this](int index) {
+        CallAfter([this, index] { trayBehaviour_.OnMenuItem(index); });
+    };
+    // A program that starts with the session is often there before the panel is.
+    events.onShown = [this] {
+        if (IsShown() && IsIconized()) {
+            Hide();
+        }
+    };
     events.onGone = [this] {
         // A window that nothing could bring back must not stay hidden.
         if (!IsShown()) {
@@ -350,7 +367,10 @@ void frmMain::SayNotYet(const std::string& what) {
 
 void frmMain::GoToRecordNumber(std::int32_t nRecordNumber) {
     FlushBoxChange();
-    const ModalScope modal(*this);  // it may ask, and complain
+    std::optional<ModalScope> modal;
+    if (nRecordNumber == -1) {
+        modal.emplace(*this);  // it asks, and may complain
+    }
     lookup_.GoToRecordNumber(nRecordNumber);
 }
 
@@ -424,19 +444,15 @@ void frmMain::OnMenu(wxCommandEvent& event) {
 }
 
 void frmMain::OnClose(wxCloseEvent& event) {
-    const bool modalOpen =
-        std::any_of(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), [](wxWindow* window) {
-            const auto* dialog = dynamic_cast<wxDialog*>(window);
-            return dialog != nullptr && dialog->IsModal();
-        });
-    if (modalOpen && event.CanVeto()) {
-        event.Veto();  // the dialog lives on the stack of whoever shows it
+    if (IsModalOpen && event.CanVeto()) {
+        event.Veto();  // the modal window lives on the stack of whoever shows it
         return;
     }
     tmrCheckCommand.Stop();
     UnloadOtherForms();
     RemoveTrayIcon(trayIcon_);
     Destroy();
+    wxWakeUpIdle();  // which destroys; what closed the window may not be an event of the toolkit's
 }
 
 // One edit is one change: overtyping a selection deletes and inserts, and on GTK that is reported
@@ -519,10 +535,38 @@ void frmMain::OnDoubleClick(wxMouseEvent& event) {
 // Minimising hides the window into its icon. Without an icon on the screen it only minimises, as
 // nothing could bring it back.
 void frmMain::OnIconize(wxIconizeEvent& event) {
-    if (event.IsIconized() && trayIcon_ != nullptr && trayIcon_->IsShown()) {
+    if (event.IsIconized() && HasTrayIcon()) {
         Hide();
     }
+    TrayMenuChanged();
     event.Skip();
+}
+
+// Windows restores the window itself for the hot key, of which the toolkit takes no notice.
+void frmMain::OnShow(wxShowEvent& event) {
+    if (event.IsShown() && !IsShown()) {
+        CallAfter([this] { Show(); });
+    }
+    TrayMenuChanged();
+    event.Skip();
+}
+
+void frmMain::MinimiseWindow() {
+    Iconize();
+    // Wayland does not tell of a minimised window.
+    if (HasTrayIcon()) {
+        Hide();
+    }
+}
+
+bool frmMain::HasTrayIcon() const {
+    return trayIcon_ != nullptr && trayIcon_->IsShown();
+}
+
+void frmMain::TrayMenuChanged() {
+    if (trayIcon_ != nullptr) {
+        trayIcon_->MenuChanged();
+    }
 }
 
 void frmMain::RestoreWindow() {
@@ -542,16 +586,29 @@ void frmMain::ActivateWindow() {
 }
 
 void frmMain::ShowListMenu(std::int32_t row) {
+    if (isListMenuOpen_ || IsModalOpen) {
+        return;
+    }
+    isListMenuOpen_ = true;
     SelectRow(row);
     lstAcronyms->Window().SetFocus();
+    const wxWeakRef<frmMain> self(this);
     LetPendingEventsRun();
-    lookup_.OnListMenu();
-    PopupMenu(CreateListMenu().get());
+    if (!self) {
+        return;
+    }
+    if (!IsBeingDeleted() && !IsModalOpen) {
+        lookup_.OnListMenu();
+        PopupMenu(CreateListMenu().get());
+    }
+    if (self) {
+        isListMenuOpen_ = false;
+    }
 }
 
 void frmMain::OnCheckCommand(wxTimerEvent& /*event*/) {
     if (commandLine_ == "/minimize") {
-        Iconize();
+        MinimiseWindow();
     }
 }
 

@@ -76,6 +76,8 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void BindListEvents();
     void AddHints();
     [[nodiscard]] TrayEvents TrayEventsOfWindow();
+    [[nodiscard]] bool HasTrayIcon() const;
+    void TrayMenuChanged();
     void AddFrame(int left, int top, int width, int height);
     void UnloadOtherForms();
     void OpenEntryViewer();
@@ -92,6 +94,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void OnBoxPaste(wxClipboardTextEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
     void OnIconize(wxIconizeEvent& event);
+    void OnShow(wxShowEvent& event);
     void ShowListMenu(std::int32_t row);
     void OnCheckCommand(wxTimerEvent& event);
 
@@ -118,7 +121,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void RestoreWindow() override;
     void ActivateWindow() override;
 
-    void MinimiseWindow() override { Iconize(); }
+    void MinimiseWindow() override;
 
     void Exit() override { Close(); }
 
@@ -130,6 +133,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::string commandLine_;
     std::vector<wxRect> frames_;  // the sunken frames that OnPaint draws
     bool boxChangePending_ = false;
+    bool isListMenuOpen_ = false;
     bool caretStays_ = false;  // getting the focus next time selects nothing
     std::size_t maxBoxLength_ = 0;
     std::function<bool(bool)> setRunAtStartup_;

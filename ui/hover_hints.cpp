@@ -28,6 +28,13 @@ void HoverHints::OnMotion(wxMouseEvent& event) {
     const auto found = std::find_if(hints_.begin(), hints_.end(), [&](const Hint& hint) {
         return hint.control.GetScreenRect().Contains(mouse);
     });
+    const auto& controls = surface_.GetChildren();
+    const bool onSurface = std::none_of(
+        controls.begin(), controls.end(),
+        [&](const wxWindow* control) { return control->GetScreenRect().Contains(mouse); });
+    if (found == hints_.end() && !onSurface) {
+        return;  // a control without a hint, such as the hint itself
+    }
     const wxString text = found == hints_.end() ? wxString() : found->text;
     if (label_.GetLabelText() != text) {
         label_.SetLabelText(text);

@@ -40,6 +40,7 @@ void CopyEntryToClipboard(std::string_view recordText) {
     }
     wxTheClipboard->SetData(new wxTextDataObject(WxTextOfBytes(GetAbbreviation(recordText)) +
                                                  " = " + WxTextOfBytes(GetExpansion(recordText))));
+    wxTheClipboard->Flush();  // or else it would go with the program
 }
 
 void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target) {

@@ -52,14 +52,12 @@ void TrayBehaviour::OnRightRelease(TrayIcon& icon) {
 }
 
 std::vector<TrayMenuItem> TrayBehaviour::Menu() const {
-    if (owner_.IsModalWindowOpen()) {
-        return {};
-    }
-    return {{"Search Database..."},
-            {"About..."},
-            {owner_.IsWindowMinimised() ? "&Restore Window" : "&Minimize Window"},
-            {"-"},
-            {"Exit"}};
+    const bool enabled = !owner_.IsModalWindowOpen();
+    return {{"Search Database...", enabled},
+            {"About...", enabled},
+            {owner_.IsWindowMinimised() ? "&Restore Window" : "&Minimize Window", enabled},
+            {"-", enabled},
+            {"Exit", enabled}};
 }
 
 void TrayBehaviour::OnMenuItem(int index) {

@@ -44,7 +44,7 @@ class TrayBehaviour {
     /// open.
     void OnRightRelease(TrayIcon& icon);
 
-    /// The menu `mnuSysTrayMenu` as it has to look now; nothing while a modal window is open.
+    /// The menu `mnuSysTrayMenu` as it has to look now; all disabled while a modal window is open.
     [[nodiscard]] std::vector<TrayMenuItem> Menu() const;
 
     /// Does what the item of the menu (0-based, the separator counted) says.

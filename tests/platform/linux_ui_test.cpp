@@ -126,6 +126,15 @@ TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
     EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized(); }));
 }
 
+TEST_F(MainWindowWithoutTray, StartedMinimisedTheWindowHidesWhenALatePanelComes) {
+    Start(SampleEntries(), "/minimize");
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    Settle(200);
+    EXPECT_TRUE(window_->IsShown());
+    const Panel panel;
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }, 6000));
+}
+
 TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
     {
         const Panel panel;
@@ -214,22 +223,22 @@ class FakeHost {
                          g_variant_new("(ii^as)", 0, -1, none)));
     }
 
-    // Chooses the item of the menu with a label.
-    void Choose(const std::string& label) {
+    // Chooses the item of the menu with a label, as often as asked.
+    void Choose(const std::string& label, int times = 1) {
         const std::string layout = Layout();
         const std::size_t at = layout.find("'" + label + "'");
         ASSERT_NE(at, std::string::npos) << layout;
         // An item is printed as (number, {... 'label': <'...'> ...
         const std::size_t open = layout.rfind('(', at);
         const int id = std::atoi(layout.c_str() + open + 1);
-        GVariant* const answer =
-            Call("/MenuBar", "com.canonical.dbusmenu", "Event",
-                 g_variant_new("(isvu)", id, "clicked", g_variant_new_int32(0), 0U));
-        Text(answer);
+        for (int i = 0; i < times; ++i) {
+            Text(Call("/MenuBar", "com.canonical.dbusmenu", "Event",
+                      g_variant_new("(isvu)", id, "clicked", g_variant_new_int32(0), 0U)));
+        }
     }
 
     std::string item;  ///< the bus name of the item that registered itself
-    bool hasPanel = true;
+    bool refuses = false;
 
   private:
     static std::string Text(GVariant* value) {
@@ -248,14 +257,19 @@ class FakeHost {
                          GDBusMethodInvocation* call, void* data) {
         const char* name = nullptr;
         g_variant_get(arguments, "(&s)", &name);
-        static_cast<FakeHost*>(data)->item = name;
-        g_dbus_method_invocation_return_value(call, nullptr);
+        auto* const self = static_cast<FakeHost*>(data);
+        self->item = name;
+        if (self->refuses) {
+            g_dbus_method_invocation_return_dbus_error(call, "org.example.Refused", "no");
+        } else {
+            g_dbus_method_invocation_return_value(call, nullptr);
+        }
     }
 
     static GVariant* OnGetProperty(GDBusConnection* /*bus*/, const char* /*sender*/,
                                    const char* /*path*/, const char* /*interface*/,
-                                   const char* /*property*/, GError** /*error*/, void* data) {
-        return g_variant_new_boolean(static_cast<FakeHost*>(data)->hasPanel ? TRUE : FALSE);
+                                   const char* /*property*/, GError** /*error*/, void* /*data*/) {
+        return g_variant_new_boolean(TRUE);
     }
 
     GDBusConnection* bus_;
@@ -325,13 +339,29 @@ TEST_F(StatusNotifierItem, ItsMenuIsEmptyWhileAModalWindowIsUp) {
         },
     });
     window_->OpenModalForm(0);
-    EXPECT_EQ(layout.find("Window"), std::string::npos) << layout;
-    EXPECT_EQ(layout.find("Exit"), std::string::npos) << layout;
+    // All five items are there for the desktop to hide.
+    std::size_t hidden = 0;
+    for (std::size_t at = layout.find("'visible': <false>"); at != std::string::npos;
+         at = layout.find("'visible': <false>", at + 1)) {
+        ++hidden;
+    }
+    EXPECT_EQ(hidden, 5U) << layout;
+    EXPECT_EQ(host_.Layout().find("'visible': <false>"), std::string::npos);
+}
+
+TEST_F(MainWindowWithoutTray, ADesktopThatRefusesTheIconDoesNotLoseTheWindow) {
+    FakeHost host;
+    host.refuses = true;
+    Start(SampleEntries(), "/minimize");
+    ASSERT_TRUE(WaitFor([&] { return !host.item.empty(); }));
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    Settle(200);
+    EXPECT_TRUE(window_->IsShown());
 }
 
 TEST_F(StatusNotifierItem, ItsExitClosesTheWindow) {
     frmMain* const window = window_;
-    host_.Choose("Exit");
+    host_.Choose("Exit", 2);  // as a double click does
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
     window_ = nullptr;
 }

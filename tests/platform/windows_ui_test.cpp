@@ -220,6 +220,38 @@ TEST_F(BrowseForFolderTest, ADriveKeepsItsOneBackslash) {
     EXPECT_TRUE(driver.Done());
 }
 
+// The hot key makes the system do this.
+TEST_F(MainWindowTest, AWindowThatTheSystemItselfRestoresHidesAgainWhenMinimised) {
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    ShowWindow(window_->GetHWND(), SW_RESTORE);
+    ASSERT_TRUE(WaitFor([&] { return window_->IsShown() && !window_->IsIconized(); }));
+    Settle(100);
+    EXPECT_TRUE(IsWindowVisible(window_->GetHWND()));
+    ShowWindow(window_->GetHWND(), SW_MINIMIZE);
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+}
+
+TEST_F(MainWindowTest, ADoubleClickWithShiftOpensTheEntryAndShiftEnterDoesNot) {
+    Type("abc", "ABC");
+    int opened = 0;
+    AcronymList& list = window_->List();
+    list.onEnter = [&] { ++opened; };
+    list.Window().SetFocus();
+    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
+    user_.Char(WXK_RETURN, wxMOD_SHIFT);
+    Settle(150);
+    EXPECT_EQ(opened, 0);
+    const int row = list.SelectedRow() - list.TopRow();
+    user_.MouseMove(
+        list.Window().ClientToScreen({40, row * list.RowHeight() + list.RowHeight() / 2}));
+    Settle();
+    user_.KeyDown(WXK_SHIFT);
+    user_.MouseDblClick();
+    user_.KeyUp(WXK_SHIFT);
+    EXPECT_TRUE(WaitFor([&] { return opened == 1; }));
+}
+
 struct CommandLineCase {
     const char* name;
     const wchar_t* line;

@@ -767,6 +767,32 @@ TEST_F(FrmMainMouse, BelowTheLastRowTheRightButtonDoesNothing) {
     EXPECT_EQ(BoxText(), "");
 }
 
+TEST_F(FrmMainMouse, AWindowThatClosesUnderTheRightButtonShowsNoMenu) {
+    bool opened = false;
+    window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent&) { opened = true; });
+    frmMain* const window = std::exchange(window_, nullptr);
+    window->CallAfter([window] { window->Close(); });
+    window->List().onRightPress(0);
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+    EXPECT_FALSE(opened);
+}
+
+TEST_F(FrmMainMouse, AModalWindowKeepsTheMainWindowFromClosing) {
+    window_->IsModalOpen = true;
+    EXPECT_FALSE(window_->Close());
+    window_->IsModalOpen = false;
+    EXPECT_NE(wxTopLevelWindows.Find(window_), nullptr);
+}
+
+TEST_F(FrmMainMouse, AHintStaysWhileItIsReadWithTheMouse) {
+    MoveTo(*Control("txtAbbrv"), {6, 6});
+    ASSERT_TRUE(WaitFor([&] { return !LabelText("lblDescription").empty(); }));
+    MoveTo(*Control("lblDescription"), {6, 6});
+    Settle(150);
+    EXPECT_EQ(LabelText("lblDescription"),
+              "Type here the acronym/abbreviation you are looking for");
+}
+
 TEST_F(FrmMainMouse, TheListsMenuViewsAndCopies) {
     const auto menu = CreateListMenu();
     ASSERT_EQ(menu->GetMenuItemCount(), 3U);

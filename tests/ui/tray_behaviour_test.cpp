@@ -51,6 +51,8 @@ class FakeIcon final : public TrayIcon {
 
     void PopUpMenu() override { ++menus; }
 
+    void MenuChanged() override {}
+
     int menus = 0;
 };
 
@@ -100,9 +102,19 @@ TEST_F(TrayBehaviourTest, WithAModalWindowOpenThereIsNoMenu) {
     tray_.OnRightRelease(icon_);
     EXPECT_EQ(owner_.calls, Calls{"activate"});
     EXPECT_EQ(icon_.menus, 0);
-    EXPECT_TRUE(tray_.Menu().empty());
     tray_.OnMenuItem(0);
     EXPECT_EQ(owner_.calls, Calls{"activate"});
+}
+
+TEST_F(TrayBehaviourTest, WithAModalWindowOpenTheItemsAreDisabled) {
+    const auto isEnabled = [&](int index) {
+        return tray_.Menu()[static_cast<std::size_t>(index)].enabled;
+    };
+    EXPECT_TRUE(isEnabled(2));
+    owner_.modal = true;
+    for (const int index : {0, 1, 2, 4}) {
+        EXPECT_FALSE(isEnabled(index)) << index;
+    }
 }
 
 TEST_F(TrayBehaviourTest, AReleaseWithinAReleaseIsIgnored) {

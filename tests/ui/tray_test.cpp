@@ -144,6 +144,7 @@ TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
         },
         [&] {
             // Were there a menu, this key would choose its item and hide the window.
+            Settle(400);
             user_.Char('M');
             looked = true;
             return true;

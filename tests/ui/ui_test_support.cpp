@@ -60,6 +60,8 @@ void MainWindowTest::SetUp() {
 
 void MainWindowTest::TearDown() {
     if (window_ != nullptr) {
+        const wxSize display = wxGetDisplaySize();
+        user_.MouseMove(display.x - 1, display.y - 1);  // where it hovers over no later window
         window_->Destroy();
         Settle();
     }
@@ -73,8 +75,6 @@ void MainWindowTest::Start(const std::vector<std::string>& records,
 void MainWindowTest::StartWith(const std::string& databaseFile, const std::string& commandLine) {
     TearDown();
     startUp_.reset();
-    const wxSize display = wxGetDisplaySize();
-    user_.MouseMove(display.x - 1, display.y - 1);  // where it hovers over nothing
     folder_.Write("Acronyms.dat", databaseFile);
     startUp_ = std::make_unique<StartUp>();
     window_ =
