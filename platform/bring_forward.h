@@ -9,4 +9,7 @@ namespace brelex {
 /// the keyboard.
 void BringForward(wxFrame& window);
 
+/// Whether the window is up, not minimised, whatever the toolkit believes.
+[[nodiscard]] bool SystemShows(const wxFrame& window);
+
 }  // namespace brelex

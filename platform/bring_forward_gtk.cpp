@@ -20,4 +20,8 @@ void BringForward(wxFrame& window) {
                                  keyTime != 0 ? keyTime : gtk_get_current_event_time());
 }
 
+bool SystemShows(const wxFrame& window) {
+    return window.IsShown() && !window.IsIconized();
+}
+
 }  // namespace brelex

@@ -9,13 +9,17 @@ namespace brelex {
 
 void BringForward(wxFrame& window) {
     HWND const handle = window.GetHWND();
-    window.Iconize(false);  // or else the toolkit would show a hidden one minimised
+    window.Restore();  // or else the toolkit would show a hidden one minimised
     window.Show();
     if (IsIconic(handle) != 0) {
         ShowWindow(handle, SW_RESTORE);
     }
     // A modal window over it gets the keyboard: the window itself takes no keys then.
     SetForegroundWindow(GetLastActivePopup(handle));
+}
+
+bool SystemShows(const wxFrame& window) {
+    return IsWindowVisible(window.GetHWND()) != 0 && IsIconic(window.GetHWND()) == 0;
 }
 
 }  // namespace brelex

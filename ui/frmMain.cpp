@@ -238,6 +238,7 @@ void frmMain::AddFrame(int left, int top, int width, int height) {
 void frmMain::BindEvents() {
     Bind(wxEVT_ICONIZE, &frmMain::OnIconize, this);
     Bind(wxEVT_SHOW, &frmMain::OnShow, this);
+    Bind(wxEVT_ACTIVATE, &frmMain::OnActivate, this);
     LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
@@ -542,13 +543,29 @@ void frmMain::OnIconize(wxIconizeEvent& event) {
     event.Skip();
 }
 
-// Windows restores the window itself for the hot key, of which the toolkit takes no notice.
+// Windows restores the window itself for the hot key. The toolkit takes no notice of that, and
+// would not tell of the window's being minimised any more.
 void frmMain::OnShow(wxShowEvent& event) {
-    if (event.IsShown() && !IsShown()) {
-        CallAfter([this] { Show(); });
+    if (event.IsShown()) {
+        CatchUpWithSystem();
     }
     TrayMenuChanged();
     event.Skip();
+}
+
+void frmMain::OnActivate(wxActivateEvent& event) {
+    if (event.GetActive()) {
+        CatchUpWithSystem();
+    }
+    event.Skip();
+}
+
+void frmMain::CatchUpWithSystem() {
+    CallAfter([this] {
+        if (!IsShown() && SystemShows(*this)) {
+            RestoreWindow();
+        }
+    });
 }
 
 void frmMain::MinimiseWindow() {

@@ -95,6 +95,8 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void OnDoubleClick(wxMouseEvent& event);
     void OnIconize(wxIconizeEvent& event);
     void OnShow(wxShowEvent& event);
+    void OnActivate(wxActivateEvent& event);
+    void CatchUpWithSystem();
     void ShowListMenu(std::int32_t row);
     void OnCheckCommand(wxTimerEvent& event);
 
