@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// By the XDG Base Directory and Autostart specifications; a relative path counts as none.
+// Where XDG has autostart entries; a relative path counts as none there.
 std::optional<fs::path> AutostartFile() {
     constexpr const char* kName = "autostart/brevilexicon.desktop";
     const char* const configuration = std::getenv("XDG_CONFIG_HOME");
@@ -30,8 +30,8 @@ std::optional<fs::path> AutostartFile() {
     return fs::path(home) / ".config" / kName;
 }
 
-// An argument in quotes as the Desktop Entry specification wants it: escaped for the command line,
-// then, as any string of the file, once more.
+// An argument in quotes as desktop entries have it: escaped for the command line and then, as any
+// string of the file, once more.
 std::string QuotedArgument(std::string_view text) {
     std::string quoted = "\"";
     for (const char c : text) {

@@ -17,18 +17,6 @@ namespace brelex {
 
 namespace {
 
-// "&" before the access key as GTK writes it.
-std::string GtkCaption(const std::string& caption) {
-    std::string text;
-    for (const char c : caption) {
-        if (c == '_') {
-            text += '_';
-        }
-        text += c == '&' ? '_' : c;
-    }
-    return text;
-}
-
 // One icon, shown by whichever the desktop has: a host of StatusNotifierItems or a panel's tray.
 class TrayIconGtk final : public TrayIcon {
   public:
@@ -67,7 +55,7 @@ class TrayIconGtk final : public TrayIcon {
             GtkWidget* const entry =
                 item.caption == "-"
                     ? gtk_separator_menu_item_new()
-                    : gtk_menu_item_new_with_mnemonic(GtkCaption(item.caption).c_str());
+                    : gtk_menu_item_new_with_mnemonic(MenuLabel(item.caption).c_str());
             gtk_widget_set_sensitive(entry, item.enabled ? TRUE : FALSE);
             g_object_set_data(G_OBJECT(entry), kIndexKey, GINT_TO_POINTER(index));
             g_signal_connect(entry, "activate", G_CALLBACK(&TrayIconGtk::OnItem), this);

@@ -11,6 +11,9 @@
 
 namespace brelex {
 
+/// A caption with "&" before its access key as GTK and the desktops' menus write it, with "_".
+[[nodiscard]] std::string MenuLabel(const std::string& caption);
+
 /// The program's icon as a StatusNotifierItem of the session bus, as the desktops KDE and, with an
 /// extension, GNOME show them. The desktop draws icon and menu and says what was chosen. Linux
 /// only.

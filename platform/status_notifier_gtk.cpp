@@ -61,7 +61,8 @@ GVariant* PixmapOf(GdkPixbuf* picture) {
     return g_variant_new("(iiay)", width, height, &bytes);
 }
 
-// "&" before the access key as the menu protocol writes it.
+}  // namespace
+
 std::string MenuLabel(const std::string& caption) {
     std::string text;
     for (const char c : caption) {
@@ -72,8 +73,6 @@ std::string MenuLabel(const std::string& caption) {
     }
     return text;
 }
-
-}  // namespace
 
 class StatusNotifier::Item {
   public:
