@@ -99,6 +99,18 @@ class StatusNotifier::Item {
     // A watcher alone shows nothing, and one that refuses the item does not show it.
     [[nodiscard]] bool IsShown() const { return hasHost_ && isRegistered_; }
 
+    void MenuChanged() const {
+        const std::vector<TrayMenuItem> items = events_.menu();
+        for (std::size_t i = 0; i < entries_.size() && i < items.size(); ++i) {
+            if (items[i].caption != "-") {
+                dbusmenu_menuitem_property_set(entries_[i], DBUSMENU_MENUITEM_PROP_LABEL,
+                                               MenuLabel(items[i].caption).c_str());
+            }
+            dbusmenu_menuitem_property_set_bool(entries_[i], DBUSMENU_MENUITEM_PROP_VISIBLE,
+                                                items[i].enabled ? TRUE : FALSE);
+        }
+    }
+
   private:
     static void OnWatcherAppeared(GDBusConnection* connection, const char* /*name*/,
                                   const char* /*owner*/, void* data) {
@@ -279,20 +291,6 @@ class StatusNotifier::Item {
         dbusmenu_server_set_root(menuServer_, root_);
     }
 
-  public:
-    void MenuChanged() const {
-        const std::vector<TrayMenuItem> items = events_.menu();
-        for (std::size_t i = 0; i < entries_.size() && i < items.size(); ++i) {
-            if (items[i].caption != "-") {
-                dbusmenu_menuitem_property_set(entries_[i], DBUSMENU_MENUITEM_PROP_LABEL,
-                                               MenuLabel(items[i].caption).c_str());
-            }
-            dbusmenu_menuitem_property_set_bool(entries_[i], DBUSMENU_MENUITEM_PROP_VISIBLE,
-                                                items[i].enabled ? TRUE : FALSE);
-        }
-    }
-
-  private:
     // What a desktop has asked for may still be on its way to an item: it must not come here then.
     void DropMenu() {
         for (DbusmenuMenuitem* entry : entries_) {
