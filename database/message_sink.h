@@ -6,6 +6,7 @@
 namespace brelex {
 
 enum class MessageIcon {
+    None,
     Information,
     Question,
     Exclamation,

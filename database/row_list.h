@@ -25,6 +25,16 @@ class RowList {
         return {block_ + offset[0], offset[1] - offset[0] - 1};
     }
 
+    /// All rows' texts as they lie in memory, from row `first` to before `last` (0 <= first <= last
+    /// <= RowCount()), each with a byte behind it.
+    [[nodiscard]] std::string_view TextOfRows(std::int32_t first, std::int32_t last) const {
+        return {block_ + offsets_[first], offsets_[last] - offsets_[first]};
+    }
+
+    /// The row that `byte` belongs to, which lies in the texts of row `first` or a later one. The
+    /// sooner it comes, the cheaper.
+    [[nodiscard]] std::int32_t RowHolding(const char* byte, std::int32_t first) const;
+
     /// A length in bytes: cut to any length up to it, the rows are in ascending order and two of
     /// them are equal only if all rows between them are. 0 promises nothing.
     [[nodiscard]] std::size_t AscendingPrefixBytes() const { return ascendingPrefixBytes_; }

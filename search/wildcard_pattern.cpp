@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/wildcard_pattern.h"
 
-#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <string>
 
@@ -12,21 +12,26 @@ namespace brelex {
 
 namespace {
 
-using ByteSet = std::bitset<256>;
+using ByteSet = WildcardPattern::ByteSet;
 
-constexpr int kBytes = 256;
+constexpr std::size_t kBytes = 256;
 
 // The bytes whose character, made small if case does not matter, is in a range.
 class RangeReader {
   public:
-    explicit RangeReader(bool matchCase) : matchCase_(matchCase) {}
+    explicit RangeReader(bool matchCase) {
+        for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
+            const char32_t plain = CharacterOfByte(static_cast<unsigned char>(byte));
+            characters_.at(byte) = matchCase ? plain : SmallLetterOf(plain);
+        }
+    }
 
     [[nodiscard]] ByteSet Range(char32_t first, char32_t last) const {
         ByteSet set;
-        for (int byte = 0; byte < kBytes; ++byte) {
-            const char32_t plain = CharacterOfByte(static_cast<unsigned char>(byte));
-            const char32_t character = matchCase_ ? plain : SmallLetterOf(plain);
-            set[static_cast<std::size_t>(byte)] = character >= first && character <= last;
+        for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
+            if (characters_.at(byte) >= first && characters_.at(byte) <= last) {
+                set.set(byte);
+            }
         }
         return set;
     }
@@ -65,7 +70,7 @@ class RangeReader {
     }
 
   private:
-    bool matchCase_;
+    std::array<char32_t, kBytes> characters_{};  // of each byte
 };
 
 }  // namespace
@@ -102,8 +107,8 @@ std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view patt
     return compiled;
 }
 
-bool WildcardPattern::SegmentMatchesAt(const Segment& segment, std::string_view text,
-                                       std::size_t position) {
+bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
+                     std::size_t position) {
     for (std::size_t i = 0; i < segment.size(); ++i) {
         if (!segment[i][static_cast<unsigned char>(text[position + i])]) {
             return false;
@@ -119,15 +124,15 @@ bool WildcardPattern::Matches(std::string_view text) const {
     const Segment& first = segments_.front();
     const Segment& last = segments_.back();
     if (segments_.size() == 1) {
-        return text.size() == first.size() && SegmentMatchesAt(first, text, 0);
+        return text.size() == first.size() && SegmentStandsAt(first, text, 0);
     }
-    if (text.size() < first.size() + last.size() || !SegmentMatchesAt(first, text, 0)) {
+    if (text.size() < first.size() + last.size() || !SegmentStandsAt(first, text, 0)) {
         return false;
     }
     std::size_t position = first.size();
     const std::size_t end = text.size() - last.size();
     for (auto segment = segments_.begin() + 1; segment != segments_.end() - 1; ++segment) {
-        while (position + segment->size() <= end && !SegmentMatchesAt(*segment, text, position)) {
+        while (position + segment->size() <= end && !SegmentStandsAt(*segment, text, position)) {
             ++position;
         }
         position += segment->size();
@@ -135,7 +140,7 @@ bool WildcardPattern::Matches(std::string_view text) const {
             return false;
         }
     }
-    return SegmentMatchesAt(last, text, end);
+    return SegmentStandsAt(last, text, end);
 }
 
 }  // namespace brelex

@@ -33,17 +33,23 @@ class WildcardPattern {
     /// Whether the whole of `text` matches.
     [[nodiscard]] bool Matches(std::string_view text) const;
 
-  private:
     /// The bytes that match at one place of a text.
     using ByteSet = std::bitset<256>;
 
     /// What stands between two stars: one set for each byte of the text.
     using Segment = std::vector<ByteSet>;
 
-    [[nodiscard]] static bool SegmentMatchesAt(const Segment& segment, std::string_view text,
-                                               std::size_t position);
+    /// The first stands at the beginning of a text that matches, the last at its end, the others in
+    /// their order between them. There is one more than the pattern has stars; any may be empty.
+    [[nodiscard]] const std::vector<Segment>& Segments() const { return segments_; }
 
-    std::vector<Segment> segments_ = {{}};  // one more than the pattern has stars
+  private:
+    std::vector<Segment> segments_ = {{}};
 };
+
+/// Whether each byte of `text` from `position` on is in the set of its place; the text must be long
+/// enough.
+[[nodiscard]] bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
+                                   std::size_t position);
 
 }  // namespace brelex

@@ -11,6 +11,8 @@ namespace {
 
 long StyleOf(MessageIcon icon) {
     switch (icon) {
+        case MessageIcon::None:
+            return wxICON_NONE;
         case MessageIcon::Information:
             return wxICON_INFORMATION;
         case MessageIcon::Question:

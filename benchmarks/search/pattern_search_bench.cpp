@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#define PCRE2_CODE_UNIT_WIDTH 8
+#include <pcre2.h>
+
+#include "benchmarks/support/generated_records.h"
+#include "database/database_file.h"
+#include "search/database_search.h"
+
+namespace brelex {
+namespace {
+
+const RecordStore& StoreOf(std::int64_t count) {
+    static std::map<std::int64_t, RecordStore> stores;
+    RecordStore& store = stores[count];
+    DatabaseHeader header;
+    if (store.RowCount() == 0 &&
+        ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
+        std::abort();
+    }
+    return store;
+}
+
+struct PatternCase {
+    const char* name;
+    const char* text;
+    SearchPosition position;
+    const char* regex;  // the same for PCRE2
+};
+
+// Literals that are rare and frequent, then patterns. A newline does not end a record in the
+// store, a NUL does; so the negated sets leave it out.
+constexpr PatternCase kCases[] = {
+    {"rare literal", "zone xml yield", SearchPosition::Anywhere, "zone xml yield"},
+    {"frequent literal", "system", SearchPosition::Anywhere, "system"},
+    {"net?ork", "net?ork", SearchPosition::Anywhere, "net[^\\0]ork"},
+    {"rfc ###", "rfc ###", SearchPosition::Anywhere, "rfc [0-9][0-9][0-9]"},
+    {"[aeiou][!a-z]system", "[aeiou][!a-z]system", SearchPosition::Anywhere,
+     "[aeiou][^a-z\\0]system"},
+    {"net[a-m]", "net[a-m]", SearchPosition::Beginning, "\\tnet[a-m]"},
+    {"[0-9]?[!0-9 ]#", "[0-9]?[!0-9 ]#", SearchPosition::Anywhere, "[0-9][^\\0][^0-9 \\0][0-9]"},
+};
+
+void BM_Search(benchmark::State& state) {
+    const PatternCase& searched = kCases[state.range(1)];
+    const RecordStore& store = StoreOf(state.range(0));
+    SearchRequest request;
+    request.text = searched.text;
+    request.position = searched.position;
+    std::size_t hits = 0;
+    for (auto _ : state) {
+        const auto finder = RecordFinder::Compile(request, store);
+        hits = SearchDatabase(*finder, store, 0, store.RowCount(), nullptr).hits.size();
+    }
+    state.SetLabel(searched.name);
+    state.counters["hits"] = static_cast<double>(hits);
+}
+
+void BM_Pcre2(benchmark::State& state) {
+    const PatternCase& searched = kCases[state.range(1)];
+    const RecordStore& store = StoreOf(state.range(0));
+    const std::string_view text = store.TextOfRows(0, store.RowCount());
+    int error = 0;
+    PCRE2_SIZE errorAt = 0;
+    pcre2_code* const code =
+        pcre2_compile(reinterpret_cast<PCRE2_SPTR>(searched.regex), PCRE2_ZERO_TERMINATED,
+                      PCRE2_CASELESS | PCRE2_DOTALL, &error, &errorAt, nullptr);
+    if (code == nullptr || pcre2_jit_compile(code, PCRE2_JIT_COMPLETE) != 0) {
+        std::abort();
+    }
+    pcre2_match_data* const data = pcre2_match_data_create_from_pattern(code, nullptr);
+    std::size_t hits = 0;
+    for (auto _ : state) {
+        hits = 0;
+        std::size_t at = 0;
+        while (at < text.size() && pcre2_jit_match(code, reinterpret_cast<PCRE2_SPTR>(text.data()),
+                                                   text.size(), at, 0, data, nullptr) >= 0) {
+            ++hits;
+            at = text.find('\0', pcre2_get_ovector_pointer(data)[1] - 1) + 1;  // the next record
+        }
+    }
+    pcre2_match_data_free(data);
+    pcre2_code_free(code);
+    state.SetLabel(searched.name);
+    state.counters["hits"] = static_cast<double>(hits);
+}
+
+void BM_First500(benchmark::State& state) {
+    const RecordStore& store = StoreOf(state.range(0));
+    SearchRequest request;
+    request.text = "system";
+    for (auto _ : state) {
+        const auto finder = RecordFinder::Compile(request, store);
+        benchmark::DoNotOptimize(SearchDatabase(*finder, store, 0, kMaxHits, nullptr));
+    }
+}
+
+constexpr std::int64_t kRealSize = 12662;
+constexpr std::int64_t kLargeSize = 1000000;
+
+BENCHMARK(BM_Search)
+    ->ArgsProduct({{kRealSize, kLargeSize}, {0, 1, 2, 3, 4, 5, 6}})
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Pcre2)
+    ->ArgsProduct({{kRealSize, kLargeSize}, {0, 1, 2, 3, 4, 5, 6}})
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_First500)->Arg(kRealSize)->Arg(kLargeSize)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "search/record_finder.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "database/record_text.h"
+#include "database/windows1252.h"
+#include "search/letter_case.h"
+#include "search/whole_word.h"
+
+namespace brelex {
+
+namespace {
+
+std::u32string PatternText(const SearchRequest& request) {
+    std::u32string pattern = DecodeUtf8(request.text);
+    if (request.position != SearchPosition::Beginning) {
+        pattern.insert(pattern.begin(), U'*');
+    }
+    if (request.position != SearchPosition::Ending) {
+        pattern.push_back(U'*');
+    }
+    return pattern;
+}
+
+std::string SmallLettersOfBytes(std::string_view bytes) {
+    std::string small(bytes);
+    std::transform(small.begin(), small.end(), small.begin(), [](char c) {
+        return static_cast<char>(SmallLetterOfByte(static_cast<unsigned char>(c)));
+    });
+    return small;
+}
+
+// Pieces from all over the rows.
+std::string Sample(const RowList& rows) {
+    constexpr std::size_t kPieces = 16;
+    constexpr std::size_t kPieceBytes = 256;
+    const std::string_view all = rows.TextOfRows(0, rows.RowCount());
+    std::string sample;
+    for (std::size_t i = 0; i < kPieces; ++i) {
+        sample += all.substr(all.size() / kPieces * i, kPieceBytes);
+    }
+    return sample;
+}
+
+}  // namespace
+
+std::optional<RecordFinder> RecordFinder::Compile(const SearchRequest& request,
+                                                  const RowList& rows) {
+    auto pattern = WildcardPattern::Compile(PatternText(request), request.matchCase);
+    if (!pattern) {
+        return std::nullopt;
+    }
+    return RecordFinder(request, rows, std::move(*pattern));
+}
+
+RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
+                           WildcardPattern pattern)
+    : rows_(rows),
+      in_(request.in),
+      matchCase_(request.matchCase),
+      pattern_(std::move(pattern)) {
+    if (request.wholeWord) {
+        const std::string word = BytesOfUtf8(request.text).bytes;
+        word_ = matchCase_ ? word : SmallLettersOfBytes(word);
+    }
+    if (rows.RowCount() == 0) {
+        return;
+    }
+    // What is next to either part of a record: the TAB between them or the NUL behind them.
+    const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
+    const std::string sample = Sample(rows);
+    const auto& segments = pattern_.Segments();
+    for (auto segment = segments.begin(); segment != segments.end(); ++segment) {
+        if (segment->empty()) {
+            continue;
+        }
+        const std::size_t before = segment == segments.begin() ? 1 : 0;
+        const std::size_t behind = segment + 1 == segments.end() ? 1 : 0;
+        WildcardPattern::Segment fragment(before + segment->size() + behind, edge);
+        std::copy(segment->begin(), segment->end(), fragment.data() + before);
+        FragmentSearch search(std::move(fragment), sample);
+        if (!rarest_ || search.ExpectedCandidates() < rarest_->ExpectedCandidates()) {
+            rarest_ = std::move(search);
+            edge_ = before;
+        }
+    }
+    if (segments.size() == 3 && segments.front().empty() && segments.back().empty() && !word_) {
+        onlyFragment_ = segments[1].size();
+    }
+}
+
+std::string_view RecordFinder::FieldOf(std::string_view recordText) const {
+    return in_ == SearchIn::Abbreviations ? GetAbbreviation(recordText) : GetExpansion(recordText);
+}
+
+bool RecordFinder::IsHit(std::string_view recordText) const {
+    const std::string_view field = FieldOf(recordText);
+    if (!pattern_.Matches(field)) {
+        return false;
+    }
+    return !word_ || IsWholeWord(matchCase_ ? std::string(field) : SmallLettersOfBytes(field),
+                                 *word_, ComparisonMode::Binary);
+}
+
+// Whether the pattern is one fragment between stars and this place of the record is in the field.
+bool RecordFinder::HasOnlyFragment(std::string_view recordText, const char* found) const {
+    const std::string_view field = FieldOf(recordText);
+    return onlyFragment_ > 0 && found >= field.data() &&
+           found + onlyFragment_ <= field.data() + field.size();
+}
+
+std::int32_t RecordFinder::FindNext(std::int32_t first, std::int32_t last) const {
+    if (!rarest_) {
+        while (first < last && !IsHit(rows_.RowText(first))) {
+            ++first;
+        }
+        return first;
+    }
+    // The very first record by itself: there is no edge in front of it.
+    if (first >= last || (first == 0 && IsHit(rows_.RowText(0)))) {
+        return first;
+    }
+    std::int32_t row = std::max(first, 1);
+    const std::string_view text = rows_.TextOfRows(row - 1, last);
+    std::size_t from = rows_.RowText(row - 1).size() + 1 - edge_;
+    while (row < last) {
+        const std::size_t found = rarest_->Find(text, from);
+        if (found == std::string_view::npos) {
+            break;
+        }
+        row = rows_.RowHolding(text.data() + found + edge_, row);
+        const std::string_view record = rows_.RowText(row);
+        if (HasOnlyFragment(record, text.data() + found) || IsHit(record)) {
+            return row;
+        }
+        ++row;
+        from = static_cast<std::size_t>(record.data() + record.size() - text.data()) + 1 - edge_;
+    }
+    return last;
+}
+
+}  // namespace brelex

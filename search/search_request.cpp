@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "search/search_request.h"
+
+#include <string_view>
+
+#include "database/program_values.h"
+#include "search/database_search.h"
+
+namespace brelex {
+
+namespace {
+
+Message Refusal(const char* title, const std::string& text, const char* closingSentence) {
+    return {text + "\n\n" + closingSentence, title, MessageIcon::None, MessageButtons::Ok};
+}
+
+constexpr const char* kInvalidOption = "Invalid Option";
+constexpr const char* kBadPattern = "Bad Pattern";
+constexpr const char* kReadHelp = "Read Help for more information.";
+constexpr const char* kReadHelpAboutPatterns =
+    "Read Help for more information about search patterns.";
+
+}  // namespace
+
+std::optional<Message> RefusalOf(const SearchRequest& request) {
+    const std::string& text = request.text;
+    const auto has = [&text](std::string_view part) {
+        return text.find(part) != std::string::npos;
+    };
+    // "!" and "-" count, too, although they are plain characters outside brackets.
+    if (request.wholeWord && text.find_first_of("*?#[]!-") != std::string::npos) {
+        return Refusal(kInvalidOption,
+                       "Use of wildcards is not allowed, if you want to find whole words only. "
+                       "Either uncheck the 'Search Whole Word Only' option or remove all wildcards "
+                       "from the search text.",
+                       kReadHelp);
+    }
+    // Only a text that is bracketed as a whole: "x[a-c]y" may stand anywhere.
+    if (request.position == SearchPosition::Anywhere && text.size() >= 2 && text.front() == '[' &&
+        text.back() == ']') {
+        return Refusal(kInvalidOption,
+                       "Use of a range specifier is not allowed with Position option 'Anywhere'. "
+                       "Either select any one of the other two Position options or remove the "
+                       "range specifier from the search text.",
+                       kReadHelp);
+    }
+    // One "[*]" lets the other asterisks of the text through.
+    if (has("*") && !has("[*]")) {
+        return Refusal(kBadPattern,
+                       "Free use of asterisk (*) in search text is not allowed. Enclose it in "
+                       "square brackets ([]) and then try again.",
+                       kReadHelpAboutPatterns);
+    }
+    return std::nullopt;
+}
+
+Message MalformedPatternMessage() {
+    return Refusal(kBadPattern,
+                   "The pattern string is invalid. Modify your search text and try again.",
+                   kReadHelpAboutPatterns);
+}
+
+Message HitLimitMessage() {
+    return {"Your search has returned the maximum number of hits. " + std::string(kAppTitle) +
+                " search result cannot exceed " + std::to_string(kMaxHits) +
+                " entries.\n\nCheck the 'Search from Next Position' box to continue searching from "
+                "the next position.",
+            "Search Aborted", MessageIcon::Information, MessageButtons::Ok};
+}
+
+}  // namespace brelex
