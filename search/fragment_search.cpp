@@ -87,8 +87,10 @@ void FragmentSearch::MarkCandidates(const unsigned char* text, Marks& marks) con
     const Probe second = second_;
     const auto markAll = [&](auto passesFirst, auto passesSecond) {
         for (std::size_t i = 0; i < kStride; ++i) {
-            const bool passes = passesFirst(a[i]) & passesSecond(b[i]);
-            marks[i] = static_cast<unsigned char>(-static_cast<int>(passes));
+            // No short cut, which would be a branch.
+            const int passes =
+                static_cast<int>(passesFirst(a[i])) & static_cast<int>(passesSecond(b[i]));
+            marks[i] = static_cast<unsigned char>(-passes);
         }
     };
     // Most fragments have two plain letters, and these take half the instructions.

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <iostream>
+#include <limits>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,6 +16,7 @@
 #include "platform/terminal.h"
 #include "tools/build_command.h"
 #include "tools/query_commands.h"
+#include "tools/search_commands.h"
 
 namespace {
 
@@ -32,6 +37,68 @@ int Finished(int code) {
     return code;
 }
 
+// An option whose value is one of a few words.
+template <typename Value>
+void AddChoice(CLI::App& command, const char* name, const char* typeName, const char* description,
+               Value& value, const std::map<std::string, Value>& words) {
+    command
+        .add_option_function<std::string>(
+            name, [&value, words](const std::string& word) { value = words.at(word); }, description)
+        ->check(CLI::IsMember(words).description(""))
+        ->type_name(typeName);
+}
+
+// A subcommand: its options are written into `request` when it is parsed.
+void AddBuild(CLI::App& app, brelex::BuildRequest& request) {
+    request.date = BRELEX_DATA_DATE;
+    request.output = brelex::kDatabaseName;
+    CLI::App* const command = app.add_subcommand("build", "Makes a database file");
+    command->add_option("--version", request.version, "The database's version, 1.0 if not given")
+        ->type_name("N.N");
+    command
+        ->add_option("--date", request.date, "Its release date, " BRELEX_DATA_DATE " if not given")
+        ->type_name("YYYY-MM-DD");
+    command
+        ->add_option("--search-list", request.searchList,
+                     "Suggested search texts, parted by commas")
+        ->type_name("TEXTS");
+    command
+        ->add_option("-o,--output", request.output, "The file to write, Acronyms.dat if not given")
+        ->type_name("FILE");
+    command
+        ->add_option("INPUT", request.inputs,
+                     "UTF-8 .tsv files (abbreviation, TAB, expansion) and dictd "
+                     "dictionaries (NAME.index beside NAME.dict.dz)")
+        ->required()
+        ->type_name("");
+}
+
+void AddSearch(CLI::App& app, brelex::SearchOptions& options) {
+    using brelex::SearchIn;
+    using brelex::SearchPosition;
+    CLI::App* const command = app.add_subcommand("search", "Prints the entries that match a text");
+    command
+        ->add_option("TEXT", options.request.text,
+                     "? any character, # any digit, [a-n] a range, [!a-n] all but it")
+        ->required()
+        ->type_name("");
+    AddChoice(*command, "--in", "PART", "abbreviations or expansions (if not given)",
+              options.request.in,
+              {{"abbreviations", SearchIn::Abbreviations}, {"expansions", SearchIn::Expansions}});
+    AddChoice(*command, "--position", "WHERE", "anywhere (if not given), beginning or ending",
+              options.request.position,
+              {{"anywhere", SearchPosition::Anywhere},
+               {"beginning", SearchPosition::Beginning},
+               {"ending", SearchPosition::Ending}});
+    command->add_flag("--match-case", options.request.matchCase, "Capitals are no small letters");
+    command->add_flag("--whole-word", options.request.wholeWord, "The text stands alone");
+    command->add_option("--from", options.from, "The number of the entry to begin at, 1 the first")
+        ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description(""))
+        ->type_name("N");
+    command->add_flag("--all", options.all, "All that match, not the first 500");
+    command->add_flag("--json", options.json, "An array of JSON");
+}
+
 }  // namespace
 
 // What is thrown here beyond the parser's errors is "out of memory".
@@ -47,32 +114,11 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     app.add_option("-d,--database", database,
                    "The database file; without it, Acronyms.dat beside this program")
         ->type_name("FILE");
-
     brelex::BuildRequest build;
-    build.date = BRELEX_DATA_DATE;
-    build.output = brelex::kDatabaseName;
-    auto* buildCommand = app.add_subcommand("build", "Makes a database file");
-    buildCommand->add_option("--version", build.version, "The database's version, 1.0 if not given")
-        ->type_name("N.N");
-    buildCommand
-        ->add_option("--date", build.date, "Its release date, " BRELEX_DATA_DATE " if not given")
-        ->type_name("YYYY-MM-DD");
-    buildCommand
-        ->add_option("--search-list", build.searchList, "Suggested search texts, parted by commas")
-        ->type_name("TEXTS");
-    buildCommand
-        ->add_option("-o,--output", build.output, "The file to write, Acronyms.dat if not given")
-        ->type_name("FILE");
-    buildCommand
-        ->add_option("INPUT", build.inputs,
-                     "UTF-8 .tsv files (abbreviation, TAB, expansion) and dictd "
-                     "dictionaries (NAME.index beside NAME.dict.dz)")
-        ->required()
-        ->type_name("");
-
-    auto* infoCommand = app.add_subcommand("info", "Prints the database's header");
-    auto* dumpCommand = app.add_subcommand("dump", "Prints all records as UTF-8 TSV");
-    auto* checkCommand = app.add_subcommand("check", "Says what is wrong with the database");
+    AddBuild(app, build);
+    app.add_subcommand("info", "Prints the database's header");
+    app.add_subcommand("dump", "Prints all records as UTF-8 TSV");
+    app.add_subcommand("check", "Says what is wrong with the database");
     auto* lookupCommand = app.add_subcommand(
         "lookup", "Prints the entry that typing a text in the program would select");
     std::vector<std::string> texts;
@@ -80,6 +126,8 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         ->add_option("TEXT", texts, "First letters of an abbreviation; - reads lines from input")
         ->required()
         ->type_name("");
+    brelex::SearchOptions search;
+    AddSearch(app, search);
 
     try {
         std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
@@ -90,7 +138,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     }
 
     std::ios::sync_with_stdio(false);
-    if (buildCommand->parsed()) {
+    if (app.got_subcommand("build")) {
         if (!database.empty()) {
             std::cerr << "brelex: build reads no database; name the file to write with -o\n";
             return kRefused;
@@ -100,16 +148,12 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     if (database.empty()) {
         database = DatabaseBesideProgram();
     }
-    if (infoCommand->parsed()) {
-        return Finished(brelex::RunInfo(database, std::cout, std::cerr));
-    }
-    if (dumpCommand->parsed()) {
-        return Finished(brelex::RunDump(database, std::cout, std::cerr));
-    }
-    if (checkCommand->parsed()) {
-        return Finished(brelex::RunCheck(database, std::cout, std::cerr));
-    }
-    return lookupCommand->parsed()
-               ? Finished(brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr))
-               : kRefused;
+    const std::map<std::string, std::function<int()>> commands = {
+        {"info", [&] { return brelex::RunInfo(database, std::cout, std::cerr); }},
+        {"dump", [&] { return brelex::RunDump(database, std::cout, std::cerr); }},
+        {"check", [&] { return brelex::RunCheck(database, std::cout, std::cerr); }},
+        {"lookup",
+         [&] { return brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr); }},
+        {"search", [&] { return brelex::RunSearch(database, search, std::cout, std::cerr); }}};
+    return Finished(commands.at(app.get_subcommands().front()->get_name())());
 }

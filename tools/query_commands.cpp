@@ -10,41 +10,14 @@
 
 #include "database/calendar_day.h"
 #include "database/database_check.h"
-#include "database/database_file.h"
-#include "database/file_io.h"
 #include "database/string_order.h"
 #include "database/windows1252.h"
 #include "lookup/prefix_search.h"
+#include "tools/open_database.h"
 
 namespace brelex {
 
 namespace {
-
-constexpr int kFound = 0;
-constexpr int kNothingFound = 1;
-constexpr int kFailed = 2;
-
-struct OpenDatabase {
-    DatabaseHeader header;
-    RecordStore store;
-};
-
-// Loads the database; says why on `err` if that fails. `unloadable` is the code for a file that
-// was read but cannot be used.
-int Load(const std::string& path, OpenDatabase& database, std::ostream& err,
-         int unloadable = kFailed) {
-    const auto file = ReadWholeFile(PathOfUtf8(path));
-    if (!file) {
-        err << "brelex: cannot read " << path << "\n";
-        return kFailed;
-    }
-    const LoadFailure failure = ReadDatabase(file->View(), database.header, database.store);
-    if (failure != LoadFailure::None) {
-        err << "brelex: " << path << ": " << ReasonText(failure) << "\n";
-        return unloadable;
-    }
-    return kFound;
-}
 
 template <typename Number>
 std::string PlainNumber(Number number) {

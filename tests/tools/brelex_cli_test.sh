@@ -33,12 +33,13 @@ chmod +x "$brelex"
 printf 'RAM\tRandom Access Memory\nABC\tAlpha\n' > "$folder/list.tsv"
 
 expect 0 "help" "$brelex" --help;                 contains out lookup
-for command in build info dump check lookup; do
+for command in build info dump check lookup search; do
     expect 0 "help of $command" "$brelex" $command --help
 done
 expect 2 "no command" "$brelex"
 expect 2 "unknown command" "$brelex" frobnicate
 expect 2 "unknown option" "$brelex" info --frobnicate
+expect 2 "search for nothing" "$brelex" search
 expect 2 "look-up of nothing" "$brelex" lookup
 expect 2 "no database beside the program" "$brelex" info;   contains err "cannot read"
 expect 2 "build without input" "$brelex" build
@@ -57,6 +58,17 @@ expect 0 "-d before the command" "$brelex" -d "$folder/ACRONYMS.dat" lookup abc
 contains out "1	ABC	Alpha"
 cp "$folder/ACRONYMS.dat" "$folder/Wörter 字.dat"
 expect 0 "a file's name with any characters" "$brelex" -d "$folder/Wörter 字.dat" lookup ra
+expect 0 "search" "$brelex" search 'access';      contains out "RAM	Random Access Memory"
+contains err "Number of Hits: 1"
+expect 0 "search with all options" "$brelex" search RAM --in abbreviations --position beginning \
+    --match-case --whole-word --from 2 --all --json
+contains out '{"recordNumber":2,"abbreviation":"RAM","expansion":"Random Access Memory"}'
+expect 1 "search for a part of a word" "$brelex" search R --in abbreviations --whole-word
+expect 1 "search for what is not there" "$brelex" search zzz;  contains err "Search text is not found"
+expect 2 "a text that may not be searched for" "$brelex" search 'a*b'
+contains err "Free use of asterisk (*) in search text is not allowed."
+expect 2 "a search in no part" "$brelex" search --in titles a; contains err "titles"
+expect 2 "a search from no record" "$brelex" search --from 0 a
 expect 1 "a text beyond the code page" "$brelex" lookup '字'
 expect 1 "a text that begins with a slash" "$brelex" lookup /x
 expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// replay FOLDER: gives every file of a corpus to a fuzz target, where no fuzzer is built in.
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): then it fails, as it should
+    if (argc != 2) {
+        std::cerr << "usage: replay FOLDER\n";
+        return 2;
+    }
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+        ++files;
+    }
+    std::cout << files << " files replayed\n";
+    return files > 0 ? 0 : 1;
+}

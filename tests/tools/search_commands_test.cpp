@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "tools/search_commands.h"
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/test_files.h"
+
+namespace brelex {
+namespace {
+
+class SearchCommandTest : public testing::Test {
+  protected:
+    int Search(const SearchOptions& options) {
+        out_.str("");
+        err_.str("");
+        return RunSearch(database_, options, out_, err_);
+    }
+
+    static SearchOptions For(const char* text) {
+        SearchOptions options;
+        options.request.text = text;
+        return options;
+    }
+
+    void Use(const std::vector<std::string>& records) {
+        database_ = folder_.Write("Acronyms.dat", DatabaseBytes(records));
+    }
+
+    void SetUp() override {
+        Use({"CAF\tCaf\xE9 \"chez\" nous", "RAM\tRandom Access Memory", "RAS\tremote access",
+             "TLA\tThree-Letter\tAbbreviation"});
+    }
+
+    TestFolder folder_;
+    std::string database_;
+    std::ostringstream out_;
+    std::ostringstream err_;
+};
+
+TEST_F(SearchCommandTest, PrintsTheRecordsFoundAndTheirNumber) {
+    EXPECT_EQ(Search(For("ACCESS")), 0);
+    EXPECT_EQ(out_.str(), "RAM\tRandom Access Memory\nRAS\tremote access\n");
+    EXPECT_EQ(err_.str(), "Number of Hits: 2\n");
+}
+
+TEST_F(SearchCommandTest, TakesEveryOption) {
+    SearchOptions options = For("Access");
+    options.request.matchCase = true;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(), "RAM\tRandom Access Memory\n");
+    options = For("access");
+    options.request.position = SearchPosition::Ending;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(), "RAS\tremote access\n");
+    options = For("ra");
+    options.request.in = SearchIn::Abbreviations;
+    options.from = 3;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(), "RAS\tremote access\n");
+    options = For("acc");
+    options.request.wholeWord = true;
+    EXPECT_EQ(Search(options), 1);
+}
+
+TEST_F(SearchCommandTest, SaysThatNothingIsFound) {
+    EXPECT_EQ(Search(For("xyz")), 1);
+    EXPECT_EQ(out_.str(), "");
+    EXPECT_EQ(err_.str(), "Search text is not found\nNumber of Hits: 0\n");
+}
+
+TEST_F(SearchCommandTest, PrintsJson) {
+    SearchOptions options = For("c");
+    options.json = true;
+    options.from = 1;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(),
+              "[\n"
+              "{\"recordNumber\":1,\"abbreviation\":\"CAF\",\"expansion\":\"Caf\xC3\xA9 "
+              "\\\"chez\\\" nous\"},\n"
+              "{\"recordNumber\":2,\"abbreviation\":\"RAM\",\"expansion\":\"Random Access "
+              "Memory\"},\n"
+              "{\"recordNumber\":3,\"abbreviation\":\"RAS\",\"expansion\":\"remote access\"}\n"
+              "]\n");
+    options.request.text = "tion";
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_NE(out_.str().find("Three-Letter\\u0009Abbreviation"), std::string::npos);
+    options.request.text = "xyz";
+    EXPECT_EQ(Search(options), 1);
+    EXPECT_EQ(out_.str(), "[]\n");
+}
+
+TEST_F(SearchCommandTest, RefusesWithTheWindowsMessage) {
+    EXPECT_EQ(Search(For("a*b")), 2);
+    EXPECT_EQ(err_.str(),
+              "Free use of asterisk (*) in search text is not allowed. Enclose it in square "
+              "brackets ([]) and then try again.\n\nRead Help for more information about search "
+              "patterns.\n");
+    EXPECT_EQ(Search(For("x[abc")), 2);
+    EXPECT_EQ(err_.str().rfind("The pattern string is invalid. ", 0), 0U);
+    EXPECT_EQ(Search(For("")), 2);
+    EXPECT_EQ(err_.str(), "brelex: there is no text to search for\n");
+    EXPECT_EQ(out_.str(), "");
+}
+
+TEST_F(SearchCommandTest, AtTheLimitItSaysWhereToGoOn) {
+    Use(NumberedRecords(600));
+    EXPECT_EQ(Search(For("?")), 0);
+    EXPECT_EQ(err_.str(),
+              "Number of Hits: 500\nThere are more: go on with --from 501, or ask for --all.\n");
+    SearchOptions rest = For("?");
+    rest.from = 501;
+    EXPECT_EQ(Search(rest), 0);
+    EXPECT_EQ(err_.str(), "Number of Hits: 100\n");
+    rest.from = 601;
+    EXPECT_EQ(Search(rest), 1);
+    SearchOptions all = For("?");
+    all.all = true;
+    EXPECT_EQ(Search(all), 0);
+    EXPECT_EQ(err_.str(), "Number of Hits: 600\n");
+}
+
+TEST_F(SearchCommandTest, NeedsADatabase) {
+    database_ = folder_.Text() + "nowhere.dat";
+    EXPECT_EQ(Search(For("a")), 2);
+    EXPECT_NE(err_.str().find("cannot read"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace brelex

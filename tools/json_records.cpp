@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "tools/json_records.h"
+
+#include <string>
+#include <string_view>
+
+#include "database/record_text.h"
+#include "database/windows1252.h"
+
+namespace brelex {
+
+namespace {
+
+std::string JsonString(std::string_view bytes) {
+    constexpr std::string_view kHexDigits = "0123456789abcdef";
+    std::string text = "\"";
+    for (const char c : Utf8OfBytes(bytes)) {
+        const auto code = static_cast<unsigned char>(c);
+        if (c == '"' || c == '\\') {
+            text += {'\\', c};
+        } else if (code < 0x20) {
+            text += "\\u00";
+            text += {kHexDigits[code >> 4U], kHexDigits[code & 0xFU]};
+        } else {
+            text.push_back(c);
+        }
+    }
+    return text + "\"";
+}
+
+}  // namespace
+
+void PrintJsonRecords(const RowList& rows, const std::vector<std::int32_t>& hits,
+                      std::ostream& out) {
+    out << "[";
+    const char* before = "\n";
+    for (const std::int32_t row : hits) {
+        const std::string_view record = rows.RowText(row);
+        out << before << R"({"recordNumber":)" << row + 1 << R"(,"abbreviation":)"
+            << JsonString(GetAbbreviation(record)) << R"(,"expansion":)"
+            << JsonString(GetExpansion(record)) << "}";
+        before = ",\n";
+    }
+    out << (hits.empty() ? "]\n" : "\n]\n");
+}
+
+}  // namespace brelex

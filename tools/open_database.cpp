@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "tools/open_database.h"
+
+#include "database/database_file.h"
+#include "database/file_io.h"
+
+namespace brelex {
+
+int Load(const std::string& path, OpenDatabase& database, std::ostream& err, int unloadable) {
+    const auto file = ReadWholeFile(PathOfUtf8(path));
+    if (!file) {
+        err << "brelex: cannot read " << path << "\n";
+        return kFailed;
+    }
+    const LoadFailure failure = ReadDatabase(file->View(), database.header, database.store);
+    if (failure != LoadFailure::None) {
+        err << "brelex: " << path << ": " << ReasonText(failure) << "\n";
+        return unloadable;
+    }
+    return kFound;
+}
+
+}  // namespace brelex

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "tools/search_commands.h"
+
+#include <limits>
+
+#include "database/windows1252.h"
+#include "search/database_search.h"
+#include "tools/json_records.h"
+#include "tools/open_database.h"
+
+namespace brelex {
+
+int RunSearch(const std::string& database, const SearchOptions& options, std::ostream& out,
+              std::ostream& err) {
+    if (options.request.text.empty()) {
+        err << "brelex: there is no text to search for\n";
+        return kFailed;
+    }
+    if (const auto refusal = RefusalOf(options.request)) {
+        err << refusal->text << "\n";
+        return kFailed;
+    }
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err); failure != kFound) {
+        return failure;
+    }
+    const RecordStore& store = opened.store;
+    const auto finder = RecordFinder::Compile(options.request, store);
+    if (!finder) {
+        err << MalformedPatternMessage().text << "\n";
+        return kFailed;
+    }
+    const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
+    const SearchOutcome outcome = SearchDatabase(*finder, store, options.from - 1, limit, nullptr);
+    if (options.json) {
+        PrintJsonRecords(store, outcome.hits, out);
+    } else {
+        for (const std::int32_t row : outcome.hits) {
+            out << Utf8OfBytes(store.RowText(row)) << "\n";
+        }
+    }
+    if (outcome.hits.empty()) {
+        err << kNothingFoundText << "\n";
+    }
+    err << NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size())) << "\n";
+    if (outcome.limitReached) {
+        err << "There are more: go on with --from " << outcome.nextPosition + 1
+            << ", or ask for --all.\n";
+    }
+    return outcome.hits.empty() ? kNothingFound : kFound;
+}
+
+}  // namespace brelex

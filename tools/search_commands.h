@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+#include "search/search_request.h"
+
+namespace brelex {
+
+/// What `brelex search` is asked for.
+struct SearchOptions {
+    SearchRequest request;
+    std::int32_t from = 1;  ///< the record to begin at, 1-based
+    bool all = false;       ///< all hits, however many
+    bool json = false;
+};
+
+/// Searches a database with wildcards. Prints the records found, one a line, and on `err` how many
+/// there are and where to go on. Returns 0, 1 if there are none, 2 if the file cannot be loaded or
+/// the request is refused, with the reason on `err`.
+int RunSearch(const std::string& database, const SearchOptions& options, std::ostream& out,
+              std::ostream& err);
+
+}  // namespace brelex
