@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
-#include <string>
+#include <string_view>
+
+#include "database/file_io.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -17,10 +17,12 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): then it
     }
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
-        std::ifstream file(entry.path(), std::ios::binary);
-        const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
-        ++files;
+        if (const auto file = brelex::ReadWholeFile(entry.path())) {
+            const std::string_view bytes = file->View();
+            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                   bytes.size());
+            ++files;
+        }
     }
     std::cout << files << " files replayed\n";
     return files > 0 ? 0 : 1;

@@ -23,7 +23,7 @@ SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, st
     SearchOutcome outcome;
     std::int32_t row = std::max(position, 0);
     std::int32_t end = row;  // of the records until the next pause
-    while (row < rows.RowCount() && (watcher == nullptr || !watcher->AbortRequested())) {
+    while (row < rows.RowCount() && (watcher == nullptr || !watcher->IsAborted())) {
         end = watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
         const std::int32_t hit = finder.FindNext(row, end);
         if (hit < end) {

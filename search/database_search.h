@@ -28,7 +28,7 @@ class SearchWatcher {
     virtual void OnPause() = 0;
 
     /// Whether the search has to end; asked before each record.
-    [[nodiscard]] virtual bool AbortRequested() const = 0;
+    [[nodiscard]] virtual bool IsAborted() const = 0;
 };
 
 /// What a search has found.

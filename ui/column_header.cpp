@@ -15,7 +15,7 @@ namespace {
 constexpr double kAbbreviationAt = 7;
 constexpr double kExpansionAt = 139.5;
 constexpr double kLineAt = 15;
-constexpr double kSunkenLineAt = 130.5;
+constexpr double kSunkenLineBefore = 9;  // the second column
 constexpr double kArrowAt = 95;
 constexpr double kArrowWidth = 8;
 constexpr double kArrowHeight = 4;
@@ -24,9 +24,15 @@ constexpr double kArrowHeight = 4;
 
 ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
     : Backdrop(parent),
-      units_(units) {
+      units_(units),
+      secondColumn_(units.Pixels(kExpansionAt)) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);
+}
+
+void ColumnHeader::SetSecondColumn(int pixels) {
+    secondColumn_ = pixels;
+    Refresh();
 }
 
 void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
@@ -43,11 +49,11 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
     dc.SetTextForeground(text);
     const int textTop = (line - dc.GetCharHeight()) / 2;
     dc.DrawText("Abbreviation", units_.Pixels(kAbbreviationAt), textTop);
-    dc.DrawText("E x p a n s i o n", units_.Pixels(kExpansionAt), textTop);
+    dc.DrawText("E x p a n s i o n", secondColumn_, textTop);
 
     dc.SetPen(wxPen(shadow));
     dc.DrawLine(0, line, size.x, line);
-    const int divider = units_.Pixels(kSunkenLineAt);
+    const int divider = secondColumn_ - units_.Pixels(kSunkenLineBefore);
     dc.DrawLine(divider, units_.Pixels(2), divider, line - units_.Pixels(1));
     dc.SetPen(wxPen(highlight));
     dc.DrawLine(divider + 1, units_.Pixels(2), divider + 1, line - units_.Pixels(1));

@@ -6,16 +6,20 @@
 
 namespace brelex {
 
-/// The drawn header of the list, `picColHeader`: the names of its two columns, a line under them,
+/// The drawn header of a list, `picColHeader`: the names of its two columns, a line under them,
 /// a sunken line between them and an arrow for the ascending order.
 class ColumnHeader final : public Backdrop {
   public:
     ColumnHeader(wxWindow* parent, const LayoutUnits& units);
 
+    /// Has the second column begin `pixels` from the left.
+    void SetSecondColumn(int pixels);
+
   private:
     void OnPaint(wxPaintEvent& event);
 
     const LayoutUnits& units_;
+    int secondColumn_;
 };
 
 }  // namespace brelex

@@ -26,6 +26,7 @@
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
+#include "ui/frmSearch.h"
 #include "ui/frmSplash.h"
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
@@ -351,7 +352,12 @@ void frmMain::OpenModalForm(int number) {
     static constexpr std::array kNames = {
         "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
         "About",           "Check Data Integrity", "Donate via PayPal"};
-    if (number >= 0 && number < static_cast<int>(kNames.size())) {
+    if (number == 0) {
+        if (search_ == nullptr) {
+            search_ = new frmSearch(this, values_);
+        }
+        search_->ShowSearchWindow();
+    } else if (number > 0 && number < static_cast<int>(kNames.size())) {
         SayNotYet(kNames.at(static_cast<std::size_t>(number)));
     }
 }

@@ -28,6 +28,7 @@ class wxTextCtrl;
 
 namespace brelex {
 
+class frmSearch;
 class frmSplash;
 
 /// What frmMain loads with.
@@ -140,6 +141,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::size_t maxBoxLength_ = 0;
     std::function<bool(bool)> setRunAtStartup_;
     std::optional<HoverHints> hints_;
+    frmSearch* search_ = nullptr;  // made when it is first opened
     TrayBehaviour trayBehaviour_;
     std::unique_ptr<TrayIcon> trayIcon_;
     std::unique_ptr<ActivationHotKey> hotKey_;

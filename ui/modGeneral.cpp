@@ -3,14 +3,17 @@
 
 #include <wx/accel.h>
 #include <wx/clipbrd.h>
+#include <wx/combobox.h>
 #include <wx/dataobj.h>
 #include <wx/dc.h>
 #include <wx/gdicmn.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
+#include <wx/textctrl.h>
 #include <wx/toplevel.h>
 
 #include "database/record_text.h"
+#include "ui/wx_message_sink.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -41,6 +44,51 @@ void CopyEntryToClipboard(std::string_view recordText) {
     wxTheClipboard->SetData(new wxTextDataObject(WxTextOfBytes(GetAbbreviation(recordText)) +
                                                  " = " + WxTextOfBytes(GetExpansion(recordText))));
     wxTheClipboard->Flush();  // or else it would go with the program
+}
+
+void AddToComboHistory(wxComboBox& combo) {
+    const wxString text = combo.GetValue();
+    for (unsigned i = combo.GetCount(); i > 0; --i) {
+        if (combo.GetString(i - 1) == text) {
+            combo.Delete(i - 1);
+        }
+    }
+    combo.Insert(text, 0);
+    combo.ChangeValue(text);  // taking the item away may have emptied the box
+}
+
+void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
+    const bool onScreen = main.IsIconized() || !main.IsShown();
+    const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : main.GetScreenRect();
+    const wxSize size = window.GetSize();
+    window.Move(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2);
+}
+
+void ShowAppInfo(wxTextCtrl& box, const AppInfo& info) {
+    const long caret = box.GetInsertionPoint();
+    box.SetSelection(caret, caret);
+    WxMessageSink(&box).Show({std::string(kAppTitle) + " version " +
+                                  std::to_string(info.majorVersion) + "." +
+                                  std::to_string(info.minorVersion) + "\n\n" + info.copyright +
+                                  "\n" + info.supportAddress,
+                              kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+}
+
+void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info) {
+    box.Bind(wxEVT_RIGHT_DOWN, [&box, &info](wxMouseEvent&) { ShowAppInfo(box, info); });
+    box.Bind(wxEVT_CONTEXT_MENU, [](wxContextMenuEvent&) {});  // not the toolkit's own
+    box.Bind(wxEVT_KEY_DOWN, [&box, &info](wxKeyEvent& event) {
+        // GTK and Windows give the same key different codes.
+        const bool menuKey =
+            (event.GetKeyCode() == WXK_MENU || event.GetKeyCode() == WXK_WINDOWS_MENU) &&
+            event.GetModifiers() == wxMOD_NONE;
+        const bool shiftF10 = event.GetKeyCode() == WXK_F10 && event.GetModifiers() == wxMOD_SHIFT;
+        if (menuKey || shiftF10) {
+            ShowAppInfo(box, info);
+        } else {
+            event.Skip();
+        }
+    });
 }
 
 void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target) {

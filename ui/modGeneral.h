@@ -3,9 +3,13 @@
 
 #include <string_view>
 
+#include "database/program_values.h"
+
+class wxComboBox;
 class wxDC;
 class wxRect;
 class wxStaticText;
+class wxTextCtrl;
 class wxTopLevelWindow;
 class wxWindow;
 
@@ -22,6 +26,19 @@ void SetTopMost(wxTopLevelWindow& window, bool topMost);
 /// Puts the entry with this record text (Windows-1252 bytes) on the clipboard as text, in the form
 /// "RAM = Random Access Memory".
 void CopyEntryToClipboard(std::string_view recordText);
+
+/// Makes the text of a combo box the first item of its list, and removes what equals it there.
+void AddToComboHistory(wxComboBox& combo);
+
+/// Centres a window over the main window, or on the screen if that one is minimised or hidden.
+void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
+
+/// Tells what program this is. The text box loses its selection; its caret stays.
+void ShowAppInfo(wxTextCtrl& box, const AppInfo& info);
+
+/// Has a read-only text box tell what program this is where others show a menu: when it is pressed
+/// with the right mouse button, and on Shift+F10 and the menu key. `info` must outlive the box.
+void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info);
 
 /// Has the access key in the text of `label` lead to `target`. On GTK the label does so by itself;
 /// Windows promises it for dialogs only. Call once for each window.

@@ -338,7 +338,7 @@ TEST_F(StatusNotifierItem, ItsMenuIsEmptyWhileAModalWindowIsUp) {
             return !window_->IsModalOpen;
         },
     });
-    window_->OpenModalForm(0);
+    window_->OpenModalForm(4);
     // All five items are there for the desktop to hide.
     std::size_t hidden = 0;
     for (std::size_t at = layout.find("'visible': <false>"); at != std::string::npos;

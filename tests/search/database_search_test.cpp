@@ -24,7 +24,7 @@ class RecordingWatcher final : public SearchWatcher {
         abort_ |= ++pauses == abortAtPause;
     }
 
-    [[nodiscard]] bool AbortRequested() const override { return abort_; }
+    [[nodiscard]] bool IsAborted() const override { return abort_; }
 
     std::vector<std::string> events;
     int abortAtHit = -1;

@@ -22,9 +22,21 @@ constexpr auto kEnding = SearchPosition::Ending;
 
 struct FindCase {
     const char* name;
-    SearchRequest request;
-    std::string record;
+
+    struct {
+        const char* text;
+        SearchIn in;
+        SearchPosition position = kAnywhere;
+        bool matchCase = false;
+        bool wholeWord = false;
+    } request;
+
+    const char* record;
     bool hit;
+
+    [[nodiscard]] SearchRequest Request() const {
+        return {request.text, request.in, request.position, request.matchCase, request.wholeWord};
+    }
 };
 
 class RecordFinderTest : public testing::TestWithParam<FindCase> {};
@@ -36,7 +48,7 @@ TEST_P(RecordFinderTest, FindsARecordOrNot) {
         std::vector<std::string> records(3, other);
         records.at(static_cast<std::size_t>(at)) = GetParam().record;
         const FakeRows rows(records);
-        const auto finder = RecordFinder::Compile(GetParam().request, rows);
+        const auto finder = RecordFinder::Compile(GetParam().Request(), rows);
         ASSERT_TRUE(finder);
         EXPECT_EQ(finder->IsHit(rows.RowText(at)), GetParam().hit);
         EXPECT_EQ(finder->FindNext(at, at + 1), GetParam().hit ? at : at + 1);

@@ -154,7 +154,7 @@ TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
             return !window_->IsModalOpen;
         },
     });
-    window_->OpenModalForm(0);
+    window_->OpenModalForm(4);
     EXPECT_TRUE(looked);
     EXPECT_FALSE(window_->IsModalOpen);
     EXPECT_TRUE(window_->IsShown());

@@ -3,6 +3,7 @@
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
+#include <wx/msgdlg.h>
 #include <wx/stattext.h>
 #include <wx/stopwatch.h>
 #include <wx/textctrl.h>
@@ -52,6 +53,16 @@ void ModalDriver::Notify() {
         ++next_;
     }
     busy_ = false;
+}
+
+int MessageBoxes::Enter(wxDialog* dialog) {
+    auto* const box = dynamic_cast<wxMessageDialog*>(dialog);
+    if (box == nullptr) {
+        return wxID_NONE;
+    }
+    texts.push_back(Utf8Text(box->GetMessage()));
+    titles.push_back(Utf8Text(box->GetTitle()));
+    return wxID_OK;
 }
 
 void MainWindowTest::SetUp() {

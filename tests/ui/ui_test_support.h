@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/modalhook.h>
 #include <wx/testing.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
@@ -41,6 +42,18 @@ class ModalDriver final : public wxTimer {
     std::size_t next_ = 0;
     int ticks_ = 0;
     bool busy_ = false;
+};
+
+/// Answers message boxes at once and keeps what they say. Other dialogs are shown.
+class MessageBoxes final : public wxModalDialogHook {
+  public:
+    MessageBoxes() { Register(); }
+
+    std::vector<std::string> texts;
+    std::vector<std::string> titles;
+
+  protected:
+    int Enter(wxDialog* dialog) override;
 };
 
 /// The started program over a small database of a test's own, its main window shown and active.

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace brelex {
+
+/// While one exists, the program's sleeps last as long as they are meant to, and not up to a tick
+/// of the system (15.6 ms on Windows).
+class FineTimer {
+  public:
+    FineTimer();
+    FineTimer(const FineTimer&) = delete;
+    FineTimer& operator=(const FineTimer&) = delete;
+    ~FineTimer();
+};
+
+}  // namespace brelex

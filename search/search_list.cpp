@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "search/search_list.h"
+
+namespace brelex {
+
+std::string_view TrimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::vector<std::string> SearchListItems(std::string_view searchList) {
+    std::vector<std::string> items;
+    std::string_view rest = TrimBlanks(searchList);
+    while (!rest.empty()) {
+        const auto end = rest.find('1');
+        items.emplace_back(rest.substr(0, end));
+        if (end == std::string_view::npos) {
+            break;
+        }
+        rest.remove_prefix(end + 1);
+        if (rest.empty()) {
+            items.emplace_back();  // behind a "1" at the end
+        }
+    }
+    return items;
+}
+
+}  // namespace brelex

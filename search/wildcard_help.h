@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "database/message_sink.h"
+
+namespace brelex {
+
+/// The rules of wildcards, for those who search.
+[[nodiscard]] Message WildcardHelp();
+
+}  // namespace brelex

@@ -1,0 +1,769 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmSearch.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/radiobut.h>
+#include <wx/settings.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/tooltip.h>
+
+#include "database/database_header.h"
+#include "database/szdd.h"
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/busy_animation.h"
+#include "ui/modGeneral.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+namespace {
+
+const wxColour kRed(255, 0, 0);
+const wxColour kDarkRed(192, 0, 0);
+
+class SearchWindowTest : public MainWindowTest {
+  protected:
+    // Opens the window as a user does, works in it, and closes it if it is still open.
+    void InSearchWindow(const std::function<void()>& work) {
+        ModalDriver driver({[&] {
+                                search_ = FindSearchWindow();
+                                return search_ != nullptr && search_->IsShown() &&
+                                       search_->IsActive();
+                            },
+                            [&] {
+                                Settle(50);
+                                work();
+                                return true;
+                            },
+                            [&] {
+                                if (search_->IsModal()) {
+                                    search_->EndModal(wxID_CANCEL);
+                                }
+                                return true;
+                            }});
+        window_->OpenModalForm(0);
+        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+        Settle(50);
+    }
+
+    [[nodiscard]] static frmSearch* FindSearchWindow() {
+        return dynamic_cast<frmSearch*>(wxWindow::FindWindowByName("frmSearch"));
+    }
+
+    template <typename Kind = wxWindow>
+    [[nodiscard]] Kind& In(const std::string& name) const {
+        return dynamic_cast<Kind&>(*wxWindow::FindWindowByName(name, search_));
+    }
+
+    [[nodiscard]] std::string Label(const char* name) const {
+        return Utf8Text(In<wxStaticText>(name).GetLabelText());
+    }
+
+    [[nodiscard]] std::string SearchText() const {
+        return Utf8Text(In<wxComboBox>("cboSearchWhat").GetValue());
+    }
+
+    [[nodiscard]] std::string Result() const {
+        return Utf8Text(In<wxTextCtrl>("txtSearchResult").GetValue());
+    }
+
+    [[nodiscard]] wxColour ResultColour() const {
+        return In("txtSearchResult").GetForegroundColour();
+    }
+
+    [[nodiscard]] bool IsEnabled(const char* name) const { return In(name).IsEnabled(); }
+
+    [[nodiscard]] std::vector<std::string> History() const {
+        std::vector<std::string> items;
+        for (const wxString& item : In<wxComboBox>("cboSearchWhat").GetStrings()) {
+            items.push_back(Utf8Text(item));
+        }
+        return items;
+    }
+
+    // Replaces the search text by typing.
+    void TypeSearchText(const std::string& text) {
+        FocusSearchText();
+        user_.Char(WXK_HOME);
+        user_.Char(WXK_END, wxMOD_SHIFT);
+        user_.Char(WXK_DELETE);
+        ASSERT_TRUE(WaitFor([&] { return SearchText().empty(); }));
+        for (const char c : text) {
+            TypeCharacter(c);
+        }
+        ASSERT_TRUE(WaitFor([&] { return SearchText() == text; })) << SearchText();
+    }
+
+    void FocusSearchText() {
+        In("cboSearchWhat").SetFocus();
+        Settle(30);
+    }
+
+    void TypeCharacter(char c) {
+        if (c == '*') {
+            user_.Char('8', wxMOD_SHIFT);
+        } else if (c == '?') {
+            user_.Char('/', wxMOD_SHIFT);
+        } else if (c >= 'A' && c <= 'Z') {
+            user_.Char(c, wxMOD_SHIFT);
+        } else {
+            user_.Char(c);
+        }
+    }
+
+    void Click(const char* name) {
+        const wxRect place = In(name).GetScreenRect();
+        user_.MouseMove(place.x + std::min(place.width / 2, 40), place.y + place.height / 2);
+        Settle(30);
+        user_.MouseClick();
+        Settle(50);
+    }
+
+    bool IsSearching() const { return In("picAnim").IsShown(); }
+
+    // Presses Return in the search text and waits for the end of the search.
+    void Search(const std::string& text) {
+        TypeSearchText(text);
+        In<wxStaticText>("lblStatus").SetLabelText("before the search");
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(
+            WaitFor([&] { return Label("lblStatus").starts_with("Number of Hits: "); }, 8000));
+        Settle(50);
+    }
+
+    frmSearch* search_ = nullptr;
+};
+
+TEST_F(SearchWindowTest, OpensIdleWithTheResultAreaHidden) {
+    InSearchWindow([&] {
+        EXPECT_EQ(search_->GetTitle(), "Search Database");
+        EXPECT_EQ(SearchText(), "");
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+        EXPECT_EQ(Label("lblCount"), "");
+        EXPECT_EQ(Result(), "");
+        EXPECT_FALSE(search_->ResultAreaShown);
+        EXPECT_EQ(search_->GetClientSize().y, search_->ShrunkHeight);
+        EXPECT_FALSE(In("txtSearchResult").IsShown());
+        EXPECT_FALSE(IsSearching());
+        EXPECT_EQ(search_->NextPosition, 0);
+        for (const char* name : {"cboSearchWhat", "cmdCancel", "cmdHelp", "cmdExpandShrink",
+                                 "fraPosition", "fraSearchIn", "chkMatchCase", "chkWholeWord"}) {
+            EXPECT_TRUE(IsEnabled(name)) << name;
+        }
+        EXPECT_FALSE(IsEnabled("cmdSearch"));
+        EXPECT_FALSE(IsEnabled("chkNextSearch"));
+        EXPECT_TRUE(In<wxRadioButton>("optPosition0").GetValue());
+        EXPECT_TRUE(In<wxRadioButton>("optSearchIn1").GetValue());
+        EXPECT_FALSE(In<wxCheckBox>("chkMatchCase").GetValue());
+        EXPECT_FALSE(In<wxCheckBox>("chkWholeWord").GetValue());
+        EXPECT_FALSE(In<wxCheckBox>("chkNextSearch").GetValue());
+    });
+}
+
+TEST_F(SearchWindowTest, HasTheseCaptions) {
+    InSearchWindow([&] {
+        const std::vector<std::pair<const char*, const char*>> captions = {
+            {"fraPosition", "Position"},
+            {"optPosition0", "Any&where"},
+            {"optPosition1", "&Beginning with"},
+            {"optPosition2", "En&ding with"},
+            {"fraSearchIn", "Search"},
+            {"optSearchIn0", "&Abbreviations"},
+            {"optSearchIn1", "&Expansions"},
+            {"chkMatchCase", "&Match Case"},
+            {"chkWholeWord", "Search Whole Word &Only"},
+            {"chkNextSearch", "Search from &Next Position"},
+            {"cmdCancel", "Cancel"},
+            {"cmdHelp", "Help on wildcards"}};
+        for (const auto& [name, caption] : captions) {
+            EXPECT_EQ(In(name).GetLabel(), caption);
+        }
+    });
+}
+
+TEST_F(SearchWindowTest, F3OpensItWithTheSearchTextReadyToBeTyped) {
+    ModalDriver driver({[&] {
+                            search_ = FindSearchWindow();
+                            return search_ != nullptr && search_->IsActive();
+                        },
+                        [&] {
+                            user_.Char('x');
+                            return WaitFor([&] { return SearchText() == "x"; }, 500);
+                        },
+                        [&] {
+                            user_.Char(WXK_ESCAPE);
+                            return !search_->IsShown();
+                        }});
+    user_.Char(WXK_F3);
+    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen; }, 8000));
+}
+
+TEST_F(SearchWindowTest, SearchesOnlyIfThereIsAText) {
+    InSearchWindow([&] {
+        FocusSearchText();
+        user_.Char('a');
+        EXPECT_TRUE(WaitFor([&] { return IsEnabled("cmdSearch"); }));
+        user_.Char(WXK_BACK);
+        EXPECT_TRUE(WaitFor([&] { return !IsEnabled("cmdSearch"); }));
+        user_.Char(WXK_RETURN);
+        Settle(150);
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+    });
+}
+
+TEST_F(SearchWindowTest, ShowsTheHitsInTwoColumns) {
+    InSearchWindow([&] {
+        TypeSearchText("BUS");
+        Click("cmdSearch");
+        ASSERT_TRUE(WaitFor([&] { return Label("lblStatus") == "Number of Hits: 2"; }));
+        Settle(50);
+        EXPECT_EQ(Result(), "AB\tAddress Bus\nAB\tAudio Bus\n");
+        EXPECT_EQ(ResultColour(), wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        EXPECT_EQ(Label("lblCount"), "");
+        EXPECT_TRUE(search_->FoundAnything);
+        EXPECT_EQ(search_->LastSearchText, "BUS");
+        EXPECT_TRUE(search_->ResultAreaShown);
+        EXPECT_EQ(search_->GetClientSize().y, search_->ExpandedHeight);
+        EXPECT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &In("txtSearchResult"); }));
+        EXPECT_FALSE(IsSearching());
+        EXPECT_TRUE(IsEnabled("cmdSearch"));
+    });
+}
+
+TEST_F(SearchWindowTest, SaysInRedThatNothingIsFound) {
+    InSearchWindow([&] {
+        Search("zzz");
+        EXPECT_EQ(Result(), "Search text is not found");
+        EXPECT_EQ(ResultColour(), kRed);
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 0");
+        EXPECT_EQ(Label("lblCount"), "");
+        EXPECT_TRUE(WaitFor([&] {
+            const wxWindow* const focus = wxWindow::FindFocus();
+            return focus == &In("cboSearchWhat") ||
+                   (focus != nullptr && focus->GetParent() == &In("cboSearchWhat"));
+        }));
+        EXPECT_FALSE(search_->FoundAnything);
+        Search("bus");
+        EXPECT_EQ(ResultColour(), wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    });
+}
+
+TEST_F(SearchWindowTest, TakesTheOptionsThatAreSet) {
+    InSearchWindow([&] {
+        Click("optSearchIn0");
+        Click("optPosition2");
+        Click("chkMatchCase");
+        Search("B");
+        EXPECT_EQ(Result(), "AB\tAddress Bus\nAB\tAudio Bus\n");
+        Click("optPosition1");
+        Search("x");
+        EXPECT_EQ(Result(), "Search text is not found");
+        Click("chkMatchCase");
+        Search("x");
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 2");
+        Click("optPosition0");
+        Click("optSearchIn1");
+        Click("chkWholeWord");
+        Search("markup");
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 1");
+        Search("mark");
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 0");
+    });
+}
+
+TEST_F(SearchWindowTest, TheAccessKeysReachTheOptions) {
+    InSearchWindow([&] {
+        user_.Char('M', wxMOD_ALT);
+        EXPECT_TRUE(WaitFor([&] { return In<wxCheckBox>("chkMatchCase").GetValue(); }));
+        user_.Char('B', wxMOD_ALT);
+        EXPECT_TRUE(WaitFor([&] { return In<wxRadioButton>("optPosition1").GetValue(); }));
+        user_.Char('A', wxMOD_ALT);
+        EXPECT_TRUE(WaitFor([&] { return In<wxRadioButton>("optSearchIn0").GetValue(); }));
+        user_.Char('F', wxMOD_ALT);
+        Settle(50);
+        user_.Char('x');
+        EXPECT_TRUE(WaitFor([&] { return SearchText() == "x"; }));
+    });
+}
+
+TEST_F(SearchWindowTest, KeepsAHistoryWithoutDuplicatesTheLatestOnTop) {
+    InSearchWindow([&] {
+        Search("bus");
+        Search("markup");
+        EXPECT_EQ(History(), (std::vector<std::string>{"markup", "bus", "network", "memory"}));
+        Search("bus");
+        EXPECT_EQ(History(), (std::vector<std::string>{"bus", "markup", "network", "memory"}));
+        EXPECT_EQ(SearchText(), "bus");
+        Search("Bus");
+        EXPECT_EQ(History(),
+                  (std::vector<std::string>{"Bus", "bus", "markup", "network", "memory"}));
+    });
+}
+
+TEST_F(SearchWindowTest, ItsHistoryHasNoEnd) {
+    InSearchWindow([&] {
+        auto& combo = In<wxComboBox>("cboSearchWhat");
+        for (int i = 0; i < 300; ++i) {
+            combo.ChangeValue(wxString::Format("text %d", i));
+            AddToComboHistory(combo);
+        }
+        EXPECT_EQ(combo.GetCount(), 302U);
+        EXPECT_EQ(combo.GetString(0), "text 299");
+        EXPECT_EQ(combo.GetString(299), "text 0");
+    });
+}
+
+TEST_F(SearchWindowTest, SurvivesItsBeingHidden) {
+    InSearchWindow([&] {
+        Click("chkMatchCase");
+        Search("Bus");
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !search_->IsShown(); }));
+    });
+    EXPECT_FALSE(window_->IsModalOpen);
+    const frmSearch* const first = search_;
+    InSearchWindow([&] {
+        EXPECT_EQ(search_, first);
+        EXPECT_EQ(SearchText(), "");
+        EXPECT_EQ(Result(), "");
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+        EXPECT_FALSE(search_->ResultAreaShown);
+        EXPECT_FALSE(IsEnabled("cmdSearch"));
+        EXPECT_EQ(History(), (std::vector<std::string>{"Bus", "network", "memory"}));
+        EXPECT_TRUE(In<wxCheckBox>("chkMatchCase").GetValue());
+    });
+}
+
+struct RefusedCase {
+    const char* name;
+    const char* text;
+    const char* option;  // clicked before
+    const char* title;
+    const char* beginning;  // of the message
+};
+
+class RefusedSearch : public SearchWindowTest, public testing::WithParamInterface<RefusedCase> {};
+
+TEST_P(RefusedSearch, ShowsItsMessageAndChangesNothing) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        if (GetParam().option != nullptr) {
+            Click(GetParam().option);
+        }
+        TypeSearchText(GetParam().text);
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        Settle(50);
+        EXPECT_EQ(boxes.titles[0], GetParam().title);
+        EXPECT_EQ(boxes.texts[0].rfind(GetParam().beginning, 0), 0U) << boxes.texts[0];
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+        EXPECT_FALSE(search_->ResultAreaShown);
+        EXPECT_EQ(SearchText(), GetParam().text);
+        EXPECT_EQ(History(), (std::vector<std::string>{"network", "memory"}));
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Requests, RefusedSearch,
+    testing::Values(RefusedCase{"WildcardInAWholeWord", "e-mail", "chkWholeWord", "Invalid Option",
+                                "Use of wildcards is not allowed"},
+                    RefusedCase{"RangeAnywhere", "[a]", nullptr, "Invalid Option",
+                                "Use of a range specifier is not allowed"},
+                    RefusedCase{"FreeAsterisk", "a*b", nullptr, "Bad Pattern",
+                                "Free use of asterisk (*)"}),
+    CaseName());
+
+TEST_F(SearchWindowTest, AMalformedPatternEndsTheSearchWithAMessage) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Click("optPosition1");
+        TypeSearchText("[abc");
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        Settle(50);
+        EXPECT_EQ(boxes.titles[0], "Bad Pattern");
+        EXPECT_EQ(boxes.texts[0].rfind("The pattern string is invalid. Modify", 0), 0U);
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+        EXPECT_EQ(Label("lblCount"), "");
+        EXPECT_FALSE(IsSearching());
+        for (const char* name : {"cboSearchWhat", "cmdSearch", "cmdHelp", "cmdExpandShrink",
+                                 "fraPosition", "fraSearchIn", "chkMatchCase", "chkWholeWord"}) {
+            EXPECT_TRUE(IsEnabled(name)) << name;
+        }
+    });
+}
+
+TEST_F(SearchWindowTest, TheFieldLimitsWhatIsTyped) {
+    InSearchWindow([&] {
+        auto& combo = In<wxComboBox>("cboSearchWhat");
+        FocusSearchText();
+        for (int i = 0; i < 40; ++i) {
+            user_.Char('x');
+        }
+        Settle(100);
+        // The longest expansion, "Extensible Markup Language", has 26 characters.
+        EXPECT_EQ(combo.GetValue().length(), 26U);
+        Click("optSearchIn0");
+        Settle(50);
+        EXPECT_EQ(combo.GetValue().length(), 26U);  // what is there is not cut
+        FocusSearchText();
+        user_.Char(WXK_HOME);
+        user_.Char(WXK_END, wxMOD_SHIFT);
+        for (int i = 0; i < 40; ++i) {
+            user_.Char('y');
+        }
+        Settle(100);
+        EXPECT_EQ(SearchText(), "yyyyyy");  // M10000 has 6
+        Click("optSearchIn1");
+        FocusSearchText();
+        user_.Char(WXK_END);
+        user_.Char('z');
+        EXPECT_TRUE(WaitFor([&] { return SearchText() == "yyyyyyz"; })) << SearchText();
+    });
+}
+
+// Records that take some seconds to search, each with its number in its expansion.
+std::vector<std::string> ManyRecords() {
+    return NumberedRecords(90000);
+}
+
+class LongSearch : public SearchWindowTest {
+  protected:
+    void SetUp() override { Start(ManyRecords()); }
+
+    // Begins a search that finds little and waits until it is on its way.
+    void Begin() {
+        TypeSearchText("00");
+        user_.Char(WXK_RETURN);
+    }
+};
+
+TEST_F(LongSearch, ShowsThatItIsBusyAndTakesNoInputButStop) {
+    InSearchWindow([&] {
+        bool looked = false;
+        const MessageBoxes boxes;
+        wxTimer look;
+        look.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+            if (looked || !IsSearching()) {
+                return;
+            }
+            looked = true;
+            for (const char* name :
+                 {"cboSearchWhat", "cmdSearch", "cmdHelp", "cmdExpandShrink", "fraPosition",
+                  "optPosition0", "optPosition2", "fraSearchIn", "optSearchIn0", "chkMatchCase",
+                  "chkWholeWord", "chkNextSearch"}) {
+                EXPECT_FALSE(IsEnabled(name)) << name;
+            }
+            EXPECT_TRUE(IsEnabled("cmdCancel"));
+            EXPECT_EQ(wxWindow::FindFocus(), &In("cmdCancel"));
+            EXPECT_EQ(Label("lblStatus"), "Searching through database. Please, wait...");
+            EXPECT_EQ(Label("lblCount").rfind("Found ", 0), 0U);
+            EXPECT_TRUE(search_->ResultAreaShown);
+            EXPECT_EQ(Result(), "");
+            EXPECT_EQ(History(), (std::vector<std::string>{"zz", "network", "memory"}));
+            search_->AbortRequested = true;
+        });
+        look.Start(100);
+        TypeSearchText("zz");
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return looked && !IsSearching(); }, 8000));
+        EXPECT_EQ(boxes.texts, std::vector<std::string>{"Search was aborted by user"});
+    });
+}
+
+TEST_F(LongSearch, StopShowsTheHitsSoFar) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        bool pressed = false;
+        wxTimer press;
+        press.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+            if (!pressed && IsSearching() && Label("lblCount") != "Found 0") {
+                pressed = true;
+                user_.Char(WXK_SPACE);  // the button has the focus
+            }
+        });
+        press.Start(50);
+        TypeSearchText("9999");
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }, 8000));
+        Settle(50);
+        EXPECT_EQ(boxes.texts[0], "Search was aborted by user");
+        EXPECT_EQ(boxes.titles[0], "Brevilexicon");
+        EXPECT_EQ(Label("lblCount"), "Search was aborted by user");
+        EXPECT_EQ(In("lblCount").GetForegroundColour(), kDarkRed);
+        EXPECT_TRUE(search_->FoundAnything);
+        const auto hits = In<wxTextCtrl>("txtSearchResult").GetNumberOfLines() - 1;
+        EXPECT_GT(hits, 0);
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: " + std::to_string(hits));
+        EXPECT_TRUE(IsEnabled("cmdSearch"));
+        EXPECT_EQ(search_->NextPosition, 0);
+    });
+}
+
+TEST_F(LongSearch, ClosingTheWindowEndsItWithoutABox) {
+    const MessageBoxes boxes;
+    InSearchWindow([&] {
+        bool closed = false;
+        wxTimer close;
+        close.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+            if (!closed && IsSearching() && Label("lblCount") != "Found 0") {
+                closed = true;
+                search_->Close();
+            }
+        });
+        close.Start(50);
+        TypeSearchText("9999");
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return closed && !search_->IsShown() && !IsSearching(); }, 8000));
+    });
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_FALSE(window_->IsModalOpen);
+    InSearchWindow([&] {
+        EXPECT_EQ(SearchText(), "");
+        EXPECT_EQ(Result(), "");
+        EXPECT_EQ(Label("lblStatus"), "Ready");
+        EXPECT_FALSE(search_->ResultAreaShown);
+        EXPECT_EQ(search_->GetClientSize().y, search_->ShrunkHeight);
+        EXPECT_EQ(Label("lblCount"), "Search was aborted by user");
+        EXPECT_FALSE(IsEnabled("cmdSearch"));
+        Search("99999");
+        EXPECT_EQ(Label("lblCount"), "");
+    });
+}
+
+class LimitedSearch : public SearchWindowTest {
+  protected:
+    void SetUp() override { Start(NumberedRecords(1100)); }
+
+    // The records' first and last lines in the result.
+    [[nodiscard]] std::string FirstLine() const {
+        return Utf8Text(In<wxTextCtrl>("txtSearchResult").GetLineText(0));
+    }
+};
+
+TEST_F(LimitedSearch, StopsAt500HitsAndGoesOnFromTheNext) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        const auto& next = In<wxCheckBox>("chkNextSearch");
+        Search("?");
+        ASSERT_EQ(boxes.texts.size(), 1U);
+        EXPECT_EQ(boxes.titles[0], "Search Aborted");
+        EXPECT_EQ(boxes.texts[0].rfind("Your search has returned the maximum number", 0), 0U);
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 500");
+        EXPECT_EQ(In<wxTextCtrl>("txtSearchResult").GetNumberOfLines(), 501);
+        EXPECT_EQ(search_->NextPosition, 500);
+        EXPECT_TRUE(next.IsEnabled());
+        const std::string first = FirstLine();
+
+        Click("chkNextSearch");
+        ASSERT_TRUE(WaitFor([&] { return next.GetValue(); }));
+        Click("cmdSearch");
+        ASSERT_TRUE(WaitFor([&] { return search_->NextPosition == 1000 && !IsSearching(); }));
+        Settle(50);
+        EXPECT_EQ(FirstLine(), startUp_->Values().AcronymList->RowText(500));
+
+        Click("cmdSearch");  // the box is still checked
+        ASSERT_TRUE(WaitFor([&] { return Label("lblStatus") == "Number of Hits: 100"; }));
+        EXPECT_FALSE(next.IsEnabled());
+        EXPECT_EQ(boxes.texts.size(), 2U);
+
+        Settle(50);
+        Click("cmdSearch");  // checked, but not enabled: from the beginning
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 3 && !IsSearching(); }));
+        Settle(50);
+        EXPECT_EQ(FirstLine(), first);
+    });
+}
+
+TEST_F(LimitedSearch, AnotherTextForgetsThePosition) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("?");
+        ASSERT_TRUE(IsEnabled("chkNextSearch"));
+        Click("chkNextSearch");
+        FocusSearchText();
+        user_.Char(WXK_END);
+        user_.Char('a');
+        EXPECT_TRUE(WaitFor([&] { return !IsEnabled("chkNextSearch"); }));
+    });
+}
+
+TEST_F(SearchWindowTest, TheButtonShowsAndHidesTheResultArea) {
+    InSearchWindow([&] {
+        EXPECT_EQ(In("cmdExpandShrink").GetToolTipText(), "Show search result");
+        Click("cmdExpandShrink");
+        EXPECT_TRUE(WaitFor([&] { return search_->ResultAreaShown; }));
+        Settle(50);
+        EXPECT_EQ(search_->GetClientSize().y, search_->ExpandedHeight);
+        EXPECT_EQ(In("cmdExpandShrink").GetToolTipText(), "Hide search result");
+        EXPECT_TRUE(In("txtSearchResult").IsShown());
+        Click("cmdExpandShrink");
+        EXPECT_TRUE(WaitFor([&] { return !search_->ResultAreaShown; }));
+        EXPECT_EQ(search_->GetClientSize().y, search_->ShrunkHeight);
+    });
+}
+
+TEST_F(SearchWindowTest, AClickOnTheHeaderGivesTheResultTheFocus) {
+    InSearchWindow([&] {
+        Click("cmdExpandShrink");
+        ASSERT_TRUE(WaitFor([&] { return search_->ResultAreaShown; }));
+        Settle(50);
+        Click("picColHeader");
+        EXPECT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &In("txtSearchResult"); }));
+    });
+}
+
+TEST_F(SearchWindowTest, TheResultTellsWhatProgramThisIsInsteadOfAMenu) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("bus");
+        auto& result = In<wxTextCtrl>("txtSearchResult");
+        const auto asked = [&](std::size_t times) {
+            EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == times; })) << times;
+            long from = 0;
+            long to = 0;
+            result.GetSelection(&from, &to);
+            EXPECT_EQ(from, to);
+        };
+        result.SetSelection(0, 5);
+        user_.Char(WXK_F10, wxMOD_SHIFT);
+        asked(1);
+        result.SetSelection(0, 5);
+        user_.Char(WXK_WINDOWS_MENU);
+        if (!WaitFor([&] { return boxes.texts.size() == 2; }, 500)) {
+            user_.Char(WXK_MENU);  // its code with GTK
+        }
+        asked(2);
+        result.SetSelection(0, 5);
+        user_.MouseMove(result.GetScreenPosition() + wxPoint(100, 40));
+        Settle(30);
+        user_.MouseClick(wxMOUSE_BTN_RIGHT);
+        asked(3);
+        Settle(100);
+        EXPECT_EQ(boxes.texts.size(), 3U);
+        const AppInfo& info = startUp_->Values().info;
+        EXPECT_EQ(boxes.texts[0], "Brevilexicon version " + std::to_string(info.majorVersion) +
+                                      "." + std::to_string(info.minorVersion) + "\n\n" +
+                                      info.copyright + "\n" + info.supportAddress);
+        EXPECT_EQ(boxes.titles[0], "Brevilexicon");
+    });
+}
+
+TEST_F(SearchWindowTest, HelpsOnWildcards) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Click("cmdHelp");
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        EXPECT_EQ(boxes.titles[0], "Help on Wildcards");
+    });
+}
+
+// The bytes of a database whose header is changed.
+std::string DatabaseWith(const std::function<void(DatabaseHeader&)>& change) {
+    std::string expanded = ExpandedBytes({"AB\tx", "ABCDE\ta longer expansion"});
+    DatabaseHeader header = DecodeHeader(expanded);
+    change(header);
+    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
+    return CompressSzdd(expanded);
+}
+
+std::string DatabaseWithSearchList(const std::string& list) {
+    return DatabaseWith([&](DatabaseHeader& header) { header.SearchListText = list; });
+}
+
+TEST_F(SearchWindowTest, BeginsWithTheSearchListOfTheDatabase) {
+    StartWith(DatabaseWithSearchList("  network1data base1disk  "), "");
+    InSearchWindow([&] {
+        EXPECT_EQ(History(), (std::vector<std::string>{"network", "data base", "disk"}));
+        EXPECT_EQ(startUp_->Values().Header.SearchListText, "network1data base1disk");
+    });
+}
+
+TEST_F(SearchWindowTest, AnItemPickedFromTheHistoryIsReadyToBeSearched) {
+    StartWith(DatabaseWithSearchList("network1storage"), "");
+    InSearchWindow([&] {
+        Click("optSearchIn0");  // 5 characters at most may be typed now
+        FocusSearchText();
+        user_.Char(WXK_DOWN, wxMOD_ALT);
+        Settle(200);
+        user_.Char(WXK_DOWN);
+        Settle(100);
+        user_.Char(WXK_RETURN);
+        // The key goes to the first item on Windows, beyond it with GTK.
+        EXPECT_TRUE(WaitFor([&] { return SearchText() == "network" || SearchText() == "storage"; }))
+            << SearchText();
+        EXPECT_TRUE(WaitFor([&] { return IsEnabled("cmdSearch"); }));
+    });
+}
+
+TEST_F(SearchWindowTest, FindsNothingInAnEmptyDatabase) {
+    StartWith(DatabaseWith([](DatabaseHeader& header) { header.RecordCount = 0; }), "");
+    InSearchWindow([&] {
+        auto& combo = In<wxComboBox>("cboSearchWhat");
+        combo.SetValue("a");
+        Click("cmdSearch");
+        EXPECT_TRUE(WaitFor([&] { return Label("lblStatus") == "Number of Hits: 0"; }));
+    });
+}
+
+TEST_F(SearchWindowTest, StandsInTheMiddleOfTheMainWindow) {
+    InSearchWindow([&] {
+        const wxRect outer = window_->GetScreenRect();
+        const wxRect inner = search_->GetScreenRect();
+        EXPECT_NEAR(inner.x + inner.width / 2, outer.x + outer.width / 2, 8);
+        EXPECT_NEAR(inner.y + inner.height / 2, outer.y + outer.height / 2, 40);
+    });
+}
+
+TEST_F(SearchWindowTest, OverAHiddenMainWindowItStandsInTheMiddleOfTheScreen) {
+    window_->Hide();
+    InSearchWindow([&] {
+        const wxSize screen = wxGetDisplaySize();
+        const wxRect inner = search_->GetScreenRect();
+        EXPECT_NEAR(inner.x + inner.width / 2, screen.x / 2, 8);
+        EXPECT_NEAR(inner.y + inner.height / 2, screen.y / 2, 40);
+        Search("bus");
+        EXPECT_EQ(Label("lblStatus"), "Number of Hits: 2");
+    });
+    window_->Show();
+}
+
+TEST_F(SearchWindowTest, ABoxThatCannotShowItsResultSaysWhy) {
+    InSearchWindow([&] {
+        auto& result = In<wxTextCtrl>("txtSearchResult");
+        ShowSearchResult(result, [] { throw std::runtime_error("There is no room."); });
+        EXPECT_EQ(Result(), "Unable to display search result\nThere is no room.");
+        EXPECT_EQ(ResultColour(), kRed);
+    });
+}
+
+TEST_F(SearchWindowTest, TheAnimationGoesRoundItsFrames) {
+    auto* animation = new BusyAnimation(window_, SearchFilmStrip(), 5);
+    EXPECT_FALSE(animation->IsShown());
+    animation->Run(true);
+    EXPECT_TRUE(animation->IsShown());
+    EXPECT_EQ(animation->ShownFrame(), 0);
+    EXPECT_EQ(animation->AnimationFrame, 1);
+    for (const int frame : {1, 2, 10, 0, 1}) {
+        EXPECT_TRUE(WaitFor([&] { return animation->ShownFrame() == frame; })) << frame;
+        EXPECT_EQ(animation->AnimationFrame, (frame + 1) % 11);
+    }
+    animation->Run(false);
+    EXPECT_FALSE(animation->IsShown());
+    EXPECT_FALSE(animation->tmrAnimation.IsRunning());
+    animation->Run(true);
+    EXPECT_EQ(animation->ShownFrame(), 0);
+    animation->Destroy();
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "ui/artwork.h"
+
+#include "embedded/kCancelSvg.h"
+#include "embedded/kExpandSvg.h"
+#include "embedded/kSearchStripSvg.h"
+#include "embedded/kShrinkSvg.h"
+#include "embedded/kStopSvg.h"
+
+namespace brelex {
+
+namespace {
+
+wxBitmapBundle ButtonPicture(const char* svg) {
+    return wxBitmapBundle::FromSVG(svg, wxSize(16, 16));
+}
+
+FilmStrip StripOf(const char* svg, int frames, const wxSize& frameSize) {
+    return {wxBitmapBundle::FromSVG(svg, wxSize(frameSize.x, frameSize.y * frames)), frames,
+            frameSize};
+}
+
+}  // namespace
+
+wxBitmapBundle StopPicture() {
+    return ButtonPicture(kStopSvg);
+}
+
+wxBitmapBundle CancelPicture() {
+    return ButtonPicture(kCancelSvg);
+}
+
+wxBitmapBundle ExpandPicture() {
+    return ButtonPicture(kExpandSvg);
+}
+
+wxBitmapBundle ShrinkPicture() {
+    return ButtonPicture(kShrinkSvg);
+}
+
+FilmStrip SearchFilmStrip() {
+    return StripOf(kSearchStripSvg, 11, {48, 50});
+}
+
+}  // namespace brelex

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/bmpbndl.h>
+
+namespace brelex {
+
+// Pictures of 16 by 16 for buttons.
+[[nodiscard]] wxBitmapBundle StopPicture();
+[[nodiscard]] wxBitmapBundle CancelPicture();
+[[nodiscard]] wxBitmapBundle ExpandPicture();
+[[nodiscard]] wxBitmapBundle ShrinkPicture();
+
+/// A film strip: pictures of one size, the first at the top, the others below it.
+struct FilmStrip {
+    wxBitmapBundle picture;
+    int frames = 1;
+    wxSize frameSize;  ///< at 96 dots per inch
+};
+
+/// The film strip of the search, 11 frames of 48 by 50.
+[[nodiscard]] FilmStrip SearchFilmStrip();
+
+}  // namespace brelex

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+
+class wxComboBox;
+
+namespace brelex {
+
+/// Keeps what is typed into a combo box to a length in characters. Text that is there already, or
+/// is picked from the list, may be longer and is never cut.
+class ComboTextLimit {
+  public:
+    explicit ComboTextLimit(wxComboBox& combo);
+    ComboTextLimit(const ComboTextLimit&) = delete;
+    ComboTextLimit& operator=(const ComboTextLimit&) = delete;
+
+    /// 0 for no limit.
+    void Set(std::size_t length);
+
+  private:
+    void Apply();
+    void RestorePickedText();
+
+    wxComboBox& combo_;
+    std::size_t limit_ = 0;
+};
+
+}  // namespace brelex

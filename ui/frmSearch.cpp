@@ -1,0 +1,540 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmSearch.h"
+
+#include <algorithm>
+#include <exception>
+#include <functional>
+
+#include <wx/bmpbuttn.h>
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/dcclient.h>
+#include <wx/panel.h>
+#include <wx/radiobut.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/utils.h>
+#include <wx/weakref.h>
+
+#include "platform/accessible_name.h"
+#include "platform/fine_timer.h"
+#include "platform/paint_now.h"
+#include "platform/text_columns.h"
+#include "search/database_search.h"
+#include "search/search_list.h"
+#include "search/wildcard_help.h"
+#include "ui/app_icon.h"
+#include "ui/artwork.h"
+#include "ui/busy_animation.h"
+#include "ui/column_header.h"
+#include "ui/modGeneral.h"
+#include "ui/pending_events.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kInnerWidth = 640;
+constexpr double kResultHeight = 230;
+constexpr double kMargin = 8;
+constexpr double kHeaderHeight = 18;
+constexpr double kCountWidth = 190;
+constexpr double kHeaderFrameAbove = 3;
+constexpr double kShrunkMargin = 3;  // below the header's upper edge
+
+constexpr int kAnimationIntervalMs = 120;
+constexpr int kPauseMs = 5;
+constexpr int kTextMarginPixels = 5;
+constexpr int kTabStopDialogUnits = 88;
+
+const char* const kAbortedText = "Search was aborted by user";
+const char* const kReadyText = "Ready";
+
+wxColour PureRed() {
+    return {255, 0, 0};
+}
+
+wxColour DarkRed() {
+    return {192, 0, 0};
+}
+
+std::size_t LimitOf(std::int32_t maxLength) {
+    return static_cast<std::size_t>(std::max(maxLength, 0));
+}
+
+}  // namespace
+
+void ShowSearchResult(wxTextCtrl& box, const std::function<void()>& assign) {
+    try {
+        assign();
+    } catch (const std::exception& failure) {
+        box.SetForegroundColour(PureRed());
+        box.ChangeValue("Unable to display search result\n" + wxString::FromUTF8(failure.what()));
+    }
+}
+
+// Shows how far a search is and lets events run meanwhile, which may even destroy the window.
+class frmSearch::Watcher final : public SearchWatcher {
+  public:
+    explicit Watcher(frmSearch& window) : window_(&window) {}
+
+    void OnHit(std::int32_t hits) override {
+        window_->ShowHits(hits);
+        LetPendingEventsRun();
+    }
+
+    void OnPause() override {
+        LetPendingEventsRun();
+        wxMilliSleep(kPauseMs);
+    }
+
+    [[nodiscard]] bool IsAborted() const override { return !window_ || window_->AbortRequested; }
+
+  private:
+    wxWeakRef<frmSearch> window_;
+    FineTimer fineTimer_;
+};
+
+frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
+    : wxDialog(main, wxID_ANY, "Search Database"),
+      main_(*main),
+      values_(values),
+      messages_(this),
+      units_(*this) {
+    SetName("frmSearch");
+    SetIcons(AppIcons());
+    CreateControls();
+    NameControls();
+    PlaceControls();
+    BindEvents();
+    FillHistory();
+    textLimit_->Set(LimitOf(values_.Header.MaxExpansionLength));
+    SetSideMargins(*txtSearchResult, kTextMarginPixels);
+    SetCancelButton(false);
+    DrawColumnHeader();
+    ResetStatus();
+    ShowResultArea(false);
+}
+
+void frmSearch::CreateControls() {
+    surface_ = new wxPanel(this);
+    CreateFrames();
+    CreateResultArea();
+    cmdSearch->SetDefault();
+    SetEscapeId(cmdCancel->GetId());
+}
+
+// In the order in which the TAB key visits them. The buttons in a frame are its siblings: from
+// within a frame of the toolkit no access key leads out again on Windows (seen with 3.2.2).
+void frmSearch::CreateFrames() {
+    lblPrompt_ = new wxStaticText(surface_, wxID_ANY, "Search &for:");
+    cboSearchWhat = new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                   wxDefaultSize, 0, nullptr, wxCB_DROPDOWN);
+    textLimit_.emplace(*cboSearchWhat);
+    fraPosition = new wxStaticBox(surface_, wxID_ANY, "Position");
+    optPosition[0] = new wxRadioButton(surface_, wxID_ANY, "Any&where", wxDefaultPosition,
+                                       wxDefaultSize, wxRB_GROUP);
+    optPosition[1] = new wxRadioButton(surface_, wxID_ANY, "&Beginning with");
+    optPosition[2] = new wxRadioButton(surface_, wxID_ANY, "En&ding with");
+    optPosition[0]->SetValue(true);
+    fraSearchIn = new wxStaticBox(surface_, wxID_ANY, "Search");
+    optSearchIn[0] = new wxRadioButton(surface_, wxID_ANY, "&Abbreviations", wxDefaultPosition,
+                                       wxDefaultSize, wxRB_GROUP);
+    optSearchIn[1] = new wxRadioButton(surface_, wxID_ANY, "&Expansions");
+    optSearchIn[1]->SetValue(true);
+    chkMatchCase = new wxCheckBox(surface_, wxID_ANY, "&Match Case");
+    chkWholeWord = new wxCheckBox(surface_, wxID_ANY, "Search Whole Word &Only");
+    chkNextSearch = new wxCheckBox(surface_, wxID_ANY, "Search from &Next Position");
+    chkNextSearch->Disable();
+    cmdSearch = new wxButton(surface_, wxID_ANY, "&Search");
+    cmdSearch->Disable();
+    cmdCancel = new wxButton(surface_, wxID_ANY, "Cancel");
+    cmdHelp = new wxButton(surface_, wxID_ANY, "Help on wildcards");
+}
+
+void frmSearch::CreateResultArea() {
+    picAnim = new BusyAnimation(surface_, SearchFilmStrip(), kAnimationIntervalMs);
+    statusArea_ = new wxPanel(surface_);
+    for (wxStaticText** label : {&lblStatus, &lblCount}) {
+        *label = new wxStaticText(statusArea_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                  wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    }
+    cmdExpandShrink = new wxBitmapButton(surface_, wxID_ANY, ExpandPicture());
+    lblColHeaderBack = new Backdrop(surface_);
+    picColHeader = new ColumnHeader(lblColHeaderBack, units_);
+    txtSearchResult = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                     wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
+}
+
+void frmSearch::NameControls() {
+    SetNames(*cboSearchWhat, "cboSearchWhat", "Search text");
+    cmdSearch->SetName("cmdSearch");
+    cmdHelp->SetName("cmdHelp");
+    fraPosition->SetName("fraPosition");
+    fraSearchIn->SetName("fraSearchIn");
+    for (std::size_t i = 0; i < optPosition.size(); ++i) {
+        optPosition.at(i)->SetName("optPosition" + std::to_string(i));
+    }
+    for (std::size_t i = 0; i < optSearchIn.size(); ++i) {
+        optSearchIn.at(i)->SetName("optSearchIn" + std::to_string(i));
+    }
+    chkMatchCase->SetName("chkMatchCase");
+    chkWholeWord->SetName("chkWholeWord");
+    chkNextSearch->SetName("chkNextSearch");
+    lblStatus->SetName("lblStatus");
+    lblCount->SetName("lblCount");
+    lblColHeaderBack->SetName("lblColHeaderBack");
+    SetNames(*picColHeader, "picColHeader", "Abbreviation, Expansion");
+    SetNames(*txtSearchResult, "txtSearchResult", "Entries found");
+}
+
+wxSizer* frmSearch::LayoutOfControls() {
+    const int gap = units_.Pixels(kMargin);
+    auto* options = new wxBoxSizer(wxHORIZONTAL);
+    const auto addFrame = [&](wxStaticBox* frame, const auto& buttons) {
+        auto* column = new wxStaticBoxSizer(frame, wxVERTICAL);
+        for (wxRadioButton* button : buttons) {
+            column->Add(button, 0, wxALL, gap / 4);
+        }
+        options->Add(column, 0, wxEXPAND | wxRIGHT, gap);
+    };
+    addFrame(fraPosition, optPosition);
+    addFrame(fraSearchIn, optSearchIn);
+    auto* checks = new wxBoxSizer(wxVERTICAL);
+    for (wxCheckBox* check : {chkMatchCase, chkWholeWord, chkNextSearch}) {
+        checks->Add(check, 0, wxTOP, gap);
+    }
+    options->Add(checks);
+    options->AddStretchSpacer();
+    options->Add(picAnim, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
+                 gap);
+
+    auto* request = new wxBoxSizer(wxVERTICAL);
+    auto* searchWhat = new wxBoxSizer(wxHORIZONTAL);
+    searchWhat->Add(lblPrompt_, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
+    searchWhat->Add(cboSearchWhat, 1, wxALIGN_CENTRE_VERTICAL);
+    request->Add(searchWhat, 0, wxEXPAND | wxBOTTOM, gap);
+    request->Add(options, 1, wxEXPAND);
+
+    auto* buttons = new wxBoxSizer(wxVERTICAL);
+    for (wxButton* button : {cmdSearch, cmdCancel, cmdHelp}) {
+        buttons->Add(button, 0, wxEXPAND | wxBOTTOM, gap);
+    }
+    auto* all = new wxBoxSizer(wxHORIZONTAL);
+    all->Add(request, 1, wxEXPAND | wxRIGHT, gap);
+    all->Add(buttons);
+    return all;
+}
+
+void frmSearch::PlaceControls() {
+    const auto px = [this](double units) { return units_.Pixels(units); };
+    const int gap = px(kMargin);
+    auto* labels = new wxBoxSizer(wxHORIZONTAL);
+    labels->Add(lblStatus, 1, wxALIGN_CENTRE_VERTICAL | wxLEFT, px(4));
+    labels->Add(lblCount, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, gap);
+    lblCount->SetMinSize({px(kCountWidth), -1});
+    statusArea_->SetSizer(labels);
+    statusArea_->SetMinSize({-1, lblStatus->GetCharHeight() + px(4)});
+    auto* status = new wxBoxSizer(wxHORIZONTAL);
+    status->Add(statusArea_, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
+    status->Add(cmdExpandShrink, 0, wxALIGN_CENTRE_VERTICAL);
+
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(LayoutOfControls(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
+    all->Add(status, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
+    all->AddSpacer(gap);
+    lblColHeaderBack->SetMinSize({-1, px(kHeaderHeight)});
+    all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
+    txtSearchResult->SetMinSize({-1, px(kResultHeight)});
+    all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    surface_->SetSizer(all);
+
+    const wxSize needed = all->GetMinSize();
+    const int width = std::max(px(kInnerWidth), needed.x);
+    ExpandedHeight = needed.y;
+    SetClientSize(width, ExpandedHeight);
+    surface_->SetSize(width, ExpandedHeight);
+    surface_->Layout();
+    ShrunkHeight = lblColHeaderBack->GetPosition().y + px(kShrunkMargin);
+}
+
+void frmSearch::BindEvents() {
+    LeadAccessKeyTo(*this, *lblPrompt_, *cboSearchWhat);
+    surface_->Bind(wxEVT_PAINT, &frmSearch::OnPaint, this);
+    Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
+    cboSearchWhat->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
+        OnSearchTextChanged();
+        event.Skip();
+    });
+    cboSearchWhat->Bind(wxEVT_COMBOBOX, [this](wxCommandEvent& event) {
+        OnSearchTextChanged();
+        event.Skip();
+    });
+    optSearchIn[0]->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
+        textLimit_->Set(LimitOf(values_.Header.MaxAbbrvLength));
+    });
+    optSearchIn[1]->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
+        textLimit_->Set(LimitOf(values_.Header.MaxExpansionLength));
+    });
+    cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunSearch(); });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        if (cancelStops_) {
+            AbortRequested = true;
+        } else {
+            DismissSearchWindow();
+        }
+    });
+    cmdHelp->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { messages_.Show(WildcardHelp()); });
+    cmdExpandShrink->Bind(wxEVT_BUTTON,
+                          [this](wxCommandEvent&) { ShowResultArea(!ResultAreaShown); });
+    picColHeader->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { txtSearchResult->SetFocus(); });
+    ShowAppInfoOnMenuRequest(*txtSearchResult, values_.info);
+}
+
+void frmSearch::FillHistory() {
+    std::string& list = values_.Header.SearchListText;
+    list = std::string(TrimBlanks(list));
+    for (const std::string& item : SearchListItems(list)) {
+        cboSearchWhat->Append(WxTextOfBytes(item));
+    }
+}
+
+void frmSearch::DrawColumnHeader() {
+    const wxSize size = lblColHeaderBack->GetSize();
+    picColHeader->SetSize(0, 0, size.x, size.y);
+    const int border = (txtSearchResult->GetSize().x - txtSearchResult->GetClientSize().x) / 2;
+    picColHeader->SetSecondColumn(std::max(border, 0) + kTextMarginPixels +
+                                  SetTabStop(*txtSearchResult, kTabStopDialogUnits));
+}
+
+void frmSearch::ResetStatus() {
+    lblStatus->SetLabelText(kReadyText);
+    surface_->Refresh();  // the frames
+}
+
+void frmSearch::OnPaint(wxPaintEvent& /*event*/) {
+    wxPaintDC dc(surface_);
+    const auto frame = [&dc](const wxWindow& window, int above) {
+        const wxRect area = window.GetRect();
+        Draw3DFrame(dc, {area.x - 1, area.y - above, area.width + 1, area.height + above});
+    };
+    frame(*statusArea_, 1);
+    if (ResultAreaShown) {
+        frame(*lblColHeaderBack, units_.Pixels(kHeaderFrameAbove));
+    }
+}
+
+void frmSearch::ShowSearchWindow() {
+    CenterWindow(*this, main_);
+    cboSearchWhat->SetFocus();
+    ShowModal();
+}
+
+void frmSearch::ShowResultArea(bool show) {
+    ResultAreaShown = show;
+    cmdExpandShrink->SetBitmap(show ? ShrinkPicture() : ExpandPicture());
+    const char* const tip = show ? "Hide search result" : "Show search result";
+    cmdExpandShrink->SetToolTip(tip);
+    SetNames(*cmdExpandShrink, "cmdExpandShrink", tip);
+    // What is out of sight must not be reached with the TAB key either.
+    lblColHeaderBack->Show(show);
+    txtSearchResult->Show(show);
+    const wxSize inner(GetClientSize().x, show ? ExpandedHeight : ShrunkHeight);
+    SetClientSize(inner);
+    surface_->SetSize(inner);
+    surface_->Layout();
+    surface_->Refresh();
+    CenterWindow(*this, main_);
+}
+
+void frmSearch::ShowBusyAnimation(bool on) {
+    picAnim->Run(on);
+}
+
+void frmSearch::DismissSearchWindow() {
+    cboSearchWhat->Enable();
+    cboSearchWhat->SetValue(wxEmptyString);
+    ClearResults();
+    lblStatus->SetLabelText(kReadyText);
+    cboSearchWhat->SetFocus();
+    if (IsModal()) {
+        EndModal(wxID_CANCEL);
+    } else {
+        Hide();
+    }
+    if (ResultAreaShown) {
+        ShowResultArea(false);
+    }
+}
+
+// The user's own closing only; the end of the program must not be held up.
+void frmSearch::OnClose(wxCloseEvent& event) {
+    if (!event.CanVeto()) {
+        event.Skip();
+        return;
+    }
+    event.Veto();
+    AbortRequested = true;
+    DismissSearchWindow();
+}
+
+void frmSearch::OnSearchTextChanged() {
+    cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
+    chkNextSearch->Disable();
+}
+
+SearchRequest frmSearch::Request() const {
+    SearchRequest request;
+    request.text = Utf8Text(cboSearchWhat->GetValue());
+    request.in = optSearchIn[0]->GetValue() ? SearchIn::Abbreviations : SearchIn::Expansions;
+    if (optPosition[1]->GetValue()) {
+        request.position = SearchPosition::Beginning;
+    } else if (optPosition[2]->GetValue()) {
+        request.position = SearchPosition::Ending;
+    }
+    request.matchCase = chkMatchCase->GetValue();
+    request.wholeWord = chkWholeWord->GetValue();
+    return request;
+}
+
+void frmSearch::RunSearch() {
+    const SearchRequest request = Request();
+    if (const auto refusal = RefusalOf(request)) {
+        messages_.Show(*refusal);
+        cboSearchWhat->SetFocus();
+        return;
+    }
+    PrepareForSearch();
+    const wxWeakRef<frmSearch> self(this);
+    LetPendingEventsRun();
+    const auto outcome = self ? Scan(request) : std::nullopt;
+    if (!self) {
+        return;
+    }
+    ShowBusyAnimation(false);
+    if (!outcome) {
+        lblStatus->SetLabelText(kReadyText);
+        lblCount->SetLabelText(wxEmptyString);
+    }
+    if (AbortRequested) {
+        if (IsShown()) {
+            messages_.Show({kAbortedText, kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+        }
+        lblCount->SetForegroundColour(DarkRed());
+        lblCount->SetLabelText(kAbortedText);
+    }
+    ReturnToIdle();
+    if (!outcome && IsShown()) {
+        messages_.Show(MalformedPatternMessage());
+        cboSearchWhat->SetFocus();
+    }
+}
+
+void frmSearch::PrepareForSearch() {
+    EnableInput(false);
+    ClearResults();
+    lblStatus->SetLabelText("Searching through database. Please, wait...");
+    lblCount->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
+    lblCount->SetLabelText(WxText(FoundText(0)));
+    cmdCancel->SetFocus();
+    SetCancelButton(true);
+    AbortRequested = false;
+    FoundAnything = false;
+    if (!chkNextSearch->IsEnabled() || !chkNextSearch->GetValue()) {
+        NextPosition = 0;
+    }
+    chkNextSearch->Disable();
+    AddToComboHistory(*cboSearchWhat);
+    LastSearchText = cboSearchWhat->GetValue();
+    if (!ResultAreaShown) {
+        ShowResultArea(true);
+    }
+    ShowBusyAnimation(true);
+    PaintNow(*this);
+}
+
+// Nothing if the text is malformed as a pattern, or if the window is gone.
+std::optional<SearchOutcome> frmSearch::Scan(const SearchRequest& request) {
+    const RowList& rows = *values_.AcronymList;
+    const auto finder = RecordFinder::Compile(request, rows);
+    if (!finder) {
+        return std::nullopt;
+    }
+    const wxWeakRef<frmSearch> self(this);
+    Watcher watcher(*this);
+    SearchOutcome outcome = SearchDatabase(*finder, rows, NextPosition, kMaxHits, &watcher);
+    if (!self) {
+        return std::nullopt;
+    }
+    if (outcome.limitReached) {
+        ShowBusyAnimation(false);
+        messages_.Show(HitLimitMessage());
+        NextPosition = outcome.nextPosition;
+        chkNextSearch->Enable();
+    }
+    if (IsShown()) {  // a dismissed window stays empty
+        Present(outcome);
+    }
+    return outcome;
+}
+
+void frmSearch::Present(const SearchOutcome& outcome) {
+    FoundAnything = !outcome.hits.empty();
+    if (FoundAnything) {
+        ShowSearchResult(*txtSearchResult, [&] {
+            wxString text = WxTextOfBytes(ResultText(*values_.AcronymList, outcome.hits));
+            text.Replace("\r\n", "\n");  // the toolkit makes of it what the system's boxes want
+            txtSearchResult->ChangeValue(text);
+        });
+    } else {
+        txtSearchResult->SetForegroundColour(PureRed());
+        txtSearchResult->ChangeValue(kNothingFoundText);
+    }
+    lblCount->SetLabelText(wxEmptyString);
+    lblStatus->SetLabelText(
+        WxText(NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size()))));
+}
+
+void frmSearch::ShowHits(std::int32_t hits) {
+    lblCount->SetLabelText(WxText(FoundText(hits)));
+    lblCount->Update();
+}
+
+void frmSearch::ReturnToIdle() {
+    EnableInput(true);
+    cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
+    SetCancelButton(false);
+    if (FoundAnything) {
+        txtSearchResult->SetFocus();
+    } else {
+        cboSearchWhat->SetFocus();
+    }
+}
+
+void frmSearch::EnableInput(bool enable) {
+    for (wxWindow* control : std::initializer_list<wxWindow*>{
+             cmdSearch, cmdHelp, cmdExpandShrink, cboSearchWhat, fraPosition, optPosition[0],
+             optPosition[1], optPosition[2], fraSearchIn, optSearchIn[0], optSearchIn[1],
+             chkMatchCase, chkWholeWord}) {
+        control->Enable(enable);
+    }
+}
+
+void frmSearch::SetCancelButton(bool stops) {
+    cancelStops_ = stops;
+    cmdCancel->SetBitmap(stops ? StopPicture() : CancelPicture());
+    SetNames(*cmdCancel, "cmdCancel", stops ? "Stop" : "Cancel");
+}
+
+void frmSearch::ClearResults() {
+    txtSearchResult->ChangeValue(wxEmptyString);
+    txtSearchResult->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+}
+
+}  // namespace brelex
