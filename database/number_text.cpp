@@ -51,11 +51,8 @@ std::optional<std::string> UngroupedDigits(std::string_view text, std::string_vi
     return digits;
 }
 
-}  // namespace
-
-std::string FormatGrouped(std::int32_t number, std::string_view separator) {
-    const std::string digits = std::to_string(number < 0 ? -std::int64_t{number} : number);
-    std::string text = number < 0 ? "-" : "";
+std::string Grouped(std::string_view digits, std::string_view separator) {
+    std::string text;
     for (std::size_t i = 0; i < digits.size(); ++i) {
         if (i != 0 && (digits.size() - i) % 3 == 0) {
             text += separator;
@@ -63,6 +60,34 @@ std::string FormatGrouped(std::int32_t number, std::string_view separator) {
         text.push_back(digits[i]);
     }
     return text;
+}
+
+}  // namespace
+
+std::string FormatGrouped(std::int32_t number, std::string_view separator) {
+    const std::string digits = std::to_string(number < 0 ? -std::int64_t{number} : number);
+    return (number < 0 ? "-" : "") + Grouped(digits, separator);
+}
+
+std::string FormatGrouped(double number, std::string_view separator) {
+    constexpr std::size_t kExactDigits = 15;  // of every double
+    std::array<char, 320> buffer{};           // the largest double has 309 digits
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                       std::chars_format::fixed, 0);
+    std::string digits(buffer.data(), written.ptr);
+    if (digits.size() > kExactDigits) {
+        // Once more, rounded where the exact digits end.
+        const std::size_t length = digits.size();
+        double scale = 1;
+        for (std::size_t i = kExactDigits; i < length; ++i) {
+            scale *= 10;
+        }
+        const auto shortened = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                             number / scale, std::chars_format::fixed, 0);
+        digits.assign(buffer.data(), shortened.ptr);
+        digits.append(length - kExactDigits, '0');
+    }
+    return Grouped(digits, separator);
 }
 
 std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_view separator) {

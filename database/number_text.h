@@ -12,6 +12,10 @@ namespace brelex {
 /// `separator` is UTF-8 and not empty.
 [[nodiscard]] std::string FormatGrouped(std::int32_t number, std::string_view separator);
 
+/// A whole number of any size (not negative, finite; rounded to the nearest), in groups, too. Its
+/// first 15 digits are exact, as far as the number is; those behind them are zeros.
+[[nodiscard]] std::string FormatGrouped(double number, std::string_view separator);
+
 /// `number` with one decimal and no leading zero, "#.0": 6.1 is "6.1", 0.5 is ".5". Rounds halves
 /// of its shortest decimal text up: 1.25 is "1.3". Requires a finite number.
 [[nodiscard]] std::string FormatOneDecimal(float number);

@@ -10,7 +10,7 @@ class FineTimer {
     FineTimer();
     FineTimer(const FineTimer&) = delete;
     FineTimer& operator=(const FineTimer&) = delete;
-    ~FineTimer();
+    ~FineTimer();  // NOLINT(performance-trivially-destructible): only on Linux
 };
 
 }  // namespace brelex

@@ -22,9 +22,10 @@ SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, st
                              std::int32_t limit, SearchWatcher* watcher) {
     SearchOutcome outcome;
     std::int32_t row = std::max(position, 0);
-    std::int32_t end = row;  // of the records until the next pause
     while (row < rows.RowCount() && (watcher == nullptr || !watcher->IsAborted())) {
-        end = watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
+        // Of the records until the next pause.
+        const std::int32_t end =
+            watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
         const std::int32_t hit = finder.FindNext(row, end);
         if (hit < end) {
             const auto hits = static_cast<std::int32_t>(outcome.hits.size());

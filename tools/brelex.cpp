@@ -99,6 +99,15 @@ void AddSearch(CLI::App& app, brelex::SearchOptions& options) {
     command->add_flag("--json", options.json, "An array of JSON");
 }
 
+void AddAnagram(CLI::App& app, std::string& letters, bool& json) {
+    CLI::App* const command =
+        app.add_subcommand("anagram", "Prints the entries that letters in any order give");
+    command->add_option("LETTERS", letters, "The letters of an abbreviation")
+        ->required()
+        ->type_name("");
+    command->add_flag("--json", json, "An array of JSON");
+}
+
 }  // namespace
 
 // What is thrown here beyond the parser's errors is "out of memory".
@@ -128,6 +137,9 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         ->type_name("");
     brelex::SearchOptions search;
     AddSearch(app, search);
+    std::string letters;
+    bool anagramsAsJson = false;
+    AddAnagram(app, letters, anagramsAsJson);
 
     try {
         std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
@@ -154,6 +166,10 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         {"check", [&] { return brelex::RunCheck(database, std::cout, std::cerr); }},
         {"lookup",
          [&] { return brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr); }},
+        {"anagram",
+         [&] {
+             return brelex::RunAnagram(database, letters, anagramsAsJson, std::cout, std::cerr);
+         }},
         {"search", [&] { return brelex::RunSearch(database, search, std::cout, std::cerr); }}};
     return Finished(commands.at(app.get_subcommands().front()->get_name())());
 }

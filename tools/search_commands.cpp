@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "database/windows1252.h"
+#include "search/anagram.h"
 #include "search/database_search.h"
 #include "tools/json_records.h"
 #include "tools/open_database.h"
@@ -48,6 +49,30 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
             << ", or ask for --all.\n";
     }
     return outcome.hits.empty() ? kNothingFound : kFound;
+}
+
+int RunAnagram(const std::string& database, const std::string& letters, bool json,
+               std::ostream& out, std::ostream& err) {
+    const std::u32string typed = DecodeUtf8(letters);
+    if (const Message* const refusal = AnagramRefusalOf(typed)) {
+        err << refusal->text << "\n";
+        return kFailed;
+    }
+    OpenDatabase opened;
+    if (const int failure = Load(database, opened, err); failure != kFound) {
+        return failure;
+    }
+    const RecordStore& store = opened.store;
+    const auto hits = FindAnagrams(store, AnagramLetters(typed), nullptr);
+    if (json) {
+        PrintJsonRecords(store, hits, out);
+    } else {
+        for (const std::int32_t row : hits) {
+            out << row + 1 << "\t" << Utf8OfBytes(store.RowText(row)) << "\n";
+        }
+    }
+    err << "Number of possible rearrangements: " << RearrangementsText(typed, ",") << "\n";
+    return hits.empty() ? kNothingFound : kFound;
 }
 
 }  // namespace brelex

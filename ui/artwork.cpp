@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/artwork.h"
 
+#include "embedded/kAnagramStripSvg.h"
 #include "embedded/kCancelSvg.h"
 #include "embedded/kExpandSvg.h"
 #include "embedded/kSearchStripSvg.h"
@@ -40,6 +41,10 @@ wxBitmapBundle ShrinkPicture() {
 
 FilmStrip SearchFilmStrip() {
     return StripOf(kSearchStripSvg, 11, {48, 50});
+}
+
+FilmStrip AnagramFilmStrip() {
+    return StripOf(kAnagramStripSvg, 15, {64, 50});
 }
 
 }  // namespace brelex

@@ -21,4 +21,7 @@ struct FilmStrip {
 /// The film strip of the search, 11 frames of 48 by 50.
 [[nodiscard]] FilmStrip SearchFilmStrip();
 
+/// That of the anagrams, 15 frames of 64 by 50.
+[[nodiscard]] FilmStrip AnagramFilmStrip();
+
 }  // namespace brelex

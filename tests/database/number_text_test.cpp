@@ -31,6 +31,29 @@ INSTANTIATE_TEST_SUITE_P(
                     GroupedCase{-1234, ",", "-1,234"},
                     GroupedCase{std::numeric_limits<std::int32_t>::min(), ",", "-2,147,483,648"}));
 
+struct LargeCase {
+    const char* name;
+    double number;
+    const char* text;
+};
+
+class FormatGroupedLargeTest : public testing::TestWithParam<LargeCase> {};
+
+TEST_P(FormatGroupedLargeTest, HasFifteenExactDigits) {
+    EXPECT_EQ(FormatGrouped(GetParam().number, ","), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, FormatGroupedLargeTest,
+    testing::Values(LargeCase{"Zero", 0.0, "0"}, LargeCase{"Rounded", 2.9999999999, "3"},
+                    LargeCase{"Thousands", 39916800.0, "39,916,800"},
+                    LargeCase{"FifteenDigits", 999999999999999.0, "999,999,999,999,999"},
+                    LargeCase{"TwentyFactorial", 2432902008176640000.0,
+                              "2,432,902,008,176,640,000"},
+                    LargeCase{"TwentyFiveFactorial", 15511210043330985984000000.0,
+                              "15,511,210,043,331,000,000,000,000"}),
+    CaseName());
+
 struct DecimalCase {
     float number;
     const char* text;

@@ -38,6 +38,7 @@ class RecordingWatcher final : public SearchWatcher {
 // Records of which those at multiples of `step` have an "x" in their expansions.
 FakeRows RowsWithHits(int count, int step) {
     std::vector<std::string> records;
+    records.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         records.push_back("R" + std::to_string(i) + (i % step == 0 ? "\tx" : "\ty"));
     }

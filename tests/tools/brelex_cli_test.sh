@@ -33,7 +33,7 @@ chmod +x "$brelex"
 printf 'RAM\tRandom Access Memory\nABC\tAlpha\n' > "$folder/list.tsv"
 
 expect 0 "help" "$brelex" --help;                 contains out lookup
-for command in build info dump check lookup search; do
+for command in build info dump check lookup search anagram; do
     expect 0 "help of $command" "$brelex" $command --help
 done
 expect 2 "no command" "$brelex"
@@ -67,6 +67,11 @@ expect 1 "search for a part of a word" "$brelex" search R --in abbreviations --w
 expect 1 "search for what is not there" "$brelex" search zzz;  contains err "Search text is not found"
 expect 2 "a text that may not be searched for" "$brelex" search 'a*b'
 contains err "Free use of asterisk (*) in search text is not allowed."
+expect 0 "anagram" "$brelex" anagram mra;        contains out "2	RAM	Random Access Memory"
+contains err "Number of possible rearrangements: 6"
+expect 0 "anagram as JSON" "$brelex" anagram --json mra; contains out '"recordNumber":2'
+expect 1 "anagram of what is not there" "$brelex" anagram xyz
+expect 2 "anagram of too little" "$brelex" anagram CC; contains err "Type at least 2 distinct letters"
 expect 2 "a search in no part" "$brelex" search --in titles a; contains err "titles"
 expect 2 "a search from no record" "$brelex" search --from 0 a
 expect 1 "a text beyond the code page" "$brelex" lookup '字'

@@ -123,6 +123,43 @@ TEST_F(SearchCommandTest, AtTheLimitItSaysWhereToGoOn) {
     EXPECT_EQ(err_.str(), "Number of Hits: 600\n");
 }
 
+class AnagramCommandTest : public SearchCommandTest {
+  protected:
+    int Anagram(const std::string& letters, bool json = false) {
+        out_.str("");
+        err_.str("");
+        return RunAnagram(database_, letters, json, out_, err_);
+    }
+};
+
+TEST_F(AnagramCommandTest, PrintsTheNumberedRecordsFound) {
+    EXPECT_EQ(Anagram("mra"), 0);
+    EXPECT_EQ(out_.str(), "2\tRAM\tRandom Access Memory\n");
+    EXPECT_EQ(err_.str(), "Number of possible rearrangements: 6\n");
+    EXPECT_EQ(Anagram("mra", true), 0);
+    EXPECT_EQ(out_.str(),
+              "[\n{\"recordNumber\":2,\"abbreviation\":\"RAM\",\"expansion\":\"Random Access "
+              "Memory\"}\n]\n");
+}
+
+TEST_F(AnagramCommandTest, SaysByItsCodeThatNothingIsFound) {
+    EXPECT_EQ(Anagram("xyz"), 1);
+    EXPECT_EQ(out_.str(), "");
+    EXPECT_EQ(err_.str(), "Number of possible rearrangements: 6\n");
+}
+
+TEST_F(AnagramCommandTest, RefusesLessThanTwoDistinctLetters) {
+    EXPECT_EQ(Anagram("CC"), 2);
+    EXPECT_EQ(err_.str(), "Type at least 2 distinct letters\n");
+    EXPECT_EQ(Anagram(""), 2);
+}
+
+TEST_F(AnagramCommandTest, NeedsADatabase) {
+    database_ = folder_.Text() + "nowhere.dat";
+    EXPECT_EQ(Anagram("AB"), 2);
+    EXPECT_NE(err_.str().find("cannot read"), std::string::npos);
+}
+
 TEST_F(SearchCommandTest, NeedsADatabase) {
     database_ = folder_.Text() + "nowhere.dat";
     EXPECT_EQ(Search(For("a")), 2);

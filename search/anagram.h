@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "database/message_sink.h"
+#include "database/row_list.h"
+
+namespace brelex {
+
+/// How often a character occurs in a text, in either case.
+[[nodiscard]] std::int32_t GetNumOccr(char32_t character, std::u32string_view text);
+
+/// How many of the letters A to Z occur in a text, in either case.
+[[nodiscard]] std::int32_t CountDistinctLetters(std::u32string_view text);
+
+/// n! in double precision; 1 for an n below 1, infinity from 171 on.
+[[nodiscard]] double Factorial(std::int32_t n);
+
+/// In how many different orders the characters of a text can stand, those in either case being the
+/// same: the factorial of its length by that of each character's occurrences, in double precision.
+/// 0 for an empty text. Not finite for 171 characters or more.
+[[nodiscard]] double CountRearrangements(std::u32string_view text);
+
+/// The same as text, in groups of three digits; says so if there are too many to be counted.
+[[nodiscard]] std::string RearrangementsText(std::u32string_view text, std::string_view separator);
+
+/// The message that refuses letters to search for, if there are less than 2 distinct ones.
+[[nodiscard]] const Message* AnagramRefusalOf(std::u32string_view letters);
+
+/// Tells the rearrangements of some letters.
+class AnagramLetters {
+  public:
+    explicit AnagramLetters(std::u32string_view letters);
+
+    /// Whether a text (Windows-1252 bytes) has as many characters as there are letters, and each
+    /// letter as often, in either case.
+    [[nodiscard]] bool IsAnagram(std::string_view candidate) const;
+
+    /// Whether the abbreviation of a record is one, its hyphens left out. Most records are done
+    /// with at their first character.
+    [[nodiscard]] bool IsHit(std::string_view recordText) const;
+
+  private:
+    std::size_t length_;
+    std::array<std::uint32_t, 256> occurrences_{};  // of each byte, in either case
+};
+
+/// Who follows a search for anagrams.
+class AnagramWatcher {
+  public:
+    AnagramWatcher() = default;
+    AnagramWatcher(const AnagramWatcher&) = delete;
+    AnagramWatcher& operator=(const AnagramWatcher&) = delete;
+    virtual ~AnagramWatcher() = default;
+
+    /// The entry of a row (0-based) is a hit.
+    virtual void OnHit(std::int32_t row) = 0;
+
+    /// Row 0, 100, 200, ... is done: so many percent of all, to the nearest, halves to even. The
+    /// search ends if this returns false.
+    [[nodiscard]] virtual bool OnProgress(int percent) = 0;
+};
+
+/// The rows (0-based, ascending) whose abbreviations are anagrams. `watcher` may be null.
+[[nodiscard]] std::vector<std::int32_t> FindAnagrams(const RowList& rows,
+                                                     const AnagramLetters& letters,
+                                                     AnagramWatcher* watcher);
+
+}  // namespace brelex

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "search/anagram.h"
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "database/record_text.h"
+#include "database/windows1252.h"
+#include "tests/support/fakes.h"
+#include "tests/support/named_case.h"
+
+namespace brelex {
+namespace {
+
+struct CountCase {
+    const char* name;
+    const char32_t* text;
+    std::int32_t distinct;
+    double rearrangements;
+};
+
+class LetterCountTest : public testing::TestWithParam<CountCase> {};
+
+TEST_P(LetterCountTest, CountsDistinctLettersAndRearrangements) {
+    EXPECT_EQ(CountDistinctLetters(GetParam().text), GetParam().distinct);
+    EXPECT_EQ(CountRearrangements(GetParam().text), GetParam().rearrangements);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LetterCountTest,
+    testing::Values(CountCase{"Empty", U"", 0, 0}, CountCase{"One", U"A", 1, 1},
+                    CountCase{"AllDistinct", U"CPU", 3, 6}, CountCase{"OneTwice", U"AAB", 2, 3},
+                    CountCase{"InEitherCase", U"AaB", 2, 3}, CountCase{"TheSame", U"CC", 1, 1},
+                    CountCase{"TwoTwice", U"ABAB", 2, 6}, CountCase{"DigitsDivide", U"A11", 1, 3},
+                    CountCase{"HyphensDivide", U"A--", 1, 3}, CountCase{"NoLetters", U"123", 0, 6},
+                    CountCase{"AccentsAreNoneOfTheLetters", U"\u00C9\u00E9", 0, 1},
+                    CountCase{"Long", U"ABCDEFGHIJKLM", 13, 6227020800.0}),
+    CaseName());
+
+TEST(RearrangementsText, IsGrouped) {
+    EXPECT_EQ(RearrangementsText(U"", ","), "0");
+    EXPECT_EQ(RearrangementsText(U"CPU", ","), "6");
+    EXPECT_EQ(RearrangementsText(U"ABCDEFGH", ","), "40,320");
+    EXPECT_EQ(RearrangementsText(U"ABCDEFGH", "."), "40.320");
+    // 21! has more digits than a double can tell apart.
+    EXPECT_EQ(RearrangementsText(U"ABCDEFGHIJKLMNOPQRSTU", ","), "51,090,942,171,709,400,000");
+    EXPECT_EQ(RearrangementsText(std::u32string(170, U'A'), ","), "1");
+    EXPECT_EQ(RearrangementsText(std::u32string(171, U'A'), ","), "too many to count");
+}
+
+TEST(Factorial, IsInDoublePrecision) {
+    EXPECT_EQ(Factorial(-3), 1);
+    EXPECT_EQ(Factorial(0), 1);
+    EXPECT_EQ(Factorial(5), 120);
+    EXPECT_EQ(Factorial(20), 2432902008176640000.0);
+}
+
+TEST(GetNumOccr, CountsInEitherCase) {
+    EXPECT_EQ(GetNumOccr(U'a', U"aAbA"), 3);
+    EXPECT_EQ(GetNumOccr(U'-', U"a-b-"), 2);
+    EXPECT_EQ(GetNumOccr(U'x', U"aAbA"), 0);
+    EXPECT_EQ(GetNumOccr(U'\u00E9', U"\u00C9"), 1);
+}
+
+TEST(AnagramRefusalOf, WantsTwoDistinctLetters) {
+    for (const char32_t* letters : {U"", U"A", U"CC", U"AAA", U"A1", U"12", U"aA"}) {
+        const Message* const refusal = AnagramRefusalOf(letters);
+        ASSERT_NE(refusal, nullptr);
+        EXPECT_EQ(refusal->text, "Type at least 2 distinct letters");
+        EXPECT_EQ(refusal->title, "Brevilexicon");
+        EXPECT_EQ(refusal->icon, MessageIcon::Exclamation);
+        EXPECT_EQ(refusal->buttons, MessageButtons::Ok);
+    }
+    EXPECT_EQ(AnagramRefusalOf(U"AB"), nullptr);
+    EXPECT_EQ(AnagramRefusalOf(U"A1B"), nullptr);
+}
+
+struct AnagramCase {
+    const char* name;
+    const char32_t* letters;
+    const char* record;
+    bool hit;
+};
+
+class AnagramTest : public testing::TestWithParam<AnagramCase> {};
+
+TEST_P(AnagramTest, TellsWhetherAnAbbreviationIsOne) {
+    EXPECT_EQ(AnagramLetters(GetParam().letters).IsHit(GetParam().record), GetParam().hit);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Records, AnagramTest,
+    testing::Values(AnagramCase{"AnotherOrder", U"PUC", "CPU\tx", true},
+                    AnagramCase{"TheSameOrder", U"CPU", "CPU\tx", true},
+                    AnagramCase{"HyphensAreDropped", U"PUC", "C-PU\tx", true},
+                    AnagramCase{"HyphensAtTheEnds", U"PUC", "-CPU-\tx", true},
+                    AnagramCase{"BlanksAreNot", U"PUC", "CP U\tx", false},
+                    AnagramCase{"ABlankTypedCounts", U"P UC", "CP U\tx", true},
+                    AnagramCase{"AHyphenTypedFindsNothing", U"P-UC", "C-PU\tx", false},
+                    AnagramCase{"SmallLettersInTheEntry", U"PUC", "cpu\tx", true},
+                    AnagramCase{"MixedLettersInTheEntry", U"PUC", "cPu\tx", true},
+                    AnagramCase{"SmallLettersTyped", U"puc", "CPU\tx", true},
+                    AnagramCase{"OneTooMany", U"PUC", "CPUS\tx", false},
+                    AnagramCase{"OneTooFew", U"PUC", "CP\tx", false},
+                    AnagramCase{"ALetterTooOften", U"AAB", "ABB\tx", false},
+                    AnagramCase{"DigitsCount", U"31D", "D13\tx", true},
+                    AnagramCase{"TheExpansionDoesNot", U"PUC", "X\tCPU", false},
+                    AnagramCase{"OnlyTheFirstTabEndsIt", U"PUC", "CPU\tCPU\tx", true},
+                    AnagramCase{"WithoutTabThereIsNoAbbreviation", U"PUC", "CPU", false},
+                    AnagramCase{"AnEmptyRecord", U"PUC", "", false},
+                    AnagramCase{"AccentsInEitherCase", U"\u00E9T", "T\xC9\tx", true},
+                    AnagramCase{"OutsideTheCodePage", U"\u4E2DAB", "AB?\tx", false},
+                    AnagramCase{"OutsideTheCodePageIsNotLeftOut", U"\u4E2DAB", "AB\tx", false}),
+    CaseName());
+
+// The definition, step by step.
+bool IsAnagramPlainly(const std::string& typed, std::string_view record) {
+    std::string candidate(GetAbbreviation(record));
+    std::erase(candidate, '-');
+    const std::u32string letters = DecodeUtf8(typed);
+    const std::u32string other = DecodeUtf8(candidate);
+    return candidate.size() == typed.size() &&
+           std::all_of(letters.begin(), letters.end(),
+                       [&](char32_t c) { return GetNumOccr(c, letters) == GetNumOccr(c, other); });
+}
+
+TEST(FindAnagrams, FindsWhatTheDefinitionFinds) {
+    std::mt19937 random(5);
+    const auto anyText = [&random](std::string_view letters, std::size_t below) {
+        std::string text;
+        for (auto length = random() % below; length > 0; --length) {
+            text.push_back(letters[random() % letters.size()]);
+        }
+        return text;
+    };
+    std::vector<std::string> records;
+    records.reserve(1000);
+    for (int i = 0; i < 1000; ++i) {
+        records.push_back(anyText("abAB1- ", 7) + (random() % 30 == 0 ? "" : "\tx"));
+    }
+    const FakeRows rows(records);
+    std::size_t found = 0;
+    for (int i = 0; i < 500; ++i) {
+        const std::string typed = anyText("abAB1- ", 6);
+        std::vector<std::int32_t> expected;
+        for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
+            const bool noTab = rows.RowText(row).find('\t') == std::string_view::npos;
+            if (!(noTab && typed.empty()) && IsAnagramPlainly(typed, rows.RowText(row))) {
+                expected.push_back(row);
+            }
+        }
+        ASSERT_EQ(FindAnagrams(rows, AnagramLetters(DecodeUtf8(typed)), nullptr), expected)
+            << typed;
+        found += expected.size();
+    }
+    EXPECT_GT(found, 1000U);
+}
+
+TEST(FindAnagrams, AnyOrderOfAnAbbreviationFindsIt) {
+    std::mt19937 random(9);
+    const FakeRows rows({"3GPP\ta", "ASCII\tb", "CD-ROM\tc", "I/O\td", "LISP\te", "R&D\tf",
+                         "TCP/IP\tg", "WYSIWYG\th", "cc-NUMA\ti"});
+    for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
+        std::string letters(GetAbbreviation(rows.RowText(row)));
+        std::erase(letters, '-');
+        for (int i = 0; i < 50; ++i) {
+            std::shuffle(letters.begin(), letters.end(), random);
+            EXPECT_EQ(FindAnagrams(rows, AnagramLetters(DecodeUtf8(letters)), nullptr),
+                      std::vector<std::int32_t>{row});
+        }
+    }
+}
+
+class RecordingAnagramWatcher final : public AnagramWatcher {
+  public:
+    void OnHit(std::int32_t row) override { events.push_back("hit " + std::to_string(row)); }
+
+    [[nodiscard]] bool OnProgress(int percent) override {
+        events.push_back(std::to_string(percent) + "%");
+        return --progressLeft > 0;
+    }
+
+    std::vector<std::string> events;
+    int progressLeft = 1000;
+};
+
+FakeRows CpuAmong(int count, int at) {
+    std::vector<std::string> records(static_cast<std::size_t>(count), "X\ty");
+    records.at(static_cast<std::size_t>(at)) = "CPU\tz";
+    return FakeRows(records);
+}
+
+TEST(FindAnagrams, ReportsEvery100thEntryOf250As0And40And80Percent) {
+    RecordingAnagramWatcher watcher;
+    (void)FindAnagrams(CpuAmong(250, 100), AnagramLetters(U"PUC"), &watcher);
+    EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "hit 100", "40%", "80%"}));
+}
+
+TEST(FindAnagrams, RoundsHalvesToEven) {
+    RecordingAnagramWatcher watcher;
+    (void)FindAnagrams(CpuAmong(8000, 0), AnagramLetters(U"PUC"), &watcher);
+    // 100 of 8000 are 1.25 %, 200 are 2.5 %, 600 are 7.5 %.
+    EXPECT_EQ(watcher.events[2], "1%");
+    EXPECT_EQ(watcher.events[3], "2%");
+    EXPECT_EQ(watcher.events[7], "8%");
+}
+
+TEST(FindAnagrams, EndsWhenItsWatcherSaysSo) {
+    RecordingAnagramWatcher watcher;
+    watcher.progressLeft = 2;
+    EXPECT_TRUE(FindAnagrams(CpuAmong(500, 300), AnagramLetters(U"PUC"), &watcher).empty());
+    EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "20%"}));
+}
+
+}  // namespace
+}  // namespace brelex
