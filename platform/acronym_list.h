@@ -7,6 +7,7 @@
 #include "database/row_list.h"
 #include "lookup/list_navigation.h"
 
+class wxColour;
 class wxContextMenuEvent;
 class wxPoint;
 class wxWindow;
@@ -29,6 +30,10 @@ class AcronymList {
 
     /// Shows `rows`, which must outlive the list, with none selected.
     virtual void SetRows(const RowList& rows) = 0;
+
+    /// The colour of all rows' texts.
+    virtual void SetTextColour(const wxColour& colour) = 0;
+    [[nodiscard]] virtual wxColour TextColour() const = 0;
 
     /// Selects a row; onClick is not called.
     virtual void Select(std::int32_t row) = 0;

@@ -31,7 +31,15 @@ class RowModel final : public wxDataViewVirtualListModel {
         return false;
     }
 
+    bool GetAttrByRow(unsigned /*row*/, unsigned /*column*/,
+                      wxDataViewItemAttr& attributes) const override {
+        attributes.SetColour(colour);
+        return colour.IsOk();
+    }
+
     [[nodiscard]] std::int32_t RowCount() const { return rows_ == nullptr ? 0 : rows_->RowCount(); }
+
+    wxColour colour;  // none is the theme's
 
   private:
     const RowList* rows_ = nullptr;
@@ -95,6 +103,18 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         model_->SetRows(rows);
         selected_ = -1;
         quiet_ = false;
+    }
+
+    void SetTextColour(const wxColour& colour) override {
+        // A row that is selected has colours of its own only if none is asked for.
+        const bool usual = colour == wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
+        model_->colour = usual ? wxColour() : colour;
+        Refresh();
+    }
+
+    [[nodiscard]] wxColour TextColour() const override {
+        return model_->colour.IsOk() ? model_->colour
+                                     : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
     }
 
     void Select(std::int32_t row) override {

@@ -40,6 +40,13 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         Refresh();
     }
 
+    void SetTextColour(const wxColour& colour) override {
+        wxListView::SetTextColour(colour);
+        Refresh();
+    }
+
+    [[nodiscard]] wxColour TextColour() const override { return GetTextColour(); }
+
     void Select(std::int32_t row) override {
         quiet_ = true;  // the control tells of the change before it returns
         // Or else selecting walks all rows of a virtual list (seen with Wine 8).

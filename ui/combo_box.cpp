@@ -3,7 +3,10 @@
 
 #include <algorithm>
 
+#include <wx/clipbrd.h>
 #include <wx/combobox.h>
+
+#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -11,6 +14,9 @@ ComboTextLimit::ComboTextLimit(wxComboBox& combo) : combo_(combo) {
     combo.Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
         Apply();
         event.Skip();
+    });
+    combo.Bind(wxEVT_TEXT_PASTE, [this](wxClipboardTextEvent& event) {
+        event.Skip(limit_ == 0 || !PasteWhatFits(combo_, limit_));
     });
     combo.Bind(wxEVT_COMBOBOX, [this](wxCommandEvent& event) {
         RestorePickedText();

@@ -26,6 +26,7 @@
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
+#include "ui/frmAnagram.h"
 #include "ui/frmSearch.h"
 #include "ui/frmSplash.h"
 #include "ui/main_menus.h"
@@ -105,6 +106,9 @@ class frmMain::ModalScope {
             }
             window_.IsModalOpen = false;
             window_.TrayMenuChanged();
+            if (window_.closesWhenNotModal_) {
+                window_.CallAfter([&window = window_] { window.Close(true); });
+            }
         }
     }
 
@@ -243,11 +247,12 @@ void frmMain::BindEvents() {
     LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
+    wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmMain::OnQueryEndSession, this);
     Bind(wxEVT_MENU, &frmMain::OnMenu, this, kFileItem, kMenuIdEnd);
     Bind(wxEVT_TIMER, &frmMain::OnCheckCommand, this, tmrCheckCommand.GetId());
     txtAbbrv->Bind(wxEVT_TEXT, &frmMain::OnBoxText, this);
     txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);
-    txtAbbrv->Bind(wxEVT_CHAR, &frmMain::OnBoxChar, this);
+    TypeInCapitals(*txtAbbrv, *txtAbbrv);
     txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
     txtAbbrv->Bind(wxEVT_TEXT_PASTE, &frmMain::OnBoxPaste, this);
     BindListEvents();
@@ -348,6 +353,9 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
 }
 
 void frmMain::OpenModalForm(int number) {
+    if (IsModalOpen) {
+        return;  // a window that was just closed may still have a search to end
+    }
     const ModalScope modal(*this);
     static constexpr std::array kNames = {
         "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
@@ -357,7 +365,14 @@ void frmMain::OpenModalForm(int number) {
             search_ = new frmSearch(this, values_);
         }
         search_->ShowSearchWindow();
-    } else if (number > 0 && number < static_cast<int>(kNames.size())) {
+    } else if (number == 1) {
+        if (anagram_ == nullptr) {
+            anagram_ = new frmAnagram(this, values_, [this](std::int32_t recordNumber) {
+                GoToRecordNumber(recordNumber);
+            });
+        }
+        anagram_->ShowAnagramWindow();
+    } else if (number > 1 && number < static_cast<int>(kNames.size())) {
         SayNotYet(kNames.at(static_cast<std::size_t>(number)));
     }
 }
@@ -451,8 +466,14 @@ void frmMain::OnMenu(wxCommandEvent& event) {
 }
 
 void frmMain::OnClose(wxCloseEvent& event) {
-    if (IsModalOpen && event.CanVeto()) {
-        event.Veto();  // the modal window lives on the stack of whoever shows it
+    // The modal window lives on the stack of whoever shows it.
+    if (IsModalOpen) {
+        if (event.CanVeto()) {
+            event.Veto();
+        } else {
+            closesWhenNotModal_ = true;
+            EndModalWindows();
+        }
         return;
     }
     tmrCheckCommand.Stop();
@@ -460,6 +481,20 @@ void frmMain::OnClose(wxCloseEvent& event) {
     RemoveTrayIcon(trayIcon_);
     Destroy();
     wxWakeUpIdle();  // which destroys; what closed the window may not be an event of the toolkit's
+}
+
+// A modal window keeps the main window from closing, but not the user from logging off: nothing is
+// lost, and the system ends the process.
+void frmMain::OnQueryEndSession(wxCloseEvent& event) {
+    event.Skip(!IsModalOpen);
+}
+
+void frmMain::EndModalWindows() {
+    for (wxWindow* window : {static_cast<wxWindow*>(search_), static_cast<wxWindow*>(anagram_)}) {
+        if (window != nullptr && window->IsShown()) {
+            window->Close(true);
+        }
+    }
 }
 
 // One edit is one change: overtyping a selection deletes and inserts, and on GTK that is reported
@@ -490,15 +525,6 @@ void frmMain::OnBoxKeyDown(wxKeyEvent& event) {
     }
 }
 
-void frmMain::OnBoxChar(wxKeyEvent& event) {
-    const wxChar typed = event.GetUnicodeKey();
-    if (typed >= 'a' && typed <= 'z' && !event.HasModifiers()) {
-        txtAbbrv->WriteText(wxString(static_cast<wxChar>(typed - 'a' + 'A')));
-        return;
-    }
-    event.Skip();
-}
-
 void frmMain::OnBoxFocus(wxFocusEvent& event) {
     if (!std::exchange(caretStays_, false)) {
         // After the toolkit has placed the caret where the mouse was pressed.
@@ -512,18 +538,8 @@ void frmMain::SetMaxBoxLength(std::size_t length) {
     txtAbbrv->SetMaxLength(static_cast<unsigned long>(length));
 }
 
-// Text that is too long is cut; GTK would delete the selection and then refuse all of it.
 void frmMain::OnBoxPaste(wxClipboardTextEvent& event) {
-    wxTextDataObject text;
-    const wxClipboardLocker clipboard;
-    if (!clipboard || !wxTheClipboard->GetData(text)) {
-        event.Skip();
-        return;
-    }
-    const std::size_t kept =
-        txtAbbrv->GetValue().length() - txtAbbrv->GetStringSelection().length();
-    const std::size_t room = maxBoxLength_ > kept ? maxBoxLength_ - kept : 0;
-    txtAbbrv->WriteText(text.GetText().BeforeFirst('\n').Left(room));
+    event.Skip(!PasteWhatFits(*txtAbbrv, maxBoxLength_));
 }
 
 void frmMain::OnDoubleClick(wxMouseEvent& event) {

@@ -28,6 +28,7 @@ class wxTextCtrl;
 
 namespace brelex {
 
+class frmAnagram;
 class frmSearch;
 class frmSplash;
 
@@ -88,9 +89,10 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void OnPaint(wxPaintEvent& event);
     void OnMenu(wxCommandEvent& event);
     void OnClose(wxCloseEvent& event);
+    void OnQueryEndSession(wxCloseEvent& event);
+    void EndModalWindows();
     void OnBoxText(wxCommandEvent& event);
     void OnBoxKeyDown(wxKeyEvent& event);
-    void OnBoxChar(wxKeyEvent& event);
     void OnBoxFocus(wxFocusEvent& event);
     void OnBoxPaste(wxClipboardTextEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
@@ -137,11 +139,13 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::vector<wxRect> frames_;  // the sunken frames that OnPaint draws
     bool boxChangePending_ = false;
     bool isListMenuOpen_ = false;
+    bool closesWhenNotModal_ = false;
     bool caretStays_ = false;  // getting the focus next time selects nothing
     std::size_t maxBoxLength_ = 0;
     std::function<bool(bool)> setRunAtStartup_;
     std::optional<HoverHints> hints_;
-    frmSearch* search_ = nullptr;  // made when it is first opened
+    frmSearch* search_ = nullptr;  // made when they are first opened
+    frmAnagram* anagram_ = nullptr;
     TrayBehaviour trayBehaviour_;
     std::unique_ptr<TrayIcon> trayIcon_;
     std::unique_ptr<ActivationHotKey> hotKey_;

@@ -18,7 +18,6 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/utils.h>
-#include <wx/weakref.h>
 
 #include "platform/accessible_name.h"
 #include "platform/fine_timer.h"
@@ -79,13 +78,13 @@ void ShowSearchResult(wxTextCtrl& box, const std::function<void()>& assign) {
     }
 }
 
-// Shows how far a search is and lets events run meanwhile, which may even destroy the window.
+// Shows how far a search is and lets events run meanwhile, which may hide the window.
 class frmSearch::Watcher final : public SearchWatcher {
   public:
-    explicit Watcher(frmSearch& window) : window_(&window) {}
+    explicit Watcher(frmSearch& window) : window_(window) {}
 
     void OnHit(std::int32_t hits) override {
-        window_->ShowHits(hits);
+        window_.ShowHits(hits);
         LetPendingEventsRun();
     }
 
@@ -94,10 +93,10 @@ class frmSearch::Watcher final : public SearchWatcher {
         wxMilliSleep(kPauseMs);
     }
 
-    [[nodiscard]] bool IsAborted() const override { return !window_ || window_->AbortRequested; }
+    [[nodiscard]] bool IsAborted() const override { return window_.AbortRequested; }
 
   private:
-    wxWeakRef<frmSearch> window_;
+    frmSearch& window_;
     FineTimer fineTimer_;
 };
 
@@ -373,15 +372,16 @@ void frmSearch::DismissSearchWindow() {
     }
 }
 
-// The user's own closing only; the end of the program must not be held up.
+// The user's closing hides the window. The end of the program ends a search and lets go of the
+// window, which goes with the main window.
 void frmSearch::OnClose(wxCloseEvent& event) {
-    if (!event.CanVeto()) {
-        event.Skip();
-        return;
-    }
-    event.Veto();
     AbortRequested = true;
-    DismissSearchWindow();
+    if (event.CanVeto()) {
+        event.Veto();
+        DismissSearchWindow();
+    } else if (IsModal()) {
+        EndModal(wxID_CANCEL);
+    }
 }
 
 void frmSearch::OnSearchTextChanged() {
@@ -411,12 +411,8 @@ void frmSearch::RunSearch() {
         return;
     }
     PrepareForSearch();
-    const wxWeakRef<frmSearch> self(this);
     LetPendingEventsRun();
-    const auto outcome = self ? Scan(request) : std::nullopt;
-    if (!self) {
-        return;
-    }
+    const auto outcome = Scan(request);
     ShowBusyAnimation(false);
     if (!outcome) {
         lblStatus->SetLabelText(kReadyText);
@@ -459,20 +455,16 @@ void frmSearch::PrepareForSearch() {
     PaintNow(*this);
 }
 
-// Nothing if the text is malformed as a pattern, or if the window is gone.
+// Nothing if the text is malformed as a pattern.
 std::optional<SearchOutcome> frmSearch::Scan(const SearchRequest& request) {
     const RowList& rows = *values_.AcronymList;
     const auto finder = RecordFinder::Compile(request, rows);
     if (!finder) {
         return std::nullopt;
     }
-    const wxWeakRef<frmSearch> self(this);
     Watcher watcher(*this);
-    SearchOutcome outcome = SearchDatabase(*finder, rows, NextPosition, kMaxHits, &watcher);
-    if (!self) {
-        return std::nullopt;
-    }
-    if (outcome.limitReached) {
+    const SearchOutcome outcome = SearchDatabase(*finder, rows, NextPosition, kMaxHits, &watcher);
+    if (outcome.limitReached && IsShown()) {
         ShowBusyAnimation(false);
         messages_.Show(HitLimitMessage());
         NextPosition = outcome.nextPosition;
@@ -510,6 +502,9 @@ void frmSearch::ReturnToIdle() {
     EnableInput(true);
     cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
     SetCancelButton(false);
+    if (!IsShown()) {
+        return;  // a hidden window must not take the keyboard
+    }
     if (FoundAnything) {
         txtSearchResult->SetFocus();
     } else {

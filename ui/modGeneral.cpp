@@ -57,6 +57,38 @@ void AddToComboHistory(wxComboBox& combo) {
     combo.ChangeValue(text);  // taking the item away may have emptied the box
 }
 
+void SelectAllText(wxTextEntry& control) {
+    control.SelectAll();
+}
+
+void TypeInCapitals(wxWindow& window, wxTextEntry& entry) {
+    window.Bind(wxEVT_CHAR, [&entry](wxKeyEvent& event) {
+        const wxChar typed = event.GetUnicodeKey();
+        if (typed >= 'a' && typed <= 'z' && !event.HasModifiers()) {
+            entry.WriteText(wxString(static_cast<wxChar>(typed - 'a' + 'A')));
+        } else {
+            event.Skip();
+        }
+    });
+}
+
+bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
+    wxTextDataObject text;
+    {
+        const wxClipboardLocker clipboard;
+        if (!clipboard || !wxTheClipboard->GetData(text)) {
+            return false;
+        }
+    }
+    long from = 0;
+    long to = 0;
+    entry.GetSelection(&from, &to);
+    const std::size_t kept = entry.GetValue().length() - static_cast<std::size_t>(to - from);
+    const std::size_t room = maxLength > kept ? maxLength - kept : 0;
+    entry.WriteText(text.GetText().BeforeFirst('\n').Left(room));
+    return true;
+}
+
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     const bool onScreen = main.IsIconized() || !main.IsShown();
     const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : main.GetScreenRect();

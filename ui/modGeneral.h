@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "database/program_values.h"
@@ -10,6 +11,7 @@ class wxDC;
 class wxRect;
 class wxStaticText;
 class wxTextCtrl;
+class wxTextEntry;
 class wxTopLevelWindow;
 class wxWindow;
 
@@ -29,6 +31,18 @@ void CopyEntryToClipboard(std::string_view recordText);
 
 /// Makes the text of a combo box the first item of its list, and removes what equals it there.
 void AddToComboHistory(wxComboBox& combo);
+
+/// Selects all text of a control.
+void SelectAllText(wxTextEntry& control);
+
+/// Has small letters that are typed into a control become capitals. Other characters, and what is
+/// pasted, stay as they are. `window` and `entry` are the same control.
+void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
+
+/// Pastes the clipboard's text over the selection of a control, of its first line what fits within
+/// `maxLength` characters. GTK by itself would delete the selection and then refuse all of it.
+/// Returns false if the clipboard has no text.
+[[nodiscard]] bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength);
 
 /// Centres a window over the main window, or on the screen if that one is minimised or hidden.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);

@@ -10,7 +10,16 @@ wxString WxText(std::string_view utf8) {
 }
 
 std::string Utf8Text(const wxString& text) {
-    const wxScopedCharBuffer utf8 = text.utf8_str();
+    wxScopedCharBuffer utf8 = text.utf8_str();
+    if (utf8.length() == 0 && !text.empty()) {
+        // Half of a surrogate pair, which an edit control may leave behind, spoils it all.
+        wxString sound;
+        for (const wxUniChar character : text) {
+            const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
+            sound += isHalf ? wxUniChar(0xFFFD) : character;
+        }
+        utf8 = sound.utf8_str();
+    }
     return {utf8.data(), utf8.length()};
 }
 

@@ -593,8 +593,8 @@ TEST_F(FrmMainLayout, TheMenusHaveTheirSeparators) {
 }
 
 TEST_F(FrmMainLayout, ItemsOfLaterVersionsSaySo) {
-    for (const int id : {kFileItem, kFileItem + 1, kSearchItem + 1, kHelpItem, kHelpItem + 2,
-                         kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
+    for (const int id : {kFileItem, kFileItem + 1, kHelpItem, kHelpItem + 2, kHelpItem + 3,
+                         kHelpItem + 5, kHelpItem + 6}) {
         wxCommandEvent command(wxEVT_MENU, id);
         wxTEST_DIALOG(window_->ProcessWindowEvent(command), wxExpectModal<wxMessageDialog>(wxOK));
     }

@@ -2,6 +2,7 @@
 #include "ui/frmSearch.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -9,8 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/app.h>
+#include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
+#include <wx/modalhook.h>
+#include <wx/msgdlg.h>
 #include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
@@ -19,8 +24,10 @@
 
 #include "database/database_header.h"
 #include "database/szdd.h"
+#include "search/wildcard_help.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/artwork.h"
 #include "ui/busy_animation.h"
 #include "ui/modGeneral.h"
 #include "ui/wx_text.h"
@@ -119,6 +126,34 @@ class SearchWindowTest : public MainWindowTest {
         } else {
             user_.Char(c);
         }
+    }
+
+    [[nodiscard]] bool HasFocus(const char* name) const {
+        const wxWindow* const focus = wxWindow::FindFocus();
+        return focus != nullptr && (focus == &In(name) || focus->GetParent() == &In(name));
+    }
+
+    // Whether two pictures of a button are the same.
+    [[nodiscard]] static bool SamePictures(const wxBitmap& one, const wxBitmap& other) {
+        const wxImage a = one.ConvertToImage();
+        const wxImage b = other.ConvertToImage();
+        return a.GetSize() == b.GetSize() &&
+               std::memcmp(a.GetData(), b.GetData(),
+                           static_cast<std::size_t>(a.GetWidth() * a.GetHeight() * 3)) == 0;
+    }
+
+    [[nodiscard]] bool Shows(const char* button, const wxBitmapBundle& picture) const {
+        return SamePictures(In<wxButton>(button).GetBitmap(), picture.GetBitmapFor(&In(button)));
+    }
+
+    void ExpectIdle() const {
+        for (const char* name : {"cboSearchWhat", "cmdSearch", "cmdCancel", "cmdHelp",
+                                 "cmdExpandShrink", "fraPosition", "optPosition0", "fraSearchIn",
+                                 "optSearchIn1", "chkMatchCase", "chkWholeWord"}) {
+            EXPECT_TRUE(IsEnabled(name)) << name;
+        }
+        EXPECT_TRUE(Shows("cmdCancel", CancelPicture()));
+        EXPECT_FALSE(IsSearching());
     }
 
     void Click(const char* name) {
@@ -241,8 +276,7 @@ TEST_F(SearchWindowTest, ShowsTheHitsInTwoColumns) {
         EXPECT_TRUE(search_->ResultAreaShown);
         EXPECT_EQ(search_->GetClientSize().y, search_->ExpandedHeight);
         EXPECT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &In("txtSearchResult"); }));
-        EXPECT_FALSE(IsSearching());
-        EXPECT_TRUE(IsEnabled("cmdSearch"));
+        ExpectIdle();
     });
 }
 
@@ -367,9 +401,11 @@ TEST_P(RefusedSearch, ShowsItsMessageAndChangesNothing) {
             Click(GetParam().option);
         }
         TypeSearchText(GetParam().text);
-        user_.Char(WXK_RETURN);
+        Click("cmdSearch");
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        EXPECT_TRUE(WaitFor([&] { return HasFocus("cboSearchWhat"); }));
         Settle(50);
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_NONE);
         EXPECT_EQ(boxes.titles[0], GetParam().title);
         EXPECT_EQ(boxes.texts[0].rfind(GetParam().beginning, 0), 0U) << boxes.texts[0];
         EXPECT_EQ(Label("lblStatus"), "Ready");
@@ -401,11 +437,8 @@ TEST_F(SearchWindowTest, AMalformedPatternEndsTheSearchWithAMessage) {
         EXPECT_EQ(boxes.texts[0].rfind("The pattern string is invalid. Modify", 0), 0U);
         EXPECT_EQ(Label("lblStatus"), "Ready");
         EXPECT_EQ(Label("lblCount"), "");
-        EXPECT_FALSE(IsSearching());
-        for (const char* name : {"cboSearchWhat", "cmdSearch", "cmdHelp", "cmdExpandShrink",
-                                 "fraPosition", "fraSearchIn", "chkMatchCase", "chkWholeWord"}) {
-            EXPECT_TRUE(IsEnabled(name)) << name;
-        }
+        EXPECT_TRUE(HasFocus("cboSearchWhat"));
+        ExpectIdle();
     });
 }
 
@@ -471,6 +504,9 @@ TEST_F(LongSearch, ShowsThatItIsBusyAndTakesNoInputButStop) {
                 EXPECT_FALSE(IsEnabled(name)) << name;
             }
             EXPECT_TRUE(IsEnabled("cmdCancel"));
+            EXPECT_TRUE(Shows("cmdCancel", StopPicture()));
+            EXPECT_TRUE(In<BusyAnimation>("picAnim").tmrAnimation.IsRunning());
+            EXPECT_EQ(In<BusyAnimation>("picAnim").tmrAnimation.GetInterval(), 120);
             EXPECT_EQ(wxWindow::FindFocus(), &In("cmdCancel"));
             EXPECT_EQ(Label("lblStatus"), "Searching through database. Please, wait...");
             EXPECT_EQ(Label("lblCount").rfind("Found ", 0), 0U);
@@ -511,7 +547,8 @@ TEST_F(LongSearch, StopShowsTheHitsSoFar) {
         const auto hits = In<wxTextCtrl>("txtSearchResult").GetNumberOfLines() - 1;
         EXPECT_GT(hits, 0);
         EXPECT_EQ(Label("lblStatus"), "Number of Hits: " + std::to_string(hits));
-        EXPECT_TRUE(IsEnabled("cmdSearch"));
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_INFORMATION);
+        ExpectIdle();
         EXPECT_EQ(search_->NextPosition, 0);
     });
 }
@@ -534,7 +571,9 @@ TEST_F(LongSearch, ClosingTheWindowEndsItWithoutABox) {
     });
     EXPECT_TRUE(boxes.texts.empty());
     EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_TRUE(WaitFor([&] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); }));
     InSearchWindow([&] {
+        EXPECT_EQ(In("lblCount").GetForegroundColour(), kDarkRed);
         EXPECT_EQ(SearchText(), "");
         EXPECT_EQ(Result(), "");
         EXPECT_EQ(Label("lblStatus"), "Ready");
@@ -544,6 +583,58 @@ TEST_F(LongSearch, ClosingTheWindowEndsItWithoutABox) {
         EXPECT_FALSE(IsEnabled("cmdSearch"));
         Search("99999");
         EXPECT_EQ(Label("lblCount"), "");
+        EXPECT_EQ(In("lblCount").GetForegroundColour(),
+                  wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
+        ExpectIdle();
+    });
+}
+
+TEST_F(LongSearch, CannotBeStartedAgainBeforeItHasEnded) {
+    InSearchWindow([&] {
+        bool closed = false;
+        wxTimer close;
+        close.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+            if (!closed && IsSearching()) {
+                closed = true;
+                search_->Close();
+                window_->OpenModalForm(0);  // as a key pressed at once would
+                EXPECT_FALSE(search_->IsShown());
+            }
+        });
+        close.Start(50);
+        TypeSearchText("9999");
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return closed && !IsSearching(); }, 8000));
+    });
+}
+
+TEST_F(LongSearch, EndsWithTheProgram) {
+    frmMain* const window = window_;
+    bool closed = false;
+    wxTimer close;
+    close.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+        if (!closed && IsSearching()) {
+            closed = true;
+            window->Close(true);
+        }
+    });
+    InSearchWindow([&] {
+        close.Start(50);
+        TypeSearchText("9999");
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return closed && !search_->IsShown(); }, 8000));
+    });
+    window_ = nullptr;
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
+TEST_F(SearchWindowTest, DoesNotHoldUpALogOff) {
+    InSearchWindow([&] {
+        wxCloseEvent question(wxEVT_QUERY_END_SESSION);
+        question.SetCanVeto(true);
+        wxTheApp->ProcessEvent(question);
+        EXPECT_FALSE(question.GetVeto());
+        EXPECT_TRUE(search_->IsShown());
     });
 }
 
@@ -588,6 +679,85 @@ TEST_F(LimitedSearch, StopsAt500HitsAndGoesOnFromTheNext) {
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 3 && !IsSearching(); }));
         Settle(50);
         EXPECT_EQ(FirstLine(), first);
+    });
+}
+
+// Looks at the window while the box of the limit is up.
+class AtTheLimit final : public wxModalDialogHook {
+  public:
+    explicit AtTheLimit(std::function<void()> look) : look_(std::move(look)) { Register(); }
+
+  protected:
+    int Enter(wxDialog* dialog) override {
+        if (dynamic_cast<wxMessageDialog*>(dialog) == nullptr) {
+            return wxID_NONE;
+        }
+        look_();
+        return wxID_OK;
+    }
+
+  private:
+    std::function<void()> look_;
+};
+
+TEST_F(LimitedSearch, SaysSoBeforeItShowsTheHits) {
+    InSearchWindow([&] {
+        int looks = 0;
+        const AtTheLimit hook([&] {
+            ++looks;
+            EXPECT_FALSE(IsSearching());
+            EXPECT_FALSE(IsEnabled("chkNextSearch"));
+            EXPECT_EQ(Result(), "");
+            EXPECT_EQ(search_->NextPosition, 0);
+            EXPECT_EQ(Label("lblCount"), "Found 500");
+        });
+        Search("?");
+        EXPECT_EQ(looks, 1);
+    });
+}
+
+TEST_F(LimitedSearch, TheOtherOptionsKeepThePosition) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("?");
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_INFORMATION);
+        Click("chkNextSearch");
+        Click("chkMatchCase");
+        Click("optPosition1");
+        Click("optSearchIn0");
+        ASSERT_TRUE(IsEnabled("chkNextSearch"));
+        Click("cmdSearch");
+        ASSERT_TRUE(WaitFor([&] { return search_->NextPosition == 1000 && !IsSearching(); }));
+        Settle(50);
+        EXPECT_EQ(FirstLine(), startUp_->Values().AcronymList->RowText(500));
+    });
+}
+
+TEST_F(LimitedSearch, DismissingTheWindowKeepsThePositionButNotTheBox) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("?");
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !search_->IsShown(); }));
+    });
+    InSearchWindow([&] {
+        EXPECT_EQ(search_->NextPosition, 500);
+        EXPECT_FALSE(IsEnabled("chkNextSearch"));
+    });
+}
+
+TEST_F(LimitedSearch, AnItemOfTheHistoryForgetsThePosition) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("?");
+        ASSERT_TRUE(IsEnabled("chkNextSearch"));
+        FocusSearchText();
+        user_.Char(WXK_DOWN, wxMOD_ALT);
+        Settle(200);
+        user_.Char(WXK_DOWN);
+        Settle(100);
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return !IsEnabled("chkNextSearch"); }));
     });
 }
 
@@ -670,7 +840,9 @@ TEST_F(SearchWindowTest, HelpsOnWildcards) {
         const MessageBoxes boxes;
         Click("cmdHelp");
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
-        EXPECT_EQ(boxes.titles[0], "Help on Wildcards");
+        EXPECT_EQ(boxes.titles[0], WildcardHelp().title);
+        EXPECT_EQ(boxes.texts[0], WildcardHelp().text);
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_NONE);
     });
 }
 
@@ -734,6 +906,15 @@ TEST_F(SearchWindowTest, OverAHiddenMainWindowItStandsInTheMiddleOfTheScreen) {
         EXPECT_EQ(Label("lblStatus"), "Number of Hits: 2");
     });
     window_->Show();
+}
+
+TEST_F(SearchWindowTest, OverAMinimisedMainWindowItStandsInTheMiddleOfTheScreen) {
+    window_->Iconize();
+    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    wxFrame other(nullptr, wxID_ANY, "Another window", {5, 5}, {300, 200});
+    CenterWindow(other, *window_);
+    ExpectSameMiddle(other.GetScreenRect(), wxRect(wxGetDisplaySize()));
+    window_->Restore();
 }
 
 TEST_F(SearchWindowTest, ABoxThatCannotShowItsResultSaysWhy) {

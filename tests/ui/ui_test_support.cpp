@@ -62,6 +62,7 @@ int MessageBoxes::Enter(wxDialog* dialog) {
     }
     texts.push_back(Utf8Text(box->GetMessage()));
     titles.push_back(Utf8Text(box->GetTitle()));
+    styles.push_back(box->GetMessageDialogStyle());
     return wxID_OK;
 }
 

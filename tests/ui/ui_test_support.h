@@ -51,6 +51,7 @@ class MessageBoxes final : public wxModalDialogHook {
 
     std::vector<std::string> texts;
     std::vector<std::string> titles;
+    std::vector<long> styles;  ///< buttons and icon, as given to wxMessageDialog
 
   protected:
     int Enter(wxDialog* dialog) override;
