@@ -77,7 +77,9 @@ AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.si
     for (std::size_t byte = 0; byte < occurrences_.size(); ++byte) {
         const char32_t character = CharacterOfByte(static_cast<unsigned char>(byte));
         occurrences_.at(byte) = static_cast<std::uint32_t>(GetNumOccr(character, letters));
+        mayOccur_.at(byte) = occurrences_.at(byte) > 0 || character == U'-';
     }
+    mayOccur_.at('\t') = false;  // it ends the abbreviation, whatever was typed
 }
 
 bool AnagramLetters::IsAnagram(std::string_view candidate) const {
@@ -91,18 +93,12 @@ bool AnagramLetters::IsAnagram(std::string_view candidate) const {
 }
 
 bool AnagramLetters::IsHit(std::string_view recordText) const {
-    std::size_t characters = 0;
     std::size_t end = 0;
-    for (; end < recordText.size() && recordText[end] != '\t'; ++end) {
-        if (recordText[end] != '-') {
-            ++characters;
-            if (characters > length_ ||
-                occurrences_[static_cast<unsigned char>(recordText[end])] == 0) {
-                return false;
-            }
-        }
+    while (end < recordText.size() && mayOccur_[static_cast<unsigned char>(recordText[end])]) {
+        ++end;
     }
-    if (characters != length_ || end == recordText.size()) {
+    // Shorter ones need no look, and longer ones only for their hyphens.
+    if (end == recordText.size() || recordText[end] != '\t' || end < length_) {
         return false;
     }
     std::string candidate(recordText.substr(0, end));

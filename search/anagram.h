@@ -49,6 +49,7 @@ class AnagramLetters {
   private:
     std::size_t length_;
     std::array<std::uint32_t, 256> occurrences_{};  // of each byte, in either case
+    std::array<bool, 256> mayOccur_{};  // in the abbreviation of a hit, as a letter or a hyphen
 };
 
 /// Who follows a search for anagrams.

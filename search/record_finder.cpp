@@ -35,7 +35,7 @@ std::string SmallLettersOfBytes(std::string_view bytes) {
 // Pieces from all over the rows.
 std::string Sample(const RowList& rows) {
     constexpr std::size_t kPieces = 16;
-    constexpr std::size_t kPieceBytes = 256;
+    constexpr std::size_t kPieceBytes = 128;
     const std::string_view all = rows.TextOfRows(0, rows.RowCount());
     std::string sample;
     for (std::size_t i = 0; i < kPieces; ++i) {

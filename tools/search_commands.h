@@ -24,9 +24,9 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
               std::ostream& err);
 
 /// Searches a database for entries whose abbreviations are anagrams of `letters` (UTF-8). Prints a
-/// line for each: its number (1-based), abbreviation and expansion, parted by TABs; and on `err` how
-/// many rearrangements the letters have. Returns 0, 1 if there are none, 2 if the file cannot be
-/// loaded or the letters are refused, with the reason on `err`.
+/// line for each: its number (1-based), abbreviation and expansion, parted by TABs; and on `err`
+/// how many rearrangements the letters have. Returns 0, 1 if there are none, 2 if the file cannot
+/// be loaded or the letters are refused, with the reason on `err`.
 int RunAnagram(const std::string& database, const std::string& letters, bool json,
                std::ostream& out, std::ostream& err);
 

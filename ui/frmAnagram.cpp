@@ -157,7 +157,8 @@ void frmAnagram::PlaceControls() {
     const int gap = px(kMargin);
     wxSizer* const letters = LayoutOfLetters();
     const int width = std::max(px(kInnerWidth), letters->GetMinSize().x + 2 * gap);
-    lblOverview->Wrap(width - 2 * gap);
+    lblOverview->Wrap(width -
+                      3 * gap);  // measured text is a little wider when drawn (seen with Wine)
     auto* progress = new wxBoxSizer(wxHORIZONTAL);
     progress->Add(picAnim, 0, wxRIGHT | wxRESERVE_SPACE_EVEN_IF_HIDDEN, gap);
     progress->AddStretchSpacer();

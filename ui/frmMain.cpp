@@ -485,6 +485,7 @@ void frmMain::OnClose(wxCloseEvent& event) {
 
 // A modal window keeps the main window from closing, but not the user from logging off: nothing is
 // lost, and the system ends the process.
+// NOLINTNEXTLINE(readability-make-member-function-const): the toolkit binds no const methods
 void frmMain::OnQueryEndSession(wxCloseEvent& event) {
     event.Skip(!IsModalOpen);
 }

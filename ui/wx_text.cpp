@@ -10,17 +10,17 @@ wxString WxText(std::string_view utf8) {
 }
 
 std::string Utf8Text(const wxString& text) {
-    wxScopedCharBuffer utf8 = text.utf8_str();
-    if (utf8.length() == 0 && !text.empty()) {
-        // Half of a surrogate pair, which an edit control may leave behind, spoils it all.
-        wxString sound;
-        for (const wxUniChar character : text) {
-            const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
-            sound += isHalf ? wxUniChar(0xFFFD) : character;
-        }
-        utf8 = sound.utf8_str();
+    const wxScopedCharBuffer utf8 = text.utf8_str();
+    if (utf8.length() > 0 || text.empty()) {
+        return {utf8.data(), utf8.length()};
     }
-    return {utf8.data(), utf8.length()};
+    // Half of a surrogate pair, which an edit control may leave behind, spoils it all.
+    wxString sound;
+    for (const wxUniChar character : text) {
+        const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
+        sound += isHalf ? wxUniChar(0xFFFD) : character;
+    }
+    return sound.utf8_string();
 }
 
 wxString WxTextOfBytes(std::string_view bytes) {

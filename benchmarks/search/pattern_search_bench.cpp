@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <map>
 #include <memory>
 #include <string>
@@ -91,6 +93,32 @@ void BM_Pcre2(benchmark::State& state) {
     state.counters["hits"] = static_cast<double>(hits);
 }
 
+// A program that searches the entries as TSV for a literal, in a process of its own. With no
+// records it shows what starting it takes.
+void BM_Program(benchmark::State& state, const std::string& program) {
+    const PatternCase& searched = kCases[state.range(1)];
+    const auto path = std::filesystem::temp_directory_path() / "brelex_search_bench.tsv";
+    std::ofstream file(path, std::ios::binary);
+    if (state.range(0) > 0) {
+        const RecordStore& store = StoreOf(state.range(0));
+        for (std::int32_t row = 0; row < store.RowCount(); ++row) {
+            file << store.RowText(row) << '\n';
+        }
+    }
+    file.close();
+    // Not to /dev/null, for which grep ends at the first hit.
+    const std::string command = program + " -c '" + searched.text + "' '" + path.string() + "' >'" +
+                                path.string() + ".out'";
+    for (auto _ : state) {
+        if (std::system(command.c_str()) > 256) {  // 256 is an exit with 1: nothing found
+            std::abort();
+        }
+    }
+    std::filesystem::remove(path);
+    std::filesystem::remove(path.string() + ".out");
+    state.SetLabel(searched.name);
+}
+
 void BM_First500(benchmark::State& state) {
     const RecordStore& store = StoreOf(state.range(0));
     SearchRequest request;
@@ -110,6 +138,14 @@ BENCHMARK(BM_Search)
 BENCHMARK(BM_Pcre2)
     ->ArgsProduct({{kRealSize, kLargeSize}, {0, 1, 2, 3, 4, 5, 6}})
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_Program, rg, std::string("rg -i -j1"))
+    ->ArgsProduct({{0, kRealSize, kLargeSize}, {0, 1}})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(BM_Program, grep, std::string("grep -i"))
+    ->ArgsProduct({{0, kRealSize, kLargeSize}, {0, 1}})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime();
 BENCHMARK(BM_First500)->Arg(kRealSize)->Arg(kLargeSize)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -13,7 +13,10 @@
 
 #include <wx/textctrl.h>
 
+#include <gtk/gtk.h>
+
 #include "platform/modSysTray.h"
+#include "platform/text_columns.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/app_icon.h"
 
@@ -364,6 +367,24 @@ TEST_F(StatusNotifierItem, ItsExitClosesTheWindow) {
     host_.Choose("Exit", 2);  // as a double click does
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
     window_ = nullptr;
+}
+
+TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {
+    auto* const box = new wxTextCtrl(window_, wxID_ANY, wxEmptyString, wxDefaultPosition, {300, 80},
+                                     wxTE_MULTILINE | wxTE_DONTWRAP);
+    SetSideMargins(*box, 5);
+    const int stop = SetTabStop(*box, 88);
+    GtkTextView* const view = GTK_TEXT_VIEW(gtk_bin_get_child(GTK_BIN(box->GetHandle())));
+    EXPECT_EQ(gtk_text_view_get_left_margin(view), 5);
+    EXPECT_EQ(gtk_text_view_get_right_margin(view), 5);
+    EXPECT_EQ(stop, box->ConvertDialogToPixels(wxPoint(88, 0)).x);
+    PangoTabArray* const tabs = gtk_text_view_get_tabs(view);
+    ASSERT_NE(tabs, nullptr);
+    int position = 0;
+    pango_tab_array_get_tab(tabs, 0, nullptr, &position);
+    EXPECT_EQ(position, stop);
+    pango_tab_array_free(tabs);
+    box->Destroy();
 }
 
 }  // namespace

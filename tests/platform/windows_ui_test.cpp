@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the windows ask of Windows.
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <wx/app.h>
+#include <wx/textctrl.h>
 #include <wx/timer.h>
 
 #include <windows.h>
@@ -16,6 +18,7 @@
 #include "database/file_io.h"
 #include "platform/command_line.h"
 #include "platform/modBrowseFolder.h"
+#include "platform/text_columns.h"
 #include "platform/wide_text.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
@@ -288,6 +291,22 @@ TEST_F(MainWindowTest, StayOnTopPutsTheWindowIntoTheTopmostBand) {
     EXPECT_TRUE(isTopMost());
     SetTopMost(*window_, false);
     EXPECT_FALSE(isTopMost());
+}
+
+TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {
+    auto* const box = new wxTextCtrl(window_, wxID_ANY, wxEmptyString, wxDefaultPosition, {600, 80},
+                                     wxTE_MULTILINE | wxTE_DONTWRAP);
+    SetSideMargins(*box, 5);
+    const int stop = SetTabStop(*box, 88);
+    box->ChangeValue("A\tb");
+    HWND const window = static_cast<HWND>(box->GetHandle());
+    const LRESULT margins = SendMessageW(window, EM_GETMARGINS, 0, 0);
+    EXPECT_EQ(LOWORD(margins), 5);
+    EXPECT_EQ(HIWORD(margins), 5);
+    const LRESULT first = SendMessageW(window, EM_POSFROMCHAR, 0, 0);
+    const LRESULT second = SendMessageW(window, EM_POSFROMCHAR, 2, 0);
+    EXPECT_LE(std::abs(LOWORD(second) - LOWORD(first) - stop), 2);
+    box->Destroy();
 }
 
 }  // namespace

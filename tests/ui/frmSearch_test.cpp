@@ -884,6 +884,15 @@ TEST_F(SearchWindowTest, AnItemPickedFromTheHistoryIsReadyToBeSearched) {
     });
 }
 
+// An edit control may leave one behind. As an empty text it would be in every entry.
+TEST(Utf8Text, OfHalfACharacterIsNotEmpty) {
+    wxString half("a");
+    half += static_cast<wchar_t>(0xD83D);
+    EXPECT_EQ(Utf8Text(half), "a\xEF\xBF\xBD");
+    EXPECT_EQ(Utf8Text("plain"), "plain");
+    EXPECT_EQ(Utf8Text(""), "");
+}
+
 TEST_F(SearchWindowTest, FindsNothingInAnEmptyDatabase) {
     StartWith(DatabaseWith([](DatabaseHeader& header) { header.RecordCount = 0; }), "");
     InSearchWindow([&] {
