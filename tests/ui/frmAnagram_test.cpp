@@ -78,6 +78,7 @@ class AnagramWindowTest : public MainWindowTest {
 
     [[nodiscard]] std::vector<std::string> Rows() const {
         std::vector<std::string> rows;
+        rows.reserve(static_cast<std::size_t>(anagram_->HitRows().RowCount()));
         for (std::int32_t row = 0; row < anagram_->HitRows().RowCount(); ++row) {
             rows.emplace_back(anagram_->HitRows().RowText(row));
         }
