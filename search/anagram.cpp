@@ -6,7 +6,6 @@
 
 #include "database/number_text.h"
 #include "database/program_values.h"
-#include "database/record_store.h"
 #include "database/windows1252.h"
 #include "search/letter_case.h"
 
@@ -16,6 +15,11 @@ namespace {
 
 constexpr std::int32_t kRowsBetweenProgress = 100;
 constexpr std::int32_t kFewestDistinctLetters = 2;
+
+// In double precision, to the nearest whole number, halves to the even one.
+int PercentDone(std::int32_t row, std::int32_t rowCount) {
+    return static_cast<int>(std::nearbyint(static_cast<double>(row) / rowCount * 100));
+}
 
 }  // namespace
 
@@ -117,7 +121,7 @@ std::vector<std::int32_t> FindAnagrams(const RowList& rows, const AnagramLetters
             }
         }
         if (watcher != nullptr && row % kRowsBetweenProgress == 0 &&
-            !watcher->OnProgress(PercentOf(row, rows.RowCount()))) {
+            !watcher->OnProgress(PercentDone(row, rows.RowCount()))) {
             break;
         }
     }

@@ -55,6 +55,7 @@ class frmAnagram::Watcher final : public AnagramWatcher {
     void OnHit(std::int32_t row) override { window_.AddHit(row); }
 
     [[nodiscard]] bool OnProgress(int percent) override {
+        window_.lstAnagrams->SetRows(window_.rows_);
         window_.ShowPercentDone(percent);
         LetPendingEventsRun();
         return window_.IsShown();
@@ -296,6 +297,10 @@ void frmAnagram::PresentHits() {
     EnableInput(true);
     isSearching_ = false;
     ShowBusyAnimation(false);
+    if (!IsShown()) {
+        return;  // the program ends
+    }
+    lstAnagrams->SetRows(rows_);
     lblPercentDone->SetLabelText("Found " + std::to_string(rows_.RowCount()));
     wxWindow& list = lstAnagrams->Window();
     if (rows_.RowCount() > 0) {
@@ -316,7 +321,6 @@ void frmAnagram::PresentHits() {
 void frmAnagram::AddHit(std::int32_t row) {
     rows_.Add(values_.AcronymList->RowText(row));
     recordNumbers_.push_back(row + 1);
-    lstAnagrams->SetRows(rows_);
 }
 
 void frmAnagram::ShowPercentDone(int percent) {

@@ -85,7 +85,12 @@ bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
     entry.GetSelection(&from, &to);
     const std::size_t kept = entry.GetValue().length() - static_cast<std::size_t>(to - from);
     const std::size_t room = maxLength > kept ? maxLength - kept : 0;
-    entry.WriteText(text.GetText().BeforeFirst('\n').Left(room));
+    const wxString pasted = text.GetText().BeforeFirst('\n').Left(room);
+    if (pasted.empty() && from != to) {
+        entry.Remove(from, to);  // GTK tells nothing of a selection overwritten with nothing
+    } else {
+        entry.WriteText(pasted);
+    }
     return true;
 }
 

@@ -209,6 +209,14 @@ TEST(FindAnagrams, RoundsHalvesToEven) {
     EXPECT_EQ(watcher.events[7], "8%");
 }
 
+TEST(FindAnagrams, WorksThePercentageOutInDoublePrecision) {
+    RecordingAnagramWatcher watcher;
+    (void)FindAnagrams(CpuAmong(20000, 0), AnagramLetters(U"PUC"), &watcher);
+    // 10900 of 20000 are a little more than 54.5 % then, 11500 a little less than 57.5 %.
+    EXPECT_EQ(watcher.events[1 + 109], "55%");
+    EXPECT_EQ(watcher.events[1 + 115], "57%");
+}
+
 TEST(FindAnagrams, EndsWhenItsWatcherSaysSo) {
     RecordingAnagramWatcher watcher;
     watcher.progressLeft = 2;

@@ -11,6 +11,7 @@
 #include <wx/combobox.h>
 #include <wx/dataobj.h>
 #include <wx/eventfilter.h>
+#include <wx/msgdlg.h>
 #include <wx/stattext.h>
 
 #include "search/anagram.h"
@@ -219,8 +220,15 @@ TEST_F(AnagramWindowTest, LessThanTwoDistinctLettersAreRefused) {
         const MessageBoxes boxes;
         TypeLetters("cc", "CC");
         EXPECT_EQ(Label("lblPossiblePerms"), "1");
-        user_.Char(WXK_RETURN);
+        In("cmdSearch").SetFocus();
+        Settle(50);
+        user_.Char(WXK_SPACE);
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_EXCLAMATION);
+        Settle(50);
+        user_.Char(WXK_END);
+        user_.Char('d');  // the letters have the focus again
+        EXPECT_TRUE(WaitFor([&] { return Letters() == "CCD" || Letters() == "D"; })) << Letters();
         EXPECT_EQ(boxes.texts[0], "Type at least 2 distinct letters");
         EXPECT_EQ(boxes.titles[0], "Brevilexicon");
         EXPECT_EQ(Label("lblPercentDone"), "");
@@ -308,7 +316,8 @@ TEST_F(AnagramWindowTest, KeepsAHistoryWithoutDuplicates) {
 TEST_F(AnagramWindowTest, AnItemOfTheHistoryBringsItsCounts) {
     InAnagramWindow([&] {
         Search("puc", "PUC");
-        Search("mar", "MAR");
+        Search("zz1m", "ZZ1M");
+        EXPECT_EQ(Label("lblPossiblePerms"), "12");
         In("cboLetters").SetFocus();
         Settle(30);
         user_.Char(WXK_DOWN, wxMOD_ALT);
@@ -319,6 +328,15 @@ TEST_F(AnagramWindowTest, AnItemOfTheHistoryBringsItsCounts) {
         EXPECT_TRUE(WaitFor([&] { return Letters() == "PUC"; })) << Letters();
         EXPECT_TRUE(WaitFor([&] { return Label("lblPercentDone").empty(); }));
         EXPECT_TRUE(Rows().empty());
+        EXPECT_EQ(Label("lblWordLen"), "3");
+        EXPECT_EQ(Label("lblPossiblePerms"), "6");
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(WaitFor([&] { return Label("lblPercentDone") == "Found 3"; }));
+        EXPECT_EQ(Letters(), "PUC");
+        EXPECT_EQ(Label("lblWordLen"), "3");
+        const auto& combo = In<wxComboBox>("cboLetters");
+        ASSERT_EQ(combo.GetCount(), 2U);
+        EXPECT_EQ(combo.GetString(0), "PUC");
     });
 }
 
@@ -361,6 +379,41 @@ TEST_F(AnagramWindowTest, EscapeHidesItAndEmptiesTheLetters) {
     });
 }
 
+TEST_F(AnagramWindowTest, ReopenedAfterCancelItCanBeTypedInto) {
+    InAnagramWindow([&] {
+        Search("puc", "PUC");
+        In("cmdCancel").SetFocus();
+        Settle(50);
+        user_.Char(WXK_SPACE);
+        EXPECT_TRUE(WaitFor([&] { return !anagram_->IsShown(); }));
+    });
+    InAnagramWindow([&] {
+        user_.Char('x');
+        EXPECT_TRUE(WaitFor([&] { return Letters() == "X"; })) << Letters();
+    });
+}
+
+TEST_F(AnagramWindowTest, EndsWithTheProgram) {
+    Start(NumberedRecords(60000));
+    frmMain* const window = window_;
+    bool closed = false;
+    wxTimer close;
+    close.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+        if (!closed && In("picAnim").IsShown()) {
+            closed = true;
+            window->Close(true);
+        }
+    });
+    InAnagramWindow([&] {
+        TypeLetters("zy", "ZY");
+        close.Start(1);
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return closed && !anagram_->IsShown(); }));
+    });
+    window_ = nullptr;
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
 TEST_F(AnagramWindowTest, TheCloseBoxHidesItToo) {
     InAnagramWindow([&] {
         TypeLetters("puc", "PUC");
@@ -385,6 +438,8 @@ TEST_F(AnagramWindowTest, WhileItSearchesItTakesNoInput) {
                 EXPECT_FALSE(In(name).IsEnabled()) << name;
             }
             EXPECT_EQ(Label("lblPercentDone").rfind("Done ", 0), 0U);
+            EXPECT_TRUE(In<BusyAnimation>("picAnim").tmrAnimation.IsRunning());
+            EXPECT_EQ(In<BusyAnimation>("picAnim").tmrAnimation.GetInterval(), 135);
             EXPECT_FALSE(anagram_->Close());
             EXPECT_TRUE(anagram_->IsShown());
         });
@@ -393,6 +448,11 @@ TEST_F(AnagramWindowTest, WhileItSearchesItTakesNoInput) {
         EXPECT_TRUE(looked);
         EXPECT_EQ(Label("lblPercentDone"), "Found 0");
         EXPECT_TRUE(anagram_->IsShown());
+        EXPECT_EQ(Letters(), "ZY");
+        EXPECT_FALSE(In<BusyAnimation>("picAnim").tmrAnimation.IsRunning());
+        for (const char* name : {"cboLetters", "cmdSearch", "cmdCancel", "lstAnagrams"}) {
+            EXPECT_TRUE(In(name).IsEnabled()) << name;
+        }
     });
 }
 
