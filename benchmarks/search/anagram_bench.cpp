@@ -5,35 +5,22 @@
 #include <cctype>
 #include <cstdint>
 #include <cstdlib>
-#include <map>
 #include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "benchmarks/support/generated_records.h"
-#include "database/database_file.h"
 #include "database/record_text.h"
 #include "database/windows1252.h"
 
 namespace brelex {
 namespace {
 
-const RecordStore& StoreOf(std::int64_t count) {
-    static std::map<std::int64_t, RecordStore> stores;
-    RecordStore& store = stores[count];
-    DatabaseHeader header;
-    if (store.RowCount() == 0 &&
-        ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
-        std::abort();
-    }
-    return store;
-}
-
 constexpr const char* kLetters = "MPCT";
 
 void BM_FindAnagrams(benchmark::State& state) {
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     std::size_t hits = 0;
     for (auto _ : state) {
         hits = FindAnagrams(store, AnagramLetters(DecodeUtf8(kLetters)), nullptr).size();
@@ -43,7 +30,7 @@ void BM_FindAnagrams(benchmark::State& state) {
 
 // Hyphens dropped, lengths compared, and then each typed letter counted in both texts.
 void BM_AnagramsStepByStep(benchmark::State& state) {
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     const std::string typed = kLetters;
     const auto occurrences = [](char letter, const std::string& text) {
         int count = 0;
@@ -73,7 +60,7 @@ void BM_AnagramsStepByStep(benchmark::State& state) {
 
 // What 8 bytes stored for each record would give: a signature that is the same for all orders.
 void BM_AnagramsBySignature(benchmark::State& state) {
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     const auto signatureOf = [](std::string_view text) {
         std::uint64_t signature = 0;
         for (const char c : text) {

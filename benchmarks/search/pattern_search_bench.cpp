@@ -2,8 +2,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <map>
-#include <memory>
 #include <string>
 
 #include <benchmark/benchmark.h>
@@ -12,22 +10,10 @@
 #include <pcre2.h>
 
 #include "benchmarks/support/generated_records.h"
-#include "database/database_file.h"
 #include "search/database_search.h"
 
 namespace brelex {
 namespace {
-
-const RecordStore& StoreOf(std::int64_t count) {
-    static std::map<std::int64_t, RecordStore> stores;
-    RecordStore& store = stores[count];
-    DatabaseHeader header;
-    if (store.RowCount() == 0 &&
-        ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
-        std::abort();
-    }
-    return store;
-}
 
 struct PatternCase {
     const char* name;
@@ -51,7 +37,7 @@ constexpr PatternCase kCases[] = {
 
 void BM_Search(benchmark::State& state) {
     const PatternCase& searched = kCases[state.range(1)];
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     SearchRequest request;
     request.text = searched.text;
     request.position = searched.position;
@@ -66,7 +52,7 @@ void BM_Search(benchmark::State& state) {
 
 void BM_Pcre2(benchmark::State& state) {
     const PatternCase& searched = kCases[state.range(1)];
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     const std::string_view text = store.TextOfRows(0, store.RowCount());
     int error = 0;
     PCRE2_SIZE errorAt = 0;
@@ -100,7 +86,7 @@ void BM_Program(benchmark::State& state, const std::string& program) {
     const auto path = std::filesystem::temp_directory_path() / "brelex_search_bench.tsv";
     std::ofstream file(path, std::ios::binary);
     if (state.range(0) > 0) {
-        const RecordStore& store = StoreOf(state.range(0));
+        const RecordStore& store = GeneratedStore(state.range(0));
         for (std::int32_t row = 0; row < store.RowCount(); ++row) {
             file << store.RowText(row) << '\n';
         }
@@ -120,7 +106,7 @@ void BM_Program(benchmark::State& state, const std::string& program) {
 }
 
 void BM_First500(benchmark::State& state) {
-    const RecordStore& store = StoreOf(state.range(0));
+    const RecordStore& store = GeneratedStore(state.range(0));
     SearchRequest request;
     request.text = "system";
     for (auto _ : state) {

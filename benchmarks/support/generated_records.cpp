@@ -2,11 +2,14 @@
 #include "benchmarks/support/generated_records.h"
 
 #include <array>
+#include <cstdlib>
+#include <map>
 #include <random>
 #include <unordered_set>
 #include <vector>
 
 #include "database/database_builder.h"
+#include "database/database_file.h"
 #include "database/szdd.h"
 
 namespace brelex {
@@ -46,6 +49,17 @@ std::string GeneratedDatabase(std::int64_t count) {
     content.releaseDate = std::chrono::year(2026) / 11 / 21;
     content.records.assign(records.begin(), records.end());
     return CompressSzdd(BuildDatabase(std::move(content)).expanded);
+}
+
+const RecordStore& GeneratedStore(std::int64_t count) {
+    static std::map<std::int64_t, RecordStore> stores;
+    RecordStore& store = stores[count];
+    DatabaseHeader header;
+    if (store.RowCount() == 0 &&
+        ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
+        std::abort();
+    }
+    return store;
 }
 
 }  // namespace brelex

@@ -4,10 +4,15 @@
 #include <cstdint>
 #include <string>
 
+#include "database/record_store.h"
+
 namespace brelex {
 
 /// The bytes of a database file of `count` generated entries, like real ones in the lengths of
 /// their parts and in how often abbreviations repeat. The same count gives the same file.
 [[nodiscard]] std::string GeneratedDatabase(std::int64_t count);
+
+/// The entries of such a file, loaded once for all benchmarks.
+[[nodiscard]] const RecordStore& GeneratedStore(std::int64_t count);
 
 }  // namespace brelex
