@@ -18,7 +18,10 @@ constexpr std::int32_t kFewestDistinctLetters = 2;
 
 // In double precision, to the nearest whole number, halves to the even one.
 int PercentDone(std::int32_t row, std::int32_t rowCount) {
-    return static_cast<int>(std::nearbyint(static_cast<double>(row) / rowCount * 100));
+    // The 32-bit Windows program would carry more digits from one step to the next.
+    const volatile double share = static_cast<double>(row) / rowCount;
+    const volatile double percent = share * 100;
+    return static_cast<int>(std::nearbyint(percent));
 }
 
 }  // namespace
