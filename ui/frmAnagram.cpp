@@ -166,7 +166,7 @@ void frmAnagram::PlaceControls() {
     progress->Add(lblPercentDone, 0, wxALIGN_BOTTOM);
 
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(lblOverview, 0, wxALL, gap);
+    all->Add(lblOverview, 0, wxEXPAND | wxALL, gap);
     all->Add(letters, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(progress, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->AddSpacer(gap);
