@@ -13,6 +13,7 @@
 #include "database/string_order.h"
 #include "database/windows1252.h"
 #include "lookup/prefix_search.h"
+#include "search/search_list.h"
 #include "tools/open_database.h"
 
 namespace brelex {
@@ -46,13 +47,14 @@ std::string HexDigits(std::int32_t number) {
     return text;
 }
 
-std::string SearchListItems(std::string_view list) {
-    list = list.substr(0, list.find_last_not_of(' ') + 1);
-    std::string items;
-    for (const char c : list) {
-        items += c == '1' ? ", " : Utf8OfBytes({&c, 1});
+std::string SearchListText(std::string_view list) {
+    std::string text;
+    const char* separator = "";
+    for (const std::string& item : SearchListItems(list)) {
+        text += separator + Utf8OfBytes(item);
+        separator = ", ";
     }
-    return items;
+    return text;
 }
 
 // Prints the line for one text; whether any beginning of it was found.
@@ -89,7 +91,7 @@ int RunInfo(const std::string& database, std::ostream& out, std::ostream& err) {
         << "CommonFirstLetterCount: " << header.CommonFirstLetterCount << "\n"
         << "MostExpansionsIndex: " << header.MostExpansionsIndex << "\n"
         << "MostExpansionsCount: " << header.MostExpansionsCount << "\n"
-        << "SearchListText: " << SearchListItems(header.SearchListText) << "\n";
+        << "SearchListText: " << SearchListText(header.SearchListText) << "\n";
     return kFound;
 }
 
