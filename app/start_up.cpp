@@ -19,6 +19,7 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
     }
     values_.info = ConfiguredAppInfo();
     values_.groupSeparator = UserGroupSeparator();
+    values_.decimalSeparator = UserDecimalSeparator();
     if (!LocateDatabase(values_, surroundings.programFolder, surroundings.picker,
                         surroundings.messages)) {
         return nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/calendar_day.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -39,10 +40,10 @@ std::optional<int> ParseDigits(std::string_view text) {
 std::optional<year_month_day> DayOfCount(double count) {
     const double first = (kFirstDay - kDayZero).count();
     const double last = (kLastDay - kDayZero).count();
-    if (!(count >= first && count < last + 1)) {
+    if (!(count > first - 1 && count < last + 1)) {
         return std::nullopt;
     }
-    return year_month_day(kDayZero + days(static_cast<int>(std::floor(count))));
+    return year_month_day(kDayZero + days(static_cast<int>(std::trunc(count))));
 }
 
 double CountOfDay(year_month_day day) {
@@ -53,6 +54,14 @@ std::string FormatIsoDay(year_month_day day) {
     return Digits(static_cast<unsigned>(static_cast<int>(day.year())), 4) + "-" +
            Digits(static_cast<unsigned>(day.month()), 2) + "-" +
            Digits(static_cast<unsigned>(day.day()), 2);
+}
+
+std::string FormatShortDay(year_month_day day) {
+    constexpr std::array kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    return std::to_string(static_cast<unsigned>(day.day())) + " " +
+           kMonths.at(static_cast<unsigned>(day.month()) - 1) + " " +
+           Digits(static_cast<unsigned>(static_cast<int>(day.year())), 4);
 }
 
 std::optional<year_month_day> ParseIsoDay(std::string_view text) {

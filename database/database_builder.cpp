@@ -137,7 +137,7 @@ BuiltDatabase BuildDatabase(DatabaseContent content) {
     built.header.Version = content.version;
     built.header.ReleaseDate = CountOfDay(content.releaseDate);
     built.header.DataSize = Int32(block.size());
-    built.header.DataCRC = GetCRCFromBytes(block);
+    built.header.DataCRC = GetCRCFromByteArray(block);
     built.header.SearchListText = content.searchList;
     built.header.SearchListText.resize(kSearchListLength, ' ');
     built.expanded = EncodeHeader(built.header) + block;

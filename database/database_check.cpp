@@ -52,7 +52,7 @@ std::string RecordName(std::int32_t row) {
 
 void CheckBlock(const DatabaseHeader& header, const RecordStore& store,
                 std::vector<std::string>& lines) {
-    if (GetCRCFromBytes(store.Block()) != header.DataCRC) {
+    if (GetCRCFromByteArray(store.Block()) != header.DataCRC) {
         lines.emplace_back("the CRC of the records is not the header's DataCRC");
     }
     const auto nuls = std::count(store.Block().begin(), store.Block().end(), '\0');

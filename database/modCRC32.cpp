@@ -2,6 +2,10 @@
 #include "database/modCRC32.h"
 
 #include <array>
+#include <bit>
+#include <cstddef>
+
+#include "database/number_text.h"
 
 namespace brelex {
 
@@ -43,14 +47,38 @@ constexpr std::array<std::uint32_t, 256> kCrcTable = {
     0xB3667A2E, 0xC4614AB8, 0x5D681B02, 0x2A6F2B94, 0xB40BBE37, 0xC30C8EA1, 0x5A05DF1B, 0x2D02EF8D,
 };
 
-}  // namespace
-
-std::int32_t GetCRCFromBytes(std::string_view bytes) {
-    std::uint32_t crc = 0xFFFFFFFF;
+std::uint32_t Update(std::uint32_t crc, std::string_view bytes) {
     for (const char byte : bytes) {
         crc = (crc >> 8U) ^ kCrcTable[(crc & 0xFFU) ^ static_cast<unsigned char>(byte)];
     }
-    return static_cast<std::int32_t>(crc ^ 0xFFFFFFFF);
+    return crc;
+}
+
+}  // namespace
+
+std::int32_t GetCRCFromByteArray(std::string_view bytes, CrcWatcher* watcher) {
+    std::uint32_t crc = 0xFFFFFFFF;
+    if (watcher == nullptr) {
+        crc = Update(crc, bytes);
+    } else if (!bytes.empty()) {
+        // Each progress comes behind the first byte of its stretch, so that it begins at 0 percent.
+        const std::size_t last = bytes.size() - 1;
+        const std::size_t step = last / 100 + 1;
+        for (std::size_t at = 0; at <= last; at += step) {
+            crc = Update(crc, bytes.substr(at, 1));
+            watcher->DrawProgress(last == 0 ? 0
+                                            : PercentOf(static_cast<std::int32_t>(at),
+                                                        static_cast<std::int32_t>(last)));
+            if (!watcher->OnPause()) {
+                break;
+            }
+            crc = Update(crc, bytes.substr(at + 1, step - 1));
+        }
+    }
+    if (watcher != nullptr) {
+        watcher->DrawProgress(100);
+    }
+    return std::bit_cast<std::int32_t>(crc ^ 0xFFFFFFFFU);
 }
 
 }  // namespace brelex

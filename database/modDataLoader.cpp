@@ -15,7 +15,14 @@ namespace brelex {
 
 namespace {
 
-// Expands the database file into memory and into the temporary file. Nothing if either fails.
+bool ReportFailure(LoadFailure failure, MessageSink& messages) {
+    messages.Show({std::string(ReasonText(failure)) + "\n\nPlease, reinstall " + kAppTitle + ".",
+                   kAppTitle, MessageIcon::Stop, MessageButtons::Ok});
+    return false;
+}
+
+}  // namespace
+
 std::optional<ExpandedFile> ExpandIntoTemporaryFile(const ProgramValues& values,
                                                     TemporaryFiles& files,
                                                     std::size_t& fileLength) {
@@ -30,14 +37,6 @@ std::optional<ExpandedFile> ExpandIntoTemporaryFile(const ProgramValues& values,
     }
     return expanded;
 }
-
-bool ReportFailure(LoadFailure failure, MessageSink& messages) {
-    messages.Show({std::string(ReasonText(failure)) + "\n\nPlease, reinstall " + kAppTitle + ".",
-                   kAppTitle, MessageIcon::Stop, MessageButtons::Ok});
-    return false;
-}
-
-}  // namespace
 
 bool LoadDatabase(ProgramValues& values, RecordStore& store,
                   const LoaderSurroundings& surroundings) {

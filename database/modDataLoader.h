@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 #include "database/message_sink.h"
 #include "database/program_values.h"
 #include "database/progress_sink.h"
 #include "database/record_store.h"
+#include "database/szdd.h"
 #include "database/temporary_files.h"
 
 namespace brelex {
@@ -26,6 +29,13 @@ struct LoaderSurroundings {
 /// memory. On failure tells the user why and returns false; the store is then empty.
 [[nodiscard]] bool LoadDatabase(ProgramValues& values, RecordStore& store,
                                 const LoaderSurroundings& surroundings);
+
+/// Expands the file at `values.DatabasePath` into memory and into the temporary file; `fileLength`
+/// is then its own length in bytes. Nothing if it cannot be read or expanded, or the temporary file
+/// not be written whole; what was written then stays.
+[[nodiscard]] std::optional<ExpandedFile> ExpandIntoTemporaryFile(const ProgramValues& values,
+                                                                  TemporaryFiles& files,
+                                                                  std::size_t& fileLength);
 
 /// `LoadingTime` between two readings of the clock in seconds since midnight, rounded to two
 /// decimals. Negative if midnight lay between them.

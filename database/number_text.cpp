@@ -107,6 +107,17 @@ std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_
     return error == std::errc() ? std::optional(number) : std::nullopt;
 }
 
+std::string FormatPlain(float number, std::string_view decimalSeparator) {
+    std::array<char, 160> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                      std::chars_format::fixed);
+    std::string text(buffer.data(), result.ptr);
+    if (const auto point = text.find('.'); point != std::string::npos) {
+        text.replace(point, 1, decimalSeparator);
+    }
+    return text;
+}
+
 std::string FormatOneDecimal(float number) {
     // Long enough for the largest number, which has 39 digits, and for the smallest.
     std::array<char, 160> buffer{};
@@ -131,6 +142,14 @@ std::string FormatOneDecimal(float number) {
     const std::string whole = tenths.substr(0, tenths.size() - 1);
     const bool negative = number < 0 && tenths.find_first_not_of('0') != std::string::npos;
     return (negative ? "-" : "") + (whole == "0" ? std::string() : whole) + "." + tenths.back();
+}
+
+int PercentOf(std::int32_t done, std::int32_t total) {
+    const std::int64_t hundredfold = std::int64_t{done} * 100;
+    const auto whole = static_cast<int>(hundredfold / total);
+    const std::int64_t twiceRest = 2 * (hundredfold % total);
+    const bool up = twiceRest > total || (twiceRest == total && whole % 2 != 0);
+    return up ? whole + 1 : whole;
 }
 
 }  // namespace brelex

@@ -20,10 +20,17 @@ namespace brelex {
 /// of its shortest decimal text up: 1.25 is "1.3". Requires a finite number.
 [[nodiscard]] std::string FormatOneDecimal(float number);
 
+/// `number` as its shortest plain decimal text with `decimalSeparator` (UTF-8) in it: 0.25 is
+/// "0.25" and 3 is "3". Requires a finite number.
+[[nodiscard]] std::string FormatPlain(float number, std::string_view decimalSeparator);
+
 /// The whole number that `text` states: an optional sign and digits, with blanks around them and
 /// `separator` between groups of three allowed. Nothing if it states anything else or a number
 /// beyond 32 bits.
 [[nodiscard]] std::optional<std::int32_t> ParseWholeNumber(std::string_view text,
                                                            std::string_view separator);
+
+/// Whole percent of `done` in `total` (more than 0), to the nearest, halves to even.
+[[nodiscard]] int PercentOf(std::int32_t done, std::int32_t total);
 
 }  // namespace brelex

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <utility>
 
+#include "database/number_text.h"
 #include "database/string_order.h"
 
 namespace brelex {
@@ -29,14 +30,6 @@ std::size_t AscendingBytes(std::string_view row, std::string_view next, std::siz
 }
 
 }  // namespace
-
-int PercentOf(std::int32_t done, std::int32_t total) {
-    const std::int64_t hundredfold = std::int64_t{done} * 100;
-    const auto whole = static_cast<int>(hundredfold / total);
-    const std::int64_t twiceRest = 2 * (hundredfold % total);
-    const bool up = twiceRest > total || (twiceRest == total && whole % 2 != 0);
-    return up ? whole + 1 : whole;
-}
 
 bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
                        std::int32_t progressStep, ProgressSink& progress) {

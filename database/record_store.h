@@ -32,7 +32,4 @@ class RecordStore final : public RowList {
     std::vector<std::uint32_t> offsets_;  // one more than records: where the next would begin
 };
 
-/// Whole percent of `done` in `total` (more than 0), to the nearest, halves to even.
-[[nodiscard]] int PercentOf(std::int32_t done, std::int32_t total);
-
 }  // namespace brelex

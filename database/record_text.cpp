@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "database/record_text.h"
 
+#include <algorithm>
+
 namespace brelex {
 
 std::string_view GetAbbreviation(std::string_view recordText) {
@@ -11,6 +13,10 @@ std::string_view GetAbbreviation(std::string_view recordText) {
 std::string_view GetExpansion(std::string_view recordText) {
     const auto tab = recordText.find('\t');
     return tab == std::string_view::npos ? recordText : recordText.substr(tab + 1);
+}
+
+std::size_t LetterCount(std::string_view text) {
+    return text.size() - static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
 }
 
 std::string_view ColumnText(std::string_view recordText, int column) {

@@ -48,7 +48,7 @@ TEST(BuildDatabase, TheHeaderTellsOfTheBlock) {
     EXPECT_EQ(built.header.ReleaseDate, CountOfDay(std::chrono::year(2005) / 2 / 3));
     EXPECT_EQ(built.header.RecordCount, 2);
     EXPECT_EQ(built.header.DataSize, 10);
-    EXPECT_EQ(built.header.DataCRC, GetCRCFromBytes(Block(built)));
+    EXPECT_EQ(built.header.DataCRC, GetCRCFromByteArray(Block(built)));
     EXPECT_EQ(built.header.SearchListText.substr(0, 16), "network1memory  ");
     EXPECT_EQ(built.header.SearchListText.size(), kSearchListLength);
 }

@@ -105,5 +105,23 @@ INSTANTIATE_TEST_SUITE_P(
         ParseCase{"Empty", "", std::nullopt}),
     CaseName());
 
+TEST(PercentOf, RoundsToTheNearestAndHalvesToEven) {
+    EXPECT_EQ(PercentOf(0, 250), 0);
+    EXPECT_EQ(PercentOf(3, 250), 1);      // 1.2
+    EXPECT_EQ(PercentOf(1, 200), 0);      // 0.5
+    EXPECT_EQ(PercentOf(3, 200), 2);      // 1.5
+    EXPECT_EQ(PercentOf(5, 200), 2);      // 2.5
+    EXPECT_EQ(PercentOf(199, 200), 100);  // 99.5
+    EXPECT_EQ(PercentOf(2147483646, 2147483647), 100);
+}
+
+TEST(FormatPlain, HasNoFixedDecimals) {
+    EXPECT_EQ(FormatPlain(0.25F, "."), "0.25");
+    EXPECT_EQ(FormatPlain(0.01F, ","), "0,01");
+    EXPECT_EQ(FormatPlain(3, "."), "3");
+    EXPECT_EQ(FormatPlain(-86399.98F, "."), "-86399.98");
+    EXPECT_EQ(FormatPlain(100000, "."), "100000");
+}
+
 }  // namespace
 }  // namespace brelex

@@ -97,15 +97,5 @@ INSTANTIATE_TEST_SUITE_P(
                     PrefixCase{"AccentBehindTheDifference", "AB\xC9\0AC\xC9\0"s, 2, kAnyLength}),
     CaseName());
 
-TEST(PercentOf, RoundsToTheNearestAndHalvesToEven) {
-    EXPECT_EQ(PercentOf(0, 250), 0);
-    EXPECT_EQ(PercentOf(3, 250), 1);      // 1.2
-    EXPECT_EQ(PercentOf(1, 200), 0);      // 0.5
-    EXPECT_EQ(PercentOf(3, 200), 2);      // 1.5
-    EXPECT_EQ(PercentOf(5, 200), 2);      // 2.5
-    EXPECT_EQ(PercentOf(199, 200), 100);  // 99.5
-    EXPECT_EQ(PercentOf(2147483646, 2147483647), 100);
-}
-
 }  // namespace
 }  // namespace brelex

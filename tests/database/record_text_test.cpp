@@ -29,5 +29,14 @@ TEST(RecordText, ARecordWithoutTabStandsInTheFirstColumn) {
     EXPECT_EQ(ColumnText("ABC\tOne\tTwo", 1), "One\tTwo");
 }
 
+TEST(LetterCount, CountsAllButBlanks) {
+    EXPECT_EQ(LetterCount("Read Only Memory"), 14U);
+    EXPECT_EQ(LetterCount("Basic Input/Output System"), 23U);
+    EXPECT_EQ(LetterCount("A B C"), 3U);
+    EXPECT_EQ(LetterCount("Caf\xE9 (1\t2)"), 9U);
+    EXPECT_EQ(LetterCount("   "), 0U);
+    EXPECT_EQ(LetterCount(""), 0U);
+}
+
 }  // namespace
 }  // namespace brelex

@@ -170,6 +170,13 @@ TEST(UserGroupSeparatorOnLinux, IsACommaWhereTheLocaleHasNone) {
     EXPECT_EQ(UserGroupSeparator(), ",");
 }
 
+TEST(UserDecimalSeparatorOnLinux, IsAPointWhereTheLocaleIsUnknownOrPlain) {
+    for (const char* locale : {"C", "xx_XX.UTF-8"}) {
+        const Environment numeric("LC_ALL", locale);
+        EXPECT_EQ(UserDecimalSeparator(), ".");
+    }
+}
+
 TEST(UserGroupSeparatorOnLinux, AnUnknownLocaleIsAComma) {
     const Environment locale("LC_ALL", "xx_YY.UTF-8");
     EXPECT_EQ(UserGroupSeparator(), ",");

@@ -118,6 +118,14 @@ TEST_F(UserGroupSeparatorOnWindows, IsACommaWhereTheSettingsHaveNone) {
     EXPECT_EQ(UserGroupSeparator(), ",");
 }
 
+TEST(UserDecimalSeparatorOnWindows, IsTheOneOfTheUsersSettings) {
+    wchar_t before[16] = {};
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, before, 16);
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, L",");
+    EXPECT_EQ(UserDecimalSeparator(), ",");
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, before);
+}
+
 TEST(Utf8OfWide, KeepsAllCharactersAndMarksBrokenOnes) {
     EXPECT_EQ(Utf8OfWide(L"a\u00E9\u4E2D\U0001F600"), "a\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80");
     const wchar_t broken[] = {L'a', 0xD800, L'b', 0};

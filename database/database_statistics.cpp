@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "database/database_statistics.h"
+
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+
+#include "database/calendar_day.h"
+#include "database/number_text.h"
+#include "database/record_text.h"
+#include "database/windows1252.h"
+
+namespace brelex {
+
+namespace {
+
+// The entry at an index of the header; empty if there is none.
+std::string_view RecordAt(const RowList& rows, std::int32_t index) {
+    const std::int32_t row = RowOfHeaderIndex(index, rows.RowCount());
+    return row < 0 ? std::string_view() : rows.RowText(row);
+}
+
+std::string LetterCountText(std::string_view text) {
+    return std::to_string(LetterCount(text)) + " letters";
+}
+
+std::string VersionText(const DatabaseHeader& header, float applicationVersion) {
+    const auto day = DayOfCount(header.ReleaseDate);
+    return (std::isfinite(header.Version) ? FormatOneDecimal(header.Version) : "unknown") +
+           ", released on " + (day ? FormatShortDay(*day) : "an unknown day") +
+           (header.Version > applicationVersion ? " (Updated)" : "");
+}
+
+std::string LongestExpansionText(std::string_view record) {
+    const std::string_view expansion = GetExpansion(record);
+    return Utf8OfBytes(expansion) + " (" + LetterCountText(expansion) + ", abbreviated as " +
+           Utf8OfBytes(GetAbbreviation(record)) + ")";
+}
+
+}  // namespace
+
+DatabaseStatistics StatisticsOf(const ProgramValues& values) {
+    const DatabaseHeader& header = values.Header;
+    const RowList& rows = *values.AcronymList;
+    const std::string_view longest = GetAbbreviation(RecordAt(rows, header.LongestAbbrvIndex));
+    const std::string_view richest = GetAbbreviation(RecordAt(rows, header.MostExpansionsIndex));
+    return {
+        .version = "Application version " + FormatOneDecimal(values.AppVersion),
+        .dbVersion = {"Database version:", VersionText(header, values.AppVersion)},
+        .acronymCount = {"Total number of entries:",
+                         FormatGrouped(header.RecordCount, values.groupSeparator)},
+        .loadingTime = {"Loading time (current session):",
+                        FormatPlain(values.LoadingTime, values.decimalSeparator) + " seconds"},
+        .firstLetterOfMostAcronyms = {"Most abbreviations start with:",
+                                      "'" + Utf8OfBytes({&header.CommonFirstLetter, 1}) + "' (" +
+                                          std::to_string(header.CommonFirstLetterCount) +
+                                          " occurrences)"},
+        .acronymWithHighestExpn = {"Abbreviation with highest no. of expansions*:",
+                                   Utf8OfBytes(richest) + " (" +
+                                       std::to_string(header.MostExpansionsCount) + " expansions)"},
+        .longestAcronym = {"Longest abbreviation*:",
+                           Utf8OfBytes(longest) + " (" + LetterCountText(longest) + ")"},
+        .longestExpansion = {"Longest expansion including parenthetical note*:",
+                             LongestExpansionText(RecordAt(rows, header.LongestExpansionIndex))},
+        .avgLenOfAcronyms = {"Average length of abbreviations:",
+                             std::to_string(header.AvgAbbrvLength) + " characters"},
+        .avgLenOfExpansions = {"Average length of expansions:",
+                               std::to_string(header.AvgExpansionLength) + " characters"}};
+}
+
+}  // namespace brelex

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "database/modCRC32.h"
+#include "database/program_values.h"
+#include "database/temporary_files.h"
+
+namespace brelex {
+
+/// Whether the record block of the database file, as it is on disk now, has the CRC of the header
+/// that was loaded. The file is expanded into the temporary file again and read from there; what is
+/// missing of it counts as zeros, so that a file that cannot be read fails. If `watcher` ends the
+/// check, the answer means nothing. The temporary file does not stay.
+[[nodiscard]] bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files,
+                                CrcWatcher& watcher);
+
+}  // namespace brelex
