@@ -7,7 +7,6 @@
 #include "platform/command_line.h"
 #include "platform/modRunAtStartup.h"
 #include "platform/program_folder.h"
-#include "platform/system_temporary_files.h"
 #include "ui/frmMain.h"
 #include "ui/wx_folder_picker.h"
 #include "ui/wx_message_sink.h"
@@ -30,8 +29,7 @@ bool BrevilexiconApp::OnInit() {
     SetAppDisplayName(kAppTitle);
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
-    SystemTemporaryFiles files;
-    frmMain* const main = startUp_.Run({messages, picker, files, ProgramFolder(),
+    frmMain* const main = startUp_.Run({messages, picker, files_, ProgramFolder(),
                                         Utf8Text(ArgumentText(argv.GetArguments())),
                                         SecondsSinceMidnight, SetRunAtStartup});
     if (main == nullptr) {

@@ -4,6 +4,7 @@
 #include <wx/app.h>
 
 #include "app/start_up.h"
+#include "platform/system_temporary_files.h"
 
 namespace brelex {
 
@@ -13,6 +14,7 @@ class BrevilexiconApp final : public wxApp {
     bool OnInit() override;
 
   private:
+    SystemTemporaryFiles files_;
     StartUp startUp_;
 };
 

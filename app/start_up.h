@@ -20,7 +20,7 @@ class frmMain;
 struct StartUpSurroundings {
     MessageSink& messages;
     FolderPicker& picker;
-    TemporaryFiles& files;
+    TemporaryFiles& files;      ///< must outlive the windows
     std::string programFolder;  ///< UTF-8
     std::string commandLine;    ///< the whole argument text, UTF-8
     std::function<float()> secondsSinceMidnight;

@@ -10,6 +10,7 @@
 
 #include "database/calendar_day.h"
 #include "database/database_check.h"
+#include "database/database_statistics.h"
 #include "database/string_order.h"
 #include "database/windows1252.h"
 #include "lookup/prefix_search.h"
@@ -67,6 +68,23 @@ bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out
            (!bytes.empty() && EqualIgnoringCase(record.substr(0, 1), bytes.substr(0, 1)));
 }
 
+// The facts that the program's window shows, but for those about its own run.
+void PrintStatistics(const OpenDatabase& opened, std::ostream& out) {
+    ProgramValues values;
+    values.AcronymList = &opened.store;
+    values.Header = opened.header;
+    values.AppVersion = opened.header.Version;
+    const DatabaseStatistics statistics = StatisticsOf(values);
+    for (const Statistic* statistic :
+         {&statistics.dbVersion, &statistics.acronymCount, &statistics.firstLetterOfMostAcronyms,
+          &statistics.acronymWithHighestExpn, &statistics.longestAcronym,
+          &statistics.longestExpansion, &statistics.avgLenOfAcronyms,
+          &statistics.avgLenOfExpansions}) {
+        out << statistic->caption << " " << statistic->text << "\n";
+    }
+    out << kStatisticsFootnote << "\n";
+}
+
 }  // namespace
 
 int RunInfo(const std::string& database, std::ostream& out, std::ostream& err) {
@@ -91,7 +109,8 @@ int RunInfo(const std::string& database, std::ostream& out, std::ostream& err) {
         << "CommonFirstLetterCount: " << header.CommonFirstLetterCount << "\n"
         << "MostExpansionsIndex: " << header.MostExpansionsIndex << "\n"
         << "MostExpansionsCount: " << header.MostExpansionsCount << "\n"
-        << "SearchListText: " << SearchListText(header.SearchListText) << "\n";
+        << "SearchListText: " << SearchListText(header.SearchListText) << "\n\n";
+    PrintStatistics(opened, out);
     return kFound;
 }
 

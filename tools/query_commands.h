@@ -11,7 +11,7 @@ namespace brelex {
 /// The commands of brelex that read a database file. Each returns the exit code: 0 if something was
 /// found, 1 if not, 2 if the file cannot be loaded, with the reason on `err`.
 
-/// Prints the header's fields, a line each.
+/// Prints the header's fields, a line each, and then in words what the program shows of them.
 int RunInfo(const std::string& database, std::ostream& out, std::ostream& err);
 
 /// Prints the records as UTF-8, in their order.

@@ -3,7 +3,10 @@
 
 #include "embedded/kAnagramStripSvg.h"
 #include "embedded/kCancelSvg.h"
+#include "embedded/kCopySvg.h"
 #include "embedded/kExpandSvg.h"
+#include "embedded/kFailedSvg.h"
+#include "embedded/kPassedSvg.h"
 #include "embedded/kSearchStripSvg.h"
 #include "embedded/kShrinkSvg.h"
 #include "embedded/kStopSvg.h"
@@ -14,6 +17,10 @@ namespace {
 
 wxBitmapBundle ButtonPicture(const char* svg) {
     return wxBitmapBundle::FromSVG(svg, wxSize(16, 16));
+}
+
+wxBitmapBundle ResultPicture(const char* svg) {
+    return wxBitmapBundle::FromSVG(svg, wxSize(32, 32));
 }
 
 FilmStrip StripOf(const char* svg, int frames, const wxSize& frameSize) {
@@ -37,6 +44,18 @@ wxBitmapBundle ExpandPicture() {
 
 wxBitmapBundle ShrinkPicture() {
     return ButtonPicture(kShrinkSvg);
+}
+
+wxBitmapBundle CopyPicture() {
+    return ButtonPicture(kCopySvg);
+}
+
+wxBitmapBundle PassedPicture() {
+    return ResultPicture(kPassedSvg);
+}
+
+wxBitmapBundle FailedPicture() {
+    return ResultPicture(kFailedSvg);
 }
 
 FilmStrip SearchFilmStrip() {

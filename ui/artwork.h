@@ -10,6 +10,11 @@ namespace brelex {
 [[nodiscard]] wxBitmapBundle CancelPicture();
 [[nodiscard]] wxBitmapBundle ExpandPicture();
 [[nodiscard]] wxBitmapBundle ShrinkPicture();
+[[nodiscard]] wxBitmapBundle CopyPicture();
+
+// Pictures of 32 by 32 for the results of a check.
+[[nodiscard]] wxBitmapBundle PassedPicture();
+[[nodiscard]] wxBitmapBundle FailedPicture();
 
 /// A film strip: pictures of one size, the first at the top, the others below it.
 struct FilmStrip {

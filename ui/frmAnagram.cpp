@@ -182,7 +182,7 @@ void frmAnagram::PlaceControls() {
 }
 
 void frmAnagram::BindEvents() {
-    LeadAccessKeyTo(*this, *lblPrompt, *cboLetters);
+    LeadAccessKeysTo(*this, {{lblPrompt, cboLetters}});
     surface_->Bind(wxEVT_PAINT, &frmAnagram::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmAnagram::OnClose, this);
     TypeInCapitals(*cboLetters, *cboLetters);

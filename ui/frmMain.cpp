@@ -2,7 +2,6 @@
 #include "ui/frmMain.h"
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 #include <optional>
 #include <utility>
@@ -27,8 +26,11 @@
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
 #include "ui/frmAnagram.h"
+#include "ui/frmCheckData.h"
+#include "ui/frmDataInfo.h"
 #include "ui/frmSearch.h"
 #include "ui/frmSplash.h"
+#include "ui/frmViewEntry.h"
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
@@ -71,6 +73,12 @@ std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
         default:
             return std::nullopt;
     }
+}
+
+// Shows a window that is made for one use.
+void ShowOnce(wxDialog* window) {
+    window->ShowModal();
+    window->Destroy();
 }
 
 // The address without its scheme, from the first "www" on.
@@ -244,7 +252,7 @@ void frmMain::BindEvents() {
     Bind(wxEVT_ICONIZE, &frmMain::OnIconize, this);
     Bind(wxEVT_SHOW, &frmMain::OnShow, this);
     Bind(wxEVT_ACTIVATE, &frmMain::OnActivate, this);
-    LeadAccessKeyTo(*this, *lblInstruction, *txtAbbrv);
+    LeadAccessKeysTo(*this, {{lblInstruction, txtAbbrv}});
     surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
     wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmMain::OnQueryEndSession, this);
@@ -344,6 +352,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     AddHints();
     hotKey_ = std::make_unique<ActivationHotKey>(*this, [this] { ActivateWindow(); });
     trayIcon_ = AddTrayIcon(AppIcons(), kAppTitle, TrayEventsOfWindow());
+    files_ = &surroundings.files;
     setRunAtStartup_ = surroundings.setRunAtStartup;
     setRunAtStartup_(true);
     splash.Destroy();
@@ -357,28 +366,53 @@ void frmMain::OpenModalForm(int number) {
         return;  // a window that was just closed may still have a search to end
     }
     const ModalScope modal(*this);
-    static constexpr std::array kNames = {
-        "Search Database", "Anagrammatic Search",  "Database Info",    "Smiley Dictionary",
-        "About",           "Check Data Integrity", "Donate via PayPal"};
-    if (number == 0) {
-        if (search_ == nullptr) {
-            search_ = new frmSearch(this, values_);
-        }
-        search_->ShowSearchWindow();
-    } else if (number == 1) {
-        if (anagram_ == nullptr) {
-            anagram_ = new frmAnagram(this, values_, [this](std::int32_t recordNumber) {
-                GoToRecordNumber(recordNumber);
-            });
-        }
-        anagram_->ShowAnagramWindow();
-    } else if (number > 1 && number < static_cast<int>(kNames.size())) {
-        SayNotYet(kNames.at(static_cast<std::size_t>(number)));
+    switch (number) {
+        case 0:
+            if (search_ == nullptr) {
+                search_ = new frmSearch(this, values_);
+            }
+            search_->ShowSearchWindow();
+            break;
+        case 1:
+            if (anagram_ == nullptr) {
+                anagram_ = new frmAnagram(this, values_, [this](std::int32_t recordNumber) {
+                    GoToRecordNumber(recordNumber);
+                });
+            }
+            anagram_->ShowAnagramWindow();
+            break;
+        case 2:
+            ShowOnce(new frmDataInfo(this, values_));
+            break;
+        case 3:
+            SayNotYet("Smiley Dictionary");
+            break;
+        case 4:
+            SayNotYet("About");
+            break;
+        case 5:
+            ShowOnce(new frmCheckData(this, values_, *files_));
+            break;
+        case 6:
+            SayNotYet("Donate via PayPal");
+            break;
+        default:
+            break;
     }
 }
 
 void frmMain::OpenEntryViewer() {
-    SayNotYet("The entry viewer");
+    if (IsModalOpen || SelectedRow() < 0) {
+        return;
+    }
+    const ModalScope modal(*this);
+    ShowOnce(new frmViewEntry(
+        this, [this] { return SelectedEntry(); }, values_.info));
+}
+
+std::string_view frmMain::SelectedEntry() const {
+    const std::int32_t row = SelectedRow();
+    return row < 0 ? std::string_view() : store_.RowText(row);
 }
 
 void frmMain::SayNotYet(const std::string& what) {
@@ -458,7 +492,7 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             OpenEntryViewer();
             break;
         case kListboxRClickItem + 2:
-            CopyEntryToClipboard(store_.RowText(SelectedRow()));
+            CopyEntryToClipboard(*this, SelectedEntry());
             break;
         default:
             event.Skip();
@@ -491,8 +525,10 @@ void frmMain::OnQueryEndSession(wxCloseEvent& event) {
 }
 
 void frmMain::EndModalWindows() {
-    for (wxWindow* window : {static_cast<wxWindow*>(search_), static_cast<wxWindow*>(anagram_)}) {
-        if (window != nullptr && window->IsShown()) {
+    const wxWindowList windows = wxTopLevelWindows;
+    for (wxWindow* window : windows) {
+        const auto* dialog = dynamic_cast<wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal() && dialog->GetName().StartsWith("frm")) {
             window->Close(true);
         }
     }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <wx/frame.h>
@@ -34,7 +35,7 @@ class frmSplash;
 
 /// What frmMain loads with.
 struct MainSurroundings {
-    TemporaryFiles& files;
+    TemporaryFiles& files;  ///< must outlive the window
     MessageSink& messages;  ///< for messages before the window is shown
     std::function<float()> secondsSinceMidnight;
     std::string commandLine;                    ///< the whole argument text (UTF-8)
@@ -83,6 +84,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void AddFrame(int left, int top, int width, int height);
     void UnloadOtherForms();
     void OpenEntryViewer();
+    [[nodiscard]] std::string_view SelectedEntry() const;
     void SayNotYet(const std::string& what);
     void SetMaxBoxLength(std::size_t length);
 
@@ -143,6 +145,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     bool caretStays_ = false;  // getting the focus next time selects nothing
     std::size_t maxBoxLength_ = 0;
     std::function<bool(bool)> setRunAtStartup_;
+    TemporaryFiles* files_ = nullptr;
     std::optional<HoverHints> hints_;
     frmSearch* search_ = nullptr;  // made when they are first opened
     frmAnagram* anagram_ = nullptr;

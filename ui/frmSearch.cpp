@@ -264,7 +264,7 @@ void frmSearch::PlaceControls() {
 }
 
 void frmSearch::BindEvents() {
-    LeadAccessKeyTo(*this, *lblPrompt_, *cboSearchWhat);
+    LeadAccessKeysTo(*this, {{lblPrompt_, cboSearchWhat}});
     surface_->Bind(wxEVT_PAINT, &frmSearch::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
     cboSearchWhat->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {

@@ -7,16 +7,32 @@
 #include <wx/dataobj.h>
 #include <wx/dc.h>
 #include <wx/gdicmn.h>
+#include <wx/log.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
+#include <wx/utils.h>
 
 #include "database/record_text.h"
 #include "ui/wx_message_sink.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
+
+namespace {
+
+bool PutOnClipboard(const wxString& text) {
+    const wxLogNull quiet;  // the toolkit would show its own message
+    const wxClipboardLocker clipboard;
+    if (!clipboard || !wxTheClipboard->SetData(new wxTextDataObject(text))) {
+        return false;
+    }
+    wxTheClipboard->Flush();  // or else it would go with the program
+    return true;
+}
+
+}  // namespace
 
 void Draw3DFrame(wxDC& dc, const wxRect& area) {
     const int left = area.x;
@@ -36,14 +52,23 @@ void SetTopMost(wxTopLevelWindow& window, bool topMost) {
     window.SetWindowStyleFlag(topMost ? style | wxSTAY_ON_TOP : style & ~wxSTAY_ON_TOP);
 }
 
-void CopyEntryToClipboard(std::string_view recordText) {
-    const wxClipboardLocker clipboard;
-    if (!clipboard) {
-        return;
+void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText) {
+    constexpr int kAttempts = 10;
+    constexpr int kPauseMs = 20;
+    const wxString text = WxTextOfBytes(GetAbbreviation(recordText)) + " = " +
+                          WxTextOfBytes(GetExpansion(recordText));
+    // Another program that has the clipboard open mostly lets go of it soon.
+    bool done = PutOnClipboard(text);
+    for (int i = 1; i < kAttempts && !done; ++i) {
+        wxMilliSleep(kPauseMs);
+        done = PutOnClipboard(text);
     }
-    wxTheClipboard->SetData(new wxTextDataObject(WxTextOfBytes(GetAbbreviation(recordText)) +
-                                                 " = " + WxTextOfBytes(GetExpansion(recordText))));
-    wxTheClipboard->Flush();  // or else it would go with the program
+    if (!done) {
+        WxMessageSink(&owner).Show(
+            {"The entry could not be copied: another program is using the "
+             "clipboard. Try again.",
+             kAppTitle, MessageIcon::Exclamation, MessageButtons::Ok});
+    }
 }
 
 void AddToComboHistory(wxComboBox& combo) {
@@ -128,17 +153,22 @@ void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info) {
     });
 }
 
-void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target) {
-    const int ampersand = label.GetLabel().Find('&');
-    if (ampersand == wxNOT_FOUND) {
-        return;
+void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledControl>& controls) {
+    std::vector<wxAcceleratorEntry> entries;
+    for (const auto& [label, target] : controls) {
+        const int ampersand = label->GetLabel().Find('&');
+        if (ampersand == wxNOT_FOUND) {
+            continue;
+        }
+        const wxUniChar key = wxToupper(label->GetLabel()[static_cast<std::size_t>(ampersand) + 1]);
+        const int command = wxWindow::NewControlId();
+        entries.emplace_back(wxACCEL_ALT, static_cast<int>(key.GetValue()), command);
+        wxWindow* const control = target;
+        window.Bind(
+            wxEVT_MENU, [control](wxCommandEvent&) { control->SetFocus(); }, command);
     }
-    const wxUniChar key = wxToupper(label.GetLabel()[static_cast<std::size_t>(ampersand) + 1]);
-    wxAcceleratorEntry entry(wxACCEL_ALT, static_cast<int>(key.GetValue()),
-                             wxWindow::NewControlId());
-    window.SetAcceleratorTable(wxAcceleratorTable(1, &entry));
-    window.Bind(
-        wxEVT_MENU, [&target](wxCommandEvent&) { target.SetFocus(); }, entry.GetCommand());
+    window.SetAcceleratorTable(
+        wxAcceleratorTable(static_cast<int>(entries.size()), entries.data()));
 }
 
 }  // namespace brelex

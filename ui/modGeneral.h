@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 #include "database/program_values.h"
 
@@ -26,8 +27,9 @@ void Draw3DFrame(wxDC& dc, const wxRect& area);
 void SetTopMost(wxTopLevelWindow& window, bool topMost);
 
 /// Puts the entry with this record text (Windows-1252 bytes) on the clipboard as text, in the form
-/// "RAM = Random Access Memory".
-void CopyEntryToClipboard(std::string_view recordText);
+/// "RAM = Random Access Memory". It stays there when the program ends, where the desktop keeps it.
+/// If another program holds the clipboard, waits a little and then says so over `owner`.
+void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText);
 
 /// Makes the text of a combo box the first item of its list, and removes what equals it there.
 void AddToComboHistory(wxComboBox& combo);
@@ -54,8 +56,14 @@ void ShowAppInfo(wxTextCtrl& box, const AppInfo& info);
 /// with the right mouse button, and on Shift+F10 and the menu key. `info` must outlive the box.
 void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info);
 
-/// Has the access key in the text of `label` lead to `target`. On GTK the label does so by itself;
-/// Windows promises it for dialogs only. Call once for each window.
-void LeadAccessKeyTo(wxTopLevelWindow& window, const wxStaticText& label, wxWindow& target);
+/// A label with an access key in its text, and where the key leads.
+struct LabelledControl {
+    const wxStaticText* label;
+    wxWindow* target;
+};
+
+/// Has the access keys of labels lead to the controls behind them. On GTK a label does so by
+/// itself; Windows promises it for dialogs only. Call once for each window.
+void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledControl>& controls);
 
 }  // namespace brelex

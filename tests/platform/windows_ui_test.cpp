@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What the windows ask of Windows.
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -291,6 +293,60 @@ TEST_F(MainWindowTest, StayOnTopPutsTheWindowIntoTheTopmostBand) {
     EXPECT_TRUE(isTopMost());
     SetTopMost(*window_, false);
     EXPECT_FALSE(isTopMost());
+}
+
+// Keeps the clipboard open, as another program may, for some time (milliseconds).
+class ClipboardHolder {
+  public:
+    explicit ClipboardHolder(int ms) {
+        thread_ = std::thread([this, ms] {
+            held_ = OpenClipboard(nullptr) != FALSE;
+            ready_ = true;
+            Sleep(static_cast<DWORD>(ms));
+            CloseClipboard();
+        });
+        while (!ready_) {
+            Sleep(1);
+        }
+    }
+
+    ClipboardHolder(const ClipboardHolder&) = delete;
+    ClipboardHolder& operator=(const ClipboardHolder&) = delete;
+
+    ~ClipboardHolder() { thread_.join(); }
+
+    [[nodiscard]] bool Holds() const { return held_; }
+
+  private:
+    std::atomic<bool> held_ = false;
+    std::atomic<bool> ready_ = false;
+    std::thread thread_;
+};
+
+TEST_F(MainWindowTest, CopyingWaitsForAProgramThatHoldsTheClipboard) {
+    const MessageBoxes boxes;
+    PutOnClipboard("before");
+    {
+        const ClipboardHolder holder(80);
+        ASSERT_TRUE(holder.Holds());
+        CopyEntryToClipboard(*window_, "RAM\tRandom Access Memory");
+    }
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_EQ(ClipboardText(), "RAM = Random Access Memory");
+}
+
+TEST_F(MainWindowTest, CopyingGivesUpWithAMessageIfTheClipboardStaysHeld) {
+    const MessageBoxes boxes;
+    PutOnClipboard("before");
+    {
+        const ClipboardHolder holder(1000);
+        ASSERT_TRUE(holder.Holds());
+        CopyEntryToClipboard(*window_, "RAM\tRandom Access Memory");
+    }
+    ASSERT_EQ(boxes.texts.size(), 1U);
+    EXPECT_EQ(boxes.texts[0],
+              "The entry could not be copied: another program is using the clipboard. Try again.");
+    EXPECT_EQ(ClipboardText(), "before");
 }
 
 TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {

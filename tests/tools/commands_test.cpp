@@ -61,7 +61,7 @@ TEST_F(CommandsTest, TheSameInputGivesTheSameBytes) {
     EXPECT_EQ(ReadText(PathOfUtf8(database_)), first);
 }
 
-TEST_F(CommandsTest, InfoNamesEveryFieldInFileOrder) {
+TEST_F(CommandsTest, InfoNamesEveryFieldInFileOrderAndTheFactsInWords) {
     BuildRequest request;
     request.version = "2.5";
     request.searchList = "network, memory ,, disk";
@@ -97,7 +97,18 @@ TEST_F(CommandsTest, InfoNamesEveryFieldInFileOrder) {
             "CommonFirstLetterCount: 2\n"
             "MostExpansionsIndex: 0\n"
             "MostExpansionsCount: 1\n"
-            "SearchListText: network, memory, disk\n");
+            "SearchListText: network, memory, disk\n"
+            "\n"
+            "Database version: 2.5, released on 3 Feb 2005\n"
+            "Total number of entries: 3\n"
+            "Most abbreviations start with: 'A' (2 occurrences)\n"
+            "Abbreviation with highest no. of expansions*: ABC (1 expansions)\n"
+            "Longest abbreviation*: ABCD (4 letters)\n"
+            "Longest expansion including parenthetical note*: Random Access Memory (18 letters, "
+            "abbreviated as RAM)\n"
+            "Average length of abbreviations: 3 characters\n"
+            "Average length of expansions: 10 characters\n"
+            "* The first such occurrence in the database\n");
 }
 
 TEST_F(CommandsTest, AWholeVersionIsShownWithOneDecimal) {

@@ -7,9 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <wx/clipbrd.h>
 #include <wx/combobox.h>
-#include <wx/dataobj.h>
 #include <wx/eventfilter.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
@@ -33,44 +31,22 @@ std::vector<std::string> AnagramEntries() {
     return records;
 }
 
-class AnagramWindowTest : public MainWindowTest {
+class AnagramWindowTest : public SideWindowTest {
   protected:
     void SetUp() override { Start(AnagramEntries()); }
 
     // Opens the window as the menu does, works in it, and closes it if it is still open.
     void InAnagramWindow(const std::function<void()>& work) {
-        ModalDriver driver({[&] {
-                                anagram_ = FindAnagramWindow();
-                                return anagram_ != nullptr && anagram_->IsShown() &&
-                                       anagram_->IsActive();
-                            },
-                            [&] {
-                                Settle(50);
-                                work();
-                                return true;
-                            },
-                            [&] {
-                                if (anagram_->IsModal()) {
-                                    anagram_->EndModal(wxID_CANCEL);
-                                }
-                                return true;
-                            }});
-        window_->OpenModalForm(1);
-        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
-        Settle(50);
+        InSideWindow(
+            "frmAnagram", [&] { window_->OpenModalForm(1); },
+            [&] {
+                anagram_ = &dynamic_cast<frmAnagram&>(Side());
+                work();
+            });
     }
 
     [[nodiscard]] static frmAnagram* FindAnagramWindow() {
         return dynamic_cast<frmAnagram*>(wxWindow::FindWindowByName("frmAnagram"));
-    }
-
-    template <typename Kind = wxWindow>
-    [[nodiscard]] Kind& In(const std::string& name) const {
-        return dynamic_cast<Kind&>(*wxWindow::FindWindowByName(name, anagram_));
-    }
-
-    [[nodiscard]] std::string Label(const char* name) const {
-        return Utf8Text(In<wxStaticText>(name).GetLabelText());
     }
 
     [[nodiscard]] std::string Letters() const {
@@ -112,10 +88,7 @@ class AnagramWindowTest : public MainWindowTest {
     }
 
     void Paste(const wxString& text) {
-        {
-            const wxClipboardLocker clipboard;
-            ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
-        }
+        PutOnClipboard(text);
         user_.Char('V', wxMOD_CONTROL);
     }
 

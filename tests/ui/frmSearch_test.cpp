@@ -39,42 +39,20 @@ namespace {
 const wxColour kRed(255, 0, 0);
 const wxColour kDarkRed(192, 0, 0);
 
-class SearchWindowTest : public MainWindowTest {
+class SearchWindowTest : public SideWindowTest {
   protected:
     // Opens the window as a user does, works in it, and closes it if it is still open.
     void InSearchWindow(const std::function<void()>& work) {
-        ModalDriver driver({[&] {
-                                search_ = FindSearchWindow();
-                                return search_ != nullptr && search_->IsShown() &&
-                                       search_->IsActive();
-                            },
-                            [&] {
-                                Settle(50);
-                                work();
-                                return true;
-                            },
-                            [&] {
-                                if (search_->IsModal()) {
-                                    search_->EndModal(wxID_CANCEL);
-                                }
-                                return true;
-                            }});
-        window_->OpenModalForm(0);
-        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
-        Settle(50);
+        InSideWindow(
+            "frmSearch", [&] { window_->OpenModalForm(0); },
+            [&] {
+                search_ = &dynamic_cast<frmSearch&>(Side());
+                work();
+            });
     }
 
     [[nodiscard]] static frmSearch* FindSearchWindow() {
         return dynamic_cast<frmSearch*>(wxWindow::FindWindowByName("frmSearch"));
-    }
-
-    template <typename Kind = wxWindow>
-    [[nodiscard]] Kind& In(const std::string& name) const {
-        return dynamic_cast<Kind&>(*wxWindow::FindWindowByName(name, search_));
-    }
-
-    [[nodiscard]] std::string Label(const char* name) const {
-        return Utf8Text(In<wxStaticText>(name).GetLabelText());
     }
 
     [[nodiscard]] std::string SearchText() const {
@@ -129,11 +107,6 @@ class SearchWindowTest : public MainWindowTest {
         }
     }
 
-    [[nodiscard]] bool HasFocus(const char* name) const {
-        const wxWindow* const focus = wxWindow::FindFocus();
-        return focus != nullptr && (focus == &In(name) || focus->GetParent() == &In(name));
-    }
-
     // Whether two pictures of a button are the same.
     [[nodiscard]] static bool SamePictures(const wxBitmap& one, const wxBitmap& other) {
         const wxImage a = one.ConvertToImage();
@@ -155,14 +128,6 @@ class SearchWindowTest : public MainWindowTest {
         }
         EXPECT_TRUE(Shows("cmdCancel", CancelPicture()));
         EXPECT_FALSE(IsSearching());
-    }
-
-    void Click(const char* name) {
-        const wxRect place = In(name).GetScreenRect();
-        user_.MouseMove(place.x + std::min(place.width / 2, 40), place.y + place.height / 2);
-        Settle(30);
-        user_.MouseClick();
-        Settle(50);
     }
 
     // But for what a title bar is high.

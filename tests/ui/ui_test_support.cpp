@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/ui/ui_test_support.h"
 
+#include <algorithm>
+
 #include <wx/app.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/evtloop.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
@@ -142,6 +146,79 @@ void MainWindowTest::SelectAllInBox() {
     user_.Char(WXK_HOME);
     user_.Char(WXK_END, wxMOD_SHIFT);
     EXPECT_TRUE(WaitFor([&] { return Utf8Text(Box().GetStringSelection()) == BoxText(); }));
+}
+
+void SideWindowTest::InSideWindow(const char* name, const std::function<void()>& open,
+                                  const std::function<void()>& work) {
+    ModalDriver driver({[&] {
+                            side_ = dynamic_cast<wxDialog*>(wxWindow::FindWindowByName(name));
+                            return side_ != nullptr && side_->IsShown() && side_->IsActive();
+                        },
+                        [&] {
+                            Settle(50);
+                            work();
+                            return true;
+                        },
+                        [&] {
+                            if (side_ && side_->IsModal()) {
+                                side_->EndModal(wxID_CANCEL);
+                            }
+                            return true;
+                        }});
+    open();
+    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+    Settle(50);
+}
+
+std::string SideWindowTest::Label(const char* name) const {
+    return Utf8Text(In<wxStaticText>(name).GetLabelText());
+}
+
+void SideWindowTest::Click(const char* name) {
+    const wxRect area = In(name).GetScreenRect();
+    // Where a check box has its text and not only room behind it.
+    user_.MouseMove(area.x + std::min(area.width / 2, 40), area.y + area.height / 2);
+    Settle(30);
+    user_.MouseClick();
+    Settle(50);
+}
+
+bool SideWindowTest::HasFocus(const char* name) const {
+    const wxWindow* const focus = wxWindow::FindFocus();
+    return focus != nullptr && (focus == &In(name) || focus->GetParent() == &In(name));
+}
+
+std::string ClipboardText() {
+    const wxClipboardLocker clipboard;
+    wxTextDataObject text;
+    if (!clipboard || !wxTheClipboard->GetData(text)) {
+        return {};
+    }
+    return Utf8Text(text.GetText());
+}
+
+void PutOnClipboard(const wxString& text) {
+    const wxClipboardLocker clipboard;
+    ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
+}
+
+std::string MainWindowTest::NameOfOpened(const std::function<void()>& open) {
+    std::string name;
+    ModalDriver driver({[&] {
+        for (wxWindow* window : wxTopLevelWindows) {
+            auto* const dialog = dynamic_cast<wxDialog*>(window);
+            if (dialog != nullptr && dialog->IsModal()) {
+                name = Utf8Text(dialog->GetName());
+                dialog->EndModal(wxID_CANCEL);
+                return true;
+            }
+        }
+        return false;
+    }});
+    open();
+    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+    Settle(50);
+    return name;
 }
 
 std::vector<std::string> SampleEntries() {

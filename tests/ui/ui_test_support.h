@@ -9,9 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <wx/modalhook.h>
+#include <wx/dialog.h>
 #include <wx/testing.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
+#include <wx/weakref.h>
 
 #include "app/start_up.h"
 #include "tests/support/fakes.h"
@@ -82,6 +84,9 @@ class MainWindowTest : public testing::Test {
 
     void SelectAllInBox();
 
+    /// The name of the modal window that `open` opens, which is closed at once.
+    [[nodiscard]] static std::string NameOfOpened(const std::function<void()>& open);
+
     TestFolder folder_;
     FakeMessageSink messages_;
     FakeFolderPicker picker_;
@@ -92,6 +97,39 @@ class MainWindowTest : public testing::Test {
     frmMain* window_ = nullptr;
     wxUIActionSimulator user_;
 };
+
+/// A modal window over the main window.
+class SideWindowTest : public MainWindowTest {
+  protected:
+    /// Opens the window `name`, which `open` shows modally, works in it when it is active, and
+    /// closes it if it is still open.
+    void InSideWindow(const char* name, const std::function<void()>& open,
+                      const std::function<void()>& work);
+
+    /// The open window, or the one that was open last.
+    [[nodiscard]] wxDialog& Side() const { return *side_; }
+
+    /// A control of the open window.
+    template <typename Kind = wxWindow>
+    [[nodiscard]] Kind& In(const std::string& name) const {
+        return dynamic_cast<Kind&>(*wxWindow::FindWindowByName(name, side_));
+    }
+
+    [[nodiscard]] std::string Label(const char* name) const;
+
+    /// Clicks with the mouse.
+    void Click(const char* name);
+
+    [[nodiscard]] bool HasFocus(const char* name) const;
+
+  private:
+    wxWeakRef<wxDialog> side_;  // most are destroyed when they close
+};
+
+/// The text on the clipboard.
+[[nodiscard]] std::string ClipboardText();
+
+void PutOnClipboard(const wxString& text);
 
 /// Entries for tests that need no special ones.
 [[nodiscard]] std::vector<std::string> SampleEntries();

@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmCheckData.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/msgdlg.h>
+#include <wx/statbmp.h>
+#include <wx/stattext.h>
+
+#include "database/file_io.h"
+#include "database/szdd.h"
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/artwork.h"
+#include "ui/progress_bar.h"
+
+namespace brelex {
+namespace {
+
+const wxColour kBlue(0, 0, 255);
+const wxColour kDarkRed(192, 0, 0);
+
+class CheckWindowTest : public SideWindowTest {
+  protected:
+    void InCheckWindow(const std::function<void()>& work) {
+        InSideWindow(
+            "frmCheckData", [&] { window_->OpenModalForm(5); }, work);
+    }
+
+    [[nodiscard]] bool IsChecking() const { return !In("cmdCheck").IsEnabled(); }
+
+    [[nodiscard]] int Percent() const { return In<ProgressBar>("picProgbar").Percent(); }
+
+    // The check lets the test go on while it runs, and the end of what the test does is the end of
+    // neither.
+    void StartCheck(const std::function<void()>& meanwhile) {
+        ModalDriver driver({[&] { return IsChecking() && Percent() > 0; },
+                            [&] {
+                                meanwhile();
+                                return true;
+                            }});
+        Click("cmdCheck");
+        EXPECT_TRUE(WaitFor([&] { return driver.Done() && !IsChecking(); }, 8000));
+    }
+
+    void Check() {
+        Click("cmdCheck");
+        ASSERT_TRUE(WaitFor([&] { return !IsChecking(); }, 8000));
+    }
+
+    void ChangeALetter() {
+        std::string expanded = ExpandedBytes(SampleEntries());
+        expanded.back() = 'x';
+        expanded[expanded.size() - 10] ^= 1;
+        folder_.Write("Acronyms.dat", CompressSzdd(expanded));
+    }
+
+    void ExpectResult(const char* text, const wxColour& colour) {
+        EXPECT_EQ(Label("lblResult"), text);
+        EXPECT_EQ(In("lblResult").GetForegroundColour(), colour);
+        EXPECT_EQ(Label("lblMessage"), "Completed");
+        EXPECT_EQ(Percent(), 100);
+        EXPECT_TRUE(In("imgResult").IsShown());
+    }
+
+    void ExpectNoResult() {
+        EXPECT_EQ(Label("lblResult"), "");
+        EXPECT_FALSE(In("imgResult").IsShown());
+        EXPECT_EQ(Label("lblMessage"), "Progress");
+        EXPECT_EQ(Percent(), -1);
+    }
+
+    [[nodiscard]] bool ResultHasPictureOf(const char* name) const {
+        const auto bytes = [](const wxBitmap& bitmap) {
+            const wxImage image = bitmap.ConvertToImage();
+            const auto count = static_cast<std::size_t>(image.GetWidth()) *
+                               static_cast<std::size_t>(image.GetHeight()) * 3;
+            return std::string(image.GetData(), image.GetData() + count);
+        };
+        return bytes(In<wxStaticBitmap>("imgResult").GetBitmap()) ==
+               bytes(In<wxStaticBitmap>(name).GetBitmap());
+    }
+};
+
+TEST_F(CheckWindowTest, OpensIdle) {
+    InCheckWindow([&] {
+        EXPECT_EQ(Side().GetTitle(), "Check Data Integrity");
+        wxString explanation = In<wxStaticText>("lblExplanation").GetLabelText();
+        explanation.Replace("\n", " ");
+        EXPECT_EQ(explanation,
+                  "Checks data integrity of the database. The integrity check will fail even if a "
+                  "single letter in the database has changed. It may be due to a corrupt "
+                  "installation file or a bad sector on your disk.");
+        ExpectNoResult();
+        EXPECT_FALSE(dynamic_cast<frmCheckData&>(Side()).Aborted);
+        EXPECT_TRUE(HasFocus("cmdCheck"));
+    });
+}
+
+TEST_F(CheckWindowTest, AnUnchangedFilePassesInBlue) {
+    InCheckWindow([&] {
+        Check();
+        ExpectResult("Data integrity check PASSED", kBlue);
+        EXPECT_TRUE(ResultHasPictureOf("imgPassed"));
+        EXPECT_FALSE(ResultHasPictureOf("imgFailed"));
+    });
+}
+
+TEST_F(CheckWindowTest, AChangedFileFailsInDarkRedAndPassesWhenItIsMended) {
+    ChangeALetter();
+    InCheckWindow([&] {
+        Check();
+        ExpectResult("Data integrity check FAILED", kDarkRed);
+        EXPECT_TRUE(ResultHasPictureOf("imgFailed"));
+        folder_.Write("Acronyms.dat", DatabaseBytes(SampleEntries()));
+        Check();
+        ExpectResult("Data integrity check PASSED", kBlue);
+    });
+}
+
+TEST_F(CheckWindowTest, AFileThatIsGoneFailsWithoutAMessage) {
+    std::filesystem::remove(PathOfUtf8(folder_.Text() + "Acronyms.dat"));
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        Check();
+        ExpectResult("Data integrity check FAILED", kDarkRed);
+    });
+    EXPECT_TRUE(boxes.texts.empty());
+}
+
+TEST_F(CheckWindowTest, TheStoreIsNotTouched) {
+    ChangeALetter();
+    InCheckWindow([&] { Check(); });
+    EXPECT_EQ(startUp_->Values().AcronymList->RowText(0), "AB\tAddress Bus");
+    EXPECT_EQ(startUp_->Values().RecordCount, 1506);
+}
+
+TEST_F(CheckWindowTest, ShowsHowFarItIsAndLetsTheWindowWork) {
+    InCheckWindow([&] {
+        int first = 0;
+        int later = 0;
+        ModalDriver driver({[&] {
+                                first = Percent();
+                                return IsChecking() && first > 0;
+                            },
+                            [&] {
+                                EXPECT_EQ(Label("lblMessage"), "Checking data integrity...");
+                                EXPECT_EQ(Label("lblResult"), "");
+                                later = Percent();
+                                return later > first;
+                            }});
+        Check();
+        EXPECT_TRUE(driver.Done());
+        EXPECT_GT(later, first);
+        EXPECT_LE(later, 100);
+    });
+}
+
+TEST_F(CheckWindowTest, TheResultBlinks) {
+    InCheckWindow([&] {
+        Check();
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_TRUE(WaitFor([&] { return !In("lblResult").IsShown(); }));
+            EXPECT_TRUE(In("imgResult").IsShown());
+            EXPECT_TRUE(WaitFor([&] { return In("lblResult").IsShown(); }));
+        }
+    });
+}
+
+TEST_F(CheckWindowTest, TheNextCheckClearsTheResultAndStopsItsBlinking) {
+    InCheckWindow([&] {
+        Check();
+        ASSERT_TRUE(WaitFor([&] { return !In("lblResult").IsShown(); }));
+        std::string result = "none";
+        bool shown = false;
+        bool picture = true;
+        StartCheck([&] {
+            result = Label("lblResult");
+            shown = In("lblResult").IsShown();
+            picture = In("imgResult").IsShown();
+        });
+        EXPECT_EQ(result, "");
+        EXPECT_TRUE(shown);
+        EXPECT_FALSE(picture);
+        ExpectResult("Data integrity check PASSED", kBlue);
+    });
+}
+
+TEST_F(CheckWindowTest, CancelEndsARunningCheckAndSaysSo) {
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        StartCheck([&] { Click("cmdCancel"); });
+        ASSERT_EQ(boxes.texts.size(), 1U);
+        EXPECT_EQ(boxes.texts[0], "Check was aborted by user");
+        EXPECT_EQ(boxes.titles[0], "Brevilexicon");
+        EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_INFORMATION);
+        EXPECT_TRUE(Side().IsShown());
+        ExpectNoResult();
+        Settle(700);
+        ExpectNoResult();  // nor later
+    });
+}
+
+TEST_F(CheckWindowTest, ACheckCanFollowAnAbortedOne) {
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        StartCheck([&] { user_.Char(WXK_ESCAPE); });
+        ASSERT_EQ(boxes.texts.size(), 1U);
+        ExpectNoResult();
+        Check();
+        ExpectResult("Data integrity check PASSED", kBlue);
+        EXPECT_EQ(boxes.texts.size(), 1U);
+    });
+}
+
+TEST_F(CheckWindowTest, CancelAndEscapeCloseTheIdleWindow) {
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        Click("cmdCancel");
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    InCheckWindow([&] {
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_EQ(wxWindow::FindWindowByName("frmCheckData"), nullptr);
+}
+
+TEST_F(CheckWindowTest, ClosingTheWindowEndsTheCheck) {
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        bool ended = false;
+        StartCheck([&] {
+            Side().Close();
+            ended = !Side().IsShown();
+        });
+        EXPECT_TRUE(ended);
+    });
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(startUp_->Values().TempFilePath)));
+}
+
+TEST_F(CheckWindowTest, TheEndOfTheProgramEndsTheCheck) {
+    frmMain* const window = window_;
+    InCheckWindow([&] {
+        StartCheck([&] { window->Close(true); });
+        EXPECT_FALSE(Side().IsShown());
+        window_ = nullptr;
+    });
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
+TEST_F(CheckWindowTest, TheAccessKeyAndReturnCheck) {
+    InCheckWindow([&] {
+        user_.Char('C', wxMOD_ALT);
+        ASSERT_TRUE(WaitFor([&] { return Label("lblMessage") == "Completed"; }, 8000));
+        In("cmdCheck").SetFocus();
+        In<wxStaticText>("lblMessage").SetLabelText("before");
+        user_.Char(WXK_RETURN);
+        ASSERT_TRUE(WaitFor([&] { return Label("lblMessage") == "Completed"; }, 8000));
+    });
+}
+
+}  // namespace
+}  // namespace brelex

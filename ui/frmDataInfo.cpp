@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmDataInfo.h"
+
+#include <algorithm>
+
+#include <wx/button.h>
+#include <wx/dcclient.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/statbmp.h>
+#include <wx/statline.h>
+#include <wx/stattext.h>
+
+#include "database/database_statistics.h"
+#include "platform/accessible_name.h"
+#include "ui/app_icon.h"
+#include "ui/modGeneral.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kMargin = 10;
+constexpr double kValueWidth = 260;
+constexpr int kIconSize = 48;
+
+}  // namespace
+
+frmDataInfo::frmDataInfo(wxTopLevelWindow* main, const ProgramValues& values)
+    : wxDialog(main, wxID_ANY, "Database Info"),
+      units_(*this) {
+    SetName("frmDataInfo");
+    SetIcons(AppIcons());
+    CreateControls(StatisticsOf(values));
+    PlaceControls();
+    surface_->Bind(wxEVT_PAINT, &frmDataInfo::OnPaint, this);
+    CenterWindow(*this, *main);
+    cmdOK->SetFocus();
+}
+
+void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
+    surface_ = new wxPanel(this);
+    imgAppIcon = new wxStaticBitmap(surface_, wxID_ANY, AppIcon(kIconSize));
+    SetNames(*imgAppIcon, "imgAppIcon", kAppTitle);
+    lblTitle = new wxStaticText(surface_, wxID_ANY, "Database Info");
+    lblTitle->SetName("lblTitle");
+    lblTitle->SetFont(GetFont().Bold().Scaled(1.5F));
+    lblVersion = new wxStaticText(surface_, wxID_ANY, WxText(statistics.version));
+    lblVersion->SetName("lblVersion");
+
+    for (const Statistic* statistic :
+         {&statistics.dbVersion, &statistics.acronymCount, &statistics.loadingTime,
+          &statistics.firstLetterOfMostAcronyms, &statistics.acronymWithHighestExpn,
+          &statistics.longestAcronym, &statistics.longestExpansion, &statistics.avgLenOfAcronyms,
+          &statistics.avgLenOfExpansions}) {
+        captionWidth_ = std::max(captionWidth_, GetTextExtent(statistic->caption).x);
+    }
+    captionWidth_ += units_.Pixels(4);  // measured text is a little wider when drawn (with Wine)
+
+    const int gap = units_.Pixels(kMargin);
+    figures_ = new wxBoxSizer(wxVERTICAL);
+    const auto addGroup = [&](wxFlexGridSizer* group, bool last) {
+        figures_->Add(group, 0, wxEXPAND | wxALL, gap);
+        if (!last) {
+            figures_->Add(new wxStaticLine(surface_), 0, wxEXPAND);
+        }
+    };
+    wxFlexGridSizer* group = NewGroup();
+    lblDBVersion = AddStatistic(*group, "lblDBVersion", statistics.dbVersion);
+    lblAcronymCount = AddStatistic(*group, "lblAcronymCount", statistics.acronymCount);
+    lblLoadingTime = AddStatistic(*group, "lblLoadingTime", statistics.loadingTime);
+    addGroup(group, false);
+    group = NewGroup();
+    lblFirstLetterOfMostAcronyms =
+        AddStatistic(*group, "lblFirstLetterOfMostAcronyms", statistics.firstLetterOfMostAcronyms);
+    lblAcronymWithHighestExpn =
+        AddStatistic(*group, "lblAcronymWithHighestExpn", statistics.acronymWithHighestExpn);
+    addGroup(group, false);
+    group = NewGroup();
+    lblLongestAcronym = AddStatistic(*group, "lblLongestAcronym", statistics.longestAcronym);
+    lblLongestExpansion = AddStatistic(*group, "lblLongestExpansion", statistics.longestExpansion);
+    addGroup(group, false);
+    group = NewGroup();
+    lblAvgLenOfAcronyms = AddStatistic(*group, "lblAvgLenOfAcronyms", statistics.avgLenOfAcronyms);
+    lblAvgLenOfExpansions =
+        AddStatistic(*group, "lblAvgLenOfExpansions", statistics.avgLenOfExpansions);
+    addGroup(group, true);
+
+    lblFootnote_ = new wxStaticText(surface_, wxID_ANY, kStatisticsFootnote);
+    lblFootnote_->SetName("lblFootnote");
+    cmdOK = new wxButton(surface_, wxID_OK, "OK");
+    cmdOK->SetName("cmdOK");
+    cmdOK->SetDefault();
+    SetEscapeId(wxID_OK);
+}
+
+wxFlexGridSizer* frmDataInfo::NewGroup() const {
+    auto* group = new wxFlexGridSizer(2, wxSize(units_.Pixels(kMargin), units_.Pixels(4)));
+    group->AddGrowableCol(1);
+    return group;
+}
+
+wxStaticText* frmDataInfo::AddStatistic(wxFlexGridSizer& group, const char* name,
+                                        const Statistic& statistic) {
+    auto* caption = new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
+                                     wxDefaultPosition, {captionWidth_, -1});
+    auto* value = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
+    value->SetName(name);
+    value->SetLabelText(WxText(statistic.text));
+    value->Wrap(units_.Pixels(kValueWidth));
+    value->SetMinSize({units_.Pixels(kValueWidth), -1});
+    group.Add(caption);
+    group.Add(value, 0, wxEXPAND);
+    return value;
+}
+
+wxSizer* frmDataInfo::LayoutOfTitle() {
+    auto* texts = new wxBoxSizer(wxVERTICAL);
+    texts->Add(lblTitle, 0, wxEXPAND);
+    texts->Add(lblVersion, 0, wxEXPAND | wxTOP, units_.Pixels(2));
+    auto* title = new wxBoxSizer(wxHORIZONTAL);
+    title->Add(imgAppIcon, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, units_.Pixels(kMargin));
+    title->Add(texts, 1, wxALIGN_CENTRE_VERTICAL);
+    return title;
+}
+
+void frmDataInfo::PlaceControls() {
+    const int gap = units_.Pixels(kMargin);
+    auto* end = new wxBoxSizer(wxHORIZONTAL);
+    end->Add(lblFootnote_, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
+    end->Add(cmdOK);
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(LayoutOfTitle(), 0, wxEXPAND | wxALL, gap);
+    all->Add(figures_, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
+    all->Add(end, 0, wxEXPAND | wxALL, gap);
+    surface_->SetSizer(all);
+    SetClientSize(all->GetMinSize());
+    surface_->SetSize(GetClientSize());
+    surface_->Layout();
+}
+
+void frmDataInfo::OnPaint(wxPaintEvent& /*event*/) {
+    wxPaintDC dc(surface_);
+    const wxRect figures(figures_->GetPosition(), figures_->GetSize());
+    Draw3DFrame(dc, {figures.x - 1, figures.y - 1, figures.width + 1, figures.height + 1});
+}
+
+}  // namespace brelex

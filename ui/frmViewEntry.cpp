@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmViewEntry.h"
+
+#include <string>
+#include <utility>
+
+#include <wx/bmpbuttn.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include "database/record_text.h"
+#include "platform/accessible_name.h"
+#include "platform/text_columns.h"
+#include "ui/app_icon.h"
+#include "ui/artwork.h"
+#include "ui/modGeneral.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kInnerWidth = 540;
+constexpr double kMargin = 10;
+constexpr int kExpansionLines = 3;
+constexpr int kTextMarginPixels = 4;
+
+// A line that can be read and selected but not changed. On Windows the toolkit lets the TAB key
+// pass over such a line (seen with 3.2.2).
+class ReadOnlyLine final : public wxTextCtrl {
+  public:
+    explicit ReadOnlyLine(wxWindow* parent)
+        : wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                     wxTE_READONLY) {}
+
+    [[nodiscard]] bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
+};
+
+}  // namespace
+
+frmViewEntry::frmViewEntry(wxTopLevelWindow* main, std::function<std::string_view()> selectedEntry,
+                           const AppInfo& info)
+    : wxDialog(main, wxID_ANY, "Current Selection (Read Only)"),
+      selectedEntry_(std::move(selectedEntry)),
+      units_(*this) {
+    SetName("frmViewEntry");
+    SetIcons(AppIcons());
+    CreateControls();
+    NameControls();
+    PlaceControls();
+    BindEvents(info);
+    ShowEntry();
+    CenterWindow(*this, *main);
+    cmdOK->SetFocus();
+}
+
+// In the order in which the TAB key visits them.
+void frmViewEntry::CreateControls() {
+    surface_ = new wxPanel(this);
+    lblAbbreviation_ = new wxStaticText(surface_, wxID_ANY, "&Abbreviation:");
+    txtAbbrv = new ReadOnlyLine(surface_);
+    lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
+    txtExpn = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                             wxTE_READONLY | wxTE_MULTILINE | wxTE_NO_VSCROLL);
+    for (wxStaticText** label : {&lblAbbrLen, &lblExpnLen}) {
+        *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                  wxDefaultSize, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
+        (*label)->SetMinSize({GetTextExtent("99999").x, -1});
+    }
+    cmdCopy = new wxBitmapButton(surface_, wxID_ANY, CopyPicture());
+    cmdCopy->SetToolTip("Shortcut Ctrl+C");
+    cmdOK = new wxButton(surface_, wxID_OK, "OK");
+    cmdOK->SetDefault();
+    SetEscapeId(wxID_OK);
+}
+
+void frmViewEntry::NameControls() {
+    SetNames(*txtAbbrv, "txtAbbrv", "Abbreviation");
+    SetNames(*txtExpn, "txtExpn", "Expansion");
+    lblAbbrLen->SetName("lblAbbrLen");
+    lblExpnLen->SetName("lblExpnLen");
+    SetNames(*cmdCopy, "cmdCopy", "Copy");
+    cmdOK->SetName("cmdOK");
+}
+
+wxSizer* frmViewEntry::LayoutOfCount(wxStaticText* count) {
+    auto* line = new wxBoxSizer(wxHORIZONTAL);
+    line->Add(count, 0, wxRIGHT, units_.Pixels(4));
+    line->Add(new wxStaticText(surface_, wxID_ANY, "letters"));
+    return line;
+}
+
+void frmViewEntry::PlaceControls() {
+    const int gap = units_.Pixels(kMargin);
+    auto* entry = new wxFlexGridSizer(3, wxSize(gap, gap));
+    entry->AddGrowableCol(1);
+    entry->Add(lblAbbreviation_, 0, wxALIGN_CENTRE_VERTICAL);
+    entry->Add(txtAbbrv, 0, wxEXPAND);
+    entry->Add(LayoutOfCount(lblAbbrLen), 0, wxALIGN_CENTRE_VERTICAL);
+    txtExpn->SetMinSize({-1, (kExpansionLines + 1) * txtExpn->GetCharHeight()});
+    entry->Add(lblExpansion_, 0, wxTOP, units_.Pixels(4));
+    entry->Add(txtExpn, 0, wxEXPAND);
+    entry->Add(LayoutOfCount(lblExpnLen), 0, wxTOP, units_.Pixels(4));
+
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    buttons->AddStretchSpacer();
+    buttons->Add(cmdCopy, 0, wxEXPAND | wxRIGHT, gap);
+    buttons->Add(cmdOK);
+
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(entry, 0, wxEXPAND | wxALL, gap);
+    all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    surface_->SetSizer(all);
+    SetClientSize(units_.Pixels(kInnerWidth), all->GetMinSize().y);
+    surface_->SetSize(GetClientSize());
+    surface_->Layout();
+}
+
+void frmViewEntry::BindEvents(const AppInfo& info) {
+    Bind(wxEVT_CHAR_HOOK, &frmViewEntry::OnKey, this);
+    cmdCopy->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { CopyEntry(); });
+    SetSideMargins(*txtExpn, kTextMarginPixels);
+    LeadAccessKeysTo(*this, {{lblAbbreviation_, txtAbbrv}, {lblExpansion_, txtExpn}});
+    for (wxTextCtrl* box : {txtAbbrv, txtExpn}) {
+        ShowAppInfoOnMenuRequest(*box, info);
+    }
+}
+
+void frmViewEntry::ShowEntry() {
+    const std::string_view entry = selectedEntry_();
+    const auto show = [](std::string_view text, wxTextCtrl& box, wxStaticText& count) {
+        box.ChangeValue(WxTextOfBytes(text));
+        count.SetLabelText(std::to_string(LetterCount(text)));
+    };
+    show(GetAbbreviation(entry), *txtAbbrv, *lblAbbrLen);
+    show(GetExpansion(entry), *txtExpn, *lblExpnLen);
+}
+
+void frmViewEntry::CopyEntry() {
+    CopyEntryToClipboard(*this, selectedEntry_());
+}
+
+// Before the controls: whichever has the focus, the whole entry is copied.
+void frmViewEntry::OnKey(wxKeyEvent& event) {
+    if (event.GetKeyCode() == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
+        CopyEntry();
+    } else {
+        event.Skip();
+    }
+}
+
+}  // namespace brelex
