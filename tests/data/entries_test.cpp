@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// The entries in data/ themselves, as they are in the source tree.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "database/file_io.h"
+#include "database/record_text.h"
+#include "database/string_order.h"
+#include "database/windows1252.h"
+#include "search/search_list.h"
+#include "tests/data/entry_rules.h"
+#include "tools/build_command.h"
+#include "tools/dictd_reader.h"
+#include "tools/input_entries.h"
+
+namespace brelex {
+namespace {
+
+const std::filesystem::path kData = DATA_FOLDER;
+// Where scripts/make_database.sh puts the entries of Debian's package, or the package itself.
+const std::filesystem::path kPackage =
+    std::filesystem::exists(PACKAGE_INDEX) ? PACKAGE_INDEX : "/usr/share/dictd/vera.index";
+
+std::vector<std::string> LinesOf(const std::filesystem::path& path) {
+    std::ifstream file(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::vector<std::filesystem::path> EntryFiles() {
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(kData)) {
+        if (entry.path().extension() == ".tsv") {
+            files.push_back(entry.path());
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+// Calls `check` with each line of each file and where it stands.
+template <typename Check>
+void ForEachEntry(Check check) {
+    for (const auto& file : EntryFiles()) {
+        int number = 0;
+        for (const std::string& line : LinesOf(file)) {
+            check(line, file.filename().string() + ":" + std::to_string(++number) + ": " + line);
+        }
+    }
+}
+
+TEST(Entries, ThereAreThreeThousandAndMore) {
+    int count = 0;
+    ForEachEntry([&](const std::string&, const std::string&) { ++count; });
+    EXPECT_GE(count, 3000);
+    EXPECT_EQ(EntryFiles().size(), 15U);
+}
+
+TEST(Entries, HaveTwoPartsWithoutStrayBlanks) {
+    ForEachEntry([](const std::string& line, const std::string& place) {
+        EXPECT_EQ(std::count(line.begin(), line.end(), '\t'), 1) << place;
+        EXPECT_EQ(line.find("  "), std::string::npos) << place;
+        for (const std::string_view part : {GetAbbreviation(line), GetExpansion(line)}) {
+            EXPECT_FALSE(part.empty() || part.starts_with(' ') || part.ends_with(' ')) << place;
+        }
+    });
+}
+
+TEST(Entries, CanBeStoredAndHavePlainAbbreviations) {
+    ForEachEntry([](const std::string& line, const std::string& place) {
+        std::vector<std::string> records;
+        InputReport report;
+        AddEntry(GetAbbreviation(line), GetExpansion(line), place, records, report);
+        EXPECT_EQ(report.errors, std::vector<std::string>());
+        EXPECT_EQ(report.warnings, std::vector<std::string>());
+        for (const char c : GetAbbreviation(line)) {
+            EXPECT_TRUE(c >= ' ' && c <= '~') << place;
+        }
+    });
+}
+
+TEST(Entries, EndInANoteThatIsClosed) {
+    ForEachEntry([](const std::string& line, const std::string& place) {
+        EXPECT_EQ(std::count(line.begin(), line.end(), '('),
+                  std::count(line.begin(), line.end(), ')'))
+            << place;
+        EXPECT_LT(WithoutNotes(GetExpansion(line)).size(), GetExpansion(line).size()) << place;
+    });
+}
+
+TEST(Entries, AreInTheOrderOfTheList) {
+    for (const auto& file : EntryFiles()) {
+        const std::vector<std::string> lines = LinesOf(file);
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            EXPECT_FALSE(std::is_gt(
+                CompareTexts(BytesOfUtf8(lines[i - 1]).bytes, BytesOfUtf8(lines[i]).bytes)))
+                << file.filename() << ": " << lines[i - 1] << " stands before " << lines[i];
+        }
+    }
+}
+
+TEST(Entries, StandThereOnce) {
+    std::map<std::string, std::string> seen;
+    ForEachEntry([&](const std::string& line, const std::string& place) {
+        const auto [first, isNew] =
+            seen.try_emplace(ComparableText(GetAbbreviation(line), GetExpansion(line)), place);
+        EXPECT_TRUE(isNew) << place << " is as " << first->second;
+    });
+}
+
+TEST(Entries, AreNotInThePackageInTheSameWords) {
+    if (!std::filesystem::exists(kPackage)) {
+        GTEST_SKIP() << "the package is not there";
+    }
+    std::vector<std::string> records;
+    InputReport report;
+    ReadDictdPair(kPackage, records, report);
+    ASSERT_GT(records.size(), 10000U);
+    std::map<std::string, std::string> package;
+    for (const std::string& record : records) {
+        const std::string text = Utf8OfBytes(record);
+        package.try_emplace(ComparableText(GetAbbreviation(text), GetExpansion(text)), text);
+    }
+    ForEachEntry([&](const std::string& line, const std::string& place) {
+        const auto found = package.find(ComparableText(GetAbbreviation(line), GetExpansion(line)));
+        EXPECT_EQ(found, package.end()) << place << " is there as " << found->second;
+    });
+}
+
+TEST(Entries, HavePlausibleInitialsButForTheKnownOnes) {
+    const std::vector<std::string> lines = LinesOf(kData / "unusual-initials.txt");
+    std::set<std::string> unusual(lines.begin(), lines.end());
+    EXPECT_FALSE(unusual.empty());
+    ForEachEntry([&](const std::string& line, const std::string& place) {
+        if (!HasPlausibleInitials(GetAbbreviation(line), GetExpansion(line))) {
+            EXPECT_EQ(unusual.erase(line), 1U) << place;
+        }
+    });
+    for (const std::string& line : unusual) {
+        ADD_FAILURE() << "no such entry, or its initials are usual: " << line;
+    }
+}
+
+TEST(SearchWords, FitTheHeaderAndFindSomething) {
+    const std::vector<std::string> words = LinesOf(kData / "search-words.txt");
+    EXPECT_GE(words.size(), 40U);
+    EXPECT_LE(words.size(), 60U);
+    std::string commaSeparated;
+    for (const std::string& word : words) {
+        EXPECT_EQ(word.find('1'), std::string::npos) << word;
+        commaSeparated += word + ",";
+        int hits = 0;
+        ForEachEntry([&](const std::string& line, const std::string&) {
+            std::string small = line;
+            std::transform(small.begin(), small.end(), small.begin(), [](char c) {
+                return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+            });
+            hits += small.find(word) != std::string::npos ? 1 : 0;
+        });
+        EXPECT_GE(hits, 1) << word;
+    }
+    std::string reason;
+    const auto stored = EncodeSearchList(commaSeparated, reason);
+    ASSERT_TRUE(stored) << reason;
+    EXPECT_EQ(SearchListItems(*stored).size(), words.size());
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "tests/data/entry_rules.h"
+
+#include <gtest/gtest.h>
+
+namespace brelex {
+namespace {
+
+TEST(WithoutNotes, TakesNotesOffTheEnd) {
+    EXPECT_EQ(WithoutNotes("Random Access Memory (IC)"), "Random Access Memory");
+    EXPECT_EQ(WithoutNotes("One (a (b) c) (d)"), "One");
+    EXPECT_EQ(WithoutNotes("One (two) three"), "One (two) three");
+    EXPECT_EQ(WithoutNotes("(all of it)"), "(all of it)");
+    EXPECT_EQ(WithoutNotes("not opened)"), "not opened)");
+    EXPECT_EQ(WithoutNotes(""), "");
+}
+
+TEST(ComparableText, LeavesCaseHyphensBlanksAccentsAndNotesOut) {
+    EXPECT_EQ(ComparableText("RAM", "Random-Access Memory (IC)"),
+              ComparableText("ram", "random access memory"));
+    EXPECT_EQ(ComparableText("A", "Caf\u00E9"), ComparableText("A", "Cafe"));
+    EXPECT_NE(ComparableText("C", "See"), ComparableText("C++", "See"));
+    EXPECT_NE(ComparableText("AB", "C"), ComparableText("A", "BC"));
+}
+
+struct InitialsCase {
+    const char* abbreviation;
+    const char* expansion;
+    bool plausible;
+};
+
+class Initials : public testing::TestWithParam<InitialsCase> {};
+
+TEST_P(Initials, ComeFromTheExpansion) {
+    EXPECT_EQ(HasPlausibleInitials(GetParam().abbreviation, GetParam().expansion),
+              GetParam().plausible)
+        << GetParam().abbreviation;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Initials,
+    testing::Values(InitialsCase{"RAM", "Random Access Memory", true},
+                    InitialsCase{"RAM", "Read Only Storage", false},
+                    InitialsCase{"RAM", "Extra Memory", false},
+                    InitialsCase{"ABC", "Alpha Beta (Charlie)", false},
+                    InitialsCase{"W3C", "World Wide Web Consortium", true},
+                    InitialsCase{"S3", "Simple Storage Service", true},
+                    InitialsCase{"B2B", "Business to Business", true},
+                    InitialsCase{"2FA", "Two-Factor Authentication", true},
+                    InitialsCase{"i18n", "internationalization", true},
+                    InitialsCase{"i17n", "internationalization", false},
+                    InitialsCase{"K8s", "Kubernetes (containers)", true},
+                    InitialsCase{"XSS", "Cross-Site Scripting", true},
+                    InitialsCase{"XML", "Extensible Markup Language", true},
+                    InitialsCase{"APIs", "Application Programming Interface", true},
+                    InitialsCase{"R&D", "Research and Development", true},
+                    InitialsCase{"CNET", "Centre National d'\u00C9tudes T", true}));
+
+}  // namespace
+}  // namespace brelex
