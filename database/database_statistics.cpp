@@ -20,6 +20,11 @@ std::string_view RecordAt(const RowList& rows, std::int32_t index) {
     return row < 0 ? std::string_view() : rows.RowText(row);
 }
 
+// A damaged header may hold a character that ends or breaks a text.
+std::string LetterText(char letter) {
+    return static_cast<unsigned char>(letter) < ' ' ? std::string() : Utf8OfBytes({&letter, 1});
+}
+
 std::string LetterCountText(std::string_view text) {
     return std::to_string(LetterCount(text)) + " letters";
 }
@@ -52,7 +57,7 @@ DatabaseStatistics StatisticsOf(const ProgramValues& values) {
         .loadingTime = {"Loading time (current session):",
                         FormatPlain(values.LoadingTime, values.decimalSeparator) + " seconds"},
         .firstLetterOfMostAcronyms = {"Most abbreviations start with:",
-                                      "'" + Utf8OfBytes({&header.CommonFirstLetter, 1}) + "' (" +
+                                      "'" + LetterText(header.CommonFirstLetter) + "' (" +
                                           std::to_string(header.CommonFirstLetterCount) +
                                           " occurrences)"},
         .acronymWithHighestExpn = {"Abbreviation with highest no. of expansions*:",

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "database/file_io.h"
@@ -14,15 +15,15 @@ namespace brelex {
 
 namespace {
 
-// The record block in the temporary file, as many bytes as the header says.
-std::string ReadRecordBlock(const ProgramValues& values) {
-    std::string block(static_cast<std::size_t>(std::max(values.Header.DataSize, 0)), '\0');
-    const auto file = ReadWholeFile(PathOfUtf8(values.TempFilePath));
-    if (file && file->Size() > kHeaderBytes) {
-        const std::string_view data = file->View().substr(kHeaderBytes, block.size());
-        std::copy(data.begin(), data.end(), block.begin());
+// The record block in an expanded file, as many bytes as the header says.
+std::string_view RecordBlock(std::string_view file, std::size_t bytes, std::string& filledUp) {
+    const std::string_view block = file.substr(std::min(kHeaderBytes, file.size()), bytes);
+    if (block.size() == bytes) {
+        return block;
     }
-    return block;
+    filledUp = block;
+    filledUp.resize(bytes);
+    return filledUp;
 }
 
 }  // namespace
@@ -34,8 +35,12 @@ bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, CrcWatcher
     std::size_t fileLength = 0;
     // Where this fails, the CRC will tell.
     (void)ExpandIntoTemporaryFile(values, files, fileLength);
-    const std::string block = ReadRecordBlock(values);
+    const auto file = ReadWholeFile(temporary);
     std::filesystem::remove(temporary, ignored);
+    std::string filledUp;
+    const std::string_view block =
+        RecordBlock(file ? file->View() : std::string_view(),
+                    static_cast<std::size_t>(std::max(values.Header.DataSize, 0)), filledUp);
     return GetCRCFromByteArray(block, &watcher) == values.Header.DataCRC;
 }
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include <wx/dcbuffer.h>
+#include <wx/dcclient.h>
 #include <wx/math.h>
 #include <wx/settings.h>
 
@@ -15,7 +15,7 @@ BusyAnimation::BusyAnimation(wxWindow* parent, FilmStrip strip, int intervalMs)
       strip_(std::move(strip)),
       intervalMs_(intervalMs) {
     SetName("picAnim");
-    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    SetDoubleBuffered(true);
     SetInitialSize(FromDIP(strip_.frameSize));
     Hide();
     Bind(wxEVT_PAINT, &BusyAnimation::OnPaint, this);
@@ -43,9 +43,7 @@ void BusyAnimation::ShowFrame(int frame) {
 }
 
 void BusyAnimation::OnPaint(wxPaintEvent& /*event*/) {
-    wxAutoBufferedPaintDC dc(this);
-    dc.SetBackground(GetParent()->GetBackgroundColour());
-    dc.Clear();
+    wxPaintDC dc(this);
     const wxBitmap strip = strip_.picture.GetBitmapFor(this);
     // The window shows of the strip what is as high as one frame.
     dc.DrawBitmap(strip, 0, -wxRound(strip.GetLogicalHeight() * shownFrame_ / strip_.frames));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmCheckData.h"
 
+#include <string>
+
 #include <wx/button.h>
 #include <wx/dcclient.h>
 #include <wx/panel.h>
@@ -13,8 +15,10 @@
 #include "database/integrity_check.h"
 #include "platform/accessible_name.h"
 #include "platform/fine_timer.h"
+#include "platform/paint_now.h"
 #include "ui/app_icon.h"
 #include "ui/artwork.h"
+#include "ui/backdrop.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
 #include "ui/progress_bar.h"
@@ -84,7 +88,7 @@ void frmCheckData::CreateControls() {
     lblMessage = new wxStaticText(surface_, wxID_ANY, kIdle, wxDefaultPosition, wxDefaultSize,
                                   wxST_NO_AUTORESIZE);
     picProgbar = new ProgressBar(surface_);
-    resultArea_ = new wxPanel(surface_);
+    resultArea_ = new Backdrop(surface_);
     imgResult = new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture());
     // Whose pictures a result takes.
     imgPassed = new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture());
@@ -161,6 +165,10 @@ bool frmCheckData::IsChecking() const {
 }
 
 void frmCheckData::DrawProgress(int percent) {
+    constexpr int kSpokenStep = 10;
+    if (percent % kSpokenStep == 0) {
+        SetNames(*picProgbar, "picProgbar", "Progress " + std::to_string(percent) + "%");
+    }
     picProgbar->Draw(percent);
 }
 
@@ -177,14 +185,21 @@ void frmCheckData::RunCheck() {
     cmdCancel->SetFocus();  // a disabled control would take the keyboard with it
     cmdCheck->Disable();
     Aborted = false;
+    saysAborted_ = false;
     ClearResult();
+    picProgbar->Clear();
     lblMessage->SetLabelText("Checking data integrity...");
+    PaintNow(*this);  // expanding a large file takes a moment
     bool passed = false;
     {
         Watcher watcher(*this);
         passed = IsDataIntact(values_, files_, watcher);
     }
     if (Aborted) {
+        if (saysAborted_ && IsShown()) {
+            messages_.Show({"Check was aborted by user", kAppTitle, MessageIcon::Information,
+                            MessageButtons::Ok});
+        }
         picProgbar->Clear();
         lblMessage->SetLabelText(kIdle);
     } else {
@@ -193,6 +208,9 @@ void frmCheckData::RunCheck() {
         tmrBlink.Start(kBlinkMs);
     }
     cmdCheck->Enable();
+    if (IsShown() && cmdCancel->HasFocus()) {
+        cmdCheck->SetFocus();
+    }
 }
 
 void frmCheckData::ShowResult(bool passed) {
@@ -203,17 +221,19 @@ void frmCheckData::ShowResult(bool passed) {
     imgResult->SetBitmap((passed ? imgPassed : imgFailed)->GetBitmap());
     imgResult->Show();
     lblResult->SetForegroundColour(passed ? wxColour(0, 0, 255) : wxColour(192, 0, 0));
-    lblResult->SetLabelText(passed ? "Data integrity check PASSED" : "Data integrity check FAILED");
+    const char* const text = passed ? "Data integrity check PASSED" : "Data integrity check FAILED";
+    lblResult->SetLabelText(text);
+    SetNames(*imgResult, "imgResult", text);  // the text itself comes and goes
     resultArea_->Layout();
     resultArea_->Refresh();
 }
 
+// A check that runs says so when it has ended.
 void frmCheckData::OnCancel() {
     Aborted = true;
     if (IsChecking()) {
-        messages_.Show(
-            {"Check was aborted by user", kAppTitle, MessageIcon::Information, MessageButtons::Ok});
-    } else {
+        saysAborted_ = true;
+    } else if (IsModal()) {
         EndModal(wxID_CANCEL);
     }
 }

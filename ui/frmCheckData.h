@@ -47,12 +47,13 @@ class frmCheckData final : public wxDialog {
     TemporaryFiles& files_;
     WxMessageSink messages_;
     LayoutUnits units_;
+    bool saysAborted_ = false;  // when the check has ended
 
     wxPanel* surface_ = nullptr;
     wxStaticText* lblExplanation_ = nullptr;
     wxStaticText* lblMessage = nullptr;
     ProgressBar* picProgbar = nullptr;
-    wxPanel* resultArea_ = nullptr;
+    wxWindow* resultArea_ = nullptr;
     wxStaticBitmap* imgResult = nullptr;
     wxStaticBitmap* imgPassed = nullptr;
     wxStaticBitmap* imgFailed = nullptr;

@@ -110,7 +110,8 @@ wxStaticText* frmDataInfo::AddStatistic(wxFlexGridSizer& group, const char* name
     value->SetName(name);
     value->SetLabelText(WxText(statistic.text));
     value->Wrap(units_.Pixels(kValueWidth));
-    value->SetMinSize({units_.Pixels(kValueWidth), -1});
+    // A long word does not wrap.
+    value->SetMinSize({std::max(units_.Pixels(kValueWidth), value->GetBestSize().x), -1});
     group.Add(caption);
     group.Add(value, 0, wxEXPAND);
     return value;

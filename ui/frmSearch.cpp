@@ -159,7 +159,7 @@ void frmSearch::CreateFrames() {
 
 void frmSearch::CreateResultArea() {
     picAnim = new BusyAnimation(surface_, SearchFilmStrip(), kAnimationIntervalMs);
-    statusArea_ = new wxPanel(surface_);
+    statusArea_ = new Backdrop(surface_);
     for (wxStaticText** label : {&lblStatus, &lblCount}) {
         *label = new wxStaticText(statusArea_, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                   wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);

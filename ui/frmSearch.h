@@ -91,7 +91,7 @@ class frmSearch final : public wxDialog {
     bool cancelStops_ = false;  // the tag of cmdCancel: "Stop", not "Cancel"
 
     wxPanel* surface_ = nullptr;
-    wxPanel* statusArea_ = nullptr;
+    wxWindow* statusArea_ = nullptr;
     wxStaticText* lblPrompt_ = nullptr;
     wxComboBox* cboSearchWhat = nullptr;
     std::optional<ComboTextLimit> textLimit_;

@@ -25,6 +25,7 @@ namespace {
 // The layout, in layout units.
 constexpr double kInnerWidth = 540;
 constexpr double kMargin = 10;
+constexpr double kWidthWithoutScrolling = 700;  // two lines and a half
 constexpr int kExpansionLines = 3;
 constexpr int kTextMarginPixels = 4;
 
@@ -64,7 +65,7 @@ void frmViewEntry::CreateControls() {
     txtAbbrv = new ReadOnlyLine(surface_);
     lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
     txtExpn = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                             wxTE_READONLY | wxTE_MULTILINE | wxTE_NO_VSCROLL);
+                             wxTE_READONLY | wxTE_MULTILINE | ScrollStyle());
     for (wxStaticText** label : {&lblAbbrLen, &lblExpnLen}) {
         *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                   wxDefaultSize, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
@@ -75,6 +76,12 @@ void frmViewEntry::CreateControls() {
     cmdOK = new wxButton(surface_, wxID_OK, "OK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
+}
+
+// Windows shows a scroll bar whether it is needed or not.
+long frmViewEntry::ScrollStyle() const {
+    const int width = GetTextExtent(WxTextOfBytes(GetExpansion(selectedEntry_()))).x;
+    return width < units_.Pixels(kWidthWithoutScrolling) ? wxTE_NO_VSCROLL : 0;
 }
 
 void frmViewEntry::NameControls() {
@@ -147,6 +154,8 @@ void frmViewEntry::CopyEntry() {
 void frmViewEntry::OnKey(wxKeyEvent& event) {
     if (event.GetKeyCode() == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
         CopyEntry();
+    } else if (event.GetKeyCode() == WXK_RETURN && txtExpn->HasFocus()) {
+        EndModal(wxID_OK);  // the box would keep the key to itself
     } else {
         event.Skip();
     }

@@ -27,6 +27,7 @@ class frmViewEntry final : public wxDialog {
 
   private:
     void CreateControls();
+    [[nodiscard]] long ScrollStyle() const;
     void NameControls();
     [[nodiscard]] wxSizer* LayoutOfCount(wxStaticText* count);
     void PlaceControls();

@@ -41,8 +41,8 @@ void ProgressBar::OnPaint(wxPaintEvent& /*event*/) {
         dc.DrawRectangle(0, 0, right + 1, size.y);
     }
     const wxString text = std::to_string(percent_) + "%";
-    const wxSize extent = dc.GetTextExtent(text);
     dc.SetFont(GetFont());
+    const wxSize extent = dc.GetTextExtent(text);
     dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     dc.DrawText(text, (size.x - extent.x) / 2, (size.y - extent.y) / 2);
     if (right > 0) {

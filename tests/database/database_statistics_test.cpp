@@ -137,6 +137,8 @@ TEST_F(StatisticsTest, CountsAreShownWithoutGroups) {
 TEST_F(StatisticsTest, TheFirstLetterMayBeAnyByte) {
     values_.Header.CommonFirstLetter = '\xC9';
     EXPECT_EQ(Statistics().firstLetterOfMostAcronyms.text, "'\u00C9' (0 occurrences)");
+    values_.Header.CommonFirstLetter = '\0';
+    EXPECT_EQ(Statistics().firstLetterOfMostAcronyms.text, "'' (0 occurrences)");
 }
 
 TEST_F(StatisticsTest, LettersAreAllCharactersButBlanks) {

@@ -16,23 +16,6 @@
 namespace brelex {
 namespace {
 
-TEST(GetCRCFromByteArray, TheNineDigitsGiveTheStandardCheckValue) {
-    EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray("123456789")), 0xCBF43926U);
-}
-
-TEST(GetCRCFromByteArray, AgreesWithZlibOnRandomBlocks) {
-    std::mt19937 random(1);
-    for (int i = 0; i < 200; ++i) {
-        std::string block(random() % 3000, '\0');
-        for (char& byte : block) {
-            byte = static_cast<char>(random());
-        }
-        const auto expected =
-            crc32(0, reinterpret_cast<const Bytef*>(block.data()), static_cast<uInt>(block.size()));
-        EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray(block)), expected);
-    }
-}
-
 // Writes down the progress and ends the computing at a pause (1-based), at none for 0.
 class RecordingCrcWatcher final : public CrcWatcher {
   public:
@@ -48,6 +31,25 @@ class RecordingCrcWatcher final : public CrcWatcher {
   private:
     int endsAtPause_;
 };
+
+TEST(GetCRCFromByteArray, TheNineDigitsGiveTheStandardCheckValue) {
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray("123456789")), 0xCBF43926U);
+}
+
+TEST(GetCRCFromByteArray, AgreesWithZlibOnRandomBlocks) {
+    std::mt19937 random(1);
+    for (int i = 0; i < 200; ++i) {
+        std::string block(random() % 3000, '\0');
+        for (char& byte : block) {
+            byte = static_cast<char>(random());
+        }
+        const auto expected =
+            crc32(0, reinterpret_cast<const Bytef*>(block.data()), static_cast<uInt>(block.size()));
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray(block)), expected);
+        RecordingCrcWatcher watcher;
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray(block, &watcher)), expected);
+    }
+}
 
 struct ProgressCase {
     const char* name;
@@ -81,6 +83,16 @@ TEST(CrcProgress, ComesAboutAHundredTimes) {
         EXPECT_TRUE(std::is_sorted(watcher.percents.begin(), watcher.percents.end()));
         EXPECT_EQ(watcher.percents.front(), 0);
     }
+}
+
+TEST(CrcProgress, OfManyBytesComesOncePerStep) {
+    RecordingCrcWatcher watcher;
+    (void)GetCRCFromByteArray(std::string(101, 'x'), &watcher);
+    ASSERT_EQ(watcher.percents.size(), 52U);
+    for (int i = 0; i <= 50; ++i) {
+        EXPECT_EQ(watcher.percents.at(static_cast<std::size_t>(i)), 2 * i);
+    }
+    EXPECT_EQ(watcher.percents.back(), 100);
 }
 
 TEST(CrcProgress, EndsWhereTheWatcherEndsIt) {
