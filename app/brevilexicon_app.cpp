@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/brevilexicon_app.h"
 
+#include <wx/clipbrd.h>
 #include <wx/datetime.h>
+#include <wx/filename.h>
+#include <wx/stdpaths.h>
 
 #include "database/program_values.h"
 #include "platform/command_line.h"
@@ -22,6 +25,10 @@ float SecondsSinceMidnight() {
            static_cast<float>(now.GetMillisecond()) / 1000.0F;
 }
 
+std::string ProgramName() {
+    return Utf8Text(wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetName());
+}
+
 }  // namespace
 
 bool BrevilexiconApp::OnInit() {
@@ -29,15 +36,22 @@ bool BrevilexiconApp::OnInit() {
     SetAppDisplayName(kAppTitle);
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
-    frmMain* const main = startUp_.Run({messages, picker, files_, ProgramFolder(),
-                                        Utf8Text(ArgumentText(argv.GetArguments())),
-                                        SecondsSinceMidnight, SetRunAtStartup});
+    frmMain* const main = startUp_.Run(
+        {messages, picker, files_, desktop_, ProgramName(), ProgramFolder(),
+         Utf8Text(ArgumentText(argv.GetArguments())), SecondsSinceMidnight, SetRunAtStartup});
     if (main == nullptr) {
         return false;
     }
     SetTopWindow(main);
     main->Show();
     return true;
+}
+
+int BrevilexiconApp::OnExit() {
+    // What was copied is to stay, where the desktop keeps it. Asking for that runs an event loop on
+    // GTK, so it waits until no window is left.
+    wxTheClipboard->Flush();
+    return wxApp::OnExit();
 }
 
 }  // namespace brelex

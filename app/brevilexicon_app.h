@@ -4,6 +4,7 @@
 #include <wx/app.h>
 
 #include "app/start_up.h"
+#include "platform/system_desktop.h"
 #include "platform/system_temporary_files.h"
 
 namespace brelex {
@@ -12,9 +13,11 @@ namespace brelex {
 class BrevilexiconApp final : public wxApp {
   public:
     bool OnInit() override;
+    int OnExit() override;
 
   private:
     SystemTemporaryFiles files_;
+    SystemDesktop desktop_;
     StartUp startUp_;
 };
 

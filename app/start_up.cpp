@@ -32,8 +32,13 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
     auto* main = new frmMain(values_, store_);
     splash->PaintAtOnce();
     const MainSurroundings mainSurroundings{
-        surroundings.files, surroundings.messages, surroundings.secondsSinceMidnight,
-        surroundings.commandLine, [this, set = surroundings.setRunAtStartup](bool enable) {
+        surroundings.files,
+        surroundings.desktop,
+        surroundings.programName,
+        surroundings.messages,
+        surroundings.secondsSinceMidnight,
+        surroundings.commandLine,
+        [this, set = surroundings.setRunAtStartup](bool enable) {
             return set(values_.AppFolder, enable);
         }};
     if (!main->Load(*splash, mainSurroundings)) {

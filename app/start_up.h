@@ -11,6 +11,7 @@
 #include "database/record_store.h"
 #include "database/temporary_files.h"
 #include "platform/instance_guard.h"
+#include "platform/modShowHelp.h"
 
 namespace brelex {
 
@@ -21,6 +22,8 @@ struct StartUpSurroundings {
     MessageSink& messages;
     FolderPicker& picker;
     TemporaryFiles& files;      ///< must outlive the windows
+    Desktop& desktop;           ///< must outlive the windows
+    std::string programName;    ///< of the program file, without extension, UTF-8
     std::string programFolder;  ///< UTF-8
     std::string commandLine;    ///< the whole argument text, UTF-8
     std::function<float()> secondsSinceMidnight;

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
-folders=(app database lookup presentation search ui platform tools tests fuzz benchmarks)
+folders=(app database help lookup presentation search ui platform tools tests fuzz benchmarks)
 need_packages "${build_packages[@]}" libgtest-dev googletest clang clang-format clang-tidy
 step "layout"
 mapfile -t code < <(git ls-files --cached --others --exclude-standard -- '*.h' '*.cpp')

@@ -30,7 +30,7 @@ need_packages() {
 }
 
 build_packages=(cmake ninja-build g++ pkg-config libwxgtk3.2-dev libgtk-3-dev libkeybinder-3.0-dev
-                libdbusmenu-glib-dev zlib1g-dev libcli11-dev ca-certificates)
+                libdbusmenu-glib-dev zlib1g-dev libcli11-dev shared-mime-info ca-certificates)
 windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev make dpkg-dev
                   xz-utils mmdebstrap bubblewrap libcli11-dev librsvg2-bin icoutils
                   ca-certificates)

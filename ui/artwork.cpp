@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "ui/artwork.h"
 
+#include <algorithm>
+
 #include "embedded/kAnagramStripSvg.h"
 #include "embedded/kCancelSvg.h"
 #include "embedded/kCopySvg.h"
+#include "embedded/kDonateButtonSvg.h"
 #include "embedded/kExpandSvg.h"
 #include "embedded/kFailedSvg.h"
 #include "embedded/kPassedSvg.h"
 #include "embedded/kSearchStripSvg.h"
 #include "embedded/kShrinkSvg.h"
 #include "embedded/kStopSvg.h"
+#include "embedded/kToolbarAboutSvg.h"
+#include "embedded/kToolbarAnagramSvg.h"
+#include "embedded/kToolbarDonateSvg.h"
+#include "embedded/kToolbarExitSvg.h"
+#include "embedded/kToolbarHelpSvg.h"
+#include "embedded/kToolbarSearchSvg.h"
+#include "embedded/kToolbarSmileySvg.h"
 
 namespace brelex {
 
@@ -56,6 +66,20 @@ wxBitmapBundle PassedPicture() {
 
 wxBitmapBundle FailedPicture() {
     return ResultPicture(kFailedSvg);
+}
+
+std::array<wxBitmapBundle, kToolbarIcons.size()> ToolbarPictures() {
+    constexpr std::array kSources = {
+        &kToolbarSearchSvg[0], &kToolbarAnagramSvg[0], &kToolbarSmileySvg[0], &kToolbarHelpSvg[0],
+        &kToolbarAboutSvg[0],  &kToolbarDonateSvg[0],  &kToolbarExitSvg[0]};
+    std::array<wxBitmapBundle, kToolbarIcons.size()> pictures;
+    std::transform(kSources.begin(), kSources.end(), pictures.begin(),
+                   [](const char* svg) { return wxBitmapBundle::FromSVG(svg, wxSize(32, 32)); });
+    return pictures;
+}
+
+wxBitmapBundle DonateButtonPicture() {
+    return wxBitmapBundle::FromSVG(kDonateButtonSvg, wxSize(92, 31));
 }
 
 FilmStrip SearchFilmStrip() {

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+
 #include <wx/bmpbndl.h>
+
+#include "presentation/toolbar_state.h"
 
 namespace brelex {
 
@@ -15,6 +19,12 @@ namespace brelex {
 // Pictures of 32 by 32 for the results of a check.
 [[nodiscard]] wxBitmapBundle PassedPicture();
 [[nodiscard]] wxBitmapBundle FailedPicture();
+
+/// The toolbar's icons of 32 by 32, from left to right.
+[[nodiscard]] std::array<wxBitmapBundle, kToolbarIcons.size()> ToolbarPictures();
+
+/// The button that leads to the donation page, 92 by 31.
+[[nodiscard]] wxBitmapBundle DonateButtonPicture();
 
 /// A film strip: pictures of one size, the first at the top, the others below it.
 struct FilmStrip {

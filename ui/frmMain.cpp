@@ -25,16 +25,20 @@
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
+#include "ui/frmAbout.h"
 #include "ui/frmAnagram.h"
 #include "ui/frmCheckData.h"
 #include "ui/frmDataInfo.h"
+#include "ui/frmDonation.h"
 #include "ui/frmSearch.h"
+#include "ui/frmSmiley.h"
 #include "ui/frmSplash.h"
 #include "ui/frmViewEntry.h"
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
 #include "ui/title_image.h"
+#include "ui/toolbar.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -43,7 +47,7 @@ namespace {
 
 // The layout, in layout units.
 constexpr double kInnerWidth = 760;
-constexpr double kInnerHeight = 540;
+constexpr double kInnerHeight = 572;
 constexpr double kMargin = 8;
 constexpr double kTitleWidth = 190;
 constexpr double kHeaderHeight = 18;
@@ -96,6 +100,7 @@ class frmMain::ModalScope {
     explicit ModalScope(frmMain& window)
         : window_(window),
           outermost_(!std::exchange(window.IsModalOpen, true)) {
+        window_.picToolbar->LetGo();
         if (outermost_) {
             window_.TrayMenuChanged();
             if (window_.IsStayOnTop) {
@@ -146,6 +151,7 @@ frmMain::frmMain(ProgramValues& values, RecordStore& store)
 
 void frmMain::CreateControls() {
     surface_ = new wxPanel(this);
+    picToolbar = new Toolbar(surface_, units_, EventsOfToolbar());
     lblAppTitle = new Backdrop(surface_);
     imgAppTitle = new wxStaticBitmap(lblAppTitle, wxID_ANY, wxBitmap(1, 1));
     lblInstruction = new wxStaticText(
@@ -182,13 +188,15 @@ void frmMain::PlaceControls() {
 
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
-    const int boxTop = margin + lblInstruction->GetBestSize().y + px(3);
+    picToolbar->SetSize(0, 0, inner.x, picToolbar->GetBestSize().y);
+    const int top = picToolbar->GetSize().y;
+    const int boxTop = top + lblInstruction->GetBestSize().y + px(3);
     // The toolkit's best height does not always follow a large font (seen with GTK 3.24).
     const int boxHeight = std::max(txtAbbrv->GetBestSize().y, txtAbbrv->GetCharHeight() + px(11));
-    lblInstruction->SetSize(boxLeft, margin, inner.x - boxLeft - margin,
+    lblInstruction->SetSize(boxLeft, top, inner.x - boxLeft - margin,
                             lblInstruction->GetBestSize().y);
     txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
-    lblAppTitle->SetSize(margin, margin, px(kTitleWidth), boxTop + boxHeight - margin);
+    lblAppTitle->SetSize(margin, top, px(kTitleWidth), boxTop + boxHeight - top);
 
     const int listTop = boxTop + boxHeight + margin + px(kHeaderHeight);
     const int listBottom = inner.y - px(kStatusFrameHeight + 2) - margin;
@@ -353,6 +361,9 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     hotKey_ = std::make_unique<ActivationHotKey>(*this, [this] { ActivateWindow(); });
     trayIcon_ = AddTrayIcon(AppIcons(), kAppTitle, TrayEventsOfWindow());
     files_ = &surroundings.files;
+    desktop_ = &surroundings.desktop;
+    programName_ = surroundings.programName;
+    openAddress_ = [this](const std::string& address) { desktop_->Open(address); };
     setRunAtStartup_ = surroundings.setRunAtStartup;
     setRunAtStartup_(true);
     splash.Destroy();
@@ -385,16 +396,16 @@ void frmMain::OpenModalForm(int number) {
             ShowOnce(new frmDataInfo(this, values_));
             break;
         case 3:
-            SayNotYet("Smiley Dictionary");
+            ShowOnce(new frmSmiley(this, values_.info));
             break;
         case 4:
-            SayNotYet("About");
+            ShowOnce(new frmAbout(this, values_, openAddress_));
             break;
         case 5:
             ShowOnce(new frmCheckData(this, values_, *files_));
             break;
         case 6:
-            SayNotYet("Donate via PayPal");
+            ShowOnce(new frmDonation(this, values_.info, openAddress_));
             break;
         default:
             break;
@@ -415,10 +426,51 @@ std::string_view frmMain::SelectedEntry() const {
     return row < 0 ? std::string_view() : store_.RowText(row);
 }
 
-void frmMain::SayNotYet(const std::string& what) {
+void frmMain::ShowHelp() {
+    const ModalScope modal(*this);  // it may complain
+    ShowHelpContents({values_.AppFolder, programName_}, *desktop_, messages_);
+}
+
+void frmMain::ShowReadMe() {
     const ModalScope modal(*this);
-    messages_.Show({what + " is not part of this version yet.", kAppTitle, MessageIcon::Information,
-                    MessageButtons::Ok});
+    OpenReadMe({values_.AppFolder, programName_}, *desktop_, messages_);
+}
+
+ToolbarEvents frmMain::EventsOfToolbar() {
+    ToolbarEvents events;
+    events.onHot = [this](int icon) {
+        lblDescription->SetLabelText(
+            icon < 0 ? "" : kToolbarIcons.at(static_cast<std::size_t>(icon)).description);
+    };
+    // When the toolbar is done with the mouse: an action may end the program.
+    events.onAction = [this](int icon) { CallAfter([this, icon] { RunToolbarAction(icon); }); };
+    return events;
+}
+
+void frmMain::RunToolbarAction(int icon) {
+    switch (icon) {
+        case 0:
+        case 1:
+            OpenModalForm(icon);
+            break;
+        case 2:
+            OpenModalForm(3);
+            break;
+        case 3:
+            ShowHelp();
+            break;
+        case 4:
+            OpenModalForm(4);
+            break;
+        case 5:
+            OpenModalForm(6);
+            break;
+        case 6:
+            Close();
+            break;
+        default:
+            break;
+    }
 }
 
 void frmMain::GoToRecordNumber(std::int32_t nRecordNumber) {
@@ -474,10 +526,10 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             setRunAtStartup_(event.IsChecked());
             break;
         case kHelpItem:
-            SayNotYet("Help");
+            ShowHelp();
             break;
         case kHelpItem + 2:
-            SayNotYet("ReadMe");
+            ShowReadMe();
             break;
         case kHelpItem + 3:
             OpenModalForm(3);
@@ -511,8 +563,12 @@ void frmMain::OnClose(wxCloseEvent& event) {
         return;
     }
     tmrCheckCommand.Stop();
+    picToolbar->LetGo();
     UnloadOtherForms();
     RemoveTrayIcon(trayIcon_);
+    if (desktop_ != nullptr) {  // there may have been no time to load
+        CloseHelp(*desktop_);
+    }
     Destroy();
     wxWakeUpIdle();  // which destroys; what closed the window may not be an event of the toolkit's
 }

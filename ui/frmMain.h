@@ -15,6 +15,7 @@
 #include "lookup/lookup_box.h"
 #include "platform/acronym_list.h"
 #include "platform/hot_key.h"
+#include "platform/modShowHelp.h"
 #include "platform/modSysTray.h"
 #include "ui/hover_hints.h"
 #include "ui/layout_units.h"
@@ -32,11 +33,15 @@ namespace brelex {
 class frmAnagram;
 class frmSearch;
 class frmSplash;
+class Toolbar;
+struct ToolbarEvents;
 
 /// What frmMain loads with.
 struct MainSurroundings {
-    TemporaryFiles& files;  ///< must outlive the window
-    MessageSink& messages;  ///< for messages before the window is shown
+    TemporaryFiles& files;    ///< must outlive the window
+    Desktop& desktop;         ///< must outlive the window
+    std::string programName;  ///< of the program file, without extension (UTF-8)
+    MessageSink& messages;    ///< for messages before the window is shown
     std::function<float()> secondsSinceMidnight;
     std::string commandLine;                    ///< the whole argument text (UTF-8)
     std::function<bool(bool)> setRunAtStartup;  ///< registers the program for the log-on, or not
@@ -85,7 +90,10 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void UnloadOtherForms();
     void OpenEntryViewer();
     [[nodiscard]] std::string_view SelectedEntry() const;
-    void SayNotYet(const std::string& what);
+    void ShowHelp();
+    void ShowReadMe();
+    [[nodiscard]] ToolbarEvents EventsOfToolbar();
+    void RunToolbarAction(int icon);
     void SetMaxBoxLength(std::size_t length);
 
     void OnPaint(wxPaintEvent& event);
@@ -146,6 +154,9 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::size_t maxBoxLength_ = 0;
     std::function<bool(bool)> setRunAtStartup_;
     TemporaryFiles* files_ = nullptr;
+    Desktop* desktop_ = nullptr;
+    std::string programName_;
+    std::function<void(const std::string&)> openAddress_;
     std::optional<HoverHints> hints_;
     frmSearch* search_ = nullptr;  // made when they are first opened
     frmAnagram* anagram_ = nullptr;
@@ -154,6 +165,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::unique_ptr<ActivationHotKey> hotKey_;
 
     wxPanel* surface_ = nullptr;
+    Toolbar* picToolbar = nullptr;
     wxWindow* lblAppTitle = nullptr;
     wxStaticBitmap* imgAppTitle = nullptr;
     wxStaticText* lblInstruction = nullptr;

@@ -25,11 +25,10 @@ namespace {
 bool PutOnClipboard(const wxString& text) {
     const wxLogNull quiet;  // the toolkit would show its own message
     const wxClipboardLocker clipboard;
-    if (!clipboard || !wxTheClipboard->SetData(new wxTextDataObject(text))) {
+    if (!clipboard) {
         return false;
     }
-    wxTheClipboard->Flush();  // or else it would go with the program
-    return true;
+    return wxTheClipboard->SetData(new wxTextDataObject(text));
 }
 
 }  // namespace
@@ -161,11 +160,13 @@ void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledContro
             continue;
         }
         const wxUniChar key = wxToupper(label->GetLabel()[static_cast<std::size_t>(ampersand) + 1]);
-        const int command = wxWindow::NewControlId();
+        // Held by the handler, so that the number can be used again when the window is gone.
+        const wxWindowIDRef command(wxWindow::NewControlId());
         entries.emplace_back(wxACCEL_ALT, static_cast<int>(key.GetValue()), command);
-        wxWindow* const control = target;
         window.Bind(
-            wxEVT_MENU, [control](wxCommandEvent&) { control->SetFocus(); }, command);
+            wxEVT_MENU,
+            [control = target, command](wxCommandEvent& /*event*/) { control->SetFocus(); },
+            command);
     }
     window.SetAcceleratorTable(
         wxAcceleratorTable(static_cast<int>(entries.size()), entries.data()));

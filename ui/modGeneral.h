@@ -27,8 +27,8 @@ void Draw3DFrame(wxDC& dc, const wxRect& area);
 void SetTopMost(wxTopLevelWindow& window, bool topMost);
 
 /// Puts the entry with this record text (Windows-1252 bytes) on the clipboard as text, in the form
-/// "RAM = Random Access Memory". It stays there when the program ends, where the desktop keeps it.
-/// If another program holds the clipboard, waits a little and then says so over `owner`.
+/// "RAM = Random Access Memory". If another program holds the clipboard, waits a little and then
+/// says so over `owner`.
 void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText);
 
 /// Makes the text of a combo box the first item of its list, and removes what equals it there.

@@ -90,13 +90,14 @@ TEST(StartUpOnWindows, ALogOffThatArrivesWhileLoadingClosesTheWindowAfterwards) 
     FakeMessageSink messages;
     FakeFolderPicker picker;
     FakeTemporaryFiles files(folder.Text());
+    FakeDesktop desktop;
     StartUp startUp;
     auto* const question = new wxCloseEvent(wxEVT_QUERY_END_SESSION);
     question->SetCanVeto(true);
     wxTheApp->QueueEvent(question);
     frmMain* const window =
-        startUp.Run({messages, picker, files, folder.Text(), "", [] { return 0.0F; },
-                     [](const std::string&, bool) { return true; }});
+        startUp.Run({messages, picker, files, desktop, "brevilexicon", folder.Text(), "",
+                     [] { return 0.0F; }, [](const std::string&, bool) { return true; }});
     ASSERT_NE(window, nullptr);
     wxTheApp->SetTopWindow(window);
     window->Show();

@@ -39,6 +39,27 @@ bool FakeTemporaryFiles::WriteNewFile(const std::string& path, std::string_view 
     return !file.fail() && !diskIsFull;
 }
 
+bool FakeDesktop::BringWindowForward(const std::string& title) {
+    if (title != openWindow) {
+        return false;
+    }
+    broughtForward.push_back(title);
+    return true;
+}
+
+void FakeDesktop::AskWindowToClose(const std::string& title) {
+    askedToClose.push_back(title);
+}
+
+bool FakeDesktop::Open(const std::string& target) {
+    opened.push_back(target);
+    return hasPrograms;
+}
+
+void FakeDesktop::OpenToRead(const std::string& path) {
+    openedToRead.push_back(path);
+}
+
 FakeRows::FakeRows(const std::vector<std::string>& rows) {
     for (const std::string& row : rows) {
         block_ += row;

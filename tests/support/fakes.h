@@ -13,6 +13,7 @@
 #include "database/progress_sink.h"
 #include "database/row_list.h"
 #include "database/temporary_files.h"
+#include "platform/modShowHelp.h"
 
 namespace brelex {
 
@@ -59,6 +60,22 @@ class FakeTemporaryFiles final : public TemporaryFiles {
 
   private:
     std::string folder_;
+};
+
+/// A desktop with or without an open window, and with or without programs for files.
+class FakeDesktop final : public Desktop {
+  public:
+    [[nodiscard]] bool BringWindowForward(const std::string& title) override;
+    void AskWindowToClose(const std::string& title) override;
+    bool Open(const std::string& target) override;
+    void OpenToRead(const std::string& path) override;
+
+    std::string openWindow;  ///< its title
+    bool hasPrograms = true;
+    std::vector<std::string> broughtForward;
+    std::vector<std::string> askedToClose;
+    std::vector<std::string> opened;
+    std::vector<std::string> openedToRead;
 };
 
 /// Rows from a list of texts. They promise nothing of their order.

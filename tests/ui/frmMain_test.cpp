@@ -594,19 +594,14 @@ TEST_F(FrmMainLayout, TheMenusOpenTheirWindows) {
     };
 
     for (const Item& item : {Item{kFileItem, "frmDataInfo"}, Item{kFileItem + 1, "frmCheckData"},
-                             Item{kSearchItem, "frmSearch"}, Item{kSearchItem + 1, "frmAnagram"}}) {
+                             Item{kSearchItem, "frmSearch"}, Item{kSearchItem + 1, "frmAnagram"},
+                             Item{kHelpItem + 3, "frmSmiley"}, Item{kHelpItem + 5, "frmDonation"},
+                             Item{kHelpItem + 6, "frmAbout"}}) {
         EXPECT_EQ(NameOfOpened([&] {
                       wxCommandEvent command(wxEVT_MENU, item.id);
                       window_->ProcessWindowEvent(command);
                   }),
                   item.window);
-    }
-}
-
-TEST_F(FrmMainLayout, ItemsOfLaterVersionsSaySo) {
-    for (const int id : {kHelpItem, kHelpItem + 2, kHelpItem + 3, kHelpItem + 5, kHelpItem + 6}) {
-        wxCommandEvent command(wxEVT_MENU, id);
-        wxTEST_DIALOG(window_->ProcessWindowEvent(command), wxExpectModal<wxMessageDialog>(wxOK));
     }
 }
 
@@ -693,7 +688,7 @@ TEST_F(FrmMainMouse, EachControlHasItsHint) {
 TEST_F(FrmMainMouse, TheBareSurfaceHasNoHint) {
     MoveTo(*Control("txtAbbrv"), {6, 6});
     ASSERT_TRUE(WaitFor([&] { return !LabelText("lblDescription").empty(); }));
-    MoveTo(*Control("lblAppTitle")->GetParent(), {4, 4});
+    MoveTo(*Control("lblAppTitle")->GetParent(), {600, 2});
     EXPECT_TRUE(WaitFor([&] { return LabelText("lblDescription").empty(); }));
 }
 
@@ -706,21 +701,41 @@ struct DoubleClickCase {
 class FrmMainDoubleClick : public FrmMainMouse,
                            public testing::WithParamInterface<DoubleClickCase> {};
 
-TEST_F(FrmMainMouse, F1AsksForHelp) {
-    const MessageBoxes boxes;
+TEST_F(FrmMainMouse, F1ShowsTheHelp) {
+    folder_.Write("Brelex.hlp", "help");
     user_.Char(WXK_F1);
-    ASSERT_TRUE(WaitFor([&] { return !boxes.texts.empty(); }));
-    EXPECT_EQ(boxes.texts[0], "Help is not part of this version yet.");
+    EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+    EXPECT_FALSE(window_->IsModalOpen);
+}
+
+TEST_F(FrmMainMouse, HelpAndReadMeThatAreMissingAreNamed) {
+    const MessageBoxes boxes;
+    for (const int id : {kHelpItem, kHelpItem + 2}) {
+        wxCommandEvent command(wxEVT_MENU, id);
+        window_->ProcessWindowEvent(command);
+    }
+    ASSERT_EQ(boxes.texts.size(), 2U);
+    EXPECT_EQ(boxes.texts[0],
+              "Cannot find the Help file Brelex.hlp. Ensure that the file exists on your disk. "
+              "Otherwise you may need to reinstall brevilexicon.");
+    EXPECT_EQ(boxes.texts[1], "Cannot find file \"ReadMe.txt\"");
+}
+
+TEST_F(FrmMainMouse, TheEndOfTheProgramClosesTheHelpViewer) {
+    frmMain* const window = std::exchange(window_, nullptr);
+    window->Close();
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+    EXPECT_EQ(desktop_.askedToClose, std::vector<std::string>{"Brevilexicon Help"});
 }
 
 TEST_P(FrmMainDoubleClick, OpensTheWindow) {
-    const MessageBoxes boxes;
     MoveTo(*Control(GetParam().control), {8, 8});
     EXPECT_EQ(NameOfOpened([&] { user_.MouseDblClick(); }), GetParam().window);
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, FrmMainDoubleClick,
-                         testing::Values(DoubleClickCase{"TheCount", "lblRecCount", "frmDataInfo"}),
+                         testing::Values(DoubleClickCase{"TheCount", "lblRecCount", "frmDataInfo"},
+                                         DoubleClickCase{"TheTitle", "imgAppTitle", "frmAbout"}),
                          CaseName());
 
 TEST_F(FrmMainMouse, TheRightButtonSelectsTheRowAndWritesItsAbbreviationBeforeTheMenu) {

@@ -27,6 +27,8 @@ class StartUpTest : public testing::Test {
         return {messages,
                 picker_,
                 files_,
+                desktop_,
+                "brevilexicon",
                 folder_.Text(),
                 "",
                 [this] {
@@ -48,6 +50,7 @@ class StartUpTest : public testing::Test {
     FakeMessageSink messages_;
     FakeFolderPicker picker_;
     FakeTemporaryFiles files_{folder_.Text()};
+    FakeDesktop desktop_;
     StartUp startUp_;
     float clock_ = 100;
     std::vector<std::pair<std::string, bool>> registered_;  // what was asked of the log-on

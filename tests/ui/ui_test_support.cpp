@@ -93,12 +93,12 @@ void MainWindowTest::StartWith(const std::string& databaseFile, const std::strin
     startUp_.reset();
     folder_.Write("Acronyms.dat", databaseFile);
     startUp_ = std::make_unique<StartUp>();
-    window_ =
-        startUp_->Run({messages_, picker_, files_, folder_.Text(), commandLine, [] { return 0.0F; },
-                       [this](const std::string& /*folder*/, bool enable) {
-                           runAtStartup_.push_back(enable);
-                           return runAtStartupWorks_;
-                       }});
+    window_ = startUp_->Run({messages_, picker_, files_, desktop_, "brevilexicon", folder_.Text(),
+                             commandLine, [] { return 0.0F; },
+                             [this](const std::string& /*folder*/, bool enable) {
+                                 runAtStartup_.push_back(enable);
+                                 return runAtStartupWorks_;
+                             }});
     ASSERT_NE(window_, nullptr);
     window_->Show();
     // Without the focus no simulated key arrives. The desktop may still be giving it to what is
@@ -202,13 +202,17 @@ void PutOnClipboard(const wxString& text) {
     ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
 }
 
-std::string MainWindowTest::NameOfOpened(const std::function<void()>& open) {
+std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,
+                                         const std::function<void()>& look) {
     std::string name;
     ModalDriver driver({[&] {
         for (wxWindow* window : wxTopLevelWindows) {
             auto* const dialog = dynamic_cast<wxDialog*>(window);
             if (dialog != nullptr && dialog->IsModal()) {
                 name = Utf8Text(dialog->GetName());
+                if (look) {
+                    look();
+                }
                 dialog->EndModal(wxID_CANCEL);
                 return true;
             }

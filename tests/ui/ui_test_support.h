@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <wx/modalhook.h>
 #include <wx/dialog.h>
+#include <wx/modalhook.h>
 #include <wx/testing.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
@@ -85,12 +85,14 @@ class MainWindowTest : public testing::Test {
     void SelectAllInBox();
 
     /// The name of the modal window that `open` opens, which is closed at once.
-    [[nodiscard]] static std::string NameOfOpened(const std::function<void()>& open);
+    [[nodiscard]] static std::string NameOfOpened(const std::function<void()>& open,
+                                                  const std::function<void()>& look = {});
 
     TestFolder folder_;
     FakeMessageSink messages_;
     FakeFolderPicker picker_;
     FakeTemporaryFiles files_{folder_.Text()};
+    FakeDesktop desktop_;
     std::vector<bool> runAtStartup_;  ///< what was asked of the log-on
     bool runAtStartupWorks_ = true;
     std::unique_ptr<StartUp> startUp_;

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+// brelex-help FILE: shows the help book in FILE, or the one beside this program. On Windows
+// "brelex-help --register" has it open .hlp files for this user, and "--unregister" no longer.
+#include <memory>
+
+#include <wx/app.h>
+#include <wx/filename.h>
+#include <wx/filesys.h>
+#include <wx/fs_zip.h>
+#include <wx/html/helpctrl.h>
+#include <wx/html/helpfrm.h>
+#include <wx/image.h>
+#include <wx/msgdlg.h>
+#include <wx/stdpaths.h>
+
+#include "platform/help_association.h"
+#include "platform/modShowHelp.h"
+#include "ui/app_icon.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The project file in a book, which is a ZIP archive.
+const char* const kProjectInBook = "#zip:brelex.hhp";
+
+class HelpApp final : public wxApp {
+  public:
+    bool OnInit() override {
+        SetAppName("brelex-help");
+        const wxString argument = argc > 1 ? argv[1] : wxString();
+        if (argument == "--register" || argument == "--unregister") {
+            OpenHelpFilesWith(argument == "--register"
+                                  ? Utf8Text(wxStandardPaths::Get().GetExecutablePath())
+                                  : std::string());
+            return true;
+        }
+        wxImage::AddHandler(new wxPNGHandler);
+        wxFileSystem::AddHandler(new wxZipFSHandler);
+        return ShowBook(argument.empty() ? BookBesideProgram() : argument);
+    }
+
+    // Without a window there is nothing to run.
+    int OnRun() override { return GetTopWindow() == nullptr ? 0 : wxApp::OnRun(); }
+
+  private:
+    static wxString BookBesideProgram() {
+        return wxFileName(wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath(),
+                          kHelpFileName)
+            .GetFullPath();
+    }
+
+    bool ShowBook(const wxString& path) {
+        const wxFileName book =
+            path.StartsWith("file:") ? wxFileSystem::URLToFileName(path) : wxFileName(path);
+        controller_.SetTitleFormat(kHelpTitle);
+        controller_.SetShouldPreventAppExit(true);
+        const wxString url = wxFileSystem::FileNameToURL(book) + kProjectInBook;
+        if (!book.FileExists() || !IsBook(url) || !controller_.AddBook(url)) {
+            wxMessageBox("Cannot open the Help file \"" + book.GetFullPath() + "\".", kHelpTitle,
+                         wxOK | wxICON_EXCLAMATION);
+            return false;
+        }
+        controller_.DisplayContents();
+        if (wxHtmlHelpFrame* const frame = controller_.GetFrame()) {
+            frame->SetName("frmHelp");
+            frame->SetIcons(AppIcons());
+            SetTopWindow(frame);
+        }
+        return true;
+    }
+
+    static bool IsBook(const wxString& url) {
+        wxFileSystem files;
+        const std::unique_ptr<wxFSFile> project(files.OpenFile(url));
+        return project != nullptr;
+    }
+
+    wxHtmlHelpController controller_{wxHF_DEFAULT_STYLE & ~wxHF_OPEN_FILES};
+};
+
+}  // namespace
+
+}  // namespace brelex
+
+// NOLINTNEXTLINE: the toolkit's macro
+wxIMPLEMENT_APP(brelex::HelpApp);

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system_desktop.h"
+
+#include <cstring>
+#include <gio/gio.h>
+#include <memory>
+#include <vector>
+
+#include <gtk/gtk.h>
+#ifdef GDK_WINDOWING_X11
+#include <X11/Xatom.h>
+
+#include <gdk/gdkx.h>
+#endif
+
+namespace brelex {
+
+namespace {
+
+#ifdef GDK_WINDOWING_X11
+
+struct XFreeBytes {
+    void operator()(unsigned char* bytes) const { XFree(bytes); }
+};
+
+// A property of a window: its items, of 32 or 8 bits each.
+struct Property {
+    std::unique_ptr<unsigned char, XFreeBytes> bytes;
+    unsigned long items = 0;
+};
+
+Property PropertyOf(Display* display, Window window, const char* name, Atom type) {
+    constexpr long kMostWords = 65536;
+    Property property;
+    Atom actualType = None;
+    int bits = 0;
+    unsigned long rest = 0;
+    unsigned char* bytes = nullptr;
+    if (XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, kMostWords, False,
+                           type, &actualType, &bits, &property.items, &rest, &bytes) != Success ||
+        actualType != type) {
+        property.items = 0;
+    }
+    property.bytes.reset(bytes);
+    return property;
+}
+
+// The display, if it is X11's and has a window with this title.
+struct FoundWindow {
+    GdkDisplay* gdk = nullptr;
+    Display* display = nullptr;
+    Window window = None;
+};
+
+FoundWindow WindowTitled(const std::string& title) {
+    GdkDisplay* const gdk = gdk_display_get_default();
+    if (gdk == nullptr || !GDK_IS_X11_DISPLAY(gdk)) {
+        return {};
+    }
+    Display* const display = gdk_x11_display_get_xdisplay(gdk);
+    Window found = None;
+    // Windows may go while they are asked.
+    gdk_x11_display_error_trap_push(gdk);
+    const Property list =
+        PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW);
+    for (unsigned long i = 0; i < list.items && found == None; ++i) {
+        // Items of 32 bits come as long, whatever its size.
+        unsigned long window = None;
+        std::memcpy(&window, list.bytes.get() + i * sizeof window, sizeof window);
+        const Property name =
+            PropertyOf(display, window, "_NET_WM_NAME", XInternAtom(display, "UTF8_STRING", False));
+        if (name.items == title.size() &&
+            std::memcmp(name.bytes.get(), title.data(), title.size()) == 0) {
+            found = window;
+        }
+    }
+    gdk_x11_display_error_trap_pop_ignored(gdk);
+    return {gdk, display, found};
+}
+
+// Asks the window manager to do something with a window, as a pager does.
+void Ask(const FoundWindow& found, const char* message, long first, long second) {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = found.window;
+    event.xclient.message_type = XInternAtom(found.display, message, False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = first;
+    event.xclient.data.l[1] = second;
+    gdk_x11_display_error_trap_push(found.gdk);
+    XSendEvent(found.display, DefaultRootWindow(found.display), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XFlush(found.display);
+    gdk_x11_display_error_trap_pop_ignored(found.gdk);
+}
+
+constexpr long kFromPager = 2;
+
+#endif
+
+}  // namespace
+
+bool SystemDesktop::BringWindowForward(const std::string& title) {
+#ifdef GDK_WINDOWING_X11
+    const FoundWindow found = WindowTitled(title);
+    if (found.window != None) {
+        Ask(found, "_NET_ACTIVE_WINDOW", kFromPager, CurrentTime);
+        return true;
+    }
+#endif
+    return false;
+}
+
+void SystemDesktop::AskWindowToClose(const std::string& title) {
+#ifdef GDK_WINDOWING_X11
+    const FoundWindow found = WindowTitled(title);
+    if (found.window != None) {
+        Ask(found, "_NET_CLOSE_WINDOW", CurrentTime, kFromPager);
+    }
+#endif
+}
+
+bool SystemDesktop::Open(const std::string& target) {
+    char* const uri = g_path_is_absolute(target.c_str())
+                          ? g_filename_to_uri(target.c_str(), nullptr, nullptr)
+                          : g_strdup(target.c_str());
+    const bool opened =
+        uri != nullptr && g_app_info_launch_default_for_uri(uri, nullptr, nullptr) != FALSE;
+    g_free(uri);
+    return opened;
+}
+
+void SystemDesktop::OpenToRead(const std::string& path) {
+    Open(path);
+}
+
+}  // namespace brelex

@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: MIT
+// The About box, the credits and the window that asks for a donation.
+#include "ui/frmAbout.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/stattext.h>
+
+#include "presentation/moving_text.h"
+#include "presentation/program_texts.h"
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/link.h"
+#include "ui/painted.h"
+#include "ui/scroll_area.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class AboutTest : public SideWindowTest {
+  protected:
+    void InAbout(const std::function<void()>& work) {
+        InSideWindow(
+            "frmAbout", [&] { window_->OpenModalForm(4); }, work);
+    }
+
+    void InDonation(const std::function<void()>& work) {
+        InSideWindow(
+            "frmDonation", [&] { window_->OpenModalForm(6); }, work);
+    }
+
+    [[nodiscard]] wxPoint MiddleOf(const char* name) const {
+        const wxRect area = In(name).GetScreenRect();
+        return {area.x + area.width / 2, area.y + area.height / 2};
+    }
+
+    void MoveTo(const wxPoint& place) {
+        user_.MouseMove(place);
+        Settle(50);
+    }
+
+    // Presses the left button on the title with modifier keys held; the name of the window that
+    // opens, if one does.
+    std::string PressOnTitle(const std::vector<int>& keys) {
+        MoveTo(MiddleOf("picAppTitle"));
+        for (const int key : keys) {
+            user_.KeyDown(key);
+        }
+        std::string opened;
+        ModalDriver driver({[&] {
+            if (auto* const credit =
+                    dynamic_cast<wxDialog*>(wxWindow::FindWindowByName("frmCredit"))) {
+                if (!credit->IsModal() || !credit->IsShown()) {
+                    return false;
+                }
+                opened = "frmCredit";
+                credit->EndModal(wxID_CANCEL);
+            }
+            return !opened.empty();
+        }});
+        user_.MouseClick();
+        Settle(400);
+        for (const int key : keys) {
+            user_.KeyUp(key);
+        }
+        Settle(100);
+        return opened;
+    }
+};
+
+TEST_F(AboutTest, SaysWhatTheProgramIs) {
+    InAbout([&] {
+        const AppInfo& info = startUp_->Values().info;
+        EXPECT_EQ(Side().GetTitle(), "About Brevilexicon");
+        EXPECT_EQ(Label("lblDescription"), "The best offline database of computer acronyms");
+        EXPECT_EQ(Label("lblVersion"), "version 1.0");
+        EXPECT_EQ(Label("lblCopyRight"), info.copyright + ". All Rights Reserved.");
+        EXPECT_EQ(Label("lblDBVersion"), "");
+        EXPECT_EQ(Utf8Text(In<Link>("lblHyperLink0").Text()), info.homePage);
+        EXPECT_EQ(Utf8Text(In<Link>("lblHyperLink1").Text()), info.supportAddress);
+    });
+}
+
+TEST_F(AboutTest, TheTextSlidesIn) {
+    InAbout([&] {
+        const auto& text = In<PaintedText>("picPayPal");
+        EXPECT_TRUE(WaitFor([&] { return !text.Text().empty(); }));
+        EXPECT_TRUE(WaitFor([&] { return text.Text() == kDonateText; }, 6000));
+        // It rests for a while and begins again.
+        EXPECT_TRUE(WaitFor([&] { return text.Text() == SpreadText(kDonateText, 50); }, 6000));
+    });
+}
+
+struct LinkCase {
+    const char* name;
+    const char* link;
+    std::string (*target)(const AppInfo& info);
+};
+
+class AboutLink : public AboutTest, public testing::WithParamInterface<LinkCase> {};
+
+TEST_P(AboutLink, OpensItsAddressOnRelease) {
+    InAbout([&] {
+        MoveTo(MiddleOf(GetParam().link));
+        EXPECT_TRUE(WaitFor([&] { return In<Link>(GetParam().link).IsUnderlined(); }));
+        user_.MouseDown();
+        Settle(50);
+        EXPECT_TRUE(desktop_.opened.empty());
+        user_.MouseUp();
+        EXPECT_TRUE(WaitFor([&] { return !desktop_.opened.empty(); }));
+        EXPECT_EQ(desktop_.opened, Strings{GetParam().target(startUp_->Values().info)});
+        EXPECT_FALSE(In<Link>(GetParam().link).IsUnderlined());
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, AboutLink,
+    testing::Values(LinkCase{"HomePage", "lblHyperLink0",
+                             [](const AppInfo& app) { return app.homePage; }},
+                    LinkCase{"Support", "lblHyperLink1",
+                             [](const AppInfo& app) { return "mailto:" + app.supportAddress; }},
+                    LinkCase{"Donation", "imgPayPalDonate",
+                             [](const AppInfo& app) { return app.donationPage; }}),
+    CaseName());
+
+TEST_F(AboutTest, LeavingALinkTakesTheLineAway) {
+    InAbout([&] {
+        MoveTo(MiddleOf("lblHyperLink0"));
+        EXPECT_TRUE(WaitFor([&] { return In<Link>("lblHyperLink0").IsUnderlined(); }));
+        MoveTo(MiddleOf("lblDescription"));
+        EXPECT_TRUE(WaitFor([&] { return !In<Link>("lblHyperLink0").IsUnderlined(); }));
+    });
+}
+
+TEST_F(AboutTest, ALinkThatIsLeftAndEnteredAgainOpensOnRelease) {
+    InAbout([&] {
+        MoveTo(MiddleOf("lblHyperLink0"));
+        user_.MouseDown();
+        Settle(50);
+        MoveTo(MiddleOf("lblDescription"));
+        EXPECT_TRUE(WaitFor([&] { return !In<Link>("lblHyperLink0").IsUnderlined(); }));
+        MoveTo(MiddleOf("lblHyperLink0"));
+        EXPECT_TRUE(WaitFor([&] { return In<Link>("lblHyperLink0").IsUnderlined(); }));
+        user_.MouseUp();
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+    });
+}
+
+TEST_F(AboutTest, AReleaseElsewhereOpensNothing) {
+    InAbout([&] {
+        MoveTo(MiddleOf("lblHyperLink0"));
+        user_.MouseDown();
+        Settle(50);
+        MoveTo(MiddleOf("lblDescription"));
+        user_.MouseUp();
+        Settle(150);
+        EXPECT_TRUE(desktop_.opened.empty());
+    });
+}
+
+TEST_F(AboutTest, ALinkOpensByKeyboard) {
+    InAbout([&] {
+        In("lblHyperLink0").SetFocus();
+        Settle(50);
+        user_.Char(WXK_SPACE);
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+    });
+}
+
+TEST_F(AboutTest, OnlyCtrlWithAPressOnTheTitleShowsTheCredits) {
+    InAbout([&] {
+        EXPECT_EQ(PressOnTitle({}), "");
+        EXPECT_EQ(PressOnTitle({WXK_CONTROL, WXK_SHIFT}), "");
+        EXPECT_EQ(PressOnTitle({WXK_CONTROL}), "frmCredit");
+    });
+}
+
+TEST_F(AboutTest, OkAndEscapeCloseIt) {
+    InAbout([&] {
+        Click("cmdOK");
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    InAbout([&] {
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    EXPECT_EQ(wxWindow::FindWindowByName("frmAbout"), nullptr);
+}
+
+TEST_F(AboutTest, TheCreditsScrollAndEscapeClosesThem) {
+    InAbout([&] {
+        MoveTo(MiddleOf("picAppTitle"));
+        int first = 0;
+        bool scrolled = false;
+        const auto credit = [] {
+            return dynamic_cast<wxDialog*>(wxWindow::FindWindowByName("frmCredit"));
+        };
+        const auto position = [] {
+            const auto* area = dynamic_cast<ScrollArea*>(wxWindow::FindWindowByName("picAbout"));
+            return area == nullptr ? 0 : area->Position();
+        };
+        ModalDriver driver({[&] {
+                                if (credit() == nullptr || !credit()->IsActive() ||
+                                    position() == 0) {
+                                    return false;
+                                }
+                                first = position();
+                                return true;
+                            },
+                            [&] {
+                                scrolled = position() < first;
+                                return scrolled;
+                            },
+                            [&] {
+                                user_.KeyUp(WXK_CONTROL);
+                                user_.Char(WXK_ESCAPE);
+                                return true;
+                            },
+                            [&] { return credit() == nullptr || !credit()->IsShown(); }});
+        user_.KeyDown(WXK_CONTROL);
+        user_.MouseClick();
+        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }, 8000));
+        user_.KeyUp(WXK_CONTROL);
+        EXPECT_TRUE(scrolled);
+        EXPECT_TRUE(Side().IsShown());
+    });
+}
+
+TEST_F(AboutTest, TheDonationLinesScrollUpFromBelow) {
+    InDonation([&] {
+        auto& area = In<ScrollArea>("picCredit");
+        const int height = area.GetClientSize().y;
+        EXPECT_TRUE(WaitFor([&] { return area.Position() == height; }));
+        EXPECT_TRUE(WaitFor([&] { return area.Position() <= height - 3; }));
+        EXPECT_GE(area.GetClientSize().x, area.LinesWidth());
+    });
+}
+
+TEST_F(AboutTest, TheDonationButtonsOpenTheDonationPage) {
+    InDonation([&] {
+        EXPECT_EQ(Side().GetTitle(), "Donate via PayPal");
+        const std::string page = startUp_->Values().info.donationPage;
+        Click("cmdDonate");
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened == Strings{page}; }));
+        Click("imgPayPalDonate");
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened == Strings({page, page}); }));
+    });
+}
+
+TEST_F(AboutTest, ClosingTheDonationWindowEndsItsScrollingAtOnce) {
+    for (const bool byButton : {true, false}) {
+        InDonation([&] {
+            auto& area = In<ScrollArea>("picCredit");
+            ASSERT_TRUE(WaitFor([&] { return area.Position() > 0; }));
+            if (byButton) {
+                Click("cmdCancel");
+            } else {
+                Side().Close();
+            }
+            EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }, 500));
+        });
+        EXPECT_EQ(wxWindow::FindWindowByName("frmDonation"), nullptr);
+    }
+}
+
+}  // namespace
+}  // namespace brelex

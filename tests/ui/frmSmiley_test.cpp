@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmSmiley.h"
+
+#include <functional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/textctrl.h>
+
+#include "presentation/program_texts.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+namespace {
+
+class SmileyWindowTest : public SideWindowTest {
+  protected:
+    void InSmileyWindow(const std::function<void()>& work) {
+        InSideWindow(
+            "frmSmiley", [&] { window_->OpenModalForm(3); }, work);
+    }
+
+    [[nodiscard]] wxTextCtrl& Text() const { return In<wxTextCtrl>("txtReadme"); }
+
+    void SelectSome() {
+        Text().SetFocus();
+        Text().SetSelection(3, 9);
+        Settle(50);
+        ASSERT_EQ(Text().GetStringSelection().length(), 6U);
+    }
+};
+
+TEST_F(SmileyWindowTest, ShowsTheDictionary) {
+    InSmileyWindow([&] {
+        EXPECT_EQ(Side().GetTitle(), "The Smiley Dictionary");
+        std::string shown = Utf8Text(Text().GetValue());
+        std::string text = SmileyDictionaryText();
+        std::erase(shown, '\r');
+        std::erase(text, '\r');
+        EXPECT_EQ(shown, text);
+        EXPECT_FALSE(Text().IsEditable());
+        EXPECT_EQ(Text().GetInsertionPoint(), 0);
+        EXPECT_EQ(Text().GetStringSelection(), "");
+    });
+}
+
+TEST_F(SmileyWindowTest, ARightClickTellsOfTheProgramAndLeavesNothingSelected) {
+    const MessageBoxes boxes;
+    InSmileyWindow([&] {
+        SelectSome();
+        user_.MouseMove(Text().ClientToScreen(wxPoint(60, 60)));
+        Settle(50);
+        user_.MouseClick(wxMOUSE_BTN_RIGHT);
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        const AppInfo& info = startUp_->Values().info;
+        EXPECT_EQ(boxes.texts[0],
+                  "Brevilexicon version 1.0\n\n" + info.copyright + "\n" + info.supportAddress);
+        EXPECT_EQ(Text().GetStringSelection(), "");
+    });
+}
+
+TEST_F(SmileyWindowTest, ShiftF10DoesTheSameAndCtrlF10Nothing) {
+    const MessageBoxes boxes;
+    InSmileyWindow([&] {
+        SelectSome();
+        user_.Char(WXK_F10, wxMOD_CONTROL);
+        Settle(100);
+        EXPECT_TRUE(boxes.texts.empty());
+        EXPECT_EQ(Text().GetStringSelection().length(), 6U);
+        user_.Char(WXK_F10, wxMOD_SHIFT);
+        ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        EXPECT_EQ(Text().GetStringSelection(), "");
+    });
+}
+
+TEST_F(SmileyWindowTest, CloseAndEscapeCloseIt) {
+    InSmileyWindow([&] {
+        Click("cmdClose");
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    InSmileyWindow([&] {
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    EXPECT_EQ(wxWindow::FindWindowByName("frmSmiley"), nullptr);
+}
+
+}  // namespace
+}  // namespace brelex

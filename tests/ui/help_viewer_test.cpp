@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The real help book in the real viewer on this desktop.
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <wx/filename.h>
+#include <wx/stdpaths.h>
+
+#include "platform/modShowHelp.h"
+#include "platform/system_desktop.h"
+#include "tests/platform/help_registration.h"
+#include "tests/support/fakes.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+namespace {
+
+wxString ProgramFolder() {
+    return wxFileName(wxStandardPaths::Get().GetExecutablePath())
+        .GetPath(wxPATH_GET_VOLUME | wxPATH_GET_SEPARATOR);
+}
+
+class HelpViewerTest : public testing::Test {
+  protected:
+    void TearDown() override {
+        CloseHelp(desktop_);
+        EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
+    }
+
+    void ShowHelp() {
+        ShowHelpContents({Utf8Text(ProgramFolder()), "brevilexicon"}, desktop_, messages_);
+        EXPECT_TRUE(messages_.shown.empty());
+    }
+
+    HelpRegistration registration_;
+    SystemDesktop desktop_;
+    FakeMessageSink messages_;
+};
+
+TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
+    ASSERT_FALSE(desktop_.BringWindowForward(kHelpTitle));
+    ShowHelp();
+    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, 20000));
+    // Asked for twice it is still one: closing that one leaves none.
+    ShowHelp();
+    Settle(1500);
+    CloseHelp(desktop_);
+    EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
+    Settle(300);
+    EXPECT_FALSE(desktop_.BringWindowForward(kHelpTitle));
+}
+
+TEST(SystemDesktop, SaysThatNoProgramOpensAnAddress) {
+    SystemDesktop desktop;
+    EXPECT_FALSE(desktop.Open("x-brelex-nothing-opens-this:there"));
+}
+
+TEST(SystemDesktop, KnowsNoWindowOfAnotherTitle) {
+    SystemDesktop desktop;
+    EXPECT_FALSE(desktop.BringWindowForward("Brevilexicon Hel"));
+    desktop.AskWindowToClose("Brevilexicon Hel");
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "ui/toolbar.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
+#include <wx/image.h>
+#include <wx/settings.h>
+
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/modFlatButton.h"
+
+namespace brelex {
+namespace {
+
+class ToolbarWindowTest : public MainWindowTest {
+  protected:
+    [[nodiscard]] Toolbar& Bar() const { return dynamic_cast<Toolbar&>(*Control("picToolbar")); }
+
+    [[nodiscard]] wxPoint MiddleOf(std::size_t icon) const {
+        const IconBounds& bounds = Bar().BoundsOf(icon);
+        return Bar().ClientToScreen(wxPoint(static_cast<int>(bounds.left + bounds.width / 2),
+                                            static_cast<int>(bounds.top + bounds.height / 2)));
+    }
+
+    void MoveTo(const wxPoint& place) {
+        user_.MouseMove(place - wxPoint(1, 0));
+        Settle(20);
+        user_.MouseMove(place);
+        Settle(40);
+    }
+
+    void Hover(std::size_t icon) {
+        MoveTo(MiddleOf(icon));
+        ASSERT_TRUE(WaitFor([&] { return Bar().StateOf(icon) == kRaised; }));
+    }
+
+    void Press(std::size_t icon) {
+        Hover(icon);
+        user_.MouseDown();
+        ASSERT_TRUE(WaitFor([&] { return Bar().StateOf(icon) == kSunken; }));
+    }
+
+    [[nodiscard]] wxPoint BelowTheToolbar() const {
+        return window_->List().Window().ClientToScreen(wxPoint(200, 60));
+    }
+
+    void ExpectFlat() const {
+        for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+            EXPECT_EQ(Bar().StateOf(i), kFlat) << i;
+        }
+    }
+};
+
+TEST_F(ToolbarWindowTest, EachIconRisesAndSaysWhatItIsFor) {
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        Hover(i);
+        EXPECT_EQ(LabelText("lblDescription"), kToolbarIcons.at(i).description);
+        EXPECT_EQ(Bar().GetToolTipText(), kToolbarIcons.at(i).toolTip);
+    }
+}
+
+TEST_F(ToolbarWindowTest, LeavingFlattensTheIconAndEmptiesTheDescription) {
+    Hover(0);
+    MoveTo(BelowTheToolbar());
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+    EXPECT_NE(LabelText("lblDescription"), "Search Database");
+    EXPECT_FALSE(Bar().HasCapture());
+}
+
+struct ActionCase {
+    const char* name;
+    std::size_t icon;
+    const char* window;
+};
+
+class ToolbarAction : public ToolbarWindowTest, public testing::WithParamInterface<ActionCase> {};
+
+TEST_P(ToolbarAction, OpensItsWindowOnRelease) {
+    Press(GetParam().icon);
+    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_EQ(NameOfOpened([&] { user_.MouseUp(); }, [&] { ExpectFlat(); }), GetParam().window);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ToolbarAction,
+                         testing::Values(ActionCase{"Search", 0, "frmSearch"},
+                                         ActionCase{"Anagrams", 1, "frmAnagram"},
+                                         ActionCase{"Smileys", 2, "frmSmiley"},
+                                         ActionCase{"About", 4, "frmAbout"},
+                                         ActionCase{"DonationThatSaysExit", 5, "frmDonation"}),
+                         CaseName());
+
+TEST_F(ToolbarWindowTest, TheFourthShowsTheHelp) {
+    folder_.Write("Brelex.hlp", "help");
+    Press(3);
+    user_.MouseUp();
+    EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+}
+
+TEST_F(ToolbarWindowTest, TheLastEndsTheProgram) {
+    Press(6);
+    frmMain* const window = std::exchange(window_, nullptr);
+    user_.MouseUp();
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
+TEST_F(ToolbarWindowTest, APressThatIsDraggedOutOpensNothing) {
+    Press(0);
+    EXPECT_TRUE(Bar().HasCapture());
+    MoveTo(BelowTheToolbar());
+    EXPECT_FALSE(Bar().HasCapture());
+    user_.MouseUp();
+    Settle(150);
+    EXPECT_FALSE(window_->IsModalOpen);
+    ExpectFlat();
+}
+
+TEST_F(ToolbarWindowTest, APressThatSlidesToAnotherIconRunsThatOne) {
+    Press(0);
+    MoveTo(MiddleOf(2));
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(2) == kSunken; }));
+    EXPECT_EQ(Bar().StateOf(0), kFlat);
+    EXPECT_EQ(NameOfOpened([&] { user_.MouseUp(); }), "frmSmiley");
+}
+
+TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
+    Hover(0);
+    user_.MouseDown(wxMOUSE_BTN_RIGHT);
+    Settle(60);
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    MoveTo(MiddleOf(0) + wxPoint(3, 0));
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    user_.MouseUp(wxMOUSE_BTN_RIGHT);
+    Settle(60);
+    EXPECT_FALSE(window_->IsModalOpen);
+}
+
+TEST_F(ToolbarWindowTest, KeysWorkWhileAnIconIsRaised) {
+    Hover(0);
+    user_.Char('R');
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "R"; }));
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    MoveTo(BelowTheToolbar());
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+}
+
+TEST_F(ToolbarWindowTest, AWindowOpenedByKeyUnderAHotIconGetsTheMouse) {
+    Hover(0);
+    const auto look = [&] {
+        ExpectFlat();
+        EXPECT_FALSE(Bar().HasCapture());
+    };
+    EXPECT_EQ(NameOfOpened([&] { user_.Char(WXK_F3); }, look), "frmSearch");
+}
+
+TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
+    const auto colourAt = [](const wxImage& image, int x, int y) {
+        return wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y));
+    };
+    const auto system = [](wxSystemColour colour) {
+        const wxColour c = wxSystemSettings::GetColour(colour);
+        return wxColour(c.Red(), c.Green(), c.Blue());
+    };
+
+    struct Edge {
+        int state;
+        wxSystemColour leftAndTop;
+        wxSystemColour rightAndBottom;
+    };
+
+    for (const Edge& edge : {Edge{kFlat, wxSYS_COLOUR_BTNFACE, wxSYS_COLOUR_BTNFACE},
+                             Edge{kRaised, wxSYS_COLOUR_BTNHIGHLIGHT, wxSYS_COLOUR_BTNSHADOW},
+                             Edge{kSunken, wxSYS_COLOUR_BTNSHADOW, wxSYS_COLOUR_BTNHIGHLIGHT}}) {
+        wxBitmap bitmap(60, 60, 24);
+        wxMemoryDC dc(bitmap);
+        dc.SetBackground(*wxGREEN_BRUSH);
+        dc.Clear();
+        DrawFlatButton({10, 10, 32, 32}, dc, edge.state);
+        dc.SelectObject(wxNullBitmap);
+        const wxImage image = bitmap.ConvertToImage();
+        EXPECT_EQ(colourAt(image, 10, 20), system(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(colourAt(image, 20, 10), system(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(colourAt(image, 42, 20), system(edge.rightAndBottom)) << edge.state;
+        EXPECT_EQ(colourAt(image, 20, 42), system(edge.rightAndBottom)) << edge.state;
+        for (const wxPoint& outside : {wxPoint(9, 20), wxPoint(11, 20), wxPoint(43, 20)}) {
+            EXPECT_EQ(colourAt(image, outside.x, outside.y), *wxGREEN) << edge.state;
+        }
+    }
+}
+
+TEST(DrawFlatButton, AnyOtherStateDrawsNothing) {
+    wxBitmap bitmap(60, 60, 24);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(*wxGREEN_BRUSH);
+    dc.Clear();
+    DrawFlatButton({10, 10, 32, 32}, dc, 3);
+    dc.SelectObject(wxNullBitmap);
+    const wxImage image = bitmap.ConvertToImage();
+    EXPECT_EQ(image.GetGreen(10, 20), 255);
+    EXPECT_EQ(image.GetRed(10, 20), 0);
+}
+
+}  // namespace
+}  // namespace brelex

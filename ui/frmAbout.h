@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include <wx/dialog.h>
+#include <wx/timer.h>
+
+#include "database/program_values.h"
+#include "presentation/moving_text.h"
+#include "ui/layout_units.h"
+
+class wxButton;
+class wxPanel;
+class wxSizer;
+class wxStaticText;
+
+namespace brelex {
+
+class Link;
+class PaintedText;
+
+/// The About box. It is made for one use.
+class frmAbout final : public wxDialog {
+  public:
+    /// `openAddress` opens a web or e-mail address. Both must outlive the window.
+    frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
+             const std::function<void(const std::string&)>& openAddress);
+
+  private:
+    void CreateControls();
+    void NameControls();
+    [[nodiscard]] wxSizer* LayoutOfTexts();
+    void PlaceControls();
+    void AnimateText();
+    void Open(const std::string& address);
+    void OnTitlePressed(wxMouseEvent& event);
+
+    const ProgramValues& values_;
+    const std::function<void(const std::string&)>& openAddress_;
+    LayoutUnits units_;
+    SlidingText slidingText_;
+
+    wxPanel* surface_ = nullptr;
+    wxWindow* picAppTitle = nullptr;
+    wxStaticText* lblDescription = nullptr;
+    wxStaticText* lblVersion = nullptr;
+    wxStaticText* lblCopyRight = nullptr;
+    wxStaticText* lblDBVersion = nullptr;
+    std::array<Link*, 2> lblHyperLink = {};
+    PaintedText* picPayPal = nullptr;
+    Link* imgPayPalDonate = nullptr;
+    wxButton* cmdOK = nullptr;
+    wxTimer tmrAnimateText;
+};
+
+}  // namespace brelex

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmSmiley.h"
+
+#include <wx/button.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+
+#include "platform/accessible_name.h"
+#include "platform/text_columns.h"
+#include "presentation/program_texts.h"
+#include "ui/app_icon.h"
+#include "ui/modGeneral.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kWidth = 620;
+constexpr double kHeight = 420;
+constexpr double kMargin = 10;
+
+constexpr int kTextMarginPixels = 8;
+constexpr int kTabStopDialogUnits = 32;
+
+}  // namespace
+
+frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
+    : wxDialog(main, wxID_ANY, "The Smiley Dictionary"),
+      units_(*this) {
+    SetName("frmSmiley");
+    SetIcons(AppIcons());
+    txtReadme = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                               wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
+    // Where there is no Verdana the system takes what comes near it.
+    wxFont font = GetFont();
+    font.SetFaceName("Verdana");
+    txtReadme->SetFont(font);
+    cmdClose = new wxButton(this, wxID_CLOSE, "Close");
+    SetNames(*txtReadme, "txtReadme", "Smileys and their meanings");
+    cmdClose->SetName("cmdClose");
+    cmdClose->SetDefault();
+    SetEscapeId(wxID_CLOSE);
+    PlaceControls();
+    SetSideMargins(*txtReadme, kTextMarginPixels);
+    SetTabStop(*txtReadme, kTabStopDialogUnits);
+    txtReadme->ChangeValue(wxString::FromAscii(SmileyDictionaryText().c_str()));
+    txtReadme->SetInsertionPoint(0);
+    ShowAppInfoOnMenuRequest(*txtReadme, info);
+    cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
+    CenterWindow(*this, *main);
+    cmdClose->SetFocus();
+}
+
+void frmSmiley::PlaceControls() {
+    const int gap = units_.Pixels(kMargin);
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(txtReadme, 1, wxEXPAND | wxALL, gap);
+    all->Add(cmdClose, 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    SetSizer(all);
+    SetClientSize(units_.Pixels(kWidth), units_.Pixels(kHeight));
+    Layout();
+}
+
+}  // namespace brelex
