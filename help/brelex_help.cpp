@@ -12,6 +12,7 @@
 #include <wx/image.h>
 #include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
+#include <wx/treectrl.h>
 
 #include "platform/help_association.h"
 #include "platform/modShowHelp.h"
@@ -21,6 +22,10 @@
 namespace brelex {
 
 namespace {
+
+// At 96 dots per inch. The pictures in the pages are up to 600 pixels wide.
+constexpr int kWidth = 940;
+constexpr int kHeight = 660;
 
 // The project file in a book, which is a ZIP archive.
 const char* const kProjectInBook = "#zip:brelex.hhp";
@@ -66,9 +71,22 @@ class HelpApp final : public wxApp {
         if (wxHtmlHelpFrame* const frame = controller_.GetFrame()) {
             frame->SetName("frmHelp");
             frame->SetIcons(AppIcons());
+            frame->SetSize(frame->FromDIP(wxSize(kWidth, kHeight)));
+            frame->CentreOnScreen();
+            ShowWholeContents(*frame);
             SetTopWindow(frame);
         }
         return true;
+    }
+
+    // Opens the branches of the contents, which are few.
+    static void ShowWholeContents(wxWindow& window) {
+        if (auto* const tree = dynamic_cast<wxTreeCtrl*>(&window)) {
+            tree->ExpandAll();
+        }
+        for (wxWindow* const child : window.GetChildren()) {
+            ShowWholeContents(*child);
+        }
     }
 
     static bool IsBook(const wxString& url) {

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# pictures.sh: takes the pictures of the main window in docs/images/, one on each system.
+# pictures.sh: takes the pictures of the main window in docs/images/, one on each system, and those
+# of the help.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -14,3 +15,5 @@ scripts/with_display scripts/screenshot.sh docs/images/main-window.png ram \
     build/release/bin/brevilexicon
 scripts/with_display scripts/screenshot.sh docs/images/main-window-windows.png ram \
     scripts/windows/wine32 build/win32/bin/brevilexicon.exe
+mkdir -p help/pictures
+scripts/with_display scripts/help_pictures.sh help/pictures build/release/bin/brevilexicon

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmSmiley.h"
 
+#include <algorithm>
+
+#include <wx/arrstr.h>
 #include <wx/button.h>
+#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
@@ -16,12 +20,20 @@ namespace brelex {
 namespace {
 
 // The layout, in layout units.
-constexpr double kWidth = 620;
 constexpr double kHeight = 420;
 constexpr double kMargin = 10;
 
 constexpr int kTextMarginPixels = 8;
 constexpr int kTabStopDialogUnits = 32;
+
+// The rows with tabs are all shorter than the introduction.
+int WidestLine(const wxWindow& window, const wxString& text) {
+    int widest = 0;
+    for (const wxString& line : wxSplit(text, '\n', '\0')) {
+        widest = std::max(widest, window.GetTextExtent(line).x);
+    }
+    return widest;
+}
 
 }  // namespace
 
@@ -41,10 +53,11 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     cmdClose->SetName("cmdClose");
     cmdClose->SetDefault();
     SetEscapeId(wxID_CLOSE);
-    PlaceControls();
+    const wxString text = wxString::FromAscii(SmileyDictionaryText().c_str());
+    PlaceControls(WidestLine(*txtReadme, text));
     SetSideMargins(*txtReadme, kTextMarginPixels);
     SetTabStop(*txtReadme, kTabStopDialogUnits);
-    txtReadme->ChangeValue(wxString::FromAscii(SmileyDictionaryText().c_str()));
+    txtReadme->ChangeValue(text);
     txtReadme->SetInsertionPoint(0);
     ShowAppInfoOnMenuRequest(*txtReadme, info);
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
@@ -52,13 +65,16 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     cmdClose->SetFocus();
 }
 
-void frmSmiley::PlaceControls() {
+void frmSmiley::PlaceControls(int textWidth) {
     const int gap = units_.Pixels(kMargin);
+    // Lines are not wrapped, so the widest one has to fit.
+    const int boxWidth = textWidth + 2 * (kTextMarginPixels + gap) +
+                         wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, txtReadme);
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(txtReadme, 1, wxEXPAND | wxALL, gap);
     all->Add(cmdClose, 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, gap);
     SetSizer(all);
-    SetClientSize(units_.Pixels(kWidth), units_.Pixels(kHeight));
+    SetClientSize(boxWidth + 2 * gap, units_.Pixels(kHeight));
     Layout();
 }
 

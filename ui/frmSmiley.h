@@ -18,7 +18,7 @@ class frmSmiley final : public wxDialog {
     frmSmiley(wxTopLevelWindow* main, const AppInfo& info);
 
   private:
-    void PlaceControls();
+    void PlaceControls(int textWidth);
 
     LayoutUnits units_;
     wxTextCtrl* txtReadme = nullptr;

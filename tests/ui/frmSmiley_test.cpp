@@ -47,6 +47,19 @@ TEST_F(SmileyWindowTest, ShowsTheDictionary) {
     });
 }
 
+TEST_F(SmileyWindowTest, NoLineIsCutOff) {
+    InSmileyWindow([&] {
+        for (const char* const line :
+             {"A smiley is a combination of two or more keyboard characters that can emulate a "
+              "wide range of facial",
+              "expressions. Written text carries no tone of voice, so a small face tells the "
+              "reader how a line is"}) {
+            ASSERT_TRUE(Text().GetValue().Contains(line));
+            EXPECT_GE(Text().GetClientSize().x, Text().GetTextExtent(line).x + 2 * 8) << line;
+        }
+    });
+}
+
 TEST_F(SmileyWindowTest, ARightClickTellsOfTheProgramAndLeavesNothingSelected) {
     const MessageBoxes boxes;
     InSmileyWindow([&] {
