@@ -71,7 +71,14 @@ void ToolbarState::OnMouseUp(int button) {
 }
 
 void ToolbarState::OnCaptureLost() {
-    CoolDown();
+    if (hotIcon_ != kNone) {
+        CoolDown();
+    }
+}
+
+void ToolbarState::OnResize(double width, double height) {
+    width_ = width;
+    height_ = height;
 }
 
 int ToolbarState::IconAt(double x, double y) const {

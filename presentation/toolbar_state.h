@@ -91,8 +91,10 @@ class ToolbarState {
     void OnMouseDown(int button);
     void OnMouseUp(int button);
 
-    /// The mouse is somebody else's now.
+    /// The mouse is somebody else's now. What is said of other things stays.
     void OnCaptureLost();
+
+    void OnResize(double width, double height);
 
     /// The icon whose edge is drawn, -1 if there is none.
     [[nodiscard]] int HotIcon() const { return hotIcon_; }

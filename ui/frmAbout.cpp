@@ -126,8 +126,13 @@ void frmAbout::AnimateText() {
 }
 
 void frmAbout::Open(const std::string& address) {
+    if (isOpening_) {
+        return;  // what is let run may ask for it again
+    }
+    isOpening_ = true;
     openAddress_(address);
     LetPendingEventsRun();
+    isOpening_ = false;
 }
 
 void frmAbout::OnTitlePressed(wxMouseEvent& event) {

@@ -25,7 +25,7 @@ class PaintedText;
 /// The About box. It is made for one use.
 class frmAbout final : public wxDialog {
   public:
-    /// `openAddress` opens a web or e-mail address. Both must outlive the window.
+    /// `openAddress` opens a web or e-mail address. `values` and it must outlive the window.
     frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
              const std::function<void(const std::string&)>& openAddress);
 
@@ -40,6 +40,7 @@ class frmAbout final : public wxDialog {
 
     const ProgramValues& values_;
     const std::function<void(const std::string&)>& openAddress_;
+    bool isOpening_ = false;
     LayoutUnits units_;
     SlidingText slidingText_;
 

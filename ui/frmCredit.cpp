@@ -2,10 +2,7 @@
 #include "ui/frmCredit.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
-
-#include <wx/sizer.h>
 
 #include "platform/accessible_name.h"
 #include "presentation/program_texts.h"

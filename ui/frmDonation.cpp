@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmDonation.h"
 
-#include <utility>
 #include <vector>
 
 #include <wx/button.h>
@@ -77,8 +76,13 @@ void frmDonation::PlaceControls() {
 }
 
 void frmDonation::OpenDonationPage() {
+    if (isOpening_) {
+        return;  // what is let run may ask for it again
+    }
+    isOpening_ = true;
     openAddress_(info_.donationPage);
     LetPendingEventsRun();
+    isOpening_ = false;
 }
 
 }  // namespace brelex

@@ -19,7 +19,7 @@ class ScrollArea;
 /// The window that asks for a donation. It is made for one use.
 class frmDonation final : public wxDialog {
   public:
-    /// `openAddress` opens a web address. Both must outlive the window.
+    /// `openAddress` opens a web address. `info` and it must outlive the window.
     frmDonation(wxTopLevelWindow* main, const AppInfo& info,
                 const std::function<void(const std::string&)>& openAddress);
 
@@ -30,6 +30,7 @@ class frmDonation final : public wxDialog {
 
     const AppInfo& info_;
     const std::function<void(const std::string&)>& openAddress_;
+    bool isOpening_ = false;
     LayoutUnits units_;
     ScrollArea* picCredit = nullptr;
     Link* imgPayPalDonate = nullptr;

@@ -265,6 +265,11 @@ void frmMain::BindEvents() {
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
     wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmMain::OnQueryEndSession, this);
     Bind(wxEVT_MENU, &frmMain::OnMenu, this, kFileItem, kMenuIdEnd);
+    // GTK does not tell when the mouse leaves with a menu open.
+    Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+        picToolbar->LetGo();
+        event.Skip();
+    });
     Bind(wxEVT_TIMER, &frmMain::OnCheckCommand, this, tmrCheckCommand.GetId());
     txtAbbrv->Bind(wxEVT_TEXT, &frmMain::OnBoxText, this);
     txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);

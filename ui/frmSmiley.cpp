@@ -43,7 +43,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     SetName("frmSmiley");
     SetIcons(AppIcons());
     txtReadme = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                               wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
+                               wxTE_MULTILINE | wxTE_READONLY);
     // Where there is no Verdana the system takes what comes near it.
     wxFont font = GetFont();
     font.SetFaceName("Verdana");
@@ -67,7 +67,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
 
 void frmSmiley::PlaceControls(int textWidth) {
     const int gap = units_.Pixels(kMargin);
-    // Lines are not wrapped, so the widest one has to fit.
+    // The rows are made for a box in which the widest line fits.
     const int boxWidth = textWidth + 2 * (kTextMarginPixels + gap) +
                          wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, txtReadme);
     auto* all = new wxBoxSizer(wxVERTICAL);

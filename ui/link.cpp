@@ -36,22 +36,26 @@ Link::Link(wxWindow* parent, const wxBitmapBundle& picture, std::function<void()
     BindEvents();
 }
 
+// The toolkit wants the mouse back before the window goes.
+Link::~Link() {
+    if (HasCapture()) {
+        ReleaseMouse();
+    }
+}
+
 void Link::BindEvents() {
     SetDoubleBuffered(true);
     SetCursor(wxCursor(wxCURSOR_HAND));
     SetInitialSize(GetBestSize());
     Bind(wxEVT_PAINT, &Link::OnPaint, this);
     for (const wxEventTypeTag<wxMouseEvent>& type :
-         {wxEVT_ENTER_WINDOW, wxEVT_LEAVE_WINDOW, wxEVT_MOTION, wxEVT_LEFT_UP}) {
+         {wxEVT_ENTER_WINDOW, wxEVT_LEAVE_WINDOW, wxEVT_MOTION, wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK,
+          wxEVT_LEFT_UP}) {
         Bind(type, &Link::OnMouse, this);
     }
-    Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
-        if (event.GetKeyCode() == WXK_SPACE || event.GetKeyCode() == WXK_RETURN) {
-            open_();
-        } else {
-            event.Skip();
-        }
-    });
+    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { SetHot(false); });
+    // Before the dialog sees the key and takes Enter for its button.
+    Bind(wxEVT_CHAR_HOOK, &Link::OnKey, this);
     for (const wxEventTypeTag<wxFocusEvent>& type : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS}) {
         Bind(type, [this](wxFocusEvent& event) {
             Refresh();
@@ -66,16 +70,37 @@ wxSize Link::DoGetBestClientSize() const {
     return inner + wxSize(2 * kFocusMargin, 2 * kFocusMargin);
 }
 
-// While a button is held that was pressed here, some systems send all movements here.
+// While the mouse is captured, a button was pressed here and has not been released yet.
 void Link::OnMouse(wxMouseEvent& event) {
     event.Skip();
+    // Windows tells of a movement, too, when the mouse is only released.
+    const wxPoint before = std::exchange(mouse_, event.GetPosition());
+    if (event.GetEventType() == wxEVT_MOTION && mouse_ == before) {
+        return;
+    }
     const bool isOver =
         event.GetEventType() != wxEVT_LEAVE_WINDOW && GetClientRect().Contains(event.GetPosition());
-    if (event.GetEventType() == wxEVT_LEFT_UP && isOver) {
-        SetHot(false);
+    const bool wasPressed = HasCapture();
+    SetHot(isOver);
+    if (event.LeftUp() && wasPressed) {
+        ReleaseMouse();
+        if (isOver) {
+            SetHot(false);
+            open_();
+        }
+    } else if ((event.LeftDown() || event.LeftDClick()) && !wasPressed) {
+        CaptureMouse();
+    }
+}
+
+// A key that is held opens once.
+void Link::OnKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    const bool opens = key == WXK_SPACE || key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+    if (!opens || event.HasAnyModifiers()) {
+        event.Skip();
+    } else if (!event.IsAutoRepeat()) {
         open_();
-    } else {
-        SetHot(isOver);
     }
 }
 

@@ -9,11 +9,15 @@
 namespace brelex {
 
 /// A text or picture that opens something. It is underlined while the mouse is over it, and opens
-/// when the left button is released over it; by keyboard with Space or Return.
+/// when the left button was pressed on it and is released over it; by keyboard with Space or Enter.
 class Link final : public wxWindow {
   public:
     Link(wxWindow* parent, const wxString& text, std::function<void()> open);
     Link(wxWindow* parent, const wxBitmapBundle& picture, std::function<void()> open);
+
+    Link(const Link&) = delete;
+    Link& operator=(const Link&) = delete;
+    ~Link() override;
 
     [[nodiscard]] const wxString& Text() const { return text_; }
 
@@ -25,6 +29,7 @@ class Link final : public wxWindow {
   private:
     void BindEvents();
     void OnMouse(wxMouseEvent& event);
+    void OnKey(wxKeyEvent& event);
     void OnPaint(wxPaintEvent& event);
     void SetHot(bool hot);
 
@@ -32,6 +37,7 @@ class Link final : public wxWindow {
     wxBitmapBundle picture_;
     std::function<void()> open_;
     bool isHot_ = false;
+    wxPoint mouse_;  // where it was last
 };
 
 }  // namespace brelex

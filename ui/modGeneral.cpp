@@ -126,8 +126,11 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
 }
 
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info) {
-    const long caret = box.GetInsertionPoint();
-    box.SetSelection(caret, caret);
+    // Without a selection the box would only scroll to the caret.
+    if (box.HasSelection()) {
+        const long caret = box.GetInsertionPoint();
+        box.SetSelection(caret, caret);
+    }
     WxMessageSink(&box).Show({std::string(kAppTitle) + " version " +
                                   std::to_string(info.majorVersion) + "." +
                                   std::to_string(info.minorVersion) + "\n\n" + info.copyright +

@@ -22,7 +22,7 @@ PaintedText::PaintedText(wxWindow* parent) : Backdrop(parent) {
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
         wxPaintDC dc(this);
         dc.SetFont(GetFont());
-        dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
         dc.DrawText(text_, 0, 0);
     });
 }

@@ -8,7 +8,8 @@ namespace brelex {
 /// Lets all of them run: whoever calls it must stand what they do, up to the window's being closed.
 void LetPendingEventsRun();
 
-/// Lets only the windows show what they have to; keys, mouse and calls that are put off stay so.
+/// Lets the windows show what they have to. Keys, the mouse and calls that were put off wait, but
+/// the system may still have a window closed.
 void LetPendingPaintingRun();
 
 }  // namespace brelex

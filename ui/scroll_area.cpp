@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kFirstTickMs = 500;
 constexpr int kStepMs = 70;
+
+// At 96 dots per inch.
 constexpr int kStep = 1;
 constexpr int kLeft = 10;
 
@@ -37,7 +39,7 @@ void ScrollArea::Measure() {
     for (const ScrollLine& line : lines_) {
         dc.SetFont(line.font);
         linesHeight_ += dc.GetCharHeight();
-        linesWidth_ = std::max(linesWidth_, dc.GetTextExtent(line.text).x + 2 * kLeft);
+        linesWidth_ = std::max(linesWidth_, dc.GetTextExtent(line.text).x + 2 * FromDIP(kLeft));
     }
 }
 
@@ -47,7 +49,7 @@ void ScrollArea::OnTick() {
         position_ = FirstScrollPosition(GetClientSize().y);
         tmrScrollText.Start(kStepMs);
     } else {
-        position_ = NextScrollPosition(position_, kStep, linesHeight_, GetClientSize().y);
+        position_ = NextScrollPosition(position_, FromDIP(kStep), linesHeight_, GetClientSize().y);
     }
     Refresh();
 }
@@ -65,7 +67,7 @@ void ScrollArea::OnPaint(wxPaintEvent& /*event*/) {
         dc.SetTextForeground(line.colour.IsOk()
                                  ? line.colour
                                  : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
-        dc.DrawText(line.text, kLeft, top);
+        dc.DrawText(line.text, FromDIP(kLeft), top);
         top += dc.GetCharHeight();
     }
 }

@@ -24,6 +24,8 @@ class ScrollArea final : public Backdrop {
   public:
     ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines);
 
+    [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
+
     /// Where the first line is now, in pixels from the top.
     [[nodiscard]] int Position() const { return position_; }
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include <wx/app.h>
-#include <wx/dcbuffer.h>
+#include <wx/dcclient.h>
 #include <wx/settings.h>
 
 #include "platform/accessible_name.h"
@@ -32,6 +32,18 @@ int ButtonsOf(const wxMouseEvent& event) {
            (event.MiddleIsDown() ? kMiddleButton : 0);
 }
 
+// The one that went down or up.
+int ButtonOf(const wxMouseEvent& event) {
+    switch (event.GetButton()) {
+        case wxMOUSE_BTN_LEFT:
+            return kLeftButton;
+        case wxMOUSE_BTN_RIGHT:
+            return kRightButton;
+        default:
+            return kMiddleButton;
+    }
+}
+
 }  // namespace
 
 Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents events)
@@ -40,7 +52,7 @@ Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents event
       events_(std::move(events)),
       imgToolbarIcon(ToolbarPictures()) {
     SetNames(*this, "picToolbar", "Toolbar");
-    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    SetDoubleBuffered(true);
     PlaceIcons();
     BindEvents();
 }
@@ -75,32 +87,34 @@ void Toolbar::PlaceIcons() {
 
 void Toolbar::BindEvents() {
     Bind(wxEVT_PAINT, &Toolbar::OnPaint, this);
-    Bind(wxEVT_MOTION, &Toolbar::OnMove, this);
-    for (const wxEventTypeTag<wxMouseEvent>& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK}) {
-        Bind(type, [this](wxMouseEvent&) {
-            buttonsDown_ |= kLeftButton;
-            SetCapture();
-            state_->OnMouseDown(kLeftButton);
-        });
-    }
-    Bind(wxEVT_LEFT_UP, [this](wxMouseEvent&) {
-        buttonsDown_ &= ~kLeftButton;
-        ReleaseCapture();
-        state_->OnMouseUp(kLeftButton);
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        const wxSize size = GetClientSize();
+        state_->OnResize(size.x, size.y);
+        event.Skip();
     });
-    Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { state_->OnMouseDown(kRightButton); });
-    Bind(wxEVT_RIGHT_UP, [this](wxMouseEvent&) { state_->OnMouseUp(kRightButton); });
+    // Entering is a movement, too: a window that covered the toolbar may have closed.
+    for (const wxEventTypeTag<wxMouseEvent>& type : {wxEVT_MOTION, wxEVT_ENTER_WINDOW}) {
+        Bind(type, &Toolbar::OnMove, this);
+    }
+    for (const wxEventTypeTag<wxMouseEvent>& type :
+         {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
+        Bind(type, &Toolbar::OnButtonDown, this);
+    }
+    for (const wxEventTypeTag<wxMouseEvent>& type :
+         {wxEVT_LEFT_UP, wxEVT_RIGHT_UP, wxEVT_MIDDLE_UP}) {
+        Bind(type, &Toolbar::OnButtonUp, this);
+    }
     Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
         event.Skip();
         if (!HasCapture()) {
+            buttonsDown_ = 0;
             state_->OnMouseMove(0, -1, -1);
         }
     });
-    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { state_->OnCaptureLost(); });
+    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { LetGo(); });
 }
 
-// A window that has been closed hears of the mouse until it is destroyed, which the events that
-// the state lets run would do under its feet.
+// A window that has been closed still hears of the mouse, but letting events run destroys it.
 void Toolbar::OnMove(wxMouseEvent& event) {
     if (wxTheApp->IsScheduledForDestruction(wxGetTopLevelParent(this))) {
         return;
@@ -111,10 +125,31 @@ void Toolbar::OnMove(wxMouseEvent& event) {
     state_->OnMouseMove(buttonsDown_, mouse.x, mouse.y);
 }
 
+// The mouse may not have moved since something else was here: then this is where it came.
+void Toolbar::OnButtonDown(wxMouseEvent& event) {
+    const int button = ButtonOf(event);
+    buttonsDown_ = ButtonsOf(event) & ~button;
+    state_->OnMouseMove(buttonsDown_, event.GetX(), event.GetY());
+    buttonsDown_ |= button;
+    SetCapture();
+    state_->OnMouseDown(button);
+}
+
+void Toolbar::OnButtonUp(wxMouseEvent& event) {
+    const int button = ButtonOf(event);
+    buttonsDown_ = ButtonsOf(event) & ~button;
+    if (buttonsDown_ == 0) {
+        ReleaseCapture();
+    }
+    state_->OnMouseUp(button);
+}
+
 void Toolbar::OnPaint(wxPaintEvent& /*event*/) {
-    wxAutoBufferedPaintDC dc(this);
-    dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-    dc.Clear();
+    wxPaintDC dc(this);
+    Draw(dc);
+}
+
+void Toolbar::Draw(wxDC& dc) const {
     const int height = GetClientSize().y;
     const int margin = units_.Pixels(kMargin);
     for (const int x : separators_) {
@@ -129,11 +164,15 @@ void Toolbar::OnPaint(wxPaintEvent& /*event*/) {
         wxBitmap picture = imgToolbarIcon.at(i).GetBitmap(size * GetContentScaleFactor());
         picture.SetScaleFactor(GetContentScaleFactor());
         dc.DrawBitmap(picture, static_cast<int>(icon.left), static_cast<int>(icon.top));
-        DrawFlatButton(icon, dc, states_.at(i));
+        // A flat edge is in the colour of buttons, which need not be that of the window behind it.
+        if (states_.at(i) != kFlat) {
+            DrawFlatButton(icon, dc, states_.at(i));
+        }
     }
 }
 
 void Toolbar::LetGo() {
+    buttonsDown_ = 0;
     ReleaseCapture();
     state_->OnCaptureLost();
 }

@@ -36,11 +36,16 @@ class Toolbar final : public Backdrop, private ToolbarView {
 
     [[nodiscard]] int StateOf(std::size_t icon) const { return states_.at(icon); }
 
+    /// Draws the pictures, the edge of the hot icon and the separators, without the background.
+    void Draw(wxDC& dc) const;
+
   private:
     void PlaceIcons();
     void BindEvents();
     void OnPaint(wxPaintEvent& event);
     void OnMove(wxMouseEvent& event);
+    void OnButtonDown(wxMouseEvent& event);
+    void OnButtonUp(wxMouseEvent& event);
 
     void SetCapture() override;
     void ReleaseCapture() override;
@@ -56,7 +61,7 @@ class Toolbar final : public Backdrop, private ToolbarView {
     std::array<int, kToolbarIcons.size()> states_ = {};
     std::vector<int> separators_;  // x of each
     std::optional<ToolbarState> state_;
-    int buttonsDown_ = 0;
+    int buttonsDown_ = 0;  // as bits, while the mouse is here
 };
 
 }  // namespace brelex

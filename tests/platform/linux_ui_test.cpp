@@ -19,6 +19,7 @@
 #include "platform/text_columns.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/app_icon.h"
+#include "ui/toolbar.h"
 
 namespace brelex {
 namespace {
@@ -42,6 +43,18 @@ class HotKey : public MainWindowTest {
         return other;
     }
 };
+
+TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {
+    const auto& bar = dynamic_cast<Toolbar&>(*Control("picToolbar"));
+    user_.MouseMove(bar.ClientToScreen(wxPoint(18, 18)));
+    user_.MouseMove(bar.ClientToScreen(wxPoint(20, 20)));
+    ASSERT_TRUE(WaitFor([&] { return bar.StateOf(0) == kRaised; }));
+    user_.Char('F', wxMOD_ALT);
+    EXPECT_TRUE(WaitFor([&] { return bar.StateOf(0) == kFlat; }));
+    Settle(150);
+    user_.Char(WXK_ESCAPE);
+    Settle(150);
+}
 
 TEST_F(HotKey, BringsACoveredWindowForward) {
     wxFrame* const other = Cover();

@@ -196,6 +196,18 @@ TEST(ToolbarState, LosingTheMouseFlattens) {
     toolbar.state.OnMouseMove(0, 20, 20);
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnCaptureLost(); }),
               (Strings{"0 flat", "describe nothing"}));
+    // What another control says in the meantime stays.
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnCaptureLost(); }), Strings());
+}
+
+TEST(ToolbarState, AWiderToolbarIsStillInsideBehindTheIcons) {
+    Toolbar toolbar;
+    const auto moveFarRight = [](ToolbarState& s) { s.OnMouseMove(0, 5000, 20); };
+    const Strings outside = toolbar.Log(moveFarRight);
+    toolbar.state.OnResize(6000, 40);
+    const Strings inside = toolbar.Log(moveFarRight);
+    EXPECT_EQ(outside, (Strings{"capture", "describe nothing", "release"}));
+    EXPECT_EQ(inside, (Strings{"capture", "describe nothing"}));
 }
 
 TEST(EdgeOf, LiesOnTheBoundaryRoundedToEven) {

@@ -47,9 +47,9 @@ class AboutTest : public SideWindowTest {
         Settle(50);
     }
 
-    // Presses the left button on the title with modifier keys held; the name of the window that
+    // Presses a button on the title with modifier keys held; the name of the window that
     // opens, if one does.
-    std::string PressOnTitle(const std::vector<int>& keys) {
+    std::string PressOnTitle(const std::vector<int>& keys, int button = wxMOUSE_BTN_LEFT) {
         MoveTo(MiddleOf("picAppTitle"));
         for (const int key : keys) {
             user_.KeyDown(key);
@@ -66,8 +66,9 @@ class AboutTest : public SideWindowTest {
             }
             return !opened.empty();
         }});
-        user_.MouseClick();
+        user_.MouseDown(button);
         Settle(400);
+        user_.MouseUp(button);
         for (const int key : keys) {
             user_.KeyUp(key);
         }
@@ -166,12 +167,32 @@ TEST_F(AboutTest, AReleaseElsewhereOpensNothing) {
     });
 }
 
+TEST_F(AboutTest, APressOnOneLinkReleasedOnAnotherOpensNothing) {
+    InAbout([&] {
+        MoveTo(MiddleOf("lblHyperLink0"));
+        user_.MouseDown();
+        Settle(50);
+        MoveTo(MiddleOf("lblHyperLink1"));
+        user_.MouseUp();
+        Settle(150);
+        EXPECT_TRUE(desktop_.opened.empty());
+    });
+}
+
 TEST_F(AboutTest, ALinkOpensByKeyboard) {
     InAbout([&] {
         In("lblHyperLink0").SetFocus();
         Settle(50);
-        user_.Char(WXK_SPACE);
-        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+        std::size_t opened = 0;
+        for (const int key : {WXK_SPACE, WXK_RETURN}) {
+            user_.Char(key);
+            ++opened;
+            EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == opened; })) << key;
+        }
+        user_.Char(WXK_SPACE, wxMOD_CONTROL);
+        Settle(150);
+        EXPECT_EQ(desktop_.opened.size(), opened);
+        EXPECT_TRUE(Side().IsShown());
     });
 }
 
@@ -179,6 +200,7 @@ TEST_F(AboutTest, OnlyCtrlWithAPressOnTheTitleShowsTheCredits) {
     InAbout([&] {
         EXPECT_EQ(PressOnTitle({}), "");
         EXPECT_EQ(PressOnTitle({WXK_CONTROL, WXK_SHIFT}), "");
+        EXPECT_EQ(PressOnTitle({WXK_CONTROL}, wxMOUSE_BTN_RIGHT), "");
         EXPECT_EQ(PressOnTitle({WXK_CONTROL}), "frmCredit");
     });
 }
@@ -195,6 +217,18 @@ TEST_F(AboutTest, OkAndEscapeCloseIt) {
     EXPECT_EQ(wxWindow::FindWindowByName("frmAbout"), nullptr);
 }
 
+void ExpectLines(const std::vector<ScrollLine>& lines, const std::vector<CreditRecord>& records) {
+    ASSERT_EQ(lines.size(), records.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_EQ(Utf8Text(lines[i].text), records[i].text);
+        EXPECT_EQ(lines[i].font.GetPointSize(), records[i].pointSize) << records[i].text;
+        EXPECT_EQ(lines[i].font.GetWeight() >= wxFONTWEIGHT_BOLD, records[i].isBold)
+            << records[i].text;
+        EXPECT_EQ(lines[i].colour.IsOk(), records[i].colour.has_value()) << records[i].text;
+    }
+    EXPECT_EQ(lines[1].colour, wxColour(255, 0, 0));
+}
+
 TEST_F(AboutTest, TheCreditsScrollAndEscapeClosesThem) {
     InAbout([&] {
         MoveTo(MiddleOf("picAppTitle"));
@@ -207,12 +241,17 @@ TEST_F(AboutTest, TheCreditsScrollAndEscapeClosesThem) {
             const auto* area = dynamic_cast<ScrollArea*>(wxWindow::FindWindowByName("picAbout"));
             return area == nullptr ? 0 : area->Position();
         };
+        const auto lines = [] {
+            const auto* area = dynamic_cast<ScrollArea*>(wxWindow::FindWindowByName("picAbout"));
+            return area == nullptr ? std::vector<ScrollLine>() : area->Lines();
+        };
         ModalDriver driver({[&] {
                                 if (credit() == nullptr || !credit()->IsActive() ||
                                     position() == 0) {
                                     return false;
                                 }
                                 first = position();
+                                ExpectLines(lines(), Credits(startUp_->Values().info));
                                 return true;
                             },
                             [&] {
@@ -238,8 +277,15 @@ TEST_F(AboutTest, TheDonationLinesScrollUpFromBelow) {
     InDonation([&] {
         auto& area = In<ScrollArea>("picCredit");
         const int height = area.GetClientSize().y;
-        EXPECT_TRUE(WaitFor([&] { return area.Position() == height; }));
-        EXPECT_TRUE(WaitFor([&] { return area.Position() <= height - 3; }));
+        Strings lines;
+        for (const ScrollLine& line : area.Lines()) {
+            lines.push_back(Utf8Text(line.text));
+        }
+        EXPECT_EQ(lines, DonationLines());
+        EXPECT_TRUE(WaitFor([&] { return area.Position() > 0; }));
+        const int first = area.Position();
+        EXPECT_LE(first, height);
+        EXPECT_TRUE(WaitFor([&] { return area.Position() <= first - 3; }));
         EXPECT_GE(area.GetClientSize().x, area.LinesWidth());
     });
 }
@@ -252,6 +298,13 @@ TEST_F(AboutTest, TheDonationButtonsOpenTheDonationPage) {
         EXPECT_TRUE(WaitFor([&] { return desktop_.opened == Strings{page}; }));
         Click("imgPayPalDonate");
         EXPECT_TRUE(WaitFor([&] { return desktop_.opened == Strings({page, page}); }));
+    });
+}
+
+TEST_F(AboutTest, EscapeClosesTheDonationWindow) {
+    InDonation([&] {
+        user_.Char(WXK_ESCAPE);
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
     });
 }
 

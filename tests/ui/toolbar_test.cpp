@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/toolbar.h"
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -138,7 +139,60 @@ TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
     EXPECT_EQ(Bar().StateOf(0), kRaised);
     user_.MouseUp(wxMOUSE_BTN_RIGHT);
     Settle(60);
+    EXPECT_FALSE(Bar().HasCapture());
     EXPECT_FALSE(window_->IsModalOpen);
+}
+
+// What the toolbar draws, on green.
+wxImage Picture(const Toolbar& bar) {
+    wxBitmap bitmap(bar.GetClientSize(), 24);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(*wxGREEN_BRUSH);
+    dc.Clear();
+    bar.Draw(dc);
+    dc.SelectObject(wxNullBitmap);
+    return bitmap.ConvertToImage();
+}
+
+wxColour ColourAt(const wxImage& image, int x, int y) {
+    return {image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)};
+}
+
+wxColour SystemColour(wxSystemColour colour) {
+    const wxColour c = wxSystemSettings::GetColour(colour);
+    return {c.Red(), c.Green(), c.Blue()};
+}
+
+TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
+    const EdgeRectangle edge = EdgeOf(Bar().BoundsOf(2));
+    const int middle = (edge.top + edge.bottom) / 2;
+    const auto edgeColour = [&] { return ColourAt(Picture(Bar()), edge.right, middle); };
+    MoveTo(BelowTheToolbar());
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+    Hover(1);
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+    Hover(2);
+    EXPECT_EQ(edgeColour(), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+    user_.MouseDown();
+    EXPECT_TRUE(WaitFor([&] { return edgeColour() == SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT); }));
+    MoveTo(BelowTheToolbar());
+    user_.MouseUp();
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+}
+
+TEST_F(ToolbarWindowTest, EachIconHasAPictureOfItsOwn) {
+    const wxImage bar = Picture(Bar());
+    std::set<std::string> pictures;
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        const IconBounds& icon = Bar().BoundsOf(i);
+        const wxImage picture =
+            bar.GetSubImage({static_cast<int>(icon.left), static_cast<int>(icon.top),
+                             static_cast<int>(icon.width), static_cast<int>(icon.height)});
+        const auto* const bytes = reinterpret_cast<const char*>(picture.GetData());
+        pictures.emplace(bytes,
+                         static_cast<std::size_t>(3 * picture.GetWidth() * picture.GetHeight()));
+    }
+    EXPECT_EQ(pictures.size(), kToolbarIcons.size());
 }
 
 TEST_F(ToolbarWindowTest, KeysWorkWhileAnIconIsRaised) {
@@ -160,14 +214,6 @@ TEST_F(ToolbarWindowTest, AWindowOpenedByKeyUnderAHotIconGetsTheMouse) {
 }
 
 TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
-    const auto colourAt = [](const wxImage& image, int x, int y) {
-        return wxColour(image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y));
-    };
-    const auto system = [](wxSystemColour colour) {
-        const wxColour c = wxSystemSettings::GetColour(colour);
-        return wxColour(c.Red(), c.Green(), c.Blue());
-    };
-
     struct Edge {
         int state;
         wxSystemColour leftAndTop;
@@ -184,12 +230,12 @@ TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
         DrawFlatButton({10, 10, 32, 32}, dc, edge.state);
         dc.SelectObject(wxNullBitmap);
         const wxImage image = bitmap.ConvertToImage();
-        EXPECT_EQ(colourAt(image, 10, 20), system(edge.leftAndTop)) << edge.state;
-        EXPECT_EQ(colourAt(image, 20, 10), system(edge.leftAndTop)) << edge.state;
-        EXPECT_EQ(colourAt(image, 42, 20), system(edge.rightAndBottom)) << edge.state;
-        EXPECT_EQ(colourAt(image, 20, 42), system(edge.rightAndBottom)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 10, 20), SystemColour(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 20, 10), SystemColour(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 42, 20), SystemColour(edge.rightAndBottom)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 20, 42), SystemColour(edge.rightAndBottom)) << edge.state;
         for (const wxPoint& outside : {wxPoint(9, 20), wxPoint(11, 20), wxPoint(43, 20)}) {
-            EXPECT_EQ(colourAt(image, outside.x, outside.y), *wxGREEN) << edge.state;
+            EXPECT_EQ(ColourAt(image, outside.x, outside.y), *wxGREEN) << edge.state;
         }
     }
 }
