@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// brelex-help FILE: shows the help book in FILE, or the one beside this program. On Windows
-// "brelex-help --register" has it open .hlp files for this user, and "--unregister" no longer.
+// brelex-help FILE: shows the help book in FILE, or the one beside this program.
+// "brelex-help --register" has it open the help of this user's programs, "--unregister" no longer.
 #include <memory>
 
 #include <wx/app.h>
@@ -36,9 +36,9 @@ class HelpApp final : public wxApp {
         SetAppName("brelex-help");
         const wxString argument = argc > 1 ? argv[1] : wxString();
         if (argument == "--register" || argument == "--unregister") {
-            OpenHelpFilesWith(argument == "--register"
-                                  ? Utf8Text(wxStandardPaths::Get().GetExecutablePath())
-                                  : std::string());
+            done_ = OpenHelpFilesWith(argument == "--register"
+                                          ? Utf8Text(wxStandardPaths::Get().GetExecutablePath())
+                                          : std::string());
             return true;
         }
         wxImage::AddHandler(new wxPNGHandler);
@@ -47,7 +47,12 @@ class HelpApp final : public wxApp {
     }
 
     // Without a window there is nothing to run.
-    int OnRun() override { return GetTopWindow() == nullptr ? 0 : wxApp::OnRun(); }
+    int OnRun() override {
+        if (GetTopWindow() != nullptr) {
+            return wxApp::OnRun();
+        }
+        return done_ ? 0 : 1;
+    }
 
   private:
     static wxString BookBesideProgram() {
@@ -95,7 +100,8 @@ class HelpApp final : public wxApp {
         return project != nullptr;
     }
 
-    wxHtmlHelpController controller_{wxHF_DEFAULT_STYLE & ~wxHF_OPEN_FILES};
+    wxHtmlHelpController controller_{wxHF_DEFAULT_STYLE & ~(wxHF_OPEN_FILES | wxHF_BOOKMARKS)};
+    bool done_ = false;  // what was asked for instead of a window
 };
 
 }  // namespace

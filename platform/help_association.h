@@ -5,8 +5,8 @@
 
 namespace brelex {
 
-/// Has help files of this user opened with a program (UTF-8 path); with an empty path takes that
-/// back. On Linux desktop entries do this, and nothing happens here.
-void OpenHelpFilesWith(const std::string& program);
+/// Has the help files of this user opened with a program (UTF-8 path), or, with an empty path, with
+/// what it was before. Returns false if that fails.
+[[nodiscard]] bool OpenHelpFilesWith(const std::string& program);
 
 }  // namespace brelex

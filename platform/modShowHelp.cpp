@@ -23,18 +23,21 @@ bool SameNameIgnoringCase(std::string_view one, std::string_view other) {
                       [](char a, char b) { return SmallLetter(a) == SmallLetter(b); });
 }
 
-// The path of a file in a folder, whatever the case of its name. Folders are no files.
+// The path of a file in a folder, whatever the case of its name, best the very name. Folders are no
+// files.
 std::optional<std::string> FindFile(const std::string& folder, std::string_view name) {
     std::error_code error;
+    std::optional<std::string> found;
     std::filesystem::directory_iterator file(PathOfUtf8(folder), error);
     for (; !error && file != std::filesystem::directory_iterator(); file.increment(error)) {
         std::error_code unknown;
-        if (SameNameIgnoringCase(Utf8OfPath(file->path().filename()), name) &&
-            file->is_regular_file(unknown)) {
-            return Utf8OfPath(file->path());
+        const std::string fileName = Utf8OfPath(file->path().filename());
+        if (SameNameIgnoringCase(fileName, name) && file->is_regular_file(unknown) &&
+            (!found || fileName == name)) {
+            found = Utf8OfPath(file->path());
         }
     }
-    return std::nullopt;
+    return found;
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ struct Property {
     unsigned long items = 0;
 };
 
-Property PropertyOf(Display* display, Window window, const char* name, Atom type) {
+Property PropertyOf(Display* display, Window window, const char* name, Atom type, int itemBits) {
     constexpr long kMostWords = 65536;
     Property property;
     Atom actualType = None;
@@ -38,7 +38,7 @@ Property PropertyOf(Display* display, Window window, const char* name, Atom type
     unsigned char* bytes = nullptr;
     if (XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, kMostWords, False,
                            type, &actualType, &bits, &property.items, &rest, &bytes) != Success ||
-        actualType != type) {
+        actualType != type || bits != itemBits) {
         property.items = 0;
     }
     property.bytes.reset(bytes);
@@ -62,13 +62,13 @@ FoundWindow WindowTitled(const std::string& title) {
     // Windows may go while they are asked.
     gdk_x11_display_error_trap_push(gdk);
     const Property list =
-        PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW);
+        PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW, 32);
     for (unsigned long i = 0; i < list.items && found == None; ++i) {
         // Items of 32 bits come as long, whatever its size.
         unsigned long window = None;
         std::memcpy(&window, list.bytes.get() + i * sizeof window, sizeof window);
-        const Property name =
-            PropertyOf(display, window, "_NET_WM_NAME", XInternAtom(display, "UTF8_STRING", False));
+        const Property name = PropertyOf(display, window, "_NET_WM_NAME",
+                                         XInternAtom(display, "UTF8_STRING", False), 8);
         if (name.items == title.size() &&
             std::memcmp(name.bytes.get(), title.data(), title.size()) == 0) {
             found = window;
@@ -124,8 +124,12 @@ bool SystemDesktop::Open(const std::string& target) {
     char* const uri = g_path_is_absolute(target.c_str())
                           ? g_filename_to_uri(target.c_str(), nullptr, nullptr)
                           : g_strdup(target.c_str());
-    const bool opened =
-        uri != nullptr && g_app_info_launch_default_for_uri(uri, nullptr, nullptr) != FALSE;
+    // With it the window that opens may come to the front.
+    GdkAppLaunchContext* const context =
+        gdk_display_get_app_launch_context(gdk_display_get_default());
+    const bool opened = uri != nullptr && g_app_info_launch_default_for_uri(
+                                              uri, G_APP_LAUNCH_CONTEXT(context), nullptr) != FALSE;
+    g_object_unref(context);
     g_free(uri);
     return opened;
 }
