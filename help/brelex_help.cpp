@@ -14,6 +14,7 @@
 #include <wx/stdpaths.h>
 #include <wx/treectrl.h>
 
+#include "database/program_values.h"
 #include "platform/help_association.h"
 #include "platform/modShowHelp.h"
 #include "ui/app_icon.h"
@@ -68,7 +69,7 @@ class HelpApp final : public wxApp {
         controller_.SetShouldPreventAppExit(true);
         const wxString url = wxFileSystem::FileNameToURL(book) + kProjectInBook;
         if (!book.FileExists() || !IsBook(url) || !controller_.AddBook(url)) {
-            wxMessageBox("Cannot open the Help file \"" + book.GetFullPath() + "\".", kHelpTitle,
+            wxMessageBox("Cannot open the Help file \"" + book.GetFullPath() + "\".", kAppTitle,
                          wxOK | wxICON_EXCLAMATION);
             return false;
         }

@@ -2,6 +2,7 @@
 // What the windows ask of an X11 desktop.
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <gio/gio.h>
 #include <string>
 #include <sys/wait.h>
@@ -15,6 +16,7 @@
 
 #include <gtk/gtk.h>
 
+#include "platform/help_association.h"
 #include "platform/modSysTray.h"
 #include "platform/text_columns.h"
 #include "tests/ui/ui_test_support.h"
@@ -43,6 +45,41 @@ class HotKey : public MainWindowTest {
         return other;
     }
 };
+
+// The test has a home of its own.
+TEST(HelpRegistration, MakesTheViewerTheUsersAndTakesThatBack) {
+    const std::filesystem::path data = g_get_user_data_dir();
+    const std::filesystem::path defaults =
+        std::filesystem::path(g_get_user_config_dir()) / "mimeapps.list";
+    const auto entry = data / "applications" / "brelex-help.desktop";
+    const auto type = data / "mime" / "packages" / "brelex-help-type.xml";
+    const TestFolder folder;
+    const std::string program = folder.Write("a$ \"b\\ `c", "#!/bin/sh\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    ASSERT_TRUE(OpenHelpFilesWith(program));
+    EXPECT_NE(ReadText(defaults).find("application/x-brelex-help=brelex-help.desktop"),
+              std::string::npos);
+    EXPECT_NE(ReadText(type).find("Brelex.hlp"), std::string::npos);
+    EXPECT_NE(ReadText(data / "mime" / "globs2").find(":brelex.hlp"), std::string::npos);
+    // What the desktop makes of the Exec line.
+    GKeyFile* const file = g_key_file_new();
+    ASSERT_TRUE(g_key_file_load_from_file(file, entry.c_str(), G_KEY_FILE_NONE, nullptr));
+    char* const exec = g_key_file_get_string(file, "Desktop Entry", "Exec", nullptr);
+    int count = 0;
+    char** words = nullptr;
+    EXPECT_TRUE(g_shell_parse_argv(exec, &count, &words, nullptr)) << exec;
+    ASSERT_EQ(count, 2);
+    EXPECT_EQ(std::string(words[0]), program);
+    g_strfreev(words);
+    g_free(exec);
+    g_key_file_free(file);
+
+    ASSERT_TRUE(OpenHelpFilesWith(""));
+    EXPECT_FALSE(std::filesystem::exists(entry));
+    EXPECT_FALSE(std::filesystem::exists(type));
+    EXPECT_EQ(ReadText(defaults).find("x-brelex-help"), std::string::npos);
+    EXPECT_TRUE(OpenHelpFilesWith(""));  // nothing to take back
+}
 
 TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {
     const auto& bar = dynamic_cast<Toolbar&>(*Control("picToolbar"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The real help book in the real viewer on this desktop.
+#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -7,10 +8,12 @@
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
 
+#include "database/file_io.h"
 #include "platform/modShowHelp.h"
 #include "platform/system_desktop.h"
 #include "tests/platform/help_registration.h"
 #include "tests/support/fakes.h"
+#include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/wx_text.h"
 
@@ -50,6 +53,24 @@ TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
     EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
     Settle(300);
     EXPECT_FALSE(desktop_.BringWindowForward(kHelpTitle));
+}
+
+// As users have it: somewhere else, under any name.
+TEST_F(HelpViewerTest, TheBookOpensFromAFolderWithBlanksAndAccents) {
+    const TestFolder folder;
+    const auto program = folder.Path() / PathOfUtf8("d\u00e9j\u00e0 vu 100%");
+    std::filesystem::create_directory(program);
+    std::filesystem::copy_file(PathOfUtf8(Utf8Text(ProgramFolder())) / kHelpFileName,
+                               program / kHelpFileName);
+    ShowHelpContents({Utf8OfPath(program) + "/", "brevilexicon"}, desktop_, messages_);
+    EXPECT_TRUE(messages_.shown.empty());
+    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, 20000));
+}
+
+TEST(SystemDesktop, SaysThatNoProgramOpensAFileOfAnUnknownKind) {
+    const TestFolder folder;
+    SystemDesktop desktop;
+    EXPECT_FALSE(desktop.Open(folder.Write("Some.brelex-kind", {"\0\1\2\3", 4})));
 }
 
 TEST(SystemDesktop, SaysThatNoProgramOpensAnAddress) {
