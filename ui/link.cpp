@@ -65,8 +65,9 @@ void Link::BindEvents() {
 }
 
 wxSize Link::DoGetBestClientSize() const {
-    const wxSize inner =
-        text_.empty() ? picture_.GetPreferredLogicalSizeFor(this) : GetTextExtent(text_);
+    // Letters may come out a little wider than they were measured (seen with Wine 8).
+    const wxSize inner = text_.empty() ? picture_.GetPreferredLogicalSizeFor(this)
+                                       : GetTextExtent(text_) + wxSize(GetCharWidth(), 0);
     return inner + wxSize(2 * kFocusMargin, 2 * kFocusMargin);
 }
 
