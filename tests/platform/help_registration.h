@@ -3,13 +3,10 @@
 
 namespace brelex {
 
-/// Has the desktop open .hlp files with the viewer beside the tests, as long as it lives.
-class HelpRegistration {
-  public:
-    HelpRegistration();
-    HelpRegistration(const HelpRegistration&) = delete;
-    HelpRegistration& operator=(const HelpRegistration&) = delete;
-    ~HelpRegistration();
-};
+/// Has the desktop open .hlp files with the viewer beside the tests.
+void RegisterHelp();
+
+/// Takes that back.
+void UnregisterHelp();
 
 }  // namespace brelex

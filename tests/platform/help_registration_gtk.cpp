@@ -10,12 +10,12 @@
 
 namespace brelex {
 
-HelpRegistration::HelpRegistration() {
+void RegisterHelp() {
     wxString folders;
     EXPECT_TRUE(wxGetEnv("XDG_DATA_DIRS", &folders) && folders.Contains("/build/"))
         << "XDG_DATA_DIRS lacks the build tree's share/: " << folders;
 }
 
-HelpRegistration::~HelpRegistration() = default;
+void UnregisterHelp() {}
 
 }  // namespace brelex

@@ -47,7 +47,7 @@ std::wstring oldCommand;
 
 // Windows puts the user's file types over the machine's. The Wine of these tests does not yet, so
 // what the viewer registered is copied.
-HelpRegistration::HelpRegistration() {
+void RegisterHelp() {
     RunViewer("--register");
     EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kExtension), L"Brevilexicon.Help");
     EXPECT_NE(DefaultValue(HKEY_CURRENT_USER, kCommand).find(L"brelex-help.exe\" \"%1\""),
@@ -58,7 +58,7 @@ HelpRegistration::HelpRegistration() {
     SetDefaultValue(kCommand, DefaultValue(HKEY_CURRENT_USER, kCommand));
 }
 
-HelpRegistration::~HelpRegistration() {
+void UnregisterHelp() {
     RunViewer("--unregister");
     EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kExtension), L"");
     EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kType), L"");
