@@ -3,6 +3,7 @@
 #include "platform/help_association.h"
 
 #include <array>
+#include <cstddef>
 
 #include <windows.h>
 #include <shlobj.h>
@@ -24,9 +25,9 @@ const wchar_t* const kBefore = L"Before";
 const wchar_t* const kDefault = nullptr;
 
 bool SetValue(const wchar_t* key, const wchar_t* name, const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
     return RegSetKeyValueW(HKEY_CURRENT_USER, key, name, REG_SZ, text.c_str(),
-                           static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))) ==
-           ERROR_SUCCESS;
+                           static_cast<DWORD>(bytes)) == ERROR_SUCCESS;
 }
 
 // Empty if there is none.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/platform/help_registration.h"
 
+#include <cstddef>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -35,8 +36,9 @@ std::wstring DefaultValue(HKEY root, const std::wstring& key) {
 }
 
 void SetDefaultValue(const std::wstring& key, const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
     RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr, REG_SZ, text.c_str(),
-                    static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+                    static_cast<DWORD>(bytes));
 }
 
 // What the machine's registry had.
