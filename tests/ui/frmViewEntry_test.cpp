@@ -36,6 +36,8 @@ class EntryViewerTest : public SideWindowTest {
             window_->GoToRecordNumber(number);
         }
         Box().SetFocus();
+        ASSERT_TRUE(
+            WaitFor([&] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); }));
         Settle(30);
         InSideWindow(
             "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, work);
