@@ -12,6 +12,7 @@
 
 #include "database/database_header.h"
 #include "database/szdd.h"
+#include "tests/platform/keyboard.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/main_menus.h"
@@ -37,7 +38,7 @@ class EntryViewerTest : public SideWindowTest {
         }
         Box().SetFocus();
         ASSERT_TRUE(
-            WaitFor([&] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); }));
+            WaitFor([&] { return HasKeyboard(*window_) && wxWindow::FindFocus() == &Box(); }));
         Settle(30);
         InSideWindow(
             "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, work);

@@ -13,6 +13,7 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
+#include "tests/platform/keyboard.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -106,8 +107,8 @@ void MainWindowTest::StartWith(const std::string& databaseFile, const std::strin
     bool active = false;
     for (int i = 0; i < 8 && !active; ++i) {
         window_->Raise();
-        active = WaitFor([this] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); },
-                         1000);
+        active = WaitFor(
+            [this] { return HasKeyboard(*window_) && wxWindow::FindFocus() == &Box(); }, 1000);
     }
     ASSERT_TRUE(active);
     Settle(50);
@@ -168,6 +169,8 @@ void SideWindowTest::InSideWindow(const char* name, const std::function<void()>&
     open();
     // Now and then Wine loses a key while it gives the focus to a window.
     if (!WaitFor([&] { return driver.Done(); }) && wxWindow::FindWindowByName(name) == nullptr) {
+        window_->Raise();
+        EXPECT_TRUE(WaitFor([&] { return HasKeyboard(*window_); }));
         open();
     }
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class wxTopLevelWindow;
+
+namespace brelex {
+
+/// Whether simulated keys arrive in a window: the system's view, which the toolkit may be ahead of.
+[[nodiscard]] bool HasKeyboard(wxTopLevelWindow& window);
+
+}  // namespace brelex
