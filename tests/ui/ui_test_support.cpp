@@ -209,22 +209,35 @@ void PutOnClipboard(const wxString& text) {
     ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
 }
 
+namespace {
+
+// The first modal dialog there is, or null.
+wxDialog* ModalDialog() {
+    for (wxWindow* window : wxTopLevelWindows) {
+        auto* const dialog = dynamic_cast<wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
 std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,
                                          const std::function<void()>& look) {
     std::string name;
     ModalDriver driver({[&] {
-        for (wxWindow* window : wxTopLevelWindows) {
-            auto* const dialog = dynamic_cast<wxDialog*>(window);
-            if (dialog != nullptr && dialog->IsModal()) {
-                name = Utf8Text(dialog->GetName());
-                if (look) {
-                    look();
-                }
-                dialog->EndModal(wxID_CANCEL);
-                return true;
-            }
+        wxDialog* const dialog = ModalDialog();
+        if (dialog == nullptr) {
+            return false;
         }
-        return false;
+        name = Utf8Text(dialog->GetName());
+        if (look) {
+            look();
+        }
+        dialog->EndModal(wxID_CANCEL);
+        return true;
     }});
     open();
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
