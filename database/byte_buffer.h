@@ -3,7 +3,10 @@
 
 #include <cstddef>
 #include <memory>
+#include <new>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace brelex {
 
@@ -12,9 +15,11 @@ class ByteBuffer {
   public:
     ByteBuffer() = default;
 
-    explicit ByteBuffer(std::size_t size)
-        : bytes_(std::make_unique_for_overwrite<char[]>(size)),
-          size_(size) {}
+    /// A buffer of `size` bytes; nothing if there is not so much memory in one piece.
+    [[nodiscard]] static std::optional<ByteBuffer> Allocate(std::size_t size) {
+        std::unique_ptr<char[]> bytes(new (std::nothrow) char[size]);
+        return bytes == nullptr ? std::nullopt : std::optional(ByteBuffer(std::move(bytes), size));
+    }
 
     [[nodiscard]] char* Data() { return bytes_.get(); }
 
@@ -25,6 +30,10 @@ class ByteBuffer {
     [[nodiscard]] std::string_view View() const { return {bytes_.get(), size_}; }
 
   private:
+    ByteBuffer(std::unique_ptr<char[]> bytes, std::size_t size)
+        : bytes_(std::move(bytes)),
+          size_(size) {}
+
     std::unique_ptr<char[]> bytes_;
     std::size_t size_ = 0;
 };

@@ -17,7 +17,8 @@ namespace brelex {
 /// `folder` with the system's separator at its end, where it has one already unchanged.
 [[nodiscard]] std::string WithTrailingSeparator(std::string folder);
 
-/// The whole content of a file; nothing if it cannot be read or is longer than 2 GiB.
+/// The whole content of a file; nothing if it cannot be read, is longer than 2 GiB or
+/// does not fit into memory.
 [[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);
 
 /// Replaces the file at `path` by one with `bytes`, in one step: whoever reads it meanwhile gets

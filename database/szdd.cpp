@@ -29,21 +29,22 @@ constexpr std::size_t kMaxGroupOutput = 8 * kMaxMatch;
 // match is always a copy from within the buffer and the ring itself is not needed.
 class Expander {
   public:
-    Expander(std::string_view data, std::size_t expectedBytes, std::size_t mostBytes)
+    Expander(std::string_view data, std::size_t mostBytes)
         : next_(data.data()),
           end_(data.data() + data.size()),
-          mostBytes_(mostBytes) {
-        Grow(expectedBytes);
-        std::memset(buffer_.Data(), ' ', kRingBytes);
-    }
+          mostBytes_(mostBytes) {}
 
-    std::optional<ExpandedFile> Run() {
+    std::optional<ExpandedFile> Run(std::size_t expectedBytes) {
+        if (!Grow(expectedBytes)) {
+            return std::nullopt;
+        }
+        std::memset(buffer_.Data(), ' ', kRingBytes);
         while (next_ != end_) {
             if (used_ + kMaxGroupOutput > buffer_.Size()) {
-                if (used_ - kRingBytes > mostBytes_) {
+                const std::size_t soFar = used_ - kRingBytes;
+                if (soFar > mostBytes_ || !Grow(soFar * 2)) {
                     return std::nullopt;
                 }
-                Grow((used_ - kRingBytes) * 2);
             }
             if (static_cast<std::size_t>(end_ - next_) >= kMaxGroupInput) {
                 ExpandWholeGroup();
@@ -59,13 +60,17 @@ class Expander {
     }
 
   private:
-    // Makes room for `bytes` of output and a group more.
-    void Grow(std::size_t bytes) {
-        ByteBuffer larger(kRingBytes + bytes + kMaxGroupOutput);
-        if (used_ > kRingBytes) {
-            std::memcpy(larger.Data(), buffer_.Data(), used_);
+    // Makes room for `bytes` of output and a group more; false if there is not the memory.
+    [[nodiscard]] bool Grow(std::size_t bytes) {
+        auto larger = ByteBuffer::Allocate(kRingBytes + bytes + kMaxGroupOutput);
+        if (!larger) {
+            return false;
         }
-        buffer_ = std::move(larger);
+        if (used_ > kRingBytes) {
+            std::memcpy(larger->Data(), buffer_.Data(), used_);
+        }
+        buffer_ = std::move(*larger);
+        return true;
     }
 
     // Eight items, all of which the input holds.
@@ -244,14 +249,17 @@ std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBy
         if (file.size() > mostBytes) {
             return std::nullopt;
         }
-        ByteBuffer copy(file.size());
-        std::copy(file.begin(), file.end(), copy.Data());
-        return ExpandedFile(std::move(copy), 0, file.size());
+        auto copy = ByteBuffer::Allocate(file.size());
+        if (!copy) {
+            return std::nullopt;
+        }
+        std::copy(file.begin(), file.end(), copy->Data());
+        return ExpandedFile(std::move(*copy), 0, file.size());
     }
     const std::string_view data = file.substr(kFileHeaderBytes);
     // However lying the declared length, no more is set aside than the data could give.
     const std::size_t most = (data.size() / kMaxGroupInput + 1) * kMaxGroupOutput;
-    return Expander(data, std::min({DeclaredLength(file), most, mostBytes}), mostBytes).Run();
+    return Expander(data, mostBytes).Run(std::min({DeclaredLength(file), most, mostBytes}));
 }
 
 std::string CompressSzdd(std::string_view bytes) {

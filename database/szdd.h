@@ -39,7 +39,8 @@ class ExpandedFile {
 
 /// Expands `file`. As the Windows function LZCopy does: bytes without the signature are copied as
 /// they stand; the length that the header declares is only a hint; a stream that ends early gives
-/// what came out so far. Returns nothing if the result would be longer than `mostBytes`.
+/// what came out so far. Returns nothing if the result would be longer than `mostBytes` or does
+/// not fit into memory.
 [[nodiscard]] std::optional<ExpandedFile> ExpandSzdd(std::string_view file,
                                                      std::size_t mostBytes = kMaxExpandedBytes);
 

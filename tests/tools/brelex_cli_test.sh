@@ -80,6 +80,14 @@ expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'
 expect 2 "look-up in a file that is no database" "$brelex" -d "$folder/list.tsv" lookup ra
 contains err "Cannot decode a corrupt database. Loading was aborted."
 expect 2 "build of a database that is to be read" "$brelex" -d "$folder/x.dat" build "$folder/list.tsv"
+truncate -s 2000M "$folder/huge.dat"  # takes no room on the disk
+# 32-bit programs have no such memory anyway; where sanitizers take all there is, nothing is limited.
+limited() { ( [ -n "$emulator" ] || ulimit -v 1000000; "$@" ); }
+if limited "$brelex" --version >/dev/null 2>&1; then
+    expect 2 "a file that does not fit into memory" limited "$brelex" -d "$folder/huge.dat" info
+    contains err "cannot read"
+fi
+rm "$folder/huge.dat"
 if [ -e /dev/full ]; then
     "$brelex" dump >/dev/full 2>"$folder/err"
     [ $? = 2 ] || { echo "FAILED: a full disk"; failures=$((failures + 1)); }
