@@ -6,6 +6,7 @@
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
 
+#include "app/exception_report.h"
 #include "database/program_values.h"
 #include "platform/command_line.h"
 #include "platform/modRunAtStartup.h"
@@ -52,6 +53,19 @@ int BrevilexiconApp::OnExit() {
     // GTK, so it waits until no window is left.
     wxTheClipboard->Flush();
     return wxApp::OnExit();
+}
+
+// What was asked for was not done; the rest of the program goes on.
+bool BrevilexiconApp::OnExceptionInMainLoop() {
+    WxMessageSink messages(nullptr);
+    ReportCaughtException(messages);
+    return true;
+}
+
+// Something failed outside the event loop, such as at the start: that is the end.
+void BrevilexiconApp::OnUnhandledException() {
+    WxMessageSink messages(nullptr);
+    ReportCaughtException(messages);
 }
 
 }  // namespace brelex

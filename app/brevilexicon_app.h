@@ -14,6 +14,8 @@ class BrevilexiconApp final : public wxApp {
   public:
     bool OnInit() override;
     int OnExit() override;
+    bool OnExceptionInMainLoop() override;
+    void OnUnhandledException() override;
 
   private:
     SystemTemporaryFiles files_;
