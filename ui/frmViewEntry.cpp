@@ -152,9 +152,10 @@ void frmViewEntry::CopyEntry() {
 
 // Before the controls: whichever has the focus, the whole entry is copied.
 void frmViewEntry::OnKey(wxKeyEvent& event) {
-    if (event.GetKeyCode() == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
+    const int key = event.GetKeyCode();
+    if (key == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
         CopyEntry();
-    } else if (event.GetKeyCode() == WXK_RETURN && txtExpn->HasFocus()) {
+    } else if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && txtExpn->HasFocus()) {
         EndModal(wxID_OK);  // the box would keep the key to itself
     } else {
         event.Skip();
