@@ -48,7 +48,12 @@ class frmCheckData::Watcher final : public CrcWatcher {
   public:
     explicit Watcher(frmCheckData& window) : window_(window) {}
 
-    void DrawProgress(int percent) override { window_.DrawProgress(percent); }
+    // The end of an aborted check is not one of the whole.
+    void DrawProgress(int percent) override {
+        if (!window_.Aborted) {
+            window_.DrawProgress(percent);
+        }
+    }
 
     [[nodiscard]] bool OnPause() override {
         if (window_.Aborted) {
@@ -172,6 +177,11 @@ void frmCheckData::DrawProgress(int percent) {
     picProgbar->Draw(percent);
 }
 
+void frmCheckData::ClearProgress() {
+    SetNames(*picProgbar, "picProgbar", "Progress");
+    picProgbar->Clear();
+}
+
 void frmCheckData::ClearResult() {
     tmrBlink.Stop();
     imgResult->Hide();
@@ -187,7 +197,7 @@ void frmCheckData::RunCheck() {
     Aborted = false;
     saysAborted_ = false;
     ClearResult();
-    picProgbar->Clear();
+    ClearProgress();
     lblMessage->SetLabelText("Checking data integrity...");
     PaintNow(*this);  // expanding a large file takes a moment
     bool passed = false;
@@ -200,7 +210,7 @@ void frmCheckData::RunCheck() {
             messages_.Show({"Check was aborted by user", kAppTitle, MessageIcon::Information,
                             MessageButtons::Ok});
         }
-        picProgbar->Clear();
+        ClearProgress();
         lblMessage->SetLabelText(kIdle);
     } else {
         ShowResult(passed);

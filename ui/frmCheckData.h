@@ -36,6 +36,7 @@ class frmCheckData final : public wxDialog {
 
     void RunCheck();
     void DrawProgress(int percent);
+    void ClearProgress();
     void ClearResult();
     void ShowResult(bool passed);
     void OnCancel();
