@@ -44,7 +44,7 @@ void ToolbarState::OnMouseMove(int buttons, double x, double y) {
     if (buttons == buttons_ && icon == hotIcon_) {
         return;
     }
-    view_.LetPendingEventsRun();
+    view_.LetPendingPaintingRun();
     if (hotIcon_ != kNone) {
         view_.DrawIcon(hotIcon_, kFlat);
     }

@@ -24,7 +24,7 @@ inline constexpr std::array<ToolbarIcon, 7> kToolbarIcons = {{
     {"Exit", "Quits the application"},
 }};
 
-/// The place of an icon on the toolbar.
+/// The place of an icon on the toolbar, in pixels from its upper left corner.
 struct IconBounds {
     double left = 0;
     double top = 0;
@@ -43,6 +43,7 @@ struct EdgeRectangle {
     bool operator==(const EdgeRectangle&) const = default;
 };
 
+/// The edge of an icon whose pixels are below 32768.
 [[nodiscard]] EdgeRectangle EdgeOf(const IconBounds& icon);
 
 /// How an icon is drawn.
@@ -67,12 +68,17 @@ class ToolbarView {
     virtual void SetCapture() = 0;
     virtual void ReleaseCapture() = 0;
 
-    virtual void LetPendingEventsRun() = 0;
+    /// Lets the windows show what they have to before an icon changes. Must not lead to another
+    /// call of the state.
+    virtual void LetPendingPaintingRun() = 0;
+
+    /// Shows an icon in one of the states above.
     virtual void DrawIcon(int icon, int state) = 0;
 
     /// The icon under the mouse, -1 if there is none.
     virtual void Describe(int icon) = 0;
 
+    /// Does what the icon is there for. May call the state again or end the toolbar.
     virtual void RunAction(int icon) = 0;
 };
 
@@ -81,10 +87,12 @@ class ToolbarView {
 /// the toolbar, or exchanged by sliding to another icon.
 class ToolbarState {
   public:
-    /// A toolbar of this size with icons on it. `view` must outlive the state.
+    /// A toolbar of this size, in pixels, with icons on it. Where icons overlap, the later is
+    /// meant. `view` must outlive the state.
     ToolbarState(std::vector<IconBounds> icons, double width, double height, ToolbarView& view);
 
-    /// The mouse is at a place, with these buttons down (bits).
+    /// The mouse is at a place, in pixels from the upper left corner, with these buttons down
+    /// (bits). The boundaries of icons and toolbar belong to them, right and bottom, too.
     void OnMouseMove(int buttons, double x, double y);
 
     /// A button (one bit) goes down or up.
@@ -94,6 +102,7 @@ class ToolbarState {
     /// The mouse is somebody else's now. What is said of other things stays.
     void OnCaptureLost();
 
+    /// The toolbar has another size, in pixels.
     void OnResize(double width, double height);
 
     /// The icon whose edge is drawn, -1 if there is none.

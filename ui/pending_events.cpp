@@ -11,10 +11,4 @@ void LetPendingEventsRun() {
     }
 }
 
-void LetPendingPaintingRun() {
-    if (wxEventLoopBase* const loop = wxEventLoopBase::GetActive()) {
-        loop->YieldFor(wxEVT_CATEGORY_UI);
-    }
-}
-
 }  // namespace brelex

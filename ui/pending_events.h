@@ -3,13 +3,9 @@
 
 namespace brelex {
 
-// The only place that lets waiting events be handled in between.
-
-/// Lets all of them run: whoever calls it must stand what they do, up to the window's being closed.
+/// Lets all waiting events be handled in between: whoever calls it must stand what they do, up to
+/// the window's being closed. There is no such thing for some kinds of events only: on Windows the
+/// toolkit would lose the others, and GTK counts the mouse's movements as painting.
 void LetPendingEventsRun();
-
-/// Lets the windows show what they have to. Keys, the mouse and calls that were put off wait, but
-/// the system may still have a window closed.
-void LetPendingPaintingRun();
 
 }  // namespace brelex

@@ -4,14 +4,13 @@
 #include <cstddef>
 #include <utility>
 
-#include <wx/app.h>
 #include <wx/dcclient.h>
 #include <wx/settings.h>
+#include <wx/toplevel.h>
 
 #include "platform/accessible_name.h"
 #include "ui/artwork.h"
 #include "ui/modFlatButton.h"
-#include "ui/pending_events.h"
 
 namespace brelex {
 
@@ -114,11 +113,7 @@ void Toolbar::BindEvents() {
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { LetGo(); });
 }
 
-// A window that has been closed still hears of the mouse, but letting events run destroys it.
 void Toolbar::OnMove(wxMouseEvent& event) {
-    if (wxTheApp->IsScheduledForDestruction(wxGetTopLevelParent(this))) {
-        return;
-    }
     const wxPoint mouse = event.GetPosition();
     event.Skip();
     buttonsDown_ = ButtonsOf(event);
@@ -191,10 +186,10 @@ void Toolbar::ReleaseCapture() {
     }
 }
 
-// Not the mouse's next movements nor the windows that an action opens: what they change here, the
-// movement in hand would change back.
-void Toolbar::LetPendingEventsRun() {
-    LetPendingPaintingRun();
+// No events: what the mouse's next movement changes here, the one in hand would change back, and
+// the window may be closed.
+void Toolbar::LetPendingPaintingRun() {
+    wxGetTopLevelParent(this)->Update();
 }
 
 void Toolbar::DrawIcon(int icon, int state) {

@@ -49,7 +49,7 @@ class Toolbar final : public Backdrop, private ToolbarView {
 
     void SetCapture() override;
     void ReleaseCapture() override;
-    void LetPendingEventsRun() override;
+    void LetPendingPaintingRun() override;
     void DrawIcon(int icon, int state) override;
     void Describe(int icon) override;
     void RunAction(int icon) override;

@@ -19,7 +19,7 @@ class RecordingView final : public ToolbarView {
 
     void ReleaseCapture() override { log.emplace_back("release"); }
 
-    void LetPendingEventsRun() override { log.emplace_back("events"); }
+    void LetPendingPaintingRun() override { log.emplace_back("events"); }
 
     void DrawIcon(int icon, int state) override {
         log.push_back(std::to_string(icon) + (state == kFlat     ? " flat"

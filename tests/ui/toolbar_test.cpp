@@ -75,6 +75,41 @@ TEST_F(ToolbarWindowTest, LeavingFlattensTheIconAndEmptiesTheDescription) {
     EXPECT_FALSE(Bar().HasCapture());
 }
 
+TEST_F(ToolbarWindowTest, BetweenIconsNothingIsRaisedOrDescribed) {
+    Hover(0);
+    const IconBounds& icon = Bar().BoundsOf(0);
+    const double behind = icon.left + icon.width;
+    const double gap = Bar().BoundsOf(1).left - behind;
+    MoveTo(Bar().ClientToScreen(
+        wxPoint(static_cast<int>(behind + gap / 2), static_cast<int>(icon.top + icon.height / 2))));
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+    ExpectFlat();
+    EXPECT_EQ(LabelText("lblDescription"), "");
+    EXPECT_EQ(Bar().GetToolTipText(), "");
+}
+
+// A touch moves the mouse, presses and releases at once.
+TEST_F(ToolbarWindowTest, ATapOpensTheWindow) {
+    MoveTo(BelowTheToolbar());
+    EXPECT_EQ(NameOfOpened([&] {
+                  user_.MouseMove(MiddleOf(2));
+                  user_.MouseDown();
+                  user_.MouseUp();
+              }),
+              "frmSmiley");
+    ExpectFlat();
+    EXPECT_FALSE(Bar().HasCapture());
+}
+
+TEST_F(ToolbarWindowTest, AMouseThatOnlyCrossesAnIconLeavesItFlat) {
+    MoveTo(BelowTheToolbar());
+    user_.MouseMove(MiddleOf(2));
+    user_.MouseMove(BelowTheToolbar());
+    Settle(100);
+    ExpectFlat();
+    EXPECT_NE(LabelText("lblDescription"), "Smiley Dictionary");
+}
+
 struct ActionCase {
     const char* name;
     std::size_t icon;
@@ -178,6 +213,21 @@ TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
     MoveTo(BelowTheToolbar());
     user_.MouseUp();
     EXPECT_EQ(edgeColour(), *wxGREEN);
+}
+
+TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
+    const wxImage bar = Picture(Bar());
+    for (std::size_t i = 0; i + 1 < kToolbarIcons.size(); ++i) {
+        const IconBounds& icon = Bar().BoundsOf(i);
+        const int middle = static_cast<int>(icon.top + icon.height / 2);
+        int lines = 0;
+        for (int x = static_cast<int>(icon.left + icon.width) + 1; x < Bar().BoundsOf(i + 1).left;
+             ++x) {
+            lines += ColourAt(bar, x, middle) == SystemColour(wxSYS_COLOUR_BTNSHADOW) ? 1 : 0;
+        }
+        const bool ends = std::set<std::size_t>{1, 2, 4, 5}.contains(i);
+        EXPECT_EQ(lines, ends ? 1 : 0) << i;
+    }
 }
 
 TEST_F(ToolbarWindowTest, EachIconHasAPictureOfItsOwn) {
