@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/file_io.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
@@ -9,6 +10,24 @@
 namespace brelex {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+char FoldAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameIgnoringCase(std::string_view one, std::string_view other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });
+}
+
+bool IsFile(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
+}  // namespace
 
 fs::path PathOfUtf8(std::string_view utf8) {
     return {std::u8string(utf8.begin(), utf8.end())};
@@ -25,6 +44,26 @@ std::string WithTrailingSeparator(std::string folder) {
         folder.push_back(kSeparator);
     }
     return folder;
+}
+
+std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::string_view name) {
+    std::string usual = folder;
+    usual += name;
+    if (IsFile(PathOfUtf8(usual))) {
+        return usual;
+    }
+    std::optional<std::string> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(PathOfUtf8(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string spelling = Utf8OfPath(entry->path().filename());
+        // The system lists the spellings in any order.
+        if (SameIgnoringCase(spelling, name) && IsFile(entry->path()) &&
+            (!found || folder + spelling < *found)) {
+            found = folder + spelling;
+        }
+    }
+    return found;
 }
 
 std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {

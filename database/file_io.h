@@ -17,6 +17,12 @@ namespace brelex {
 /// `folder` with the system's separator at its end, where it has one already unchanged.
 [[nodiscard]] std::string WithTrailingSeparator(std::string folder);
 
+/// The path of the file called `name` in `folder` (which ends in the separator). The case of ASCII
+/// letters does not matter, also where the file system tells cases apart. The very name is
+/// preferred, and of other spellings always the same one. Folders are no files.
+[[nodiscard]] std::optional<std::string> FindFileIgnoringCase(const std::string& folder,
+                                                              std::string_view name);
+
 /// The whole content of a file; nothing if it cannot be read, is longer than 2 GiB or
 /// does not fit into memory.
 [[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);

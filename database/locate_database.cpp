@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "database/locate_database.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <string_view>
-#include <system_error>
+#include <utility>
 
 #include "database/file_io.h"
 
 namespace brelex {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-char FoldAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool IsDatabaseName(std::string_view name) {
-    const std::string_view wanted = kDatabaseName;
-    return std::equal(name.begin(), name.end(), wanted.begin(), wanted.end(),
-                      [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });
-}
-
-bool IsFile(const fs::path& path) {
-    std::error_code error;
-    return fs::is_regular_file(path, error);
-}
 
 std::string CannotFind() {
     return std::string(kAppTitle) + " cannot find the '" + kDatabaseName + "' database file.";
@@ -41,21 +21,7 @@ bool AskYesNo(MessageSink& messages, std::string text) {
 }  // namespace
 
 std::optional<std::string> FindDatabaseIn(const std::string& folder) {
-    const std::string usual = folder + kDatabaseName;
-    if (IsFile(PathOfUtf8(usual))) {
-        return usual;
-    }
-    std::optional<std::string> found;
-    std::error_code error;
-    for (fs::directory_iterator entry(PathOfUtf8(folder), error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = Utf8OfPath(entry->path().filename());
-        // Of several spellings always the same one, whatever order the system lists them in.
-        if (IsDatabaseName(name) && IsFile(entry->path()) && (!found || folder + name < *found)) {
-            found = folder + name;
-        }
-    }
-    return found;
+    return FindFileIgnoringCase(folder, kDatabaseName);
 }
 
 bool LocateDatabase(ProgramValues& values, const std::string& programFolder, FolderPicker& picker,

@@ -13,8 +13,7 @@ namespace brelex {
 /// The name of the database file.
 inline constexpr const char* kDatabaseName = "Acronyms.dat";
 
-/// The path of the file named Acronyms.dat in `folder` (UTF-8, ending in the separator). Case does
-/// not matter, also where the file system tells cases apart; the exact spelling is preferred.
+/// The path of the database file in `folder`, as FindFileIgnoringCase finds it.
 [[nodiscard]] std::optional<std::string> FindDatabaseIn(const std::string& folder);
 
 /// Settles `values.AppFolder` (from `programFolder`) and `values.DatabasePath`. If the file is

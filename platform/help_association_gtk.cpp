@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 // A MIME type of its own for the help book and a desktop entry of a program for it, in the user's
-// folder for data. What is said twice here also stands in packaging/linux/.
+// folder for data: what stands in packaging/linux/, whose names are repeated here.
 #include "platform/help_association.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gio/gdesktopappinfo.h>
 #include <memory>
 #include <string_view>
 #include <system_error>
 
+#include "database/file_io.h"
 #include "embedded/kHelpDesktopEntry.h"
 #include "embedded/kHelpMimeType.h"
+#include "platform/exec_line_gtk.h"
 
 namespace brelex {
 
@@ -32,32 +33,10 @@ std::filesystem::path MimeTypePath(const std::filesystem::path& data) {
     return data / "mime" / "packages" / "brelex-help-type.xml";
 }
 
-// A path between the double quotes of an Exec line, where it is read twice: as the value of a key,
-// which takes backslashes off, and as a command, which takes more of them off.
-std::string QuotedForExec(std::string_view path) {
-    std::string quoted;
-    for (const char c : path) {
-        if (c == '\\') {
-            quoted += "\\\\\\\\";
-        } else if (c == '"' || c == '`' || c == '$') {
-            quoted += "\\\\";
-            quoted += c;
-        } else if (c == '%') {
-            quoted += "%%";
-        } else {
-            quoted += c;
-        }
-    }
-    return quoted;
-}
-
 bool Write(const std::filesystem::path& path, const std::string& text) {
     std::error_code error;
     std::filesystem::create_directories(path.parent_path(), error);
-    std::ofstream file(path, std::ios::binary);
-    file << text;
-    file.close();
-    return !file.fail();
+    return !error && !ReplaceFile(path, text);
 }
 
 bool UpdateMimeDatabase(const std::filesystem::path& data) {
@@ -82,7 +61,7 @@ bool MakeDefault(const std::filesystem::path& entry) {
 bool Register(const std::filesystem::path& data, const std::string& program) {
     std::string entry = kHelpDesktopEntry;
     entry.replace(entry.find(kPlaceForProgram), std::string_view(kPlaceForProgram).size(),
-                  QuotedForExec(program));
+                  EscapedForExecLine(program));
     return Write(MimeTypePath(data), kHelpMimeType) && UpdateMimeDatabase(data) &&
            Write(DesktopEntryPath(data), entry) && MakeDefault(DesktopEntryPath(data));
 }

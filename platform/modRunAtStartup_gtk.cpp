@@ -4,11 +4,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <system_error>
 
 #include "database/file_io.h"
 #include "database/program_values.h"
+#include "platform/exec_line_gtk.h"
 
 namespace brelex {
 
@@ -30,23 +31,6 @@ std::optional<fs::path> AutostartFile() {
     return fs::path(home) / ".config" / kName;
 }
 
-// An argument in quotes as desktop entries have it: escaped for the command line and then, as any
-// string of the file, once more.
-std::string QuotedArgument(std::string_view text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '\\') {
-            quoted += "\\\\\\\\";
-        } else if (c == '"' || c == '`' || c == '$') {
-            quoted += "\\\\";
-            quoted += c;
-        } else {
-            quoted += c == '%' ? "%%" : std::string(1, c);
-        }
-    }
-    return quoted + "\"";
-}
-
 }  // namespace
 
 bool SetRunAtStartup(const std::string& appFolder, bool enable) {
@@ -60,8 +44,8 @@ bool SetRunAtStartup(const std::string& appFolder, bool enable) {
     }
     fs::create_directories(file->parent_path(), error);
     const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
-                              "\nExec=" + QuotedArgument(appFolder + "brevilexicon") +
-                              " /minimize\n";
+                              "\nExec=\"" + EscapedForExecLine(appFolder + "brevilexicon") +
+                              "\" /minimize\n";
     return !error && !ReplaceFile(*file, entry);
 }
 
