@@ -30,7 +30,7 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
     values_.AppVersion = AppVersionOf(values_.info);
     // Made while the desktop brings the splash window up; the loading waits until that is seen.
     auto* main = new frmMain(values_, store_);
-    splash->PaintAtOnce();
+    splash->WaitUntilSeen();
     const MainSurroundings mainSurroundings{
         surroundings.files,
         surroundings.desktop,

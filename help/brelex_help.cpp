@@ -17,6 +17,7 @@
 #include "database/program_values.h"
 #include "platform/help_association.h"
 #include "platform/modShowHelp.h"
+#include "platform/program_folder.h"
 #include "ui/app_icon.h"
 #include "ui/wx_text.h"
 
@@ -56,11 +57,7 @@ class HelpApp final : public wxApp {
     }
 
   private:
-    static wxString BookBesideProgram() {
-        return wxFileName(wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath(),
-                          kHelpFileName)
-            .GetFullPath();
-    }
+    static wxString BookBesideProgram() { return WxText(ProgramFolder() + kHelpFileName); }
 
     bool ShowBook(const wxString& path) {
         const wxFileName book =

@@ -77,12 +77,8 @@ class AcronymList {
     [[nodiscard]] virtual std::int32_t RowCount() const = 0;
 };
 
-/// Where the columns of the list begin and end, in pixels.
-struct AcronymListColumns {
-    int expansionTextAt = 0;  ///< where the text of the second column begins, from the list's edge
-};
-
-/// Creates the list for this system as a child of `parent`.
-AcronymList& CreateAcronymList(wxWindow& parent, const AcronymListColumns& columns);
+/// Creates the list for this system as a child of `parent`. The text of the second column begins
+/// `expansionTextAt` pixels from the list's left edge.
+AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt);
 
 }  // namespace brelex

@@ -74,7 +74,7 @@ class CurrentEvent {
 // pixel, and its scrolling is animated and deferred (seen with GTK 3.24, wxWidgets 3.2.2).
 class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
   public:
-    AcronymListGtk(wxWindow& parent, const AcronymListColumns& columns)
+    AcronymListGtk(wxWindow& parent, int expansionTextAt)
         : wxDataViewCtrl(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                          wxDV_SINGLE | wxDV_NO_HEADER) {
         for (const unsigned column : {0U, 1U}) {
@@ -86,7 +86,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         GtkTreeView* const view = TreeView();
         // Or else typing would open a search box over the list.
         gtk_tree_view_set_enable_search(view, FALSE);
-        PlaceColumns(columns.expansionTextAt);
+        PlaceColumns(expansionTextAt);
         // All rows are as high as the first, so that none but the visible ones are measured.
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
         Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &AcronymListGtk::OnSelectionChanged, this);
@@ -277,8 +277,8 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
 
 }  // namespace
 
-AcronymList& CreateAcronymList(wxWindow& parent, const AcronymListColumns& columns) {
-    return *new AcronymListGtk(parent, columns);
+AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt) {
+    return *new AcronymListGtk(parent, expansionTextAt);
 }
 
 }  // namespace brelex

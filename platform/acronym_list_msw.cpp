@@ -16,11 +16,11 @@ namespace {
 // The system's list view over virtual rows.
 class AcronymListMsw final : public wxListView, public AcronymList {
   public:
-    AcronymListMsw(wxWindow& parent, const AcronymListColumns& columns)
+    AcronymListMsw(wxWindow& parent, int expansionTextAt)
         : wxListView(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                      wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL) {
         const int cellPadding = FromDIP(6);  // of the list view's columns but the first
-        AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, columns.expansionTextAt - cellPadding);
+        AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, expansionTextAt - cellPadding);
         AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
         Bind(wxEVT_LIST_ITEM_SELECTED, &AcronymListMsw::OnSelected, this);
         Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
@@ -158,8 +158,8 @@ class AcronymListMsw final : public wxListView, public AcronymList {
 
 }  // namespace
 
-AcronymList& CreateAcronymList(wxWindow& parent, const AcronymListColumns& columns) {
-    return *new AcronymListMsw(parent, columns);
+AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt) {
+    return *new AcronymListMsw(parent, expansionTextAt);
 }
 
 }  // namespace brelex

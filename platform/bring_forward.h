@@ -9,7 +9,8 @@ namespace brelex {
 /// the keyboard.
 void BringForward(wxFrame& window);
 
-/// Whether the window is up, not minimised, whatever the toolkit believes.
+/// Whether the window is up, not minimised. Windows is asked itself, as it may bring a window up
+/// without the toolkit's noticing; on GTK the toolkit knows.
 [[nodiscard]] bool SystemShows(const wxFrame& window);
 
 }  // namespace brelex

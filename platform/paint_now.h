@@ -5,8 +5,12 @@ class wxWindow;
 
 namespace brelex {
 
-/// Brings a shown top-level window and all that changed in it onto the screen before it returns,
-/// or gives up after a fifth of a second. For use while the program is busy.
+/// Waits until a top-level window that was shown just now is on the screen, or for a fifth of a
+/// second. Where the desktop has to do something for that, events run meanwhile.
+void PaintFirst(wxWindow& window);
+
+/// Brings what has changed in a top-level window that is on the screen onto it before it returns.
+/// For use while the program is busy: no events run.
 void PaintNow(wxWindow& window);
 
 }  // namespace brelex

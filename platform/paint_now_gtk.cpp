@@ -19,8 +19,10 @@ gboolean NoteOverdue(gpointer overdue) {
     return G_SOURCE_REMOVE;
 }
 
-// Runs events until a window that was just shown has been drawn, or patience ends.
-void WaitUntilDrawn(GtkWidget* widget) {
+}  // namespace
+
+void PaintFirst(wxWindow& window) {
+    GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
     bool drawn = false;
     bool overdue = false;
     const gulong handler = g_signal_connect_after(widget, "draw", G_CALLBACK(NoteDrawn), &drawn);
@@ -34,23 +36,20 @@ void WaitUntilDrawn(GtkWidget* widget) {
         g_source_remove(timer);
     }
     g_signal_handler_disconnect(widget, handler);
+    gdk_display_flush(gtk_widget_get_display(widget));
 }
 
-}  // namespace
-
+// At once, without waiting for the next frame of the display.
 void PaintNow(wxWindow& window) {
     GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
-    constexpr const char* kWasPainted = "brelex-was-painted";
-    if (g_object_get_data(G_OBJECT(widget), kWasPainted) == nullptr) {
-        WaitUntilDrawn(widget);
-        g_object_set_data(G_OBJECT(widget), kWasPainted, widget);
-    } else {
-        // On the screen already: paint at once, without waiting for the next frame of the display.
-        gtk_container_check_resize(GTK_CONTAINER(widget));
-        G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 has no other way, GTK 4 none at all
-            gdk_window_process_updates(gtk_widget_get_window(widget), TRUE);
-        G_GNUC_END_IGNORE_DEPRECATIONS
+    GdkWindow* const inside = gtk_widget_get_window(widget);
+    if (inside == nullptr) {
+        return;  // not on the screen
     }
+    gtk_container_check_resize(GTK_CONTAINER(widget));
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 has no other way, GTK 4 none at all
+        gdk_window_process_updates(inside, TRUE);
+    G_GNUC_END_IGNORE_DEPRECATIONS
     gdk_display_flush(gtk_widget_get_display(widget));
 }
 

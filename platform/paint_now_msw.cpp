@@ -5,6 +5,10 @@
 
 namespace brelex {
 
+void PaintFirst(wxWindow& window) {
+    PaintNow(window);
+}
+
 void PaintNow(wxWindow& window) {
     window.Refresh();
     window.Update();

@@ -1,23 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system_desktop.h"
 
+#include <X11/Xatom.h>
 #include <cstring>
 #include <gio/gio.h>
 #include <memory>
-#include <vector>
-
-#include <gtk/gtk.h>
-#ifdef GDK_WINDOWING_X11
-#include <X11/Xatom.h>
 
 #include <gdk/gdkx.h>
-#endif
+#include <gtk/gtk.h>
 
 namespace brelex {
 
 namespace {
-
-#ifdef GDK_WINDOWING_X11
 
 struct XFreeBytes {
     void operator()(unsigned char* bytes) const { XFree(bytes); }
@@ -96,28 +90,22 @@ void Ask(const FoundWindow& found, const char* message, long first, long second)
 
 constexpr long kFromPager = 2;
 
-#endif
-
 }  // namespace
 
 bool SystemDesktop::BringWindowForward(const std::string& title) {
-#ifdef GDK_WINDOWING_X11
     const FoundWindow found = WindowTitled(title);
     if (found.window != None) {
         Ask(found, "_NET_ACTIVE_WINDOW", kFromPager, CurrentTime);
         return true;
     }
-#endif
     return false;
 }
 
 void SystemDesktop::AskWindowToClose(const std::string& title) {
-#ifdef GDK_WINDOWING_X11
     const FoundWindow found = WindowTitled(title);
     if (found.window != None) {
         Ask(found, "_NET_CLOSE_WINDOW", CurrentTime, kFromPager);
     }
-#endif
 }
 
 bool SystemDesktop::Open(const std::string& target) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/program_texts.h"
 
-#include <cstddef>
 #include <string_view>
 
 #include "embedded/kSmileyDictionary.h"

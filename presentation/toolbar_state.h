@@ -24,6 +24,15 @@ inline constexpr std::array<ToolbarIcon, 7> kToolbarIcons = {{
     {"Exit", "Quits the application"},
 }};
 
+// Their numbers.
+inline constexpr int kSearchIcon = 0;
+inline constexpr int kAnagramIcon = 1;
+inline constexpr int kSmileyIcon = 2;
+inline constexpr int kHelpIcon = 3;
+inline constexpr int kAboutIcon = 4;
+inline constexpr int kDonationIcon = 5;
+inline constexpr int kExitIcon = 6;
+
 /// The place of an icon on the toolbar, in pixels from its upper left corner.
 struct IconBounds {
     double left = 0;

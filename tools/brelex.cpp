@@ -2,7 +2,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <limits>

@@ -4,7 +4,6 @@
 #include <array>
 #include <bit>
 #include <charconv>
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 

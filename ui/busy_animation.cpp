@@ -5,7 +5,6 @@
 
 #include <wx/dcclient.h>
 #include <wx/math.h>
-#include <wx/settings.h>
 
 namespace brelex {
 

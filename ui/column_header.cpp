@@ -7,13 +7,14 @@
 #include <wx/dcgraph.h>
 #include <wx/settings.h>
 
+#include "platform/accessible_name.h"
+
 namespace brelex {
 
 namespace {
 
 // All in layout units, from the left or top edge of the header.
 constexpr double kAbbreviationAt = 7;
-constexpr double kExpansionAt = 139.5;
 constexpr double kLineAt = 15;
 constexpr double kSunkenLineBefore = 9;  // the second column
 constexpr double kArrowAt = 95;
@@ -25,7 +26,8 @@ constexpr double kArrowHeight = 4;
 ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
     : Backdrop(parent),
       units_(units),
-      secondColumn_(units.Pixels(kExpansionAt)) {
+      secondColumn_(units.Pixels(kExpansionTextAt)) {
+    SetNames(*this, "picColHeader", "Abbreviation, Expansion");
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);
 }

@@ -6,6 +6,11 @@
 
 namespace brelex {
 
+// In layout units.
+inline constexpr double kColumnHeaderHeight = 18;
+inline constexpr double kColumnHeaderFrameAbove = 3;  ///< how far a frame round it stands above it
+inline constexpr double kExpansionTextAt = 139.5;     ///< of lists under it, from their left
+
 /// The drawn header of a list, `picColHeader`: the names of its two columns, a line under them,
 /// a sunken line between them and an arrow for the ascending order.
 class ColumnHeader final : public Backdrop {

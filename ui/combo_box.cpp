@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include <wx/clipbrd.h>
 #include <wx/combobox.h>
 
 #include "ui/modGeneral.h"

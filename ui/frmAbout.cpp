@@ -15,7 +15,6 @@
 #include "ui/link.h"
 #include "ui/modGeneral.h"
 #include "ui/painted.h"
-#include "ui/pending_events.h"
 #include "ui/title_image.h"
 #include "ui/wx_text.h"
 
@@ -64,12 +63,13 @@ void frmAbout::CreateControls() {
     lblCopyRight->SetLabelText(WxText(values_.info.copyright + ". All Rights Reserved."));
     lblDBVersion = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
     lblHyperLink[0] = new Link(surface_, WxText(values_.info.homePage),
-                               [this] { Open(Utf8Text(lblHyperLink[0]->Text())); });
-    lblHyperLink[1] = new Link(surface_, WxText(values_.info.supportAddress),
-                               [this] { Open("mailto:" + Utf8Text(lblHyperLink[1]->Text())); });
+                               [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); });
+    lblHyperLink[1] = new Link(surface_, WxText(values_.info.supportAddress), [this] {
+        openAddress_("mailto:" + Utf8Text(lblHyperLink[1]->Text()));
+    });
     picPayPal = new PaintedText(surface_);
-    imgPayPalDonate =
-        new Link(surface_, DonateButtonPicture(), [this] { Open(values_.info.donationPage); });
+    imgPayPalDonate = new Link(surface_, DonateButtonPicture(),
+                               [this] { openAddress_(values_.info.donationPage); });
     cmdOK = new wxButton(surface_, wxID_OK, "OK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
@@ -114,10 +114,7 @@ void frmAbout::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(LayoutOfTexts(), 0, wxEXPAND | wxALL, gap);
     all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    surface_->SetSizer(all);
-    SetClientSize(all->GetMinSize());
-    surface_->SetSize(GetClientSize());
-    surface_->Layout();
+    FillWindow(*this, *surface_, all);
 }
 
 void frmAbout::AnimateText() {
@@ -125,14 +122,9 @@ void frmAbout::AnimateText() {
     tmrAnimateText.StartOnce(slidingText_.IntervalMs());
 }
 
-void frmAbout::Open(const std::string& address) {
-    if (isOpening_) {
-        return;  // what is let run may ask for it again
-    }
-    isOpening_ = true;
-    openAddress_(address);
-    LetPendingEventsRun();
-    isOpening_ = false;
+void frmAbout::EndModal(int result) {
+    tmrAnimateText.Stop();
+    wxDialog::EndModal(result);
 }
 
 void frmAbout::OnTitlePressed(wxMouseEvent& event) {

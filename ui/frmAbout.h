@@ -29,18 +29,18 @@ class frmAbout final : public wxDialog {
     frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
              const std::function<void(const std::string&)>& openAddress);
 
+    void EndModal(int result) override;
+
   private:
     void CreateControls();
     void NameControls();
     [[nodiscard]] wxSizer* LayoutOfTexts();
     void PlaceControls();
     void AnimateText();
-    void Open(const std::string& address);
     void OnTitlePressed(wxMouseEvent& event);
 
     const ProgramValues& values_;
     const std::function<void(const std::string&)>& openAddress_;
-    bool isOpening_ = false;
     LayoutUnits units_;
     SlidingText slidingText_;
 

@@ -18,6 +18,7 @@
 #include "search/anagram.h"
 #include "ui/app_icon.h"
 #include "ui/artwork.h"
+#include "ui/backdrop.h"
 #include "ui/busy_animation.h"
 #include "ui/column_header.h"
 #include "ui/modGeneral.h"
@@ -32,9 +33,6 @@ namespace {
 constexpr double kInnerWidth = 560;
 constexpr double kListHeight = 190;
 constexpr double kMargin = 8;
-constexpr double kHeaderHeight = 18;
-constexpr double kHeaderFrameAbove = 3;
-constexpr double kExpansionTextAt = 139.5;
 
 constexpr int kAnimationIntervalMs = 135;
 constexpr std::size_t kFewestLetters = 2;
@@ -103,7 +101,7 @@ void frmAnagram::CreateControls() {
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
     lblColHeaderBack = new Backdrop(surface_);
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
-    lstAnagrams = &CreateAcronymList(*surface_, {units_.Pixels(kExpansionTextAt)});
+    lstAnagrams = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
     lstAnagrams->SetRows(rows_);
     cmdSearch->SetDefault();
     SetEscapeId(cmdCancel->GetId());
@@ -119,7 +117,6 @@ void frmAnagram::NameControls() {
     cmdCancel->SetName("cmdCancel");
     lblPercentDone->SetName("lblPercentDone");
     lblColHeaderBack->SetName("lblColHeaderBack");
-    SetNames(*picColHeader, "picColHeader", "Abbreviation, Expansion");
     SetNames(lstAnagrams->Window(), "lstAnagrams", "Entries found");
 }
 
@@ -170,15 +167,12 @@ void frmAnagram::PlaceControls() {
     all->Add(letters, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(progress, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->AddSpacer(gap);
-    lblColHeaderBack->SetMinSize({-1, px(kHeaderHeight)});
+    lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     wxWindow& list = lstAnagrams->Window();
     list.SetMinSize({-1, px(kListHeight)});
     all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    surface_->SetSizer(all);
-    SetClientSize(width, all->GetMinSize().y);
-    surface_->SetSize(GetClientSize());
-    surface_->Layout();
+    FillWindow(*this, *surface_, all, width);
 }
 
 void frmAnagram::BindEvents() {
@@ -205,9 +199,7 @@ void frmAnagram::DrawColumnHeader() {
 
 void frmAnagram::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
-    const wxRect area = lblColHeaderBack->GetRect();
-    const int above = units_.Pixels(kHeaderFrameAbove);
-    Draw3DFrame(dc, {area.x - 1, area.y - above, area.width + 1, area.height + above});
+    DrawFrameRound(dc, lblColHeaderBack->GetRect(), units_.Pixels(kColumnHeaderFrameAbove));
 }
 
 void frmAnagram::ShowAnagramWindow() {
@@ -223,8 +215,6 @@ void frmAnagram::ShowBusyAnimation(bool on) {
 void frmAnagram::HideWindow() {
     if (IsModal()) {
         EndModal(wxID_CANCEL);
-    } else {
-        Hide();
     }
 }
 

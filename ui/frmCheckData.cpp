@@ -145,10 +145,7 @@ void frmCheckData::PlaceControls() {
     all->Add(picProgbar, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(resultArea_, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    surface_->SetSizer(all);
-    SetClientSize(px(kInnerWidth), all->GetMinSize().y);
-    surface_->SetSize(GetClientSize());
-    surface_->Layout();
+    FillWindow(*this, *surface_, all, px(kInnerWidth));
 }
 
 void frmCheckData::BindEvents() {
@@ -161,8 +158,7 @@ void frmCheckData::BindEvents() {
 
 void frmCheckData::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
-    const wxRect bar = picProgbar->GetRect();
-    Draw3DFrame(dc, {bar.x - 1, bar.y - 1, bar.width + 1, bar.height + 1});
+    DrawFrameRound(dc, picProgbar->GetRect());
 }
 
 bool frmCheckData::IsChecking() const {
@@ -174,7 +170,7 @@ void frmCheckData::DrawProgress(int percent) {
     if (percent % kSpokenStep == 0) {
         SetNames(*picProgbar, "picProgbar", "Progress " + std::to_string(percent) + "%");
     }
-    picProgbar->Draw(percent);
+    picProgbar->SetPercent(percent);
 }
 
 void frmCheckData::ClearProgress() {
@@ -236,6 +232,11 @@ void frmCheckData::ShowResult(bool passed) {
     SetNames(*imgResult, "imgResult", text);  // the text itself comes and goes
     resultArea_->Layout();
     resultArea_->Refresh();
+}
+
+void frmCheckData::EndModal(int result) {
+    tmrBlink.Stop();
+    wxDialog::EndModal(result);
 }
 
 // A check that runs says so when it has ended.

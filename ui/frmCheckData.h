@@ -24,6 +24,8 @@ class frmCheckData final : public wxDialog {
     /// `values` and `files` must outlive the window; the database is loaded.
     frmCheckData(wxTopLevelWindow* main, const ProgramValues& values, TemporaryFiles& files);
 
+    void EndModal(int result) override;
+
     bool Aborted = false;  ///< the user has ended the check
 
   private:

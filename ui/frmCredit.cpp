@@ -52,6 +52,11 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
 }
 
 // The toolkit's own answer to the key needs a button.
+void frmCredit::EndModal(int result) {
+    picAbout->Stop();
+    wxDialog::EndModal(result);
+}
+
 void frmCredit::OnKey(wxKeyEvent& event) {
     if (event.GetKeyCode() == WXK_ESCAPE) {
         Close();

@@ -14,6 +14,8 @@ class frmCredit final : public wxDialog {
   public:
     frmCredit(wxTopLevelWindow* about, const AppInfo& info);
 
+    void EndModal(int result) override;
+
   private:
     void OnKey(wxKeyEvent& event);
 

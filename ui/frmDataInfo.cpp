@@ -136,16 +136,12 @@ void frmDataInfo::PlaceControls() {
     all->Add(LayoutOfTitle(), 0, wxEXPAND | wxALL, gap);
     all->Add(figures_, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(end, 0, wxEXPAND | wxALL, gap);
-    surface_->SetSizer(all);
-    SetClientSize(all->GetMinSize());
-    surface_->SetSize(GetClientSize());
-    surface_->Layout();
+    FillWindow(*this, *surface_, all);
 }
 
 void frmDataInfo::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
-    const wxRect figures(figures_->GetPosition(), figures_->GetSize());
-    Draw3DFrame(dc, {figures.x - 1, figures.y - 1, figures.width + 1, figures.height + 1});
+    DrawFrameRound(dc, {figures_->GetPosition(), figures_->GetSize()});
 }
 
 }  // namespace brelex

@@ -12,7 +12,6 @@
 #include "ui/artwork.h"
 #include "ui/link.h"
 #include "ui/modGeneral.h"
-#include "ui/pending_events.h"
 #include "ui/scroll_area.h"
 #include "ui/wx_text.h"
 
@@ -75,14 +74,13 @@ void frmDonation::PlaceControls() {
     SetSizerAndFit(all);
 }
 
+void frmDonation::EndModal(int result) {
+    picCredit->Stop();
+    wxDialog::EndModal(result);
+}
+
 void frmDonation::OpenDonationPage() {
-    if (isOpening_) {
-        return;  // what is let run may ask for it again
-    }
-    isOpening_ = true;
     openAddress_(info_.donationPage);
-    LetPendingEventsRun();
-    isOpening_ = false;
 }
 
 }  // namespace brelex

@@ -23,6 +23,8 @@ class frmDonation final : public wxDialog {
     frmDonation(wxTopLevelWindow* main, const AppInfo& info,
                 const std::function<void(const std::string&)>& openAddress);
 
+    void EndModal(int result) override;
+
   private:
     void CreateControls();
     void PlaceControls();
@@ -30,7 +32,6 @@ class frmDonation final : public wxDialog {
 
     const AppInfo& info_;
     const std::function<void(const std::string&)>& openAddress_;
-    bool isOpening_ = false;
     LayoutUnits units_;
     ScrollArea* picCredit = nullptr;
     Link* imgPayPalDonate = nullptr;

@@ -7,8 +7,6 @@
 #include <utility>
 
 #include <wx/app.h>
-#include <wx/clipbrd.h>
-#include <wx/dataobj.h>
 #include <wx/dcclient.h>
 #include <wx/dialog.h>
 #include <wx/panel.h>
@@ -24,6 +22,7 @@
 #include "platform/bring_forward.h"
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
+#include "ui/busy.h"
 #include "ui/column_header.h"
 #include "ui/frmAbout.h"
 #include "ui/frmAnagram.h"
@@ -37,6 +36,7 @@
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
+#include "ui/side_windows.h"
 #include "ui/title_image.h"
 #include "ui/toolbar.h"
 #include "ui/wx_text.h"
@@ -50,12 +50,15 @@ constexpr double kInnerWidth = 760;
 constexpr double kInnerHeight = 572;
 constexpr double kMargin = 8;
 constexpr double kTitleWidth = 190;
-constexpr double kHeaderHeight = 18;
 constexpr double kStatusFrameHeight = 18;
 constexpr double kHintWidth = 450;
-constexpr double kExpansionTextAt = 139.5;
 
 constexpr int kCommandDelayMs = 500;
+
+bool IsModalDialog(const wxWindow* window) {
+    const auto* const dialog = dynamic_cast<const wxDialog*>(window);
+    return dialog != nullptr && dialog->IsModal();
+}
 
 std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
     switch (keyCode) {
@@ -162,7 +165,7 @@ void frmMain::CreateControls() {
                               wxTE_PROCESS_ENTER);
     lblColHeaderBack = new Backdrop(surface_);
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
-    lstAcronyms = &CreateAcronymList(*surface_, {units_.Pixels(kExpansionTextAt)});
+    lstAcronyms = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
     for (wxStaticText** label : {&lblRecNumber, &lblDescription, &lblRecCount}) {
         *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                   wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
@@ -173,7 +176,6 @@ void frmMain::CreateControls() {
     lblColHeaderBack->SetName("lblColHeaderBack");
     SetNames(*imgAppTitle, "imgAppTitle", kAppTitle);
     SetNames(*txtAbbrv, "txtAbbrv", "First letters of the abbreviation");
-    SetNames(*picColHeader, "picColHeader", "Abbreviation, Expansion");
     SetNames(lstAcronyms->Window(), "lstAcronyms", "Entries");
     lblRecNumber->SetName("lblRecNumber");
     lblDescription->SetName("lblDescription");
@@ -198,7 +200,7 @@ void frmMain::PlaceControls() {
     txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
     lblAppTitle->SetSize(margin, top, px(kTitleWidth), boxTop + boxHeight - top);
 
-    const int listTop = boxTop + boxHeight + margin + px(kHeaderHeight);
+    const int listTop = boxTop + boxHeight + margin + px(kColumnHeaderHeight);
     const int listBottom = inner.y - px(kStatusFrameHeight + 2) - margin;
     lstAcronyms->Window().SetSize(margin, listTop, inner.x - 2 * margin, listBottom - listTop);
 }
@@ -214,7 +216,7 @@ void frmMain::ShowWholeRows() {
 
 void frmMain::DrawColumnHeader() {
     const wxRect list = lstAcronyms->Window().GetRect();
-    const int height = units_.Pixels(kHeaderHeight);
+    const int height = units_.Pixels(kColumnHeaderHeight);
     lblColHeaderBack->SetSize(list.x, list.y - height, list.width, height);
     picColHeader->SetSize(0, 0, list.width, height);
 }
@@ -368,7 +370,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     files_ = &surroundings.files;
     desktop_ = &surroundings.desktop;
     programName_ = surroundings.programName;
-    openAddress_ = [this](const std::string& address) { desktop_->Open(address); };
+    openAddress_ = [this](const std::string& address) { OpenAddress(address); };
     setRunAtStartup_ = surroundings.setRunAtStartup;
     setRunAtStartup_(true);
     splash.Destroy();
@@ -383,13 +385,13 @@ void frmMain::OpenModalForm(int number) {
     }
     const ModalScope modal(*this);
     switch (number) {
-        case 0:
+        case kSearchWindow:
             if (search_ == nullptr) {
                 search_ = new frmSearch(this, values_);
             }
             search_->ShowSearchWindow();
             break;
-        case 1:
+        case kAnagramWindow:
             if (anagram_ == nullptr) {
                 anagram_ = new frmAnagram(this, values_, [this](std::int32_t recordNumber) {
                     GoToRecordNumber(recordNumber);
@@ -397,19 +399,19 @@ void frmMain::OpenModalForm(int number) {
             }
             anagram_->ShowAnagramWindow();
             break;
-        case 2:
+        case kDataInfoWindow:
             ShowOnce(new frmDataInfo(this, values_));
             break;
-        case 3:
+        case kSmileyWindow:
             ShowOnce(new frmSmiley(this, values_.info));
             break;
-        case 4:
+        case kAboutWindow:
             ShowOnce(new frmAbout(this, values_, openAddress_));
             break;
-        case 5:
+        case kCheckDataWindow:
             ShowOnce(new frmCheckData(this, values_, *files_));
             break;
-        case 6:
+        case kDonationWindow:
             ShowOnce(new frmDonation(this, values_.info, openAddress_));
             break;
         default:
@@ -441,6 +443,15 @@ void frmMain::ShowReadMe() {
     OpenReadMe({values_.AppFolder, programName_}, *desktop_, messages_);
 }
 
+void frmMain::OpenAddress(const std::string& address) {
+    if (isOpeningAddress_) {
+        return;  // what is let run may ask for it again
+    }
+    const Busy busy(isOpeningAddress_);
+    desktop_->Open(address);
+    LetPendingEventsRun();
+}
+
 ToolbarEvents frmMain::EventsOfToolbar() {
     ToolbarEvents events;
     events.onHot = [this](int icon) {
@@ -454,23 +465,25 @@ ToolbarEvents frmMain::EventsOfToolbar() {
 
 void frmMain::RunToolbarAction(int icon) {
     switch (icon) {
-        case 0:
-        case 1:
-            OpenModalForm(icon);
+        case kSearchIcon:
+            OpenModalForm(kSearchWindow);
             break;
-        case 2:
-            OpenModalForm(3);
+        case kAnagramIcon:
+            OpenModalForm(kAnagramWindow);
             break;
-        case 3:
+        case kSmileyIcon:
+            OpenModalForm(kSmileyWindow);
+            break;
+        case kHelpIcon:
             ShowHelp();
             break;
-        case 4:
-            OpenModalForm(4);
+        case kAboutIcon:
+            OpenModalForm(kAboutWindow);
             break;
-        case 5:
-            OpenModalForm(6);
+        case kDonationIcon:
+            OpenModalForm(kDonationWindow);
             break;
-        case 6:
+        case kExitIcon:
             Close();
             break;
         default:
@@ -508,17 +521,19 @@ void frmMain::OnMenu(wxCommandEvent& event) {
     const int id = event.GetId();
     switch (id) {
         case kFileItem:
-            OpenModalForm(2);
+            OpenModalForm(kDataInfoWindow);
             break;
         case kFileItem + 1:
-            OpenModalForm(5);
+            OpenModalForm(kCheckDataWindow);
             break;
         case kFileItem + 3:
             Close();
             break;
         case kSearchItem:
+            OpenModalForm(kSearchWindow);
+            break;
         case kSearchItem + 1:
-            OpenModalForm(id - kSearchItem);
+            OpenModalForm(kAnagramWindow);
             break;
         case kSearchItem + 3:
             GoToRecordNumber(-1);
@@ -537,13 +552,13 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             ShowReadMe();
             break;
         case kHelpItem + 3:
-            OpenModalForm(3);
+            OpenModalForm(kSmileyWindow);
             break;
         case kHelpItem + 5:
-            OpenModalForm(6);
+            OpenModalForm(kDonationWindow);
             break;
         case kHelpItem + 6:
-            OpenModalForm(4);
+            OpenModalForm(kAboutWindow);
             break;
         case kListboxRClickItem:
             OpenEntryViewer();
@@ -557,7 +572,7 @@ void frmMain::OnMenu(wxCommandEvent& event) {
 }
 
 void frmMain::OnClose(wxCloseEvent& event) {
-    // The modal window lives on the stack of whoever shows it.
+    // Whoever shows the modal window still needs it.
     if (IsModalOpen) {
         if (event.CanVeto()) {
             event.Veto();
@@ -588,8 +603,7 @@ void frmMain::OnQueryEndSession(wxCloseEvent& event) {
 void frmMain::EndModalWindows() {
     const wxWindowList windows = wxTopLevelWindows;
     for (wxWindow* window : windows) {
-        const auto* dialog = dynamic_cast<wxDialog*>(window);
-        if (dialog != nullptr && dialog->IsModal() && dialog->GetName().StartsWith("frm")) {
+        if (IsModalDialog(window) && window->GetName().StartsWith("frm")) {
             window->Close(true);
         }
     }
@@ -711,12 +725,9 @@ void frmMain::RestoreWindow() {
 }
 
 void frmMain::ActivateWindow() {
-    const auto modal =
-        std::find_if(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), [](wxWindow* window) {
-            const auto* dialog = dynamic_cast<wxDialog*>(window);
-            return dialog != nullptr && dialog->IsModal();
-        });
     BringForward(*this);
+    const auto modal =
+        std::find_if(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), &IsModalDialog);
     if (modal != wxTopLevelWindows.end()) {
         (*modal)->Raise();
     }

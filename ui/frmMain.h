@@ -62,7 +62,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
 
     [[nodiscard]] AcronymList& List() { return *lstAcronyms; }
 
-    /// Opens a side window (0 to 6) modally; any other number opens none.
+    /// Opens a side window (a number of side_windows.h) modally; any other number opens none.
     void OpenModalForm(int number) override;
 
     /// Selects an entry by its record number (1-based); -1 asks the user for it.
@@ -92,6 +92,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     [[nodiscard]] std::string_view SelectedEntry() const;
     void ShowHelp();
     void ShowReadMe();
+    void OpenAddress(const std::string& address);
     [[nodiscard]] ToolbarEvents EventsOfToolbar();
     void RunToolbarAction(int icon);
     void SetMaxBoxLength(std::size_t length);
@@ -157,6 +158,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     Desktop* desktop_ = nullptr;
     std::string programName_;
     std::function<void(const std::string&)> openAddress_;
+    bool isOpeningAddress_ = false;
     std::optional<HoverHints> hints_;
     frmSearch* search_ = nullptr;  // made when they are first opened
     frmAnagram* anagram_ = nullptr;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <exception>
 #include <functional>
+#include <initializer_list>
 
 #include <wx/bmpbuttn.h>
 #include <wx/button.h>
@@ -28,6 +29,7 @@
 #include "search/wildcard_help.h"
 #include "ui/app_icon.h"
 #include "ui/artwork.h"
+#include "ui/backdrop.h"
 #include "ui/busy_animation.h"
 #include "ui/column_header.h"
 #include "ui/modGeneral.h"
@@ -42,9 +44,7 @@ namespace {
 constexpr double kInnerWidth = 640;
 constexpr double kResultHeight = 230;
 constexpr double kMargin = 8;
-constexpr double kHeaderHeight = 18;
 constexpr double kCountWidth = 190;
-constexpr double kHeaderFrameAbove = 3;
 constexpr double kShrunkMargin = 3;  // below the header's upper edge
 
 constexpr int kAnimationIntervalMs = 120;
@@ -189,7 +189,6 @@ void frmSearch::NameControls() {
     lblStatus->SetName("lblStatus");
     lblCount->SetName("lblCount");
     lblColHeaderBack->SetName("lblColHeaderBack");
-    SetNames(*picColHeader, "picColHeader", "Abbreviation, Expansion");
     SetNames(*txtSearchResult, "txtSearchResult", "Entries found");
 }
 
@@ -248,7 +247,7 @@ void frmSearch::PlaceControls() {
     all->Add(LayoutOfControls(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
     all->Add(status, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
     all->AddSpacer(gap);
-    lblColHeaderBack->SetMinSize({-1, px(kHeaderHeight)});
+    lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     txtSearchResult->SetMinSize({-1, px(kResultHeight)});
     all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
@@ -319,13 +318,9 @@ void frmSearch::ResetStatus() {
 
 void frmSearch::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
-    const auto frame = [&dc](const wxWindow& window, int above) {
-        const wxRect area = window.GetRect();
-        Draw3DFrame(dc, {area.x - 1, area.y - above, area.width + 1, area.height + above});
-    };
-    frame(*statusArea_, 1);
+    DrawFrameRound(dc, statusArea_->GetRect());
     if (ResultAreaShown) {
-        frame(*lblColHeaderBack, units_.Pixels(kHeaderFrameAbove));
+        DrawFrameRound(dc, lblColHeaderBack->GetRect(), units_.Pixels(kColumnHeaderFrameAbove));
     }
 }
 
@@ -364,8 +359,6 @@ void frmSearch::DismissSearchWindow() {
     cboSearchWhat->SetFocus();
     if (IsModal()) {
         EndModal(wxID_CANCEL);
-    } else {
-        Hide();
     }
     if (ResultAreaShown) {
         ShowResultArea(false);
@@ -480,9 +473,8 @@ void frmSearch::Present(const SearchOutcome& outcome) {
     FoundAnything = !outcome.hits.empty();
     if (FoundAnything) {
         ShowSearchResult(*txtSearchResult, [&] {
-            wxString text = WxTextOfBytes(ResultText(*values_.AcronymList, outcome.hits));
-            text.Replace("\r\n", "\n");  // the toolkit makes of it what the system's boxes want
-            txtSearchResult->ChangeValue(text);
+            txtSearchResult->ChangeValue(
+                WxLines(WxTextOfBytes(ResultText(*values_.AcronymList, outcome.hits))));
         });
     } else {
         txtSearchResult->SetForegroundColour(PureRed());

@@ -14,6 +14,7 @@
 #include "presentation/program_texts.h"
 #include "ui/app_icon.h"
 #include "ui/modGeneral.h"
+#include "ui/wx_text.h"
 
 namespace brelex {
 
@@ -45,15 +46,13 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     txtReadme = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                                wxTE_MULTILINE | wxTE_READONLY);
     // Where there is no Verdana the system takes what comes near it.
-    wxFont font = GetFont();
-    font.SetFaceName("Verdana");
-    txtReadme->SetFont(font);
+    txtReadme->SetFont(wxFontInfo(GetFont().GetFractionalPointSize()).FaceName("Verdana"));
     cmdClose = new wxButton(this, wxID_CLOSE, "Close");
     SetNames(*txtReadme, "txtReadme", "Smileys and their meanings");
     cmdClose->SetName("cmdClose");
     cmdClose->SetDefault();
     SetEscapeId(wxID_CLOSE);
-    const wxString text = wxString::FromAscii(SmileyDictionaryText().c_str());
+    const wxString text = WxLines(WxText(SmileyDictionaryText()));
     PlaceControls(WidestLine(*txtReadme, text));
     SetSideMargins(*txtReadme, kTextMarginPixels);
     SetTabStop(*txtReadme, kTabStopDialogUnits);

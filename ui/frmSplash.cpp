@@ -76,6 +76,11 @@ void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
     dc.DrawRectangle(GetClientRect());
 }
 
+void frmSplash::WaitUntilSeen() {
+    PaintFirst(*this);
+    lastPaintMs_ = wxGetUTCTimeMillis();
+}
+
 void frmSplash::PaintAtOnce() {
     PaintNow(*this);
     lastPaintMs_ = wxGetUTCTimeMillis();

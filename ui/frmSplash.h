@@ -16,8 +16,8 @@ class frmSplash final : public wxFrame, public ProgressSink {
   public:
     explicit frmSplash(const AppInfo& info);
 
-    /// Has the window, which is shown, painted before this returns.
-    void PaintAtOnce();
+    /// Waits until the window, which was just shown, is on the screen.
+    void WaitUntilSeen();
 
     void SetStatusText(std::string_view text) override;
     void SetProgress(int percent) override;
@@ -28,6 +28,7 @@ class frmSplash final : public wxFrame, public ProgressSink {
     wxStaticText* AddLabel(const wxString& name, const wxString& text);
     void OnPaint(wxPaintEvent& event);
     void PlacePercent();
+    void PaintAtOnce();
 
     wxStaticText* lblMessage = nullptr;
     wxStaticText* lblPercent = nullptr;

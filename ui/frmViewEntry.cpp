@@ -120,10 +120,7 @@ void frmViewEntry::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(entry, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    surface_->SetSizer(all);
-    SetClientSize(units_.Pixels(kInnerWidth), all->GetMinSize().y);
-    surface_->SetSize(GetClientSize());
-    surface_->Layout();
+    FillWindow(*this, *surface_, all, units_.Pixels(kInnerWidth));
 }
 
 void frmViewEntry::BindEvents(const AppInfo& info) {

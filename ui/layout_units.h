@@ -7,7 +7,7 @@ class wxWindow;
 
 namespace brelex {
 
-/// The unit in which the main window is laid out: a pixel at 96 dots per inch. Where the user's
+/// The unit in which windows are laid out: a pixel at 96 dots per inch. Where the user's
 /// font is so large that a line of small text would not fit into a frame of the status strip (18
 /// units high), the unit grows with it, so that nothing is ever cut off.
 class LayoutUnits {

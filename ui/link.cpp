@@ -114,6 +114,13 @@ void Link::SetHot(bool hot) {
 
 void Link::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
+    Draw(dc);
+    if (HasFocus()) {
+        wxRendererNative::Get().DrawFocusRect(this, dc, GetClientRect());
+    }
+}
+
+void Link::Draw(wxDC& dc) const {
     if (text_.empty()) {
         dc.DrawBitmap(picture_.GetBitmapFor(this), kFocusMargin, kFocusMargin);
     } else {
@@ -122,9 +129,6 @@ void Link::OnPaint(wxPaintEvent& /*event*/) {
         dc.SetFont(font);
         dc.SetTextForeground(LinkColour());
         dc.DrawText(text_, kFocusMargin, kFocusMargin);
-    }
-    if (HasFocus()) {
-        wxRendererNative::Get().DrawFocusRect(this, dc, GetClientRect());
     }
 }
 

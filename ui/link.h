@@ -23,6 +23,9 @@ class Link final : public wxWindow {
 
     [[nodiscard]] bool IsUnderlined() const { return isHot_; }
 
+    /// Draws text or picture, but not the mark of the focus.
+    void Draw(wxDC& dc) const;
+
   protected:
     [[nodiscard]] wxSize DoGetBestClientSize() const override;
 

@@ -9,6 +9,7 @@
 #include <wx/gdicmn.h>
 #include <wx/log.h>
 #include <wx/settings.h>
+#include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
@@ -44,6 +45,10 @@ void Draw3DFrame(wxDC& dc, const wxRect& area) {
     dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
     dc.DrawLine(right, bottom, right, top);
     dc.DrawLine(left, bottom, right, bottom);
+}
+
+void DrawFrameRound(wxDC& dc, const wxRect& area, int above) {
+    Draw3DFrame(dc, {area.x - 1, area.y - above, area.width + 1, area.height + above});
 }
 
 void SetTopMost(wxTopLevelWindow& window, bool topMost) {
@@ -116,6 +121,14 @@ bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
         entry.WriteText(pasted);
     }
     return true;
+}
+
+void FillWindow(wxTopLevelWindow& window, wxWindow& surface, wxSizer* content, int width) {
+    surface.SetSizer(content);
+    const wxSize size = content->GetMinSize();
+    window.SetClientSize(width == 0 ? size.x : width, size.y);
+    surface.SetSize(window.GetClientSize());
+    surface.Layout();
 }
 
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {

@@ -10,6 +10,7 @@
 class wxComboBox;
 class wxDC;
 class wxRect;
+class wxSizer;
 class wxStaticText;
 class wxTextCtrl;
 class wxTextEntry;
@@ -22,6 +23,10 @@ namespace brelex {
 /// button-shadow colour, then the right and bottom edges, which stand at left + width and
 /// top + height, in its button-highlight colour.
 void Draw3DFrame(wxDC& dc, const wxRect& area);
+
+/// The same round a control, one pixel outside it, or `above` pixels at the top. `area` is the
+/// control's.
+void DrawFrameRound(wxDC& dc, const wxRect& area, int above = 1);
 
 /// Puts a window into the band of windows that stay above all others, or takes it out of it.
 void SetTopMost(wxTopLevelWindow& window, bool topMost);
@@ -45,6 +50,10 @@ void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
 /// `maxLength` characters. GTK by itself would delete the selection and then refuse all of it.
 /// Returns false if the clipboard has no text.
 [[nodiscard]] bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength);
+
+/// Gives a window the size of its content, or `width` pixels if that is not 0, and fills it with
+/// the panel that the content is on.
+void FillWindow(wxTopLevelWindow& window, wxWindow& surface, wxSizer* content, int width = 0);
 
 /// Centres a window over the main window, or on the screen if that one is minimised or hidden.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);

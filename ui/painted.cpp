@@ -21,10 +21,14 @@ PaintedText::PaintedText(wxWindow* parent) : Backdrop(parent) {
     SetDoubleBuffered(true);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
         wxPaintDC dc(this);
-        dc.SetFont(GetFont());
-        dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
-        dc.DrawText(text_, 0, 0);
+        Draw(dc);
     });
+}
+
+void PaintedText::Draw(wxDC& dc) const {
+    dc.SetFont(GetFont());
+    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
+    dc.DrawText(text_, 0, 0);
 }
 
 void PaintedText::SetText(const wxString& text) {

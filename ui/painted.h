@@ -26,6 +26,8 @@ class PaintedText final : public Backdrop {
 
     [[nodiscard]] const wxString& Text() const { return text_; }
 
+    void Draw(wxDC& dc) const;
+
   private:
     wxString text_;
 };

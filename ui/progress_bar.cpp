@@ -14,7 +14,7 @@ ProgressBar::ProgressBar(wxWindow* parent) : Backdrop(parent) {
     Bind(wxEVT_PAINT, &ProgressBar::OnPaint, this);
 }
 
-void ProgressBar::Draw(int percent) {
+void ProgressBar::SetPercent(int percent) {
     percent_ = percent;
     Refresh();
     Update();  // whoever reports progress lets events run only now and then
@@ -27,6 +27,10 @@ void ProgressBar::Clear() {
 
 void ProgressBar::OnPaint(wxPaintEvent& /*event*/) {
     wxAutoBufferedPaintDC dc(this);
+    Draw(dc);
+}
+
+void ProgressBar::Draw(wxDC& dc) const {
     dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     dc.Clear();
     if (percent_ < 0) {

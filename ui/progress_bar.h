@@ -11,13 +11,16 @@ class ProgressBar final : public Backdrop {
     explicit ProgressBar(wxWindow* parent);
 
     /// Shows 0 to 100 percent, on the screen when this returns.
-    void Draw(int percent);
+    void SetPercent(int percent);
 
     /// Shows neither a bar nor a percentage.
     void Clear();
 
     /// What is shown; -1 after Clear.
     [[nodiscard]] int Percent() const { return percent_; }
+
+    /// Draws what is shown, on the background too.
+    void Draw(wxDC& dc) const;
 
   private:
     void OnPaint(wxPaintEvent& event);

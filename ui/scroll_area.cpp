@@ -56,6 +56,10 @@ void ScrollArea::OnTick() {
 
 void ScrollArea::OnPaint(wxPaintEvent& /*event*/) {
     wxAutoBufferedPaintDC dc(this);
+    Draw(dc);
+}
+
+void ScrollArea::Draw(wxDC& dc) const {
     dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     dc.Clear();
     if (!isScrolling_) {

@@ -35,6 +35,12 @@ class ScrollArea final : public Backdrop {
     /// The width that all lines need, in pixels.
     [[nodiscard]] int LinesWidth() const { return linesWidth_; }
 
+    /// Draws the lines where they are now, on the background too.
+    void Draw(wxDC& dc) const;
+
+    /// Ends the scrolling. For use before the window is hidden.
+    void Stop() { tmrScrollText.Stop(); }
+
     wxTimer tmrScrollText;
 
   private:

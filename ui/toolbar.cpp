@@ -23,7 +23,8 @@ constexpr double kGap = 6;
 constexpr double kSeparatorWidth = 12;
 
 bool HasSeparatorBehind(std::size_t icon) {
-    return icon == 1 || icon == 2 || icon == 4 || icon == 5;
+    return icon == kAnagramIcon || icon == kSmileyIcon || icon == kAboutIcon ||
+           icon == kDonationIcon;
 }
 
 int ButtonsOf(const wxMouseEvent& event) {

@@ -1,23 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/tray_behaviour.h"
 
+#include "ui/busy.h"
+#include "ui/side_windows.h"
+
 namespace brelex {
 
 namespace {
-
-// Sets a flag for as long as it lives.
-class Busy {
-  public:
-    explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
-
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-    ~Busy() { flag_ = false; }
-
-  private:
-    bool& flag_;
-};
 
 // The items that do something, by their index.
 constexpr int kSearch = 0;
@@ -67,10 +56,10 @@ void TrayBehaviour::OnMenuItem(int index) {
     }
     switch (index) {
         case kSearch:
-            owner_.OpenModalForm(0);
+            owner_.OpenModalForm(kSearchWindow);
             break;
         case kAbout:
-            owner_.OpenModalForm(4);
+            owner_.OpenModalForm(kAboutWindow);
             break;
         case kMinimiseOrRestore:
             owner_.IsWindowMinimised() ? owner_.RestoreWindow() : owner_.MinimiseWindow();

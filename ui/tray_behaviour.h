@@ -26,6 +26,8 @@ class TrayOwner {
     virtual void ActivateWindow() = 0;
 
     virtual void MinimiseWindow() = 0;
+
+    /// Opens a side window (a number of side_windows.h) modally.
     virtual void OpenModalForm(int number) = 0;
 
     /// Unloads the main window.

@@ -86,10 +86,5 @@ TEST(HelpPages, AreAllInTheContentsAndTheIndexNamesOnlyThem) {
     }
 }
 
-TEST(HelpPages, TheBookHasTheTitleByWhichItsWindowIsFound) {
-    EXPECT_TRUE(Matches(TextOf(kHelp / "brelex.hhp"), "\n(Title=Brevilexicon Help)\r?\n").size() ==
-                1);
-}
-
 }  // namespace
 }  // namespace brelex

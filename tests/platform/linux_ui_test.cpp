@@ -30,11 +30,6 @@ class HotKey : public MainWindowTest {
   protected:
     void Press() { user_.Char('G', wxMOD_CONTROL | wxMOD_SHIFT); }
 
-    bool IsBack() {
-        return WaitFor(
-            [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
-    }
-
     // A window that has the keyboard and lies over the main window.
     wxFrame* Cover() {
         auto* other = new wxFrame(nullptr, wxID_ANY, "Another window", window_->GetPosition(),

@@ -127,20 +127,5 @@ INSTANTIATE_TEST_SUITE_P(
                                 WithDeclaredLength(CompressSzdd(Incompressible(300)), 1)}),
     CaseName());
 
-// A file that cannot be expanded is refused in one of two ways: the copy fails, or it is as long as
-// the file was. Both are told by the same message.
-TEST(ExpandSzddOnWindows, AMissingFileIsAFailureOfTheSystemToo) {
-    const TestFolder folder;
-    std::string source = folder.Text() + "missing";
-    OFSTRUCT opened{};
-    EXPECT_LT(LZOpenFileA(source.data(), &opened, OF_READ), 0);
-}
-
-TEST(ExpandSzddOnWindows, AnUncompressedFileKeepsItsLength) {
-    const std::string plain = ExpandedBytes(NumberedRecords(20));
-    EXPECT_EQ(ExpandWithSystem(plain)->bytes.size(), plain.size());
-    EXPECT_EQ(ExpandSzdd(plain)->View().size(), plain.size());
-}
-
 }  // namespace
 }  // namespace brelex

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What Explorer and the system read out of the two programs.
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the program asks of Windows, without its windows.
-#include <cstdlib>
-#include <optional>
+#include <filesystem>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 

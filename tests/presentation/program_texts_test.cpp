@@ -45,9 +45,14 @@ std::vector<std::string> Section(std::string_view heading) {
     return rows;
 }
 
+// A long smiley reaches beyond the first tab stop.
 bool IsSmileyRow(const std::string& line) {
-    return line.starts_with('\t') && !line.starts_with("\t\t") &&
-           line.find('\t', 1) != std::string::npos && line.back() != '\t';
+    constexpr std::size_t kLong = 8;
+    const std::size_t end = std::min(line.find('\t', 1), line.size());
+    const std::string between = end > kLong ? "\t" : "\t\t";
+    return line.starts_with('\t') && end > 1 && line.substr(end).starts_with(between) &&
+           line.find_first_not_of('\t', end) == end + between.size() &&
+           line.find('\t', end + between.size()) == std::string::npos;
 }
 
 TEST(SmileyDictionary, HasItsSize) {

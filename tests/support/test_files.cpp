@@ -55,6 +55,15 @@ std::string DatabaseBytes(const std::vector<std::string>& records) {
     return CompressSzdd(ExpandedBytes(records));
 }
 
+std::string DatabaseBytes(const std::vector<std::string>& records,
+                          const std::function<void(DatabaseHeader&)>& change) {
+    std::string expanded = ExpandedBytes(records);
+    DatabaseHeader header = DecodeHeader(expanded);
+    change(header);
+    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
+    return CompressSzdd(expanded);
+}
+
 std::string Incompressible(std::size_t length) {
     std::string text;
     std::uint32_t value = 12345;

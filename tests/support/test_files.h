@@ -2,9 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "database/database_header.h"
 
 namespace brelex {
 
@@ -33,7 +36,11 @@ class TestFolder {
 /// The bytes of a database file with these records.
 [[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records);
 
-/// The same before it is compressed.
+/// The same with a header that `change` has changed.
+[[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records,
+                                        const std::function<void(DatabaseHeader&)>& change);
+
+/// The bytes of the first before they are compressed.
 [[nodiscard]] std::string ExpandedBytes(const std::vector<std::string>& records);
 
 /// `count` different records in ascending order, all beginning with the letter A.

@@ -119,11 +119,9 @@ TEST_F(CommandsTest, AWholeVersionIsShownWithOneDecimal) {
 }
 
 TEST_F(CommandsTest, InfoOfADateThatIsNoneSaysSo) {
-    std::string expanded = ExpandedBytes({"ABC\tx"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    header.ReleaseDate = 1e300;
-    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
-    folder_.Write("Acronyms.dat", CompressSzdd(expanded));
+    folder_.Write("Acronyms.dat", DatabaseBytes({"ABC\tx"}, [](DatabaseHeader& header) {
+                      header.ReleaseDate = 1e300;
+                  }));
     ASSERT_EQ(RunInfo(database_, out_, err_), 0);
     EXPECT_NE(Output().find("ReleaseDate: not a date (1e+300)\n"), std::string::npos);
 }

@@ -132,13 +132,67 @@ INSTANTIATE_TEST_SUITE_P(
                              [](const AppInfo& app) { return app.donationPage; }}),
     CaseName());
 
-TEST_F(AboutTest, LeavingALinkTakesTheLineAway) {
+// The pixels of a picture that are not of its background.
+int InkIn(const wxImage& image, const wxColour& background, const wxRect& area) {
+    int ink = 0;
+    for (int y = area.GetTop(); y <= area.GetBottom(); ++y) {
+        for (int x = area.GetLeft(); x <= area.GetRight(); ++x) {
+            ink += ColourAt(image, x, y) == background ? 0 : 1;
+        }
+    }
+    return ink;
+}
+
+// Whether one row of pixels is drawn on nearly from end to end.
+bool HasLine(const wxImage& image, const wxColour& background) {
+    for (int y = 0; y < image.GetHeight(); ++y) {
+        if (InkIn(image, background, {0, y, image.GetWidth(), 1}) > image.GetWidth() * 8 / 10) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST_F(AboutTest, ALinkIsUnderlinedWhileTheMouseIsOverIt) {
     InAbout([&] {
-        MoveTo(MiddleOf("lblHyperLink0"));
-        EXPECT_TRUE(WaitFor([&] { return In<Link>("lblHyperLink0").IsUnderlined(); }));
+        const auto& link = In<Link>("lblHyperLink0");
         MoveTo(MiddleOf("lblDescription"));
-        EXPECT_TRUE(WaitFor([&] { return !In<Link>("lblHyperLink0").IsUnderlined(); }));
+        const wxImage apart = PictureOf(link);
+        EXPECT_GT(InkIn(apart, *wxGREEN, apart.GetSize()), 50);
+        EXPECT_FALSE(HasLine(apart, *wxGREEN));
+        MoveTo(MiddleOf("lblHyperLink0"));
+        EXPECT_TRUE(WaitFor([&] { return link.IsUnderlined(); }));
+        EXPECT_TRUE(HasLine(PictureOf(link), *wxGREEN));
+        MoveTo(MiddleOf("lblDescription"));
+        EXPECT_TRUE(WaitFor([&] { return !link.IsUnderlined(); }));
+        EXPECT_FALSE(HasLine(PictureOf(link), *wxGREEN));
     });
+}
+
+TEST_F(AboutTest, TheSlidingTextAndTheDonationPictureAreSeen) {
+    InAbout([&] {
+        const auto& text = In<PaintedText>("picPayPal");
+        EXPECT_TRUE(WaitFor([&] {
+            const wxImage picture = PictureOf(text);
+            return InkIn(picture, *wxGREEN, picture.GetSize()) > 50;
+        }));
+        const wxImage button = PictureOf(In<Link>("imgPayPalDonate"));
+        EXPECT_GT(InkIn(button, *wxGREEN, button.GetSize()),
+                  button.GetWidth() * button.GetHeight() / 2);
+    });
+}
+
+TEST_F(AboutTest, AnAddressThatNothingOpensIsNoMatter) {
+    desktop_.hasPrograms = false;
+    const MessageBoxes boxes;
+    InAbout([&] {
+        Click("lblHyperLink0");
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+        Settle(100);
+        EXPECT_TRUE(Side().IsShown());
+    });
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_TRUE(messages_.shown.empty());
 }
 
 TEST_F(AboutTest, ALinkThatIsLeftAndEnteredAgainOpensOnRelease) {
@@ -200,6 +254,7 @@ TEST_F(AboutTest, OnlyCtrlWithAPressOnTheTitleShowsTheCredits) {
     InAbout([&] {
         EXPECT_EQ(PressOnTitle({}), "");
         EXPECT_EQ(PressOnTitle({WXK_CONTROL, WXK_SHIFT}), "");
+        EXPECT_EQ(PressOnTitle({WXK_SHIFT}), "");
         EXPECT_EQ(PressOnTitle({WXK_CONTROL}, wxMOUSE_BTN_RIGHT), "");
         EXPECT_EQ(PressOnTitle({WXK_CONTROL}), "frmCredit");
     });
@@ -282,11 +337,34 @@ TEST_F(AboutTest, TheDonationLinesScrollUpFromBelow) {
             lines.push_back(Utf8Text(line.text));
         }
         EXPECT_EQ(lines, DonationLines());
+        EXPECT_EQ(area.tmrScrollText.GetInterval(), 500);
         EXPECT_TRUE(WaitFor([&] { return area.Position() > 0; }));
+        EXPECT_EQ(area.tmrScrollText.GetInterval(), 70);
         const int first = area.Position();
         EXPECT_LE(first, height);
         EXPECT_TRUE(WaitFor([&] { return area.Position() <= first - 3; }));
         EXPECT_GE(area.GetClientSize().x, area.LinesWidth());
+    });
+}
+
+TEST_F(AboutTest, TheLinesAreDrawnWhereTheyAre) {
+    InDonation([&] {
+        auto& area = In<ScrollArea>("picCredit");
+        const wxColour background = SystemColour(wxSYS_COLOUR_WINDOW);
+        const wxSize size = area.GetClientSize();
+        EXPECT_EQ(InkIn(PictureOf(area), background, size), 0);  // not yet
+        // Far enough up for the title, which is 22 letters wide, and its rule.
+        EXPECT_TRUE(
+            WaitFor([&] { return area.Position() > 0 && area.Position() < size.y - 40; }, 9000));
+        area.Stop();
+        const wxImage picture = PictureOf(area);
+        const int top = area.Position();
+        EXPECT_EQ(InkIn(picture, background, {0, 0, size.x, top}), 0);
+        EXPECT_GT(InkIn(picture, background, {0, top, size.x, 40}), 100);
+        // A little is allowed for how letters stand in their cells.
+        const int left = area.FromDIP(10);
+        EXPECT_EQ(InkIn(picture, background, {0, 0, left - 1, size.y}), 0);
+        EXPECT_GT(InkIn(picture, background, {left - 1, top, 4, 40}), 0);
     });
 }
 

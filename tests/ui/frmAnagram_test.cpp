@@ -13,7 +13,6 @@
 #include <wx/stattext.h>
 
 #include "search/anagram.h"
-#include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/busy_animation.h"
 #include "ui/wx_text.h"
@@ -219,10 +218,7 @@ TEST_F(AnagramWindowTest, ShowsTheHitsInTheOrderOfTheMainList) {
         EXPECT_EQ(Label("lblPercentDone"), "Found 3");
         EXPECT_EQ(anagram_->Hits().SelectedRow(), 0);
         wxWindow& list = anagram_->Hits().Window();
-        EXPECT_TRUE(WaitFor([&] {
-            const wxWindow* const focus = wxWindow::FindFocus();
-            return focus != nullptr && (focus == &list || focus->GetParent() == &list);
-        }));
+        EXPECT_TRUE(WaitFor([&] { return IsFocusIn(list); }));
         EXPECT_EQ(list.GetToolTipText(), "Double-click an entry to go to the record");
         EXPECT_EQ(anagram_->LastSearchedLetters, U"PUC");
         EXPECT_TRUE(In("cboLetters").IsEnabled());
@@ -484,10 +480,7 @@ TEST_F(AnagramWindowTest, AClickOnTheHeaderGivesTheListTheFocus) {
         Settle(50);
         user_.MouseClick();
         wxWindow& list = anagram_->Hits().Window();
-        EXPECT_TRUE(WaitFor([&] {
-            const wxWindow* const focus = wxWindow::FindFocus();
-            return focus != nullptr && (focus == &list || focus->GetParent() == &list);
-        }));
+        EXPECT_TRUE(WaitFor([&] { return IsFocusIn(list); }));
     });
 }
 

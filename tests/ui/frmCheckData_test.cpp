@@ -14,7 +14,6 @@
 
 #include "database/file_io.h"
 #include "database/szdd.h"
-#include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/artwork.h"
 #include "ui/progress_bar.h"
@@ -76,14 +75,8 @@ class CheckWindowTest : public SideWindowTest {
     }
 
     [[nodiscard]] bool ResultHasPictureOf(const char* name) const {
-        const auto bytes = [](const wxBitmap& bitmap) {
-            const wxImage image = bitmap.ConvertToImage();
-            const auto count = static_cast<std::size_t>(image.GetWidth()) *
-                               static_cast<std::size_t>(image.GetHeight()) * 3;
-            return std::string(image.GetData(), image.GetData() + count);
-        };
-        return bytes(In<wxStaticBitmap>("imgResult").GetBitmap()) ==
-               bytes(In<wxStaticBitmap>(name).GetBitmap());
+        return SamePictures(In<wxStaticBitmap>("imgResult").GetBitmap(),
+                            In<wxStaticBitmap>(name).GetBitmap());
     }
 };
 
@@ -161,6 +154,75 @@ TEST_F(CheckWindowTest, ShowsHowFarItIsAndLetsTheWindowWork) {
     });
 }
 
+// Looks at the window while the message of an aborted check is up.
+class AbortLook final : public wxModalDialogHook {
+  public:
+    explicit AbortLook(std::function<void()> look) : look_(std::move(look)) { Register(); }
+
+  protected:
+    int Enter(wxDialog* /*dialog*/) override {
+        look_();
+        return wxID_OK;
+    }
+
+  private:
+    std::function<void()> look_;
+};
+
+TEST_F(CheckWindowTest, BehindTheMessageOfTheAbortTheProgressStandsStill) {
+    InCheckWindow([&] {
+        int atCancel = 0;
+        int shown = 0;
+        const AbortLook look([&] {
+            shown = Percent();
+            EXPECT_EQ(Label("lblMessage"), "Checking data integrity...");
+        });
+        StartCheck([&] {
+            Click("cmdCancel");
+            atCancel = Percent();
+        });
+        EXPECT_GT(shown, 0);
+        EXPECT_LE(shown, atCancel);
+        EXPECT_LT(shown, 100);
+        ExpectNoResult();
+    });
+}
+
+TEST_F(CheckWindowTest, TheBarEndsAtThePercentageWrittenOnIt) {
+    InCheckWindow([&] {
+        auto& bar = In<ProgressBar>("picProgbar");
+        const wxColour background = SystemColour(wxSYS_COLOUR_WINDOW);
+        const wxSize size = bar.GetClientSize();
+        EXPECT_EQ(ColourAt(PictureOf(bar), size.x / 4, 4), background);
+        for (const int percent : {25, 100}) {
+            bar.SetPercent(percent);
+            const wxImage picture = PictureOf(bar);
+            const int right = wxRound(size.x / 100.0 * percent - 1);
+            EXPECT_EQ(ColourAt(picture, 0, size.y / 2), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
+            EXPECT_EQ(ColourAt(picture, right / 2, 0), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
+            EXPECT_EQ(ColourAt(picture, right, 4), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+            EXPECT_EQ(ColourAt(picture, right / 2, size.y - 1),
+                      SystemColour(wxSYS_COLOUR_BTNSHADOW));
+            if (percent < 100) {
+                EXPECT_EQ(ColourAt(picture, right + 2, 4), background);
+            }
+            // The text stands in the middle, over the bar or beside it.
+            int left = size.x;
+            int last = 0;
+            for (int x = right < size.x / 3 ? right + 1 : 1; x < size.x - 1; ++x) {
+                for (int y = 2; y < size.y - 2; ++y) {
+                    const wxColour colour = ColourAt(picture, x, y);
+                    const bool ink = colour.Red() < 100 && colour.Green() < 100;
+                    left = ink ? std::min(left, x) : left;
+                    last = ink ? std::max(last, x) : last;
+                }
+            }
+            EXPECT_GT(last, left);
+            EXPECT_NEAR((left + last) / 2.0, size.x / 2.0, 3.0);
+        }
+    });
+}
+
 TEST_F(CheckWindowTest, TheResultBlinks) {
     InCheckWindow([&] {
         Check();
@@ -179,6 +241,11 @@ TEST_F(CheckWindowTest, TheNextCheckClearsTheResultAndStopsItsBlinking) {
         std::string result = "none";
         bool shown = false;
         bool picture = true;
+        bool blinked = false;
+        In("lblResult").Bind(wxEVT_SHOW, [&](wxShowEvent& event) {
+            blinked |= IsChecking() && !event.IsShown();
+            event.Skip();
+        });
         StartCheck([&] {
             result = Label("lblResult");
             shown = In("lblResult").IsShown();
@@ -187,6 +254,7 @@ TEST_F(CheckWindowTest, TheNextCheckClearsTheResultAndStopsItsBlinking) {
         EXPECT_EQ(result, "");
         EXPECT_TRUE(shown);
         EXPECT_FALSE(picture);
+        EXPECT_FALSE(blinked);
         ExpectResult("Data integrity check PASSED", kBlue);
     });
 }

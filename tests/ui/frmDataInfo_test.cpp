@@ -9,8 +9,6 @@
 #include <wx/stattext.h>
 
 #include "database/database_header.h"
-#include "database/szdd.h"
-#include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/wx_text.h"
 
@@ -113,15 +111,15 @@ TEST_F(InfoWindowTest, NothingIsCutOff) {
 }
 
 TEST_F(InfoWindowTest, AHeaderThatNamesEntriesOutsideIsShownWithoutThem) {
-    std::string expanded = ExpandedBytes({"AB\tAddress Bus"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    header.LongestAbbrvIndex = 30000;
-    header.LongestExpansionIndex = -7;
-    header.MostExpansionsIndex = 65535;
-    header.Version = -1.0F / 0.0F;
-    header.ReleaseDate = -1e30;
-    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
-    StartWith(CompressSzdd(expanded), "");
+    StartWith(DatabaseBytes({"AB\tAddress Bus"},
+                            [](DatabaseHeader& header) {
+                                header.LongestAbbrvIndex = 30000;
+                                header.LongestExpansionIndex = -7;
+                                header.MostExpansionsIndex = 65535;
+                                header.Version = -1.0F / 0.0F;
+                                header.ReleaseDate = -1e30;
+                            }),
+              "");
     InInfoWindow([&] {
         EXPECT_EQ(Unwrapped("lblLongestAcronym"), " (0 letters)");
         EXPECT_EQ(Unwrapped("lblLongestExpansion"), " (0 letters, abbreviated as )");

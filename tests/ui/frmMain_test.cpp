@@ -9,7 +9,6 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
-#include "database/szdd.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/main_menus.h"
@@ -279,11 +278,9 @@ TEST_F(PastedText, IsCutToTheRoomThereIs) {
 }
 
 TEST_F(FrmMainLookup, AnAbbreviationBeyondTheHeadersMaximumIsShown) {
-    std::string expanded = ExpandedBytes({"AB\tx", "ABCDE\ty"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    header.MaxAbbrvLength = 2;
-    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
-    StartWith(CompressSzdd(expanded), "");
+    StartWith(DatabaseBytes({"AB\tx", "ABCDE\ty"},
+                            [](DatabaseHeader& header) { header.MaxAbbrvLength = 2; }),
+              "");
     window_->GoToRecordNumber(2);
     EXPECT_EQ(BoxText(), "ABCDE");
 }
@@ -451,23 +448,14 @@ TEST_F(FrmMainLookup, F5AsksForTheRecordWithTheKeyboard) {
 
 TEST_F(FrmMainLookup, ADoubleClickOnTheRecordNumberAsksForTheRecord) {
     Type("x", "X");
-    bool asked = false;
-    ModalDriver driver({[&] {
-        for (wxWindow* window : wxTopLevelWindows) {
-            auto* dialog = dynamic_cast<wxTextEntryDialog*>(window);
-            if (dialog != nullptr && dialog->IsModal()) {
-                asked = true;
-                dialog->EndModal(wxID_CANCEL);
-                return true;
-            }
-        }
-        return false;
-    }});
     const wxWindow* label = Control("lblRecNumber");
     user_.MouseMove(label->GetParent()->ClientToScreen(label->GetPosition() + wxPoint(5, 5)));
     Settle();
-    user_.MouseDblClick();
-    EXPECT_TRUE(WaitFor([&] { return asked; }, 9000));
+    std::string title;
+    EXPECT_NE(NameOfOpened([&] { user_.MouseDblClick(); },
+                           [&] { title = Utf8Text(OpenModalDialog()->GetTitle()); }),
+              "");
+    EXPECT_EQ(title, "Go to Record");
     EXPECT_EQ(LabelText("lblRecNumber"), "1,505");
 }
 
@@ -912,7 +900,20 @@ TEST_F(FrmMainOptions, TheKeyboardReachesTheOptions) {
     EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem));
 }
 
+// Refuses modal windows, and fails the test if there is one to refuse.
+class NoModalWindows final : public wxModalDialogHook {
+  public:
+    NoModalWindows() { Register(); }
+
+  protected:
+    int Enter(wxDialog* dialog) override {
+        ADD_FAILURE() << Utf8Text(dialog->GetName()) << " was opened";
+        return wxID_CANCEL;
+    }
+};
+
 TEST_F(FrmMainOptions, NumbersWithoutAWindowOpenNone) {
+    const NoModalWindows none;
     window_->OpenModalForm(-1);
     window_->OpenModalForm(7);
     EXPECT_FALSE(window_->IsModalOpen);

@@ -2,7 +2,6 @@
 #include "ui/frmSearch.h"
 
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -23,7 +22,6 @@
 #include <wx/tooltip.h>
 
 #include "database/database_header.h"
-#include "database/szdd.h"
 #include "database/windows1252.h"
 #include "search/wildcard_help.h"
 #include "tests/support/named_case.h"
@@ -108,14 +106,6 @@ class SearchWindowTest : public SideWindowTest {
     }
 
     // Whether two pictures of a button are the same.
-    [[nodiscard]] static bool SamePictures(const wxBitmap& one, const wxBitmap& other) {
-        const wxImage a = one.ConvertToImage();
-        const wxImage b = other.ConvertToImage();
-        const auto bytes =
-            static_cast<std::size_t>(a.GetWidth()) * static_cast<std::size_t>(a.GetHeight()) * 3;
-        return a.GetSize() == b.GetSize() && std::memcmp(a.GetData(), b.GetData(), bytes) == 0;
-    }
-
     [[nodiscard]] bool Shows(const char* button, const wxBitmapBundle& picture) const {
         return SamePictures(In<wxButton>(button).GetBitmap(), picture.GetBitmapFor(&In(button)));
     }
@@ -253,11 +243,7 @@ TEST_F(SearchWindowTest, SaysInRedThatNothingIsFound) {
         EXPECT_EQ(ResultColour(), kRed);
         EXPECT_EQ(Label("lblStatus"), "Number of Hits: 0");
         EXPECT_EQ(Label("lblCount"), "");
-        EXPECT_TRUE(WaitFor([&] {
-            const wxWindow* const focus = wxWindow::FindFocus();
-            return focus == &In("cboSearchWhat") ||
-                   (focus != nullptr && focus->GetParent() == &In("cboSearchWhat"));
-        }));
+        EXPECT_TRUE(WaitFor([&] { return HasFocus("cboSearchWhat"); }));
         EXPECT_FALSE(search_->FoundAnything);
         Search("bus");
         EXPECT_EQ(ResultColour(), wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
@@ -445,12 +431,6 @@ std::vector<std::string> ManyRecords() {
 class LongSearch : public SearchWindowTest {
   protected:
     void SetUp() override { Start(ManyRecords()); }
-
-    // Begins a search that finds little and waits until it is on its way.
-    void Begin() {
-        TypeSearchText("00");
-        user_.Char(WXK_RETURN);
-    }
 };
 
 TEST_F(LongSearch, ShowsThatItIsBusyAndTakesNoInputButStop) {
@@ -598,7 +578,7 @@ TEST_F(SearchWindowTest, DoesNotHoldUpALogOff) {
     InSearchWindow([&] {
         wxCloseEvent question(wxEVT_QUERY_END_SESSION);
         question.SetCanVeto(true);
-        wxTheApp->ProcessEvent(question);
+        EXPECT_TRUE(wxTheApp->ProcessEvent(question));
         EXPECT_FALSE(question.GetVeto());
         EXPECT_TRUE(search_->IsShown());
     });
@@ -608,7 +588,7 @@ class LimitedSearch : public SearchWindowTest {
   protected:
     void SetUp() override { Start(NumberedRecords(1100)); }
 
-    // The records' first and last lines in the result.
+    // The first line of the result.
     [[nodiscard]] std::string FirstLine() const {
         return Utf8Text(In<wxTextCtrl>("txtSearchResult").GetLineText(0));
     }
@@ -812,13 +792,8 @@ TEST_F(SearchWindowTest, HelpsOnWildcards) {
     });
 }
 
-// The bytes of a database whose header is changed.
 std::string DatabaseWith(const std::function<void(DatabaseHeader&)>& change) {
-    std::string expanded = ExpandedBytes({"AB\tx", "ABCDE\ta longer expansion"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    change(header);
-    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
-    return CompressSzdd(expanded);
+    return DatabaseBytes({"AB\tx", "ABCDE\ta longer expansion"}, change);
 }
 
 std::string DatabaseWithSearchList(const std::string& list) {

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmViewEntry.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <wx/button.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/menuitem.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 #include "database/database_header.h"
-#include "database/szdd.h"
 #include "tests/platform/keyboard.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
@@ -59,6 +63,17 @@ TEST_F(EntryViewerTest, ShowsTheSelectedEntryAndItsLetters) {
         EXPECT_FALSE(In<wxTextCtrl>("txtAbbrv").IsEditable());
         EXPECT_FALSE(In<wxTextCtrl>("txtExpn").IsEditable());
         EXPECT_EQ(In("cmdCopy").GetToolTipText(), "Shortcut Ctrl+C");
+        EXPECT_TRUE(In<wxButton>("cmdCopy").GetBitmap().IsOk());
+        EXPECT_EQ(In("cmdCopy").GetLabel(), "");
+        std::vector<std::string> labels;
+        for (const wxWindow* child : In("cmdOK").GetParent()->GetChildren()) {
+            if (dynamic_cast<const wxStaticText*>(child) != nullptr) {
+                labels.push_back(Utf8Text(wxControl::RemoveMnemonics(child->GetLabel())));
+            }
+        }
+        std::sort(labels.begin(), labels.end());
+        EXPECT_EQ(labels, (std::vector<std::string>{
+                              "14", "3", "Abbreviation:", "Expansion:", "letters", "letters"}));
     });
 }
 
@@ -101,6 +116,23 @@ TEST_F(EntryViewerTest, TheButtonCopiesTheEntry) {
         Click("cmdCopy");
         EXPECT_TRUE(WaitFor([&] { return ClipboardText() == "RAM = Random Access Memory"; }))
             << ClipboardText();
+    });
+}
+
+TEST_F(EntryViewerTest, NothingElseStaysOnTheClipboard) {
+    const wxDataFormat other("application/x-brelex-test");
+    InViewer("RAM\tRandom Access Memory", [&] {
+        {
+            auto* const data = new wxCustomDataObject(other);
+            data->SetData(4, "data");
+            const wxClipboardLocker clipboard;
+            ASSERT_TRUE(wxTheClipboard->SetData(data));
+            ASSERT_TRUE(wxTheClipboard->IsSupported(other));
+        }
+        Click("cmdCopy");
+        EXPECT_TRUE(WaitFor([&] { return ClipboardText() == "RAM = Random Access Memory"; }));
+        const wxClipboardLocker clipboard;
+        EXPECT_FALSE(wxTheClipboard->IsSupported(other));
     });
 }
 
@@ -172,6 +204,16 @@ TEST_F(EntryViewerTest, OkReturnAndEscapeCloseItAndTheNextShowsTheSelectionAfres
     };
     closes([&] { Click("cmdOK"); });
     closes([&] { user_.Char(WXK_RETURN); });
+    closes([&] {
+        In("txtExpn").SetFocus();
+        Settle(30);
+        user_.Char(WXK_RETURN);
+    });
+    closes([&] {
+        In("txtExpn").SetFocus();
+        Settle(30);
+        user_.Char(WXK_NUMPAD_ENTER);
+    });
     closes([&] { user_.Char(WXK_ESCAPE); });
     closes([&] { Side().Close(); });
     InViewer("ROM\tRead Only Memory", [&] { EXPECT_EQ(Text("txtAbbrv"), "ROM"); });
@@ -219,10 +261,9 @@ TEST_F(EntryViewerTest, ADoubleClickOpensIt) {
 }
 
 TEST_F(EntryViewerTest, WithoutAnEntryThereIsNothingToView) {
-    std::string expanded = ExpandedBytes({"AB\tAddress Bus"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    header.RecordCount = 0;
-    StartWith(CompressSzdd(expanded.replace(0, kHeaderBytes, EncodeHeader(header))), "");
+    StartWith(
+        DatabaseBytes({"AB\tAddress Bus"}, [](DatabaseHeader& header) { header.RecordCount = 0; }),
+        "");
     wxCommandEvent view(wxEVT_MENU, kListboxRClickItem);
     window_->ProcessWindowEvent(view);
     EXPECT_EQ(wxWindow::FindWindowByName("frmViewEntry"), nullptr);

@@ -5,25 +5,17 @@
 
 #include <gtest/gtest.h>
 
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
-
 #include "database/file_io.h"
 #include "platform/modShowHelp.h"
+#include "platform/program_folder.h"
 #include "platform/system_desktop.h"
 #include "tests/platform/help_registration.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {
-
-wxString ProgramFolder() {
-    return wxFileName(wxStandardPaths::Get().GetExecutablePath())
-        .GetPath(wxPATH_GET_VOLUME | wxPATH_GET_SEPARATOR);
-}
 
 class HelpViewerTest : public testing::Test {
   protected:
@@ -36,7 +28,7 @@ class HelpViewerTest : public testing::Test {
     }
 
     void ShowHelp() {
-        ShowHelpContents({Utf8Text(ProgramFolder()), "brevilexicon"}, desktop_, messages_);
+        ShowHelpContents({ProgramFolder(), "brevilexicon"}, desktop_, messages_);
         EXPECT_TRUE(messages_.shown.empty());
     }
 
@@ -51,6 +43,11 @@ TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
     // Asked for twice it is still one: closing that one leaves none.
     ShowHelp();
     Settle(1500);
+    // A window of another title is not meant.
+    EXPECT_FALSE(desktop_.BringWindowForward("Brevilexicon Hel"));
+    desktop_.AskWindowToClose("Brevilexicon Hel");
+    Settle(300);
+    EXPECT_TRUE(desktop_.BringWindowForward(kHelpTitle));
     CloseHelp(desktop_);
     EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
     Settle(300);
@@ -62,7 +59,7 @@ TEST_F(HelpViewerTest, TheBookOpensFromAFolderWithBlanksAndAccents) {
     const TestFolder folder;
     const auto program = folder.Path() / PathOfUtf8("d\u00e9j\u00e0 vu 100%");
     std::filesystem::create_directory(program);
-    std::filesystem::copy_file(PathOfUtf8(Utf8Text(ProgramFolder())) / kHelpFileName,
+    std::filesystem::copy_file(PathOfUtf8(ProgramFolder()) / kHelpFileName,
                                program / kHelpFileName);
     ShowHelpContents({Utf8OfPath(program) + "/", "brevilexicon"}, desktop_, messages_);
     EXPECT_TRUE(messages_.shown.empty());
@@ -78,12 +75,6 @@ TEST(SystemDesktop, SaysThatNoProgramOpensAFileOfAnUnknownKind) {
 TEST(SystemDesktop, SaysThatNoProgramOpensAnAddress) {
     SystemDesktop desktop;
     EXPECT_FALSE(desktop.Open("x-brelex-nothing-opens-this:there"));
-}
-
-TEST(SystemDesktop, KnowsNoWindowOfAnotherTitle) {
-    SystemDesktop desktop;
-    EXPECT_FALSE(desktop.BringWindowForward("Brevilexicon Hel"));
-    desktop.AskWindowToClose("Brevilexicon Hel");
 }
 
 }  // namespace

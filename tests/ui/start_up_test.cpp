@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
 
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include <wx/stattext.h>
 
 #include "app/app_info.h"
-#include "database/szdd.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/frmSplash.h"
@@ -129,12 +126,10 @@ TEST_F(StartUpTest, ADamagedDatabaseEndsTheProgramAfterItsMessage) {
 }
 
 TEST_F(StartUpTest, AnEmptyDatabaseOpensWithAnEmptyList) {
-    std::string expanded = ExpandedBytes({"ABC\tx"});
-    DatabaseHeader header = DecodeHeader(expanded);
-    header.RecordCount = 0;
-    header.MaxAbbrvLength = -5;
-    expanded.replace(0, kHeaderBytes, EncodeHeader(header));
-    folder_.Write("Acronyms.dat", CompressSzdd(expanded));
+    folder_.Write("Acronyms.dat", DatabaseBytes({"ABC\tx"}, [](DatabaseHeader& header) {
+                      header.RecordCount = 0;
+                      header.MaxAbbrvLength = -5;
+                  }));
     frmMain* window = Run();
     ASSERT_NE(window, nullptr);
     window->Show();
@@ -189,7 +184,7 @@ class FrmSplashTest : public testing::Test {
         info_.homePage = "https://www.example.org";
         splash_ = new frmSplash(info_);
         splash_->Show();
-        splash_->PaintAtOnce();
+        splash_->WaitUntilSeen();
     }
 
     void TearDown() override {
@@ -239,7 +234,7 @@ TEST_F(FrmSplashTest, TheUserCannotCloseItWhileLoading) {
     splash_->Close();
     Settle();
     EXPECT_NE(wxWindow::FindWindowByName("frmSplash"), nullptr);
-    splash_->PaintAtOnce();
+    splash_->WaitUntilSeen();
 }
 
 TEST_F(FrmSplashTest, TheLastPercentageIsAlwaysShown) {

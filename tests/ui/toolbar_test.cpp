@@ -178,30 +178,10 @@ TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
     EXPECT_FALSE(window_->IsModalOpen);
 }
 
-// What the toolbar draws, on green.
-wxImage Picture(const Toolbar& bar) {
-    wxBitmap bitmap(bar.GetClientSize(), 24);
-    wxMemoryDC dc(bitmap);
-    dc.SetBackground(*wxGREEN_BRUSH);
-    dc.Clear();
-    bar.Draw(dc);
-    dc.SelectObject(wxNullBitmap);
-    return bitmap.ConvertToImage();
-}
-
-wxColour ColourAt(const wxImage& image, int x, int y) {
-    return {image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)};
-}
-
-wxColour SystemColour(wxSystemColour colour) {
-    const wxColour c = wxSystemSettings::GetColour(colour);
-    return {c.Red(), c.Green(), c.Blue()};
-}
-
 TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
     const EdgeRectangle edge = EdgeOf(Bar().BoundsOf(2));
     const int middle = (edge.top + edge.bottom) / 2;
-    const auto edgeColour = [&] { return ColourAt(Picture(Bar()), edge.right, middle); };
+    const auto edgeColour = [&] { return ColourAt(PictureOf(Bar()), edge.right, middle); };
     MoveTo(BelowTheToolbar());
     EXPECT_EQ(edgeColour(), *wxGREEN);
     Hover(1);
@@ -216,7 +196,7 @@ TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
 }
 
 TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
-    const wxImage bar = Picture(Bar());
+    const wxImage bar = PictureOf(Bar());
     for (std::size_t i = 0; i + 1 < kToolbarIcons.size(); ++i) {
         const IconBounds& icon = Bar().BoundsOf(i);
         const int middle = static_cast<int>(icon.top + icon.height / 2);
@@ -231,7 +211,7 @@ TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
 }
 
 TEST_F(ToolbarWindowTest, EachIconHasAPictureOfItsOwn) {
-    const wxImage bar = Picture(Bar());
+    const wxImage bar = PictureOf(Bar());
     std::set<std::string> pictures;
     for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
         const IconBounds& icon = Bar().BoundsOf(i);

@@ -4,11 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <wx/msgdlg.h>
-#include <wx/testing.h>
-
 #include "tests/ui/ui_test_support.h"
-#include "ui/main_menus.h"
 
 namespace brelex {
 namespace {
@@ -42,11 +38,6 @@ class MainWindowWithTray : public MainWindowTest {
         window_->Iconize();
         ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
         Settle(100);
-    }
-
-    bool IsBack() {
-        return WaitFor(
-            [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
     }
 };
 

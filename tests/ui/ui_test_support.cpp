@@ -2,6 +2,8 @@
 #include "tests/ui/ui_test_support.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 
 #include <wx/app.h>
 #include <wx/clipbrd.h>
@@ -35,6 +37,38 @@ void Settle(int ms) {
     WaitFor([] { return false; }, ms);
 }
 
+wxDialog* OpenModalDialog() {
+    for (wxWindow* window : wxTopLevelWindows) {
+        auto* const dialog = dynamic_cast<wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
+bool IsFocusIn(const wxWindow& control) {
+    const wxWindow* const focus = wxWindow::FindFocus();
+    return focus != nullptr && (focus == &control || focus->GetParent() == &control);
+}
+
+bool SamePictures(const wxBitmap& one, const wxBitmap& other) {
+    const wxImage a = one.ConvertToImage();
+    const wxImage b = other.ConvertToImage();
+    const auto bytes =
+        static_cast<std::size_t>(a.GetWidth()) * static_cast<std::size_t>(a.GetHeight()) * 3;
+    return a.GetSize() == b.GetSize() && std::memcmp(a.GetData(), b.GetData(), bytes) == 0;
+}
+
+wxColour ColourAt(const wxImage& image, int x, int y) {
+    return {image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)};
+}
+
+wxColour SystemColour(wxSystemColour colour) {
+    const wxColour c = wxSystemSettings::GetColour(colour);
+    return {c.Red(), c.Green(), c.Blue()};
+}
+
 ModalDriver::ModalDriver(std::vector<std::function<bool()>> steps) : steps_(std::move(steps)) {
     constexpr int kStepMs = 50;
     Start(kStepMs);
@@ -48,11 +82,8 @@ void ModalDriver::Notify() {
     busy_ = true;
     if (++ticks_ > kMostTicks) {
         // Or else a failure would hang in the modal window for ever.
-        for (wxWindow* window : wxTopLevelWindows) {
-            auto* dialog = dynamic_cast<wxDialog*>(window);
-            if (dialog != nullptr && dialog->IsModal()) {
-                dialog->EndModal(wxID_CANCEL);
-            }
+        if (wxDialog* const dialog = OpenModalDialog()) {
+            dialog->EndModal(wxID_CANCEL);
         }
     } else if (steps_[next_]()) {
         ++next_;
@@ -191,8 +222,7 @@ void SideWindowTest::Click(const char* name) {
 }
 
 bool SideWindowTest::HasFocus(const char* name) const {
-    const wxWindow* const focus = wxWindow::FindFocus();
-    return focus != nullptr && (focus == &In(name) || focus->GetParent() == &In(name));
+    return IsFocusIn(In(name));
 }
 
 std::string ClipboardText() {
@@ -209,26 +239,16 @@ void PutOnClipboard(const wxString& text) {
     ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
 }
 
-namespace {
-
-// The first modal dialog there is, or null.
-wxDialog* ModalDialog() {
-    for (wxWindow* window : wxTopLevelWindows) {
-        auto* const dialog = dynamic_cast<wxDialog*>(window);
-        if (dialog != nullptr && dialog->IsModal()) {
-            return dialog;
-        }
-    }
-    return nullptr;
+bool MainWindowTest::IsBack() const {
+    return WaitFor(
+        [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
 }
-
-}  // namespace
 
 std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,
                                          const std::function<void()>& look) {
     std::string name;
     ModalDriver driver({[&] {
-        wxDialog* const dialog = ModalDialog();
+        wxDialog* const dialog = OpenModalDialog();
         if (dialog == nullptr) {
             return false;
         }

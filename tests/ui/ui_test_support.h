@@ -8,8 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
 #include <wx/dialog.h>
+#include <wx/image.h>
 #include <wx/modalhook.h>
+#include <wx/settings.h>
 #include <wx/testing.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
@@ -59,6 +63,31 @@ class MessageBoxes final : public wxModalDialogHook {
     int Enter(wxDialog* dialog) override;
 };
 
+/// The first modal dialog that is open; null if there is none.
+[[nodiscard]] wxDialog* OpenModalDialog();
+
+/// Whether a control, or the part of it that is typed into, has the focus.
+[[nodiscard]] bool IsFocusIn(const wxWindow& control);
+
+[[nodiscard]] bool SamePictures(const wxBitmap& one, const wxBitmap& other);
+
+/// What a window of ours draws with its Draw(wxDC&), over green.
+template <typename Drawn>
+[[nodiscard]] wxImage PictureOf(const Drawn& window) {
+    wxBitmap bitmap(window.GetClientSize(), 24);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(*wxGREEN_BRUSH);
+    dc.Clear();
+    window.Draw(dc);
+    dc.SelectObject(wxNullBitmap);
+    return bitmap.ConvertToImage();
+}
+
+[[nodiscard]] wxColour ColourAt(const wxImage& image, int x, int y);
+
+/// A colour of the system as pixels have it.
+[[nodiscard]] wxColour SystemColour(wxSystemColour colour);
+
 /// The started program over a small database of a test's own, its main window shown and active.
 class MainWindowTest : public testing::Test {
   protected:
@@ -83,6 +112,9 @@ class MainWindowTest : public testing::Test {
     void Type(const char* keys, const std::string& shown);
 
     void SelectAllInBox();
+
+    /// Waits until the main window is shown, not minimised, and in front.
+    [[nodiscard]] bool IsBack() const;
 
     /// The name of the modal window that `open` opens, which is closed at once.
     [[nodiscard]] static std::string NameOfOpened(const std::function<void()>& open,
