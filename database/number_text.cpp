@@ -12,13 +12,13 @@ namespace brelex {
 
 namespace {
 
-std::string_view TrimBlanks(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const auto first = text.find_first_not_of(kBlanks);
+std::string_view TrimWhitespace(std::string_view text) {
+    constexpr std::string_view kWhitespace = " \t\r\n";
+    const auto first = text.find_first_not_of(kWhitespace);
     if (first == std::string_view::npos) {
         return {};
     }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(kWhitespace) - first + 1);
 }
 
 bool IsDigit(char c) {
@@ -91,7 +91,7 @@ std::string FormatGrouped(double number, std::string_view separator) {
 }
 
 std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_view separator) {
-    text = TrimBlanks(text);
+    text = TrimWhitespace(text);
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) {
         text.remove_prefix(1);

@@ -14,6 +14,7 @@
 #include "platform/program_folder.h"
 #include "platform/terminal.h"
 #include "tools/build_command.h"
+#include "tools/open_database.h"
 #include "tools/query_commands.h"
 #include "tools/search_commands.h"
 
@@ -24,14 +25,12 @@ std::string DatabaseBesideProgram() {
     return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
 }
 
-constexpr int kRefused = 2;
-
 // The exit code of a command, once all that it printed has got out.
 int Finished(int code) {
     std::cout.flush();
     if (!std::cout) {
         std::cerr << "brelex: cannot write the output\n";
-        return kRefused;
+        return brelex::kFailed;
     }
     return code;
 }
@@ -145,14 +144,14 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
         app.parse(arguments);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : kRefused;
+        return app.exit(error) == 0 ? 0 : brelex::kFailed;
     }
 
     std::ios::sync_with_stdio(false);
     if (app.got_subcommand("build")) {
         if (!database.empty()) {
             std::cerr << "brelex: build reads no database; name the file to write with -o\n";
-            return kRefused;
+            return brelex::kFailed;
         }
         return Finished(brelex::RunBuild(build, std::cout, std::cerr));
     }

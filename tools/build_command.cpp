@@ -15,8 +15,10 @@
 #include "database/szdd.h"
 #include "database/windows1252.h"
 #include "lookup/prefix_search.h"
+#include "search/search_list.h"
 #include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
+#include "tools/open_database.h"
 
 namespace brelex {
 
@@ -24,11 +26,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kRefused = 2;
-
 int Refuse(std::ostream& err, const std::string& reason) {
     err << "brelex: " << reason << "\n";
-    return kRefused;
+    return kFailed;
 }
 
 void ReadInput(const std::string& input, std::vector<std::string>& records, InputReport& report) {
@@ -94,10 +94,8 @@ std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
     std::string_view rest = commaSeparated;
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find(','), rest.size());
-        std::string_view item = rest.substr(0, end);
+        const std::string_view item = TrimBlanks(rest.substr(0, end));
         rest.remove_prefix(std::min(end + 1, rest.size()));
-        item.remove_prefix(std::min(item.find_first_not_of(' '), item.size()));
-        item = item.substr(0, item.find_last_not_of(' ') + 1);
         if (item.find('1') != std::string_view::npos) {
             reason = "the digit 1 parts the items of the search list, so none may hold it: " +
                      std::string(item);
@@ -162,7 +160,7 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
         for (const std::string& error : report.errors) {
             err << "brelex: " << error << "\n";
         }
-        return kRefused;
+        return kFailed;
     }
 
     const BuiltDatabase built = BuildDatabase(std::move(content));

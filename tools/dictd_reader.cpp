@@ -9,6 +9,7 @@
 #include <zlib.h>
 
 #include "database/file_io.h"
+#include "search/search_list.h"
 
 namespace brelex {
 
@@ -24,13 +25,6 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return lines;
-}
-
-std::string_view Trim(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos
-               ? std::string_view()
-               : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 // Letters and digits in capitals: what a headword of the dictionary keeps of a spelling.
@@ -55,12 +49,12 @@ std::optional<std::string> TakeLastQuoted(std::string_view& text) {
     if (open == std::string_view::npos) {
         return std::nullopt;
     }
-    const std::string_view before = Trim(text.substr(0, open));
+    const std::string_view before = TrimBlanks(text.substr(0, open));
     if (!before.ends_with(',')) {
         return std::nullopt;
     }
     std::string quoted(text.substr(open + 1, text.size() - open - 2));
-    text = Trim(before.substr(0, before.size() - 1));
+    text = TrimBlanks(before.substr(0, before.size() - 1));
     return quoted;
 }
 
@@ -92,12 +86,12 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
 // lines are both indented and parted in two.
 std::optional<DictdEntry> EntryOnLine(std::string_view line) {
     constexpr std::string_view kGap = "    ";
-    const std::string_view text = Trim(line);
+    const std::string_view text = TrimBlanks(line);
     const auto gap = text.find(kGap);
     if (!line.starts_with(kGap) || gap == std::string_view::npos) {
         return std::nullopt;
     }
-    return DictdEntry{std::string(text.substr(0, gap)), std::string(Trim(text.substr(gap)))};
+    return DictdEntry{std::string(text.substr(0, gap)), std::string(TrimBlanks(text.substr(gap)))};
 }
 
 bool IsHeadword(std::string_view line) {
@@ -194,14 +188,14 @@ std::vector<DictdEntry> EntriesOfArticle(std::string_view article) {
     for (std::size_t i = 1; i < lines.size(); ++i) {
         if (auto entry = EntryOnLine(lines[i])) {
             further.push_back(std::move(*entry));
-        } else if (const std::string_view part = Trim(lines[i]); !part.empty()) {
+        } else if (const std::string_view part = TrimBlanks(lines[i]); !part.empty()) {
             if (!text.empty()) {
                 text.push_back(' ');
             }
             text.append(part);
         }
     }
-    AddSense(Trim(lines.front()), text, entries);
+    AddSense(TrimBlanks(lines.front()), text, entries);
     entries.insert(entries.end(), further.begin(), further.end());
     return entries;
 }
@@ -210,9 +204,10 @@ std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article) {
     const std::vector<std::string_view> lines = SplitLines(article);
     std::vector<DictdEntry> entries;
     for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
-        const bool expansionFollows = lines[i + 1].starts_with(' ') && !Trim(lines[i + 1]).empty();
+        const bool expansionFollows =
+            lines[i + 1].starts_with(' ') && !TrimBlanks(lines[i + 1]).empty();
         if (IsHeadword(lines[i]) && expansionFollows) {
-            AddSense(lines[i], Trim(lines[i + 1]), entries);
+            AddSense(lines[i], TrimBlanks(lines[i + 1]), entries);
         }
     }
     return entries;
