@@ -2,20 +2,26 @@
 // XDG_DATA_DIRS has the build tree's share/, where the registration lies.
 #include "tests/platform/help_registration.h"
 
-#include <string>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
 #include <wx/utils.h>
 
+#include "platform/program_folder.h"
+
 namespace brelex {
 
-void RegisterHelp() {
+struct HelpRegistration::Before {};
+
+HelpRegistration::HelpRegistration() {
+    const std::filesystem::path share =
+        std::filesystem::path(ProgramFolder()).parent_path().parent_path() / "share";
     wxString folders;
-    EXPECT_TRUE(wxGetEnv("XDG_DATA_DIRS", &folders) && folders.Contains("/build/"))
-        << "XDG_DATA_DIRS lacks the build tree's share/: " << folders;
+    EXPECT_TRUE(wxGetEnv("XDG_DATA_DIRS", &folders) && folders.Contains(share.string()))
+        << "XDG_DATA_DIRS lacks " << share << ": " << folders;
 }
 
-void UnregisterHelp() {}
+HelpRegistration::~HelpRegistration() = default;
 
 }  // namespace brelex

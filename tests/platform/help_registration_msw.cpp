@@ -2,6 +2,8 @@
 #include "tests/platform/help_registration.h"
 
 #include <cstddef>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -26,13 +28,13 @@ void RunViewer(const wxString& argument) {
     EXPECT_EQ(wxExecute("\"" + viewer + "\" " + argument, wxEXEC_SYNC), 0);
 }
 
-std::wstring DefaultValue(HKEY root, const std::wstring& key) {
+std::optional<std::wstring> DefaultValue(HKEY root, const std::wstring& key) {
     wchar_t text[MAX_PATH * 2] = L"";
     DWORD size = sizeof text;
     return RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text, &size) ==
                    ERROR_SUCCESS
-               ? text
-               : L"";
+               ? std::optional<std::wstring>(text)
+               : std::nullopt;
 }
 
 void SetDefaultValue(const std::wstring& key, const std::wstring& text) {
@@ -41,31 +43,40 @@ void SetDefaultValue(const std::wstring& key, const std::wstring& text) {
                     static_cast<DWORD>(bytes));
 }
 
-// What the machine's registry had.
-std::wstring oldType;
-std::wstring oldCommand;
+void PutBack(const std::wstring& key, const std::optional<std::wstring>& text) {
+    if (text) {
+        SetDefaultValue(key, *text);
+    } else {
+        RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr);
+    }
+}
 
 }  // namespace
 
+struct HelpRegistration::Before {
+    std::optional<std::wstring> type;
+    std::optional<std::wstring> command;
+};
+
 // Windows puts the user's file types over the machine's. The Wine of these tests does not yet, so
 // what the viewer registered is copied.
-void RegisterHelp() {
+HelpRegistration::HelpRegistration() : before_(std::make_unique<Before>()) {
     RunViewer("--register");
     EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kExtension), L"Brevilexicon.Help");
-    EXPECT_NE(DefaultValue(HKEY_CURRENT_USER, kCommand).find(L"brelex-help.exe\" \"%1\""),
-              std::wstring::npos);
-    oldType = DefaultValue(HKEY_LOCAL_MACHINE, kExtension);
+    const std::wstring command = DefaultValue(HKEY_CURRENT_USER, kCommand).value_or(L"");
+    EXPECT_NE(command.find(L"brelex-help.exe\" \"%1\""), std::wstring::npos);
+    before_->type = DefaultValue(HKEY_LOCAL_MACHINE, kExtension);
     SetDefaultValue(kExtension, L"Brevilexicon.Help");
-    oldCommand = DefaultValue(HKEY_LOCAL_MACHINE, kCommand);
-    SetDefaultValue(kCommand, DefaultValue(HKEY_CURRENT_USER, kCommand));
+    before_->command = DefaultValue(HKEY_LOCAL_MACHINE, kCommand);
+    SetDefaultValue(kCommand, command);
 }
 
-void UnregisterHelp() {
+HelpRegistration::~HelpRegistration() {
     RunViewer("--unregister");
-    EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kExtension), L"");
-    EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kType), L"");
-    SetDefaultValue(kExtension, oldType);
-    SetDefaultValue(kCommand, oldCommand);
+    EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kExtension).value_or(L""), L"");
+    EXPECT_EQ(DefaultValue(HKEY_CURRENT_USER, kType).value_or(L""), L"");
+    PutBack(kExtension, before_->type);
+    PutBack(kCommand, before_->command);
 }
 
 }  // namespace brelex

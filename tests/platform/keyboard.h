@@ -8,4 +8,7 @@ namespace brelex {
 /// Whether simulated keys arrive in a window: the system's view, which the toolkit may be ahead of.
 [[nodiscard]] bool HasKeyboard(wxTopLevelWindow& window);
 
+/// Presses and releases the Enter key of the keypad.
+void PressKeypadEnter();
+
 }  // namespace brelex

@@ -2,11 +2,16 @@
 #include "tests/platform/keyboard.h"
 
 #include <wx/toplevel.h>
+#include <wx/uiaction.h>
 
 namespace brelex {
 
 bool HasKeyboard(wxTopLevelWindow& window) {
     return window.IsActive();
+}
+
+void PressKeypadEnter() {
+    wxUIActionSimulator().Char(WXK_NUMPAD_ENTER);
 }
 
 }  // namespace brelex

@@ -212,7 +212,7 @@ TEST_F(EntryViewerTest, OkReturnAndEscapeCloseItAndTheNextShowsTheSelectionAfres
     closes([&] {
         In("txtExpn").SetFocus();
         Settle(30);
-        user_.Char(WXK_NUMPAD_ENTER);
+        PressKeypadEnter();
     });
     closes([&] { user_.Char(WXK_ESCAPE); });
     closes([&] { Side().Close(); });

@@ -19,12 +19,9 @@ namespace {
 
 class HelpViewerTest : public testing::Test {
   protected:
-    void SetUp() override { RegisterHelp(); }
-
     void TearDown() override {
         CloseHelp(desktop_);
         EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
-        UnregisterHelp();
     }
 
     void ShowHelp() {
@@ -32,6 +29,7 @@ class HelpViewerTest : public testing::Test {
         EXPECT_TRUE(messages_.shown.empty());
     }
 
+    HelpRegistration registration_;
     SystemDesktop desktop_;
     FakeMessageSink messages_;
 };
