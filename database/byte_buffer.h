@@ -4,9 +4,7 @@
 #include <cstddef>
 #include <memory>
 #include <new>
-#include <optional>
 #include <string_view>
-#include <utility>
 
 namespace brelex {
 
@@ -15,11 +13,12 @@ class ByteBuffer {
   public:
     ByteBuffer() = default;
 
-    /// A buffer of `size` bytes; nothing if there is not so much memory in one piece.
-    [[nodiscard]] static std::optional<ByteBuffer> Allocate(std::size_t size) {
-        std::unique_ptr<char[]> bytes(new (std::nothrow) char[size]);
-        return bytes == nullptr ? std::nullopt : std::optional(ByteBuffer(std::move(bytes), size));
-    }
+    /// A buffer of `size` bytes, or one that IsNull if there is not so much memory in one piece.
+    explicit ByteBuffer(std::size_t size)
+        : bytes_(new (std::nothrow) char[size]),
+          size_(bytes_ == nullptr ? 0 : size) {}
+
+    [[nodiscard]] bool IsNull() const { return bytes_ == nullptr; }
 
     [[nodiscard]] char* Data() { return bytes_.get(); }
 
@@ -30,10 +29,6 @@ class ByteBuffer {
     [[nodiscard]] std::string_view View() const { return {bytes_.get(), size_}; }
 
   private:
-    ByteBuffer(std::unique_ptr<char[]> bytes, std::size_t size)
-        : bytes_(std::move(bytes)),
-          size_(size) {}
-
     std::unique_ptr<char[]> bytes_;
     std::size_t size_ = 0;
 };

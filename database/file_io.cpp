@@ -76,12 +76,13 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
     if (error || !file || size > kMostBytes) {
         return std::nullopt;
     }
-    auto bytes = ByteBuffer::Allocate(static_cast<std::size_t>(size));
-    if (!bytes) {
+    ByteBuffer bytes(static_cast<std::size_t>(size));
+    if (bytes.IsNull()) {
         return std::nullopt;
     }
-    file.read(bytes->Data(), static_cast<std::streamsize>(size));
-    return file.gcount() == static_cast<std::streamsize>(size) ? std::move(bytes) : std::nullopt;
+    file.read(bytes.Data(), static_cast<std::streamsize>(size));
+    return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
+                                                               : std::nullopt;
 }
 
 std::optional<std::string> ReplaceFile(const fs::path& path, std::string_view bytes) {

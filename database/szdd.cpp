@@ -62,14 +62,14 @@ class Expander {
   private:
     // Makes room for `bytes` of output and a group more; false if there is not the memory.
     [[nodiscard]] bool Grow(std::size_t bytes) {
-        auto larger = ByteBuffer::Allocate(kRingBytes + bytes + kMaxGroupOutput);
-        if (!larger) {
+        ByteBuffer larger(kRingBytes + bytes + kMaxGroupOutput);
+        if (larger.IsNull()) {
             return false;
         }
         if (used_ > kRingBytes) {
-            std::memcpy(larger->Data(), buffer_.Data(), used_);
+            std::memcpy(larger.Data(), buffer_.Data(), used_);
         }
-        buffer_ = std::move(*larger);
+        buffer_ = std::move(larger);
         return true;
     }
 
@@ -249,12 +249,12 @@ std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBy
         if (file.size() > mostBytes) {
             return std::nullopt;
         }
-        auto copy = ByteBuffer::Allocate(file.size());
-        if (!copy) {
+        ByteBuffer copy(file.size());
+        if (copy.IsNull()) {
             return std::nullopt;
         }
-        std::copy(file.begin(), file.end(), copy->Data());
-        return ExpandedFile(std::move(*copy), 0, file.size());
+        std::copy(file.begin(), file.end(), copy.Data());
+        return ExpandedFile(std::move(copy), 0, file.size());
     }
     const std::string_view data = file.substr(kFileHeaderBytes);
     // However lying the declared length, no more is set aside than the data could give.
