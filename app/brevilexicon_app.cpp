@@ -6,11 +6,11 @@
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
 
-#include "app/exception_report.h"
 #include "database/program_values.h"
 #include "platform/command_line.h"
 #include "platform/modRunAtStartup.h"
 #include "platform/program_folder.h"
+#include "ui/exception_report.h"
 #include "ui/frmMain.h"
 #include "ui/wx_folder_picker.h"
 #include "ui/wx_message_sink.h"
@@ -57,15 +57,13 @@ int BrevilexiconApp::OnExit() {
 
 // What was asked for was not done; the rest of the program goes on.
 bool BrevilexiconApp::OnExceptionInMainLoop() {
-    WxMessageSink messages(nullptr);
-    ReportCaughtException(messages);
+    TellOfCaughtException();
     return true;
 }
 
-// Something failed outside the event loop, such as at the start: that is the end.
+// Something failed outside of any event, such as at the start: that is the end.
 void BrevilexiconApp::OnUnhandledException() {
-    WxMessageSink messages(nullptr);
-    ReportCaughtException(messages);
+    TellOfCaughtException();
 }
 
 }  // namespace brelex

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
-#include <string>
 #include <string_view>
 #include <system_error>
 
+#include "database/byte_buffer.h"
 #include "database/file_io.h"
 #include "database/modDataLoader.h"
 
@@ -15,15 +15,20 @@ namespace brelex {
 
 namespace {
 
-// The record block in an expanded file, as many bytes as the header says.
-std::string_view RecordBlock(std::string_view file, std::size_t bytes, std::string& filledUp) {
+// The record block in an expanded file, as many bytes as the header says, filled up with zeros;
+// less if there is not the memory for that.
+std::string_view RecordBlock(std::string_view file, std::size_t bytes, ByteBuffer& filledUp) {
     const std::string_view block = file.substr(std::min(kHeaderBytes, file.size()), bytes);
     if (block.size() == bytes) {
         return block;
     }
-    filledUp = block;
-    filledUp.resize(bytes);
-    return filledUp;
+    filledUp = ByteBuffer(bytes);
+    if (filledUp.IsNull()) {
+        return block;
+    }
+    std::copy(block.begin(), block.end(), filledUp.Data());
+    std::fill(filledUp.Data() + block.size(), filledUp.Data() + bytes, '\0');
+    return filledUp.View();
 }
 
 }  // namespace
@@ -37,11 +42,11 @@ bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, CrcWatcher
     (void)ExpandIntoTemporaryFile(values, files, fileLength);
     const auto file = ReadWholeFile(temporary);
     std::filesystem::remove(temporary, ignored);
-    std::string filledUp;
+    ByteBuffer filledUp;
+    const auto bytes = static_cast<std::size_t>(std::max(values.Header.DataSize, 0));
     const std::string_view block =
-        RecordBlock(file ? file->View() : std::string_view(),
-                    static_cast<std::size_t>(std::max(values.Header.DataSize, 0)), filledUp);
-    return GetCRCFromByteArray(block, &watcher) == values.Header.DataCRC;
+        RecordBlock(file ? file->View() : std::string_view(), bytes, filledUp);
+    return GetCRCFromByteArray(block, &watcher) == values.Header.DataCRC && block.size() == bytes;
 }
 
 }  // namespace brelex

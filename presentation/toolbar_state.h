@@ -77,7 +77,7 @@ class ToolbarView {
     virtual void SetCapture() = 0;
     virtual void ReleaseCapture() = 0;
 
-    /// Lets the windows show what they have to before an icon changes. Must not lead to another
+    /// Lets the window show what it has to before an icon changes. Must not lead to another
     /// call of the state.
     virtual void LetPendingPaintingRun() = 0;
 

@@ -23,6 +23,7 @@
 #include "ui/column_header.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
+#include "ui/scope.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -265,11 +266,14 @@ void frmAnagram::RunSearch() {
         cboLetters->SetFocus();
         return;
     }
-    PrepareForSearch();
-    LastSearchedLetters = letters;
-    LetPendingEventsRun();
-    Watcher watcher(*this);
-    (void)FindAnagrams(*values_.AcronymList, AnagramLetters(letters), &watcher);
+    {
+        const OnLeaving idle([this] { ReturnToIdle(); });
+        PrepareForSearch();
+        LastSearchedLetters = letters;
+        LetPendingEventsRun();
+        Watcher watcher(*this);
+        (void)FindAnagrams(*values_.AcronymList, AnagramLetters(letters), &watcher);
+    }
     PresentHits();
 }
 
@@ -283,10 +287,13 @@ void frmAnagram::PrepareForSearch() {
     ShowBusyAnimation(true);
 }
 
-void frmAnagram::PresentHits() {
+void frmAnagram::ReturnToIdle() {
     EnableInput(true);
     isSearching_ = false;
     ShowBusyAnimation(false);
+}
+
+void frmAnagram::PresentHits() {
     if (!IsShown()) {
         return;  // the program ends
     }

@@ -60,6 +60,7 @@ class frmAnagram final : public wxDialog {
     void OnLettersChanged();
     void RunSearch();
     void PrepareForSearch();
+    void ReturnToIdle();
     void PresentHits();
     void AddHit(std::int32_t row);
     void ShowPercentDone(int percent);

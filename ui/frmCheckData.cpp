@@ -22,6 +22,7 @@
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
 #include "ui/progress_bar.h"
+#include "ui/scope.h"
 
 namespace brelex {
 
@@ -188,6 +189,7 @@ void frmCheckData::ClearResult() {
 }
 
 void frmCheckData::RunCheck() {
+    const OnLeaving idle([this] { ReturnToIdle(); });
     cmdCancel->SetFocus();  // a disabled control would take the keyboard with it
     cmdCheck->Disable();
     Aborted = false;
@@ -201,17 +203,18 @@ void frmCheckData::RunCheck() {
         Watcher watcher(*this);
         passed = IsDataIntact(values_, files_, watcher);
     }
-    if (Aborted) {
-        if (saysAborted_ && IsShown()) {
-            messages_.Show({"Check was aborted by user", kAppTitle, MessageIcon::Information,
-                            MessageButtons::Ok});
-        }
+    if (!Aborted) {
+        ShowResult(passed);
+    } else if (saysAborted_ && IsShown()) {
+        messages_.Show(
+            {"Check was aborted by user", kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+    }
+}
+
+void frmCheckData::ReturnToIdle() {
+    if (lblResult->GetLabel().empty()) {
         ClearProgress();
         lblMessage->SetLabelText(kIdle);
-    } else {
-        ShowResult(passed);
-        lblMessage->SetLabelText("Completed");
-        tmrBlink.Start(kBlinkMs);
     }
     cmdCheck->Enable();
     if (IsShown() && cmdCancel->HasFocus()) {
@@ -232,6 +235,8 @@ void frmCheckData::ShowResult(bool passed) {
     SetNames(*imgResult, "imgResult", text);  // the text itself comes and goes
     resultArea_->Layout();
     resultArea_->Refresh();
+    lblMessage->SetLabelText("Completed");
+    tmrBlink.Start(kBlinkMs);
 }
 
 void frmCheckData::EndModal(int result) {

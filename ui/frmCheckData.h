@@ -41,6 +41,7 @@ class frmCheckData final : public wxDialog {
     void ClearProgress();
     void ClearResult();
     void ShowResult(bool passed);
+    void ReturnToIdle();
     void OnCancel();
     void OnClose(wxCloseEvent& event);
     void OnPaint(wxPaintEvent& event);

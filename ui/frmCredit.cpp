@@ -51,12 +51,12 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     CenterWindow(*this, *about);
 }
 
-// The toolkit's own answer to the key needs a button.
 void frmCredit::EndModal(int result) {
     picAbout->Stop();
     wxDialog::EndModal(result);
 }
 
+// The toolkit's own answer to the key needs a button.
 void frmCredit::OnKey(wxKeyEvent& event) {
     if (event.GetKeyCode() == WXK_ESCAPE) {
         Close();

@@ -22,7 +22,6 @@
 #include "platform/bring_forward.h"
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
-#include "ui/busy.h"
 #include "ui/column_header.h"
 #include "ui/frmAbout.h"
 #include "ui/frmAnagram.h"
@@ -36,6 +35,7 @@
 #include "ui/main_menus.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
+#include "ui/scope.h"
 #include "ui/side_windows.h"
 #include "ui/title_image.h"
 #include "ui/toolbar.h"
@@ -58,6 +58,15 @@ constexpr int kCommandDelayMs = 500;
 bool IsModalDialog(const wxWindow* window) {
     const auto* const dialog = dynamic_cast<const wxDialog*>(window);
     return dialog != nullptr && dialog->IsModal();
+}
+
+// Of modal windows over each other the topmost, which was made last; null if there is none.
+wxWindow* TopmostModalDialog() {
+    wxWindow* topmost = nullptr;
+    for (wxWindow* window : wxTopLevelWindows) {
+        topmost = IsModalDialog(window) ? window : topmost;
+    }
+    return topmost;
 }
 
 std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
@@ -419,6 +428,11 @@ void frmMain::OpenModalForm(int number) {
     }
 }
 
+void frmMain::ShowMessage(const Message& message) {
+    const ModalScope modal(*this);
+    WxMessageSink(nullptr).Show(message);  // over whatever is in front
+}
+
 void frmMain::OpenEntryViewer() {
     if (IsModalOpen || SelectedRow() < 0) {
         return;
@@ -659,9 +673,9 @@ void frmMain::OnDoubleClick(wxMouseEvent& event) {
     if (lblRecNumber->GetScreenRect().Contains(mouse)) {
         GoToRecordNumber(-1);
     } else if (lblRecCount->GetScreenRect().Contains(mouse)) {
-        OpenModalForm(2);
+        OpenModalForm(kDataInfoWindow);
     } else if (imgAppTitle->GetScreenRect().Contains(mouse)) {
-        OpenModalForm(4);
+        OpenModalForm(kAboutWindow);
     } else {
         event.Skip();
     }
@@ -726,10 +740,8 @@ void frmMain::RestoreWindow() {
 
 void frmMain::ActivateWindow() {
     BringForward(*this);
-    const auto modal =
-        std::find_if(wxTopLevelWindows.begin(), wxTopLevelWindows.end(), &IsModalDialog);
-    if (modal != wxTopLevelWindows.end()) {
-        (*modal)->Raise();
+    if (wxWindow* const modal = TopmostModalDialog()) {
+        modal->Raise();
     }
 }
 

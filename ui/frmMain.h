@@ -65,6 +65,9 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     /// Opens a side window (a number of side_windows.h) modally; any other number opens none.
     void OpenModalForm(int number) override;
 
+    /// Shows a message that no command of the window is about.
+    void ShowMessage(const Message& message);
+
     /// Selects an entry by its record number (1-based); -1 asks the user for it.
     void GoToRecordNumber(std::int32_t nRecordNumber);
 

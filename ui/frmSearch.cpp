@@ -34,6 +34,7 @@
 #include "ui/column_header.h"
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
+#include "ui/scope.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -54,6 +55,7 @@ constexpr int kTabStopDialogUnits = 88;
 
 const char* const kAbortedText = "Search was aborted by user";
 const char* const kReadyText = "Ready";
+const char* const kSearchingText = "Searching through database. Please, wait...";
 
 wxColour PureRed() {
     return {255, 0, 0};
@@ -403,14 +405,19 @@ void frmSearch::RunSearch() {
         cboSearchWhat->SetFocus();
         return;
     }
+    if (!SearchAndPresent(request) && IsShown()) {
+        messages_.Show(MalformedPatternMessage());
+        cboSearchWhat->SetFocus();
+    }
+}
+
+// Returns false if the text is malformed as a pattern.
+bool frmSearch::SearchAndPresent(const SearchRequest& request) {
+    const OnLeaving idle([this] { ReturnToIdle(); });
     PrepareForSearch();
     LetPendingEventsRun();
-    const auto outcome = Scan(request);
+    const bool wellFormed = Scan(request).has_value();
     ShowBusyAnimation(false);
-    if (!outcome) {
-        lblStatus->SetLabelText(kReadyText);
-        lblCount->SetLabelText(wxEmptyString);
-    }
     if (AbortRequested) {
         if (IsShown()) {
             messages_.Show({kAbortedText, kAppTitle, MessageIcon::Information, MessageButtons::Ok});
@@ -418,17 +425,13 @@ void frmSearch::RunSearch() {
         lblCount->SetForegroundColour(DarkRed());
         lblCount->SetLabelText(kAbortedText);
     }
-    ReturnToIdle();
-    if (!outcome && IsShown()) {
-        messages_.Show(MalformedPatternMessage());
-        cboSearchWhat->SetFocus();
-    }
+    return wellFormed;
 }
 
 void frmSearch::PrepareForSearch() {
     EnableInput(false);
     ClearResults();
-    lblStatus->SetLabelText("Searching through database. Please, wait...");
+    lblStatus->SetLabelText(kSearchingText);
     lblCount->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
     lblCount->SetLabelText(WxText(FoundText(0)));
     cmdCancel->SetFocus();
@@ -491,6 +494,11 @@ void frmSearch::ShowHits(std::int32_t hits) {
 }
 
 void frmSearch::ReturnToIdle() {
+    ShowBusyAnimation(false);
+    if (lblStatus->GetLabelText() == kSearchingText) {  // there is no result
+        lblStatus->SetLabelText(kReadyText);
+        lblCount->SetLabelText(wxEmptyString);
+    }
     EnableInput(true);
     cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
     SetCancelButton(false);

@@ -72,6 +72,7 @@ class frmSearch final : public wxDialog {
     [[nodiscard]] SearchRequest Request() const;
     [[nodiscard]] std::optional<SearchOutcome> Scan(const SearchRequest& request);
     void Present(const SearchOutcome& outcome);
+    [[nodiscard]] bool SearchAndPresent(const SearchRequest& request);
     void PrepareForSearch();
     void ReturnToIdle();
     void EnableInput(bool enable);

@@ -16,7 +16,7 @@ class frmSplash final : public wxFrame, public ProgressSink {
   public:
     explicit frmSplash(const AppInfo& info);
 
-    /// Waits until the window, which was just shown, is on the screen.
+    /// Waits until the window, which was just shown, is on the screen, or for a fifth of a second.
     void WaitUntilSeen();
 
     void SetStatusText(std::string_view text) override;

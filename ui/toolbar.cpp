@@ -6,7 +6,6 @@
 
 #include <wx/dcclient.h>
 #include <wx/settings.h>
-#include <wx/toplevel.h>
 
 #include "platform/accessible_name.h"
 #include "ui/artwork.h"

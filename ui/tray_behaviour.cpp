@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/tray_behaviour.h"
 
-#include "ui/busy.h"
+#include "ui/scope.h"
 #include "ui/side_windows.h"
 
 namespace brelex {

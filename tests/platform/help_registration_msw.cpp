@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <shlwapi.h>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -48,6 +49,10 @@ void PutBack(const std::wstring& key, const std::optional<std::wstring>& text) {
         SetDefaultValue(key, *text);
     } else {
         RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr);
+        std::wstring made = key;
+        while (SHDeleteEmptyKeyW(HKEY_LOCAL_MACHINE, made.c_str()) == ERROR_SUCCESS) {
+            made.resize(made.rfind(L'\\'));
+        }
     }
 }
 

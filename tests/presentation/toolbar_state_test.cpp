@@ -19,7 +19,7 @@ class RecordingView final : public ToolbarView {
 
     void ReleaseCapture() override { log.emplace_back("release"); }
 
-    void LetPendingPaintingRun() override { log.emplace_back("events"); }
+    void LetPendingPaintingRun() override { log.emplace_back("paint"); }
 
     void DrawIcon(int icon, int state) override {
         log.push_back(std::to_string(icon) + (state == kFlat     ? " flat"
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ToolbarState, EnteringAnIconRaisesAndDescribesIt) {
     Toolbar toolbar;
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 20, 20); }),
-              (Strings{"capture", "events", "0 raised", "describe 0"}));
+              (Strings{"capture", "paint", "0 raised", "describe 0"}));
     // Nothing is redrawn while it stays there, but the mouse is held on every move.
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 22, 22); }), (Strings{"capture"}));
 }
@@ -93,7 +93,7 @@ TEST(ToolbarState, EnteringTheNextIconFlattensTheLast) {
     Toolbar toolbar;
     toolbar.state.OnMouseMove(0, 20, 20);
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 60, 20); }),
-              (Strings{"capture", "events", "0 flat", "1 raised", "describe 1"}));
+              (Strings{"capture", "paint", "0 flat", "1 raised", "describe 1"}));
 }
 
 TEST(ToolbarState, BetweenTheIconsNothingIsHot) {
@@ -150,7 +150,7 @@ TEST(ToolbarState, SlidingToAnotherIconRunsThatOnesAction) {
     toolbar.state.OnMouseMove(0, 20, 20);
     toolbar.state.OnMouseDown(kLeftButton);
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeftButton, 60, 20); }),
-              (Strings{"capture", "events", "0 flat", "1 sunken", "describe 1"}));
+              (Strings{"capture", "paint", "0 flat", "1 sunken", "describe 1"}));
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(kLeftButton); }),
               (Strings{"1 flat", "run 1"}));
 }
@@ -161,7 +161,7 @@ TEST(ToolbarState, AfterAReleaseTheIconUnderTheMouseRisesAgain) {
     toolbar.state.OnMouseDown(kLeftButton);
     toolbar.state.OnMouseUp(kLeftButton);
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 20, 20); }),
-              (Strings{"capture", "events", "0 raised", "describe 0"}));
+              (Strings{"capture", "paint", "0 raised", "describe 0"}));
 }
 
 TEST(ToolbarState, OtherButtonsNeitherSinkNorRun) {
@@ -176,10 +176,10 @@ TEST(ToolbarState, OtherButtonsNeitherSinkNorRun) {
     }
     // With the right button held the edge is a raised one; with both, too.
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kRightButton, 20, 20); }),
-              (Strings{"capture", "events", "0 flat", "0 raised", "describe 0"}));
+              (Strings{"capture", "paint", "0 flat", "0 raised", "describe 0"}));
     EXPECT_EQ(
         toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeftButton | kRightButton, 20, 20); }),
-        (Strings{"capture", "events", "0 flat", "0 raised", "describe 0"}));
+        (Strings{"capture", "paint", "0 flat", "0 raised", "describe 0"}));
 }
 
 TEST(ToolbarState, WithoutAHotIconButtonsDoNothing) {

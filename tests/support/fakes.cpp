@@ -2,6 +2,7 @@
 #include "tests/support/fakes.h"
 
 #include <fstream>
+#include <new>
 
 #include "database/file_io.h"
 
@@ -31,6 +32,9 @@ std::string FakeFolderPicker::BrowseForFolder(const std::string& title) {
 }
 
 bool FakeTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
+    if (memoryIsFull) {
+        throw std::bad_alloc();
+    }
     written.push_back(path);
     std::ofstream file(PathOfUtf8(path), std::ios::binary | std::ios::trunc);
     const std::string_view fitting = diskIsFull ? bytes.substr(0, bytes.size() / 2) : bytes;

@@ -57,6 +57,7 @@ class FakeTemporaryFiles final : public TemporaryFiles {
 
     std::vector<std::string> written;
     bool diskIsFull = false;
+    bool memoryIsFull = false;  ///< writing throws
 
   private:
     std::string folder_;

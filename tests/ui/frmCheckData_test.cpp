@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmCheckData.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <wx/button.h>
+#include <wx/math.h>
+#include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -73,6 +76,8 @@ class CheckWindowTest : public SideWindowTest {
         EXPECT_EQ(Label("lblMessage"), "Progress");
         EXPECT_EQ(Percent(), -1);
     }
+
+    bool blinked_ = false;  // while a check ran
 
     [[nodiscard]] bool ResultHasPictureOf(const char* name) const {
         return SamePictures(In<wxStaticBitmap>("imgResult").GetBitmap(),
@@ -179,6 +184,7 @@ TEST_F(CheckWindowTest, BehindTheMessageOfTheAbortTheProgressStandsStill) {
         });
         StartCheck([&] {
             Click("cmdCancel");
+            EXPECT_TRUE(WaitFor([&] { return dynamic_cast<frmCheckData&>(Side()).Aborted; }));
             atCancel = Percent();
         });
         EXPECT_GT(shown, 0);
@@ -223,6 +229,21 @@ TEST_F(CheckWindowTest, TheBarEndsAtThePercentageWrittenOnIt) {
     });
 }
 
+TEST_F(CheckWindowTest, AFailureNobodyExpectsEndsTheCheckAndNotTheWindow) {
+    const ExpectedExceptions expected;
+    const MessageBoxes boxes;
+    InCheckWindow([&] {
+        files_.memoryIsFull = true;
+        Click("cmdCheck");
+        EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        EXPECT_EQ(boxes.texts[0], "There is not enough memory for that.");
+        ExpectNoResult();
+        files_.memoryIsFull = false;
+        Check();
+        ExpectResult("Data integrity check PASSED", kBlue);
+    });
+}
+
 TEST_F(CheckWindowTest, TheResultBlinks) {
     InCheckWindow([&] {
         Check();
@@ -241,9 +262,8 @@ TEST_F(CheckWindowTest, TheNextCheckClearsTheResultAndStopsItsBlinking) {
         std::string result = "none";
         bool shown = false;
         bool picture = true;
-        bool blinked = false;
-        In("lblResult").Bind(wxEVT_SHOW, [&](wxShowEvent& event) {
-            blinked |= IsChecking() && !event.IsShown();
+        In("lblResult").Bind(wxEVT_SHOW, [this](wxShowEvent& event) {
+            blinked_ |= IsChecking() && !event.IsShown();
             event.Skip();
         });
         StartCheck([&] {
@@ -254,7 +274,7 @@ TEST_F(CheckWindowTest, TheNextCheckClearsTheResultAndStopsItsBlinking) {
         EXPECT_EQ(result, "");
         EXPECT_TRUE(shown);
         EXPECT_FALSE(picture);
-        EXPECT_FALSE(blinked);
+        EXPECT_FALSE(blinked_);
         ExpectResult("Data integrity check PASSED", kBlue);
     });
 }

@@ -105,7 +105,7 @@ class SearchWindowTest : public SideWindowTest {
         }
     }
 
-    // Whether two pictures of a button are the same.
+    // Whether a button shows a picture.
     [[nodiscard]] bool Shows(const char* button, const wxBitmapBundle& picture) const {
         return SamePictures(In<wxButton>(button).GetBitmap(), picture.GetBitmapFor(&In(button)));
     }

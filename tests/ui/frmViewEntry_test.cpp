@@ -40,10 +40,7 @@ class EntryViewerTest : public SideWindowTest {
             ASSERT_LE(number, 5);
             window_->GoToRecordNumber(number);
         }
-        Box().SetFocus();
-        ASSERT_TRUE(
-            WaitFor([&] { return HasKeyboard(*window_) && wxWindow::FindFocus() == &Box(); }));
-        Settle(30);
+        GiveBoxTheKeyboard();
         InSideWindow(
             "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, work);
     }
@@ -206,12 +203,12 @@ TEST_F(EntryViewerTest, OkReturnAndEscapeCloseItAndTheNextShowsTheSelectionAfres
     closes([&] { user_.Char(WXK_RETURN); });
     closes([&] {
         In("txtExpn").SetFocus();
-        Settle(30);
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("txtExpn"); }));
         user_.Char(WXK_RETURN);
     });
     closes([&] {
         In("txtExpn").SetFocus();
-        Settle(30);
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("txtExpn"); }));
         PressKeypadEnter();
     });
     closes([&] { user_.Char(WXK_ESCAPE); });

@@ -37,14 +37,16 @@ void Settle(int ms) {
     WaitFor([] { return false; }, ms);
 }
 
+int ExpectedExceptions::count = 0;
+
 wxDialog* OpenModalDialog() {
+    wxDialog* last = nullptr;
     for (wxWindow* window : wxTopLevelWindows) {
         auto* const dialog = dynamic_cast<wxDialog*>(window);
-        if (dialog != nullptr && dialog->IsModal()) {
-            return dialog;
-        }
+        // On Windows a dialog that was ended is modal until it returns.
+        last = dialog != nullptr && dialog->IsModal() && dialog->IsShown() ? dialog : last;
     }
-    return nullptr;
+    return last;
 }
 
 bool IsFocusIn(const wxWindow& control) {
@@ -133,11 +135,16 @@ void MainWindowTest::StartWith(const std::string& databaseFile, const std::strin
                              }});
     ASSERT_NE(window_, nullptr);
     window_->Show();
-    // Without the focus no simulated key arrives. The desktop may still be giving it to what is
-    // left of the window before.
+    GiveBoxTheKeyboard();
+}
+
+// Without the focus no simulated key arrives. The desktop may still be giving it to what is left of
+// the window before.
+void MainWindowTest::GiveBoxTheKeyboard() {
     bool active = false;
     for (int i = 0; i < 8 && !active; ++i) {
         window_->Raise();
+        Box().SetFocus();
         active = WaitFor(
             [this] { return HasKeyboard(*window_) && wxWindow::FindFocus() == &Box(); }, 1000);
     }
@@ -200,8 +207,7 @@ void SideWindowTest::InSideWindow(const char* name, const std::function<void()>&
     open();
     // Now and then Wine loses a key while it gives the focus to a window.
     if (!WaitFor([&] { return driver.Done(); }) && wxWindow::FindWindowByName(name) == nullptr) {
-        window_->Raise();
-        EXPECT_TRUE(WaitFor([&] { return HasKeyboard(*window_); }));
+        GiveBoxTheKeyboard();
         open();
     }
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));

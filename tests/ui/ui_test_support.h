@@ -63,7 +63,22 @@ class MessageBoxes final : public wxModalDialogHook {
     int Enter(wxDialog* dialog) override;
 };
 
-/// The first modal dialog that is open; null if there is none.
+/// Exceptions in event handlers are told as the program tells them, as long as this lives; else
+/// each is a failure of the test.
+class ExpectedExceptions {
+  public:
+    ExpectedExceptions() { ++count; }
+
+    ExpectedExceptions(const ExpectedExceptions&) = delete;
+    ExpectedExceptions& operator=(const ExpectedExceptions&) = delete;
+
+    ~ExpectedExceptions() { --count; }
+
+    static int count;  ///< of those that live
+};
+
+/// The modal dialog that is open, of several over each other the one that was made last; null if
+/// there is none.
 [[nodiscard]] wxDialog* OpenModalDialog();
 
 /// Whether a control, or the part of it that is typed into, has the focus.
@@ -112,6 +127,9 @@ class MainWindowTest : public testing::Test {
     void Type(const char* keys, const std::string& shown);
 
     void SelectAllInBox();
+
+    /// Waits until typed keys arrive in the look-up box.
+    void GiveBoxTheKeyboard();
 
     /// Waits until the main window is shown, not minimised, and in front.
     [[nodiscard]] bool IsBack() const;

@@ -7,6 +7,9 @@
 #include <wx/app.h>
 #include <wx/init.h>
 
+#include "tests/ui/ui_test_support.h"
+#include "ui/exception_report.h"
+
 namespace {
 
 // Runs the tests inside the event loop, as simulated events need a running one.
@@ -24,6 +27,15 @@ class TestApp final : public wxApp {
     int OnRun() override {
         wxApp::OnRun();
         return result_;
+    }
+
+    bool OnExceptionInMainLoop() override {
+        if (brelex::ExpectedExceptions::count == 0) {
+            ADD_FAILURE() << brelex::MessageOfCaughtException().text;
+        } else {
+            brelex::TellOfCaughtException();
+        }
+        return true;
     }
 
     // A failed assertion of the toolkit is a failed test, not a dialog.

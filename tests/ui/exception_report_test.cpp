@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/exception_report.h"
+#include "ui/exception_report.h"
 
 #include <functional>
 #include <new>
@@ -7,8 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/fakes.h"
+#include <wx/msgdlg.h>
+#include <wx/timer.h>
+
 #include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
 
 namespace brelex {
 namespace {
@@ -22,16 +25,15 @@ struct ExceptionCase {
 class ExceptionReport : public testing::TestWithParam<ExceptionCase> {};
 
 TEST_P(ExceptionReport, SaysWhy) {
-    FakeMessageSink messages;
+    Message message;
     try {
         GetParam().fail();
     } catch (...) {
-        ReportCaughtException(messages);
+        message = MessageOfCaughtException();
     }
-    ASSERT_EQ(messages.shown.size(), 1U);
-    EXPECT_EQ(messages.shown[0].text, GetParam().text);
-    EXPECT_EQ(messages.shown[0].title, "Brevilexicon");
-    EXPECT_EQ(messages.shown[0].icon, MessageIcon::Stop);
+    EXPECT_EQ(message.text, GetParam().text);
+    EXPECT_EQ(message.title, "Brevilexicon");
+    EXPECT_EQ(message.icon, MessageIcon::Stop);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -42,6 +44,21 @@ INSTANTIATE_TEST_SUITE_P(
                                   "That could not be done: no such thing"},
                     ExceptionCase{"NoReason", [] { throw 1; }, "That could not be done."}),
     CaseName());
+
+class ExceptionInHandler : public MainWindowTest {};
+
+TEST_F(ExceptionInHandler, IsToldAndTheProgramGoesOn) {
+    const ExpectedExceptions expected;
+    const MessageBoxes boxes;
+    wxTimer timer;
+    timer.Bind(wxEVT_TIMER, [](wxTimerEvent&) { throw std::bad_alloc(); });
+    timer.StartOnce(1);
+    EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+    EXPECT_EQ(boxes.texts[0], "There is not enough memory for that.");
+    EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_STOP);
+    EXPECT_FALSE(window_->IsModalOpen);
+    Type("x", "X");
+}
 
 }  // namespace
 }  // namespace brelex
