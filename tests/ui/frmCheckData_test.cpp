@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -194,37 +195,45 @@ TEST_F(CheckWindowTest, BehindTheMessageOfTheAbortTheProgressStandsStill) {
     });
 }
 
+// The first and last column behind `from` with ink of a text, away from the edges.
+std::pair<int, int> ColumnsOfText(const wxImage& image, int from) {
+    constexpr int kDark = 100;
+    int first = image.GetWidth();
+    int last = 0;
+    for (int x = from; x < image.GetWidth() - 1; ++x) {
+        for (int y = 2; y < image.GetHeight() - 2; ++y) {
+            const bool ink = image.GetRed(x, y) < kDark && image.GetGreen(x, y) < kDark;
+            first = ink ? std::min(first, x) : first;
+            last = ink ? x : last;
+        }
+    }
+    return {first, last};
+}
+
+void ExpectBarUpTo(const wxImage& image, int right) {
+    const int height = image.GetHeight();
+    EXPECT_EQ(ColourAt(image, 0, height / 2), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
+    EXPECT_EQ(ColourAt(image, right / 2, 0), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
+    EXPECT_EQ(ColourAt(image, right, 4), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+    EXPECT_EQ(ColourAt(image, right / 2, height - 1), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+}
+
 TEST_F(CheckWindowTest, TheBarEndsAtThePercentageWrittenOnIt) {
     InCheckWindow([&] {
         auto& bar = In<ProgressBar>("picProgbar");
         const wxColour background = SystemColour(wxSYS_COLOUR_WINDOW);
-        const wxSize size = bar.GetClientSize();
-        EXPECT_EQ(ColourAt(PictureOf(bar), size.x / 4, 4), background);
+        const int width = bar.GetClientSize().x;
+        EXPECT_EQ(ColourAt(PictureOf(bar), width / 4, 4), background);
         for (const int percent : {25, 100}) {
             bar.SetPercent(percent);
             const wxImage picture = PictureOf(bar);
-            const int right = wxRound(size.x / 100.0 * percent - 1);
-            EXPECT_EQ(ColourAt(picture, 0, size.y / 2), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
-            EXPECT_EQ(ColourAt(picture, right / 2, 0), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
-            EXPECT_EQ(ColourAt(picture, right, 4), SystemColour(wxSYS_COLOUR_BTNSHADOW));
-            EXPECT_EQ(ColourAt(picture, right / 2, size.y - 1),
-                      SystemColour(wxSYS_COLOUR_BTNSHADOW));
-            if (percent < 100) {
-                EXPECT_EQ(ColourAt(picture, right + 2, 4), background);
-            }
+            const int right = wxRound(width / 100.0 * percent - 1);
+            ExpectBarUpTo(picture, right);
+            EXPECT_TRUE(percent == 100 || ColourAt(picture, right + 2, 4) == background);
             // The text stands in the middle, over the bar or beside it.
-            int left = size.x;
-            int last = 0;
-            for (int x = right < size.x / 3 ? right + 1 : 1; x < size.x - 1; ++x) {
-                for (int y = 2; y < size.y - 2; ++y) {
-                    const wxColour colour = ColourAt(picture, x, y);
-                    const bool ink = colour.Red() < 100 && colour.Green() < 100;
-                    left = ink ? std::min(left, x) : left;
-                    last = ink ? std::max(last, x) : last;
-                }
-            }
-            EXPECT_GT(last, left);
-            EXPECT_NEAR((left + last) / 2.0, size.x / 2.0, 3.0);
+            const auto [first, last] = ColumnsOfText(picture, percent < 100 ? right + 1 : 1);
+            EXPECT_GT(last, first);
+            EXPECT_NEAR((first + last) / 2.0, width / 2.0, 3.0);
         }
     });
 }
