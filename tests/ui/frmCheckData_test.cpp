@@ -11,7 +11,6 @@
 
 #include <wx/button.h>
 #include <wx/math.h>
-#include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -160,26 +159,11 @@ TEST_F(CheckWindowTest, ShowsHowFarItIsAndLetsTheWindowWork) {
     });
 }
 
-// Looks at the window while the message of an aborted check is up.
-class AbortLook final : public wxModalDialogHook {
-  public:
-    explicit AbortLook(std::function<void()> look) : look_(std::move(look)) { Register(); }
-
-  protected:
-    int Enter(wxDialog* /*dialog*/) override {
-        look_();
-        return wxID_OK;
-    }
-
-  private:
-    std::function<void()> look_;
-};
-
 TEST_F(CheckWindowTest, BehindTheMessageOfTheAbortTheProgressStandsStill) {
     InCheckWindow([&] {
         int atCancel = 0;
         int shown = 0;
-        const AbortLook look([&] {
+        const BehindMessages look([&] {
             shown = Percent();
             EXPECT_EQ(Label("lblMessage"), "Checking data integrity...");
         });

@@ -13,7 +13,6 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
-#include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/radiobut.h>
 #include <wx/settings.h>
@@ -628,28 +627,10 @@ TEST_F(LimitedSearch, StopsAt500HitsAndGoesOnFromTheNext) {
     });
 }
 
-// Looks at the window while the box of the limit is up.
-class AtTheLimit final : public wxModalDialogHook {
-  public:
-    explicit AtTheLimit(std::function<void()> look) : look_(std::move(look)) { Register(); }
-
-  protected:
-    int Enter(wxDialog* dialog) override {
-        if (dynamic_cast<wxMessageDialog*>(dialog) == nullptr) {
-            return wxID_NONE;
-        }
-        look_();
-        return wxID_OK;
-    }
-
-  private:
-    std::function<void()> look_;
-};
-
 TEST_F(LimitedSearch, SaysSoBeforeItShowsTheHits) {
     InSearchWindow([&] {
         int looks = 0;
-        const AtTheLimit hook([&] {
+        const BehindMessages hook([&] {
             ++looks;
             EXPECT_FALSE(IsSearching());
             EXPECT_FALSE(IsEnabled("chkNextSearch"));

@@ -104,6 +104,14 @@ int MessageBoxes::Enter(wxDialog* dialog) {
     return wxID_OK;
 }
 
+int BehindMessages::Enter(wxDialog* dialog) {
+    if (dynamic_cast<wxMessageDialog*>(dialog) == nullptr) {
+        return wxID_NONE;
+    }
+    look_();
+    return wxID_OK;
+}
+
 void MainWindowTest::SetUp() {
     Start(SampleEntries());
 }

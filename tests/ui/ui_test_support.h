@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -61,6 +62,19 @@ class MessageBoxes final : public wxModalDialogHook {
 
   protected:
     int Enter(wxDialog* dialog) override;
+};
+
+/// Answers message boxes at once and calls `look` before, when they would be up: for what stands
+/// behind them. Other dialogs are shown.
+class BehindMessages final : public wxModalDialogHook {
+  public:
+    explicit BehindMessages(std::function<void()> look) : look_(std::move(look)) { Register(); }
+
+  protected:
+    int Enter(wxDialog* dialog) override;
+
+  private:
+    std::function<void()> look_;
 };
 
 /// Exceptions in event handlers are told as the program tells them, as long as this lives; else
