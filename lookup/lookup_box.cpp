@@ -19,16 +19,17 @@ constexpr const char* kGoToRecord = "Go to Record";
 }  // namespace
 
 void LookupBox::OnBoxChanged() {
-    if (IsLookupBusy) {
+    const std::string text = view_.BoxText();
+    if (std::exchange(shownText_, text) == text || IsLookupBusy) {
         return;
     }
     IsLookupBusy = true;
     if (IsNavigating) {
-        LastText = view_.BoxText();
+        LastText = text;
         IsLookupBusy = false;
         return;
     }
-    CurrentText = view_.BoxText();
+    CurrentText = text;
     if (EqualIgnoringCaseUtf8(LastText, CurrentText)) {
         return;  // IsLookupBusy stays set, see the class
     }

@@ -51,7 +51,9 @@ class LookupView {
 ///
 /// The fields keep the state of the whole run. If the box's text changes to one that equals the
 /// last one but for case, typing stops moving the list for good (IsLookupBusy stays set); keys,
-/// clicks and record numbers go on working. That is how the lookup is meant to behave.
+/// clicks and record numbers go on working. That is how the lookup is meant to behave. A report of
+/// a change that finds the text as it was, such as toolkits give for a letter that no longer fits,
+/// is none.
 class LookupBox {
   public:
     LookupBox(const ProgramValues& values, LookupView& view, MessageSink& messages)
@@ -59,7 +61,7 @@ class LookupBox {
           view_(view),
           messages_(messages) {}
 
-    /// The box's text has changed, by the user's typing or pasting.
+    /// The box's text may have changed, by the user's typing or pasting.
     void OnBoxChanged();
 
     /// A navigation key was pressed in the box, which does not process it further.
@@ -103,6 +105,7 @@ class LookupBox {
     const ProgramValues& values_;
     LookupView& view_;
     MessageSink& messages_;
+    std::string shownText_;  // the box's text after the last change, by whomever
 };
 
 }  // namespace brelex
