@@ -6,10 +6,13 @@
 
 #include "database/row_list.h"
 #include "lookup/list_navigation.h"
+#include "lookup/type_ahead.h"
 
 class wxColour;
 class wxContextMenuEvent;
+class wxKeyEvent;
 class wxPoint;
+class wxRect;
 class wxWindow;
 
 namespace brelex {
@@ -35,8 +38,8 @@ class AcronymList {
     virtual void SetTextColour(const wxColour& colour) = 0;
     [[nodiscard]] virtual wxColour TextColour() const = 0;
 
-    /// Selects a row; onClick is not called.
-    virtual void Select(std::int32_t row) = 0;
+    /// Selects a row, without scrolling; onClick is not called.
+    virtual void SelectRow(std::int32_t row) = 0;
 
     [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
 
@@ -46,13 +49,28 @@ class AcronymList {
     /// Makes `row` the top visible row; near the end of the list as far as there are rows.
     virtual void SetTopRow(std::int32_t row) = 0;
 
+    /// The first row that is visible as a whole.
     [[nodiscard]] virtual std::int32_t TopRow() const = 0;
+
+    /// Scrolls by the least amount that makes all of `row` visible; not at all if it is.
+    void ScrollIntoView(std::int32_t row);
 
     /// Number of rows that are visible as a whole.
     [[nodiscard]] virtual std::int32_t RowsPerPage() const = 0;
 
     /// Height of a row in pixels.
     [[nodiscard]] virtual int RowHeight() const = 0;
+
+    /// The height in pixels of a control, borders included, that shows `rows` rows as a whole and
+    /// no part of another.
+    [[nodiscard]] virtual int HeightOfRows(int rows) const = 0;
+
+    /// The most rows that a control of a height in pixels, borders included, shows as a whole; at
+    /// least 1.
+    [[nodiscard]] int RowsIn(int height) const;
+
+    /// Where the screen shows `row`, in pixels of the control's inside.
+    [[nodiscard]] virtual wxRect RowRect(std::int32_t row) const = 0;
 
     /// The row under a point of the control, -1 below the last one.
     [[nodiscard]] virtual std::int32_t RowAt(const wxPoint& point) const = 0;
@@ -74,7 +92,26 @@ class AcronymList {
     void RightPressed();
     void OnContextMenu(wxContextMenuEvent& event) const;
 
-    [[nodiscard]] virtual std::int32_t RowCount() const = 0;
+    /// A character was typed into the control.
+    void OnCharacter(wxKeyEvent& event);
+
+    /// Whether a blank typed now is part of a text that is typed into the list.
+    [[nodiscard]] bool IsTyping() const;
+
+    /// The rows shown; null if there are none yet.
+    [[nodiscard]] virtual const RowList* Rows() const = 0;
+
+    [[nodiscard]] std::int32_t RowCount() const {
+        return Rows() == nullptr ? 0 : Rows()->RowCount();
+    }
+
+    /// Scrolls so that `row` is the last one that is visible as a whole.
+    virtual void SetBottomRow(std::int32_t row) = 0;
+
+  private:
+    void SelectAsUser(std::int32_t row);
+
+    TypeAhead typeAhead_;
 };
 
 /// Creates the list for this system as a child of `parent`. The text of the second column begins

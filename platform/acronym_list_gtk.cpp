@@ -37,7 +37,7 @@ class RowModel final : public wxDataViewVirtualListModel {
         return colour.IsOk();
     }
 
-    [[nodiscard]] std::int32_t RowCount() const { return rows_ == nullptr ? 0 : rows_->RowCount(); }
+    [[nodiscard]] const RowList* Rows() const { return rows_; }
 
     wxColour colour;  // none is the theme's
 
@@ -84,8 +84,10 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         }
         AssociateModel(model_.get());
         GtkTreeView* const view = TreeView();
-        // Or else typing would open a search box over the list.
+        // Or else typing would open a search box over the list, and so would Ctrl+F, which asks
+        // only for a column to search.
         gtk_tree_view_set_enable_search(view, FALSE);
+        gtk_tree_view_set_search_column(view, -1);
         PlaceColumns(expansionTextAt);
         // All rows are as high as the first, so that none but the visible ones are measured.
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
@@ -94,6 +96,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         // Before the toolkit, whose own handling selects a row even for a press below the last.
         g_signal_connect(view, "event", G_CALLBACK(&AcronymListGtk::OnEvent), this);
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
+        Bind(wxEVT_CHAR, &AcronymListGtk::OnChar, this);
     }
 
     wxWindow& Window() override { return *this; }
@@ -117,12 +120,15 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
                                      : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
     }
 
-    void Select(std::int32_t row) override {
+    void SelectRow(std::int32_t row) override {
         quiet_ = true;
+        const double position = gtk_adjustment_get_value(Adjustment());
         GtkTreePath* const path = gtk_tree_path_new_from_indices(row, -1);
         // The cursor too, so that the keys of the list go on from here.
         gtk_tree_view_set_cursor(TreeView(), path, nullptr, FALSE);
         gtk_tree_path_free(path);
+        // Setting the cursor begins to scroll to it.
+        gtk_adjustment_set_value(Adjustment(), position);
         selected_ = row;
         quiet_ = false;
     }
@@ -154,13 +160,32 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         return std::max(1, area.height);
     }
 
+    [[nodiscard]] int HeightOfRows(int rows) const override {
+        GtkStyleContext* const style = gtk_widget_get_style_context(m_widget);
+        GtkBorder border;
+        GtkBorder padding;
+        gtk_style_context_get_border(style, gtk_style_context_get_state(style), &border);
+        gtk_style_context_get_padding(style, gtk_style_context_get_state(style), &padding);
+        return rows * RowHeight() + border.top + border.bottom + padding.top + padding.bottom;
+    }
+
+    [[nodiscard]] wxRect RowRect(std::int32_t row) const override {
+        const int height = RowHeight();
+        return {0, row * height - ScrollPosition(), GetClientSize().x, height};
+    }
+
     [[nodiscard]] std::int32_t RowAt(const wxPoint& point) const override {
         const std::int32_t row = (ScrollPosition() + point.y) / RowHeight();
         return point.y >= 0 && row < RowCount() ? row : -1;
     }
 
   protected:
-    [[nodiscard]] std::int32_t RowCount() const override { return model_->RowCount(); }
+    [[nodiscard]] const RowList* Rows() const override { return model_->Rows(); }
+
+    void SetBottomRow(std::int32_t row) override {
+        gtk_adjustment_set_value(Adjustment(), static_cast<double>(row + 1) * RowHeight() -
+                                                   gtk_adjustment_get_page_size(Adjustment()));
+    }
 
   private:
     [[nodiscard]] GtkTreeView* TreeView() const {
@@ -209,6 +234,15 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         return right ? TRUE : FALSE;
     }
 
+    // A blank that is typed into a text is no key of the tree view's.
+    void OnChar(wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_SPACE && !IsTyping()) {
+            event.Skip();
+        } else {
+            OnCharacter(event);
+        }
+    }
+
     void OnSelectionChanged(wxDataViewEvent& event) {
         if (quiet_) {
             return;
@@ -244,7 +278,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
     // Takes back what the toolkit did to the selection: a click with Ctrl clears it, too.
     void KeepSelection() {
         if (selected_ >= 0) {
-            Select(selected_);
+            SelectRow(selected_);
             return;
         }
         quiet_ = true;

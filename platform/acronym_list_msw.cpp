@@ -26,7 +26,8 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
         Bind(wxEVT_LIST_ITEM_DESELECTED, &AcronymListMsw::OnDeselected, this);
         Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
-        Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown);
+        Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown, this);
+        Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { OnCharacter(event); });
         Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
     }
@@ -47,7 +48,7 @@ class AcronymListMsw final : public wxListView, public AcronymList {
 
     [[nodiscard]] wxColour TextColour() const override { return GetTextColour(); }
 
-    void Select(std::int32_t row) override {
+    void SelectRow(std::int32_t row) override {
         quiet_ = true;  // the control tells of the change before it returns
         // Or else selecting walks all rows of a virtual list (seen with Wine 8).
         if (selected_ >= 0 && selected_ != row) {
@@ -81,14 +82,28 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         return static_cast<std::int32_t>(HitTest(point, flags));
     }
 
-  protected:
-    [[nodiscard]] std::int32_t RowCount() const override {
-        return rows_ == nullptr ? 0 : rows_->RowCount();
+    [[nodiscard]] int HeightOfRows(int rows) const override {
+        return rows * RowHeight() + GetSize().y - GetClientSize().y;
     }
+
+    [[nodiscard]] wxRect RowRect(std::int32_t row) const override {
+        wxRect area;
+        GetItemRect(row, area);
+        return area;
+    }
+
+  protected:
+    [[nodiscard]] const RowList* Rows() const override { return rows_; }
+
+    void SetBottomRow(std::int32_t row) override { EnsureVisible(row); }
 
     // The row found is what a person typing into the box looks at: it keeps the colours of a
     // selection while the list has not the focus, instead of a grey that hardly shows.
     bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override {
+        if (reinterpret_cast<const NMHDR*>(parameter)->code == LVN_ODFINDITEMW) {
+            *result = -1;  // no other row; or else the control would take it for the first one
+            return true;
+        }
         auto* const drawing = reinterpret_cast<NMLVCUSTOMDRAW*>(parameter);
         if (drawing->nmcd.hdr.code == NM_CUSTOMDRAW &&
             drawing->nmcd.dwDrawStage == CDDS_ITEMPREPAINT && !HasFocus() &&
@@ -124,17 +139,18 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         if (!quiet_) {
             CallAfter([this] {
                 if (selected_ >= 0 && !IsSelected(selected_)) {
-                    Select(selected_);
+                    SelectRow(selected_);
                 }
             });
         }
     }
 
     // A blank would open the entry, and so would Enter with whatever is held down with it.
-    static void OnKeyDown(wxKeyEvent& event) {
+    void OnKeyDown(wxKeyEvent& event) {
         const int key = event.GetKeyCode();
         const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
-        if (key != WXK_SPACE && !(enter && event.HasAnyModifiers())) {
+        const bool opens = (key == WXK_SPACE && !IsTyping()) || (enter && event.HasAnyModifiers());
+        if (!opens) {
             event.Skip();
         }
     }

@@ -2,7 +2,6 @@
 #include "ui/frmAbout.h"
 
 #include <wx/button.h>
-#include <wx/panel.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
@@ -15,6 +14,7 @@
 #include "ui/link.h"
 #include "ui/modGeneral.h"
 #include "ui/painted.h"
+#include "ui/surface.h"
 #include "ui/title_image.h"
 #include "ui/wx_text.h"
 
@@ -47,14 +47,15 @@ frmAbout::frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
     picAppTitle->Bind(wxEVT_LEFT_DOWN, &frmAbout::OnTitlePressed, this);
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { AnimateText(); });
     tmrAnimateText.StartOnce(kFirstTickMs);
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 void frmAbout::CreateControls() {
-    surface_ = new wxPanel(this);
-    picAppTitle = new PaintedPicture(
-        surface_, DrawTitleImage(*this, {units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)}));
+    surface_ = new Surface(this);
+    auto* const title = new TitleImage(surface_);
+    title->Fit({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
+    picAppTitle = title;
     lblDescription =
         new wxStaticText(surface_, wxID_ANY, "The best offline database of computer acronyms");
     lblVersion = new wxStaticText(surface_, wxID_ANY,
@@ -114,7 +115,7 @@ void frmAbout::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(LayoutOfTexts(), 0, wxEXPAND | wxALL, gap);
     all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*this, *surface_, all);
+    FillWindow(*surface_, all);
 }
 
 void frmAbout::AnimateText() {

@@ -13,12 +13,12 @@
 #include "ui/layout_units.h"
 
 class wxButton;
-class wxPanel;
 class wxSizer;
 class wxStaticText;
 
 namespace brelex {
 
+class Surface;
 class Link;
 class PaintedText;
 
@@ -44,7 +44,7 @@ class frmAbout final : public wxDialog {
     LayoutUnits units_;
     SlidingText slidingText_;
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxWindow* picAppTitle = nullptr;
     wxStaticText* lblDescription = nullptr;
     wxStaticText* lblVersion = nullptr;

@@ -8,13 +8,13 @@
 #include <wx/button.h>
 #include <wx/combobox.h>
 #include <wx/dcclient.h>
-#include <wx/panel.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
 #include "database/windows1252.h"
 #include "platform/accessible_name.h"
+#include "platform/prompt_button.h"
 #include "search/anagram.h"
 #include "ui/app_icon.h"
 #include "ui/artwork.h"
@@ -24,6 +24,7 @@
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
 #include "ui/scope.h"
+#include "ui/surface.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -54,7 +55,7 @@ class frmAnagram::Watcher final : public AnagramWatcher {
     void OnHit(std::int32_t row) override { window_.AddHit(row); }
 
     [[nodiscard]] bool OnProgress(int percent) override {
-        window_.lstAnagrams->SetRows(window_.rows_);
+        window_.ShowNewHits();
         window_.ShowPercentDone(percent);
         LetPendingEventsRun();
         return window_.IsShown();
@@ -78,14 +79,15 @@ frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
     NameControls();
     BindEvents();
     textLimit_->Set(static_cast<std::size_t>(std::max(values_.Header.MaxAbbrvLength, 0)));
-    OnLettersChanged();
+    ShowLetters();
     PlaceControls();
     DrawColumnHeader();
+    KeepCentered(*this, main_);
 }
 
 // In the order in which the TAB key visits them.
 void frmAnagram::CreateControls() {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     lblOverview = new wxStaticText(surface_, wxID_ANY, wxString::Format(kOverview, kAppTitle));
     lblPrompt = new wxStaticText(surface_, wxID_ANY,
                                  wxString::Format("&Type the letters (minimum 2 - maximum %d):",
@@ -105,7 +107,9 @@ void frmAnagram::CreateControls() {
     lstAnagrams = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
     lstAnagrams->SetRows(rows_);
     cmdSearch->SetDefault();
+    ActAtOnceOnKeys(*cmdSearch);
     SetEscapeId(cmdCancel->GetId());
+    heldEnter_.emplace(*this);
 }
 
 void frmAnagram::NameControls() {
@@ -171,9 +175,10 @@ void frmAnagram::PlaceControls() {
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     wxWindow& list = lstAnagrams->Window();
-    list.SetMinSize({-1, px(kListHeight)});
+    // The list ends between two rows.
+    list.SetMinSize({-1, lstAnagrams->HeightOfRows(lstAnagrams->RowsIn(px(kListHeight)))});
     all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*this, *surface_, all, width);
+    FillWindow(*surface_, all, width);
 }
 
 void frmAnagram::BindEvents() {
@@ -245,6 +250,12 @@ std::u32string frmAnagram::TypedLetters() const {
 }
 
 void frmAnagram::OnLettersChanged() {
+    if (textChange_.IsNew(cboLetters->GetValue())) {
+        ShowLetters();
+    }
+}
+
+void frmAnagram::ShowLetters() {
     const std::u32string letters = TypedLetters();
     lblWordLen->SetLabelText(std::to_string(letters.size()));
     cmdSearch->Enable(letters.size() >= kFewestLetters);
@@ -256,7 +267,19 @@ void frmAnagram::OnLettersChanged() {
 void frmAnagram::ClearHits() {
     rows_.Clear();
     recordNumbers_.clear();
+    ShowHits();
+}
+
+void frmAnagram::ShowHits() {
     lstAnagrams->SetRows(rows_);
+    shownHits_ = rows_.RowCount();
+}
+
+// Setting the rows anew takes a while, and mostly there are no new ones.
+void frmAnagram::ShowNewHits() {
+    if (rows_.RowCount() != shownHits_) {
+        ShowHits();
+    }
 }
 
 void frmAnagram::RunSearch() {
@@ -278,16 +301,19 @@ void frmAnagram::RunSearch() {
 }
 
 void frmAnagram::PrepareForSearch() {
+    heldEnter_->SearchBegins();
     ClearHits();
     lstAnagrams->SetTextColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     ShowPercentDone(0);
     AddToComboHistory(*cboLetters);
+    (void)textChange_.IsNew(cboLetters->GetValue());
     isSearching_ = true;
     EnableInput(false);
     ShowBusyAnimation(true);
 }
 
 void frmAnagram::ReturnToIdle() {
+    heldEnter_->SearchEnds();
     EnableInput(true);
     isSearching_ = false;
     ShowBusyAnimation(false);
@@ -297,12 +323,12 @@ void frmAnagram::PresentHits() {
     if (!IsShown()) {
         return;  // the program ends
     }
-    lstAnagrams->SetRows(rows_);
+    ShowNewHits();
     lblPercentDone->SetLabelText("Found " + std::to_string(rows_.RowCount()));
     wxWindow& list = lstAnagrams->Window();
     if (rows_.RowCount() > 0) {
         list.SetToolTip("Double-click an entry to go to the record");
-        lstAnagrams->Select(0);
+        lstAnagrams->SelectRow(0);
         list.SetFocus();
         return;
     }
@@ -310,7 +336,7 @@ void frmAnagram::PresentHits() {
     lstAnagrams->SetTextColour(wxColour(255, 0, 0));
     rows_.Add(" None Found!");
     recordNumbers_.push_back(0);
-    lstAnagrams->SetRows(rows_);
+    ShowHits();
     SelectAllText(*cboLetters);
     cboLetters->SetFocus();
 }

@@ -13,17 +13,19 @@
 #include "platform/acronym_list.h"
 #include "search/copied_rows.h"
 #include "ui/combo_box.h"
+#include "ui/held_enter.h"
 #include "ui/layout_units.h"
+#include "ui/text_change.h"
 #include "ui/wx_message_sink.h"
 
 class wxButton;
 class wxComboBox;
-class wxPanel;
 class wxSizer;
 class wxStaticText;
 
 namespace brelex {
 
+class Surface;
 class BusyAnimation;
 
 /// The window "Anagrammatic Search". It is hidden, never destroyed, while the program runs: its
@@ -58,6 +60,7 @@ class frmAnagram final : public wxDialog {
 
     [[nodiscard]] std::u32string TypedLetters() const;
     void OnLettersChanged();
+    void ShowLetters();
     void RunSearch();
     void PrepareForSearch();
     void ReturnToIdle();
@@ -65,6 +68,8 @@ class frmAnagram final : public wxDialog {
     void AddHit(std::int32_t row);
     void ShowPercentDone(int percent);
     void ClearHits();
+    void ShowHits();
+    void ShowNewHits();
     void EnableInput(bool enable);
     void GoToSelectedRecord();
     void HideWindow();
@@ -80,9 +85,12 @@ class frmAnagram final : public wxDialog {
     LayoutUnits units_;
     CopiedRows rows_;
     std::vector<std::int32_t> recordNumbers_;  // of the rows, 1-based; 0 for what is no record
+    std::int32_t shownHits_ = 0;
+    std::optional<HeldEnter> heldEnter_;
+    TextChange textChange_;
     bool isSearching_ = false;
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxStaticText* lblOverview = nullptr;
     wxStaticText* lblPrompt = nullptr;
     wxComboBox* cboLetters = nullptr;

@@ -5,7 +5,6 @@
 
 #include <wx/button.h>
 #include <wx/dcclient.h>
-#include <wx/panel.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
@@ -23,6 +22,7 @@
 #include "ui/pending_events.h"
 #include "ui/progress_bar.h"
 #include "ui/scope.h"
+#include "ui/surface.h"
 
 namespace brelex {
 
@@ -84,12 +84,12 @@ frmCheckData::frmCheckData(wxTopLevelWindow* main, const ProgramValues& values,
     NameControls();
     PlaceControls();
     BindEvents();
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdCheck->SetFocus();
 }
 
 void frmCheckData::CreateControls() {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     lblExplanation_ = new wxStaticText(surface_, wxID_ANY, kExplanation);
     lblMessage = new wxStaticText(surface_, wxID_ANY, kIdle, wxDefaultPosition, wxDefaultSize,
                                   wxST_NO_AUTORESIZE);
@@ -146,7 +146,7 @@ void frmCheckData::PlaceControls() {
     all->Add(picProgbar, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(resultArea_, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*this, *surface_, all, px(kInnerWidth));
+    FillWindow(*surface_, all, px(kInnerWidth));
 }
 
 void frmCheckData::BindEvents() {
@@ -217,8 +217,8 @@ void frmCheckData::ReturnToIdle() {
         lblMessage->SetLabelText(kIdle);
     }
     cmdCheck->Enable();
-    if (IsShown() && cmdCancel->HasFocus()) {
-        cmdCheck->SetFocus();
+    if (IsShown()) {
+        cmdCheck->SetFocus();  // a disabled control could not keep it
     }
 }
 

@@ -10,12 +10,12 @@
 #include "ui/wx_message_sink.h"
 
 class wxButton;
-class wxPanel;
 class wxStaticBitmap;
 class wxStaticText;
 
 namespace brelex {
 
+class Surface;
 class ProgressBar;
 
 /// The window "Check Data Integrity". It is made for one use.
@@ -53,7 +53,7 @@ class frmCheckData final : public wxDialog {
     LayoutUnits units_;
     bool saysAborted_ = false;  // when the check has ended
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxStaticText* lblExplanation_ = nullptr;
     wxStaticText* lblMessage = nullptr;
     ProgressBar* picProgbar = nullptr;

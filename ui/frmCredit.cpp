@@ -48,7 +48,7 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     SetClientSize(std::max(units.Pixels(kWidth), picAbout->LinesWidth()), units.Pixels(kHeight));
     picAbout->SetSize(GetClientSize());
     Bind(wxEVT_CHAR_HOOK, &frmCredit::OnKey, this);
-    CenterWindow(*this, *about);
+    KeepCentered(*this, *about);
 }
 
 void frmCredit::EndModal(int result) {

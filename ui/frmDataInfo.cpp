@@ -5,7 +5,6 @@
 
 #include <wx/button.h>
 #include <wx/dcclient.h>
-#include <wx/panel.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/statline.h>
@@ -15,6 +14,7 @@
 #include "platform/accessible_name.h"
 #include "ui/app_icon.h"
 #include "ui/modGeneral.h"
+#include "ui/surface.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -36,12 +36,12 @@ frmDataInfo::frmDataInfo(wxTopLevelWindow* main, const ProgramValues& values)
     CreateControls(StatisticsOf(values));
     PlaceControls();
     surface_->Bind(wxEVT_PAINT, &frmDataInfo::OnPaint, this);
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     imgAppIcon = new wxStaticBitmap(surface_, wxID_ANY, AppIcon(kIconSize));
     SetNames(*imgAppIcon, "imgAppIcon", kAppTitle);
     lblTitle = new wxStaticText(surface_, wxID_ANY, "Database Info");
@@ -136,7 +136,7 @@ void frmDataInfo::PlaceControls() {
     all->Add(LayoutOfTitle(), 0, wxEXPAND | wxALL, gap);
     all->Add(figures_, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(end, 0, wxEXPAND | wxALL, gap);
-    FillWindow(*this, *surface_, all);
+    FillWindow(*surface_, all);
 }
 
 void frmDataInfo::OnPaint(wxPaintEvent& /*event*/) {

@@ -8,13 +8,13 @@
 
 class wxButton;
 class wxFlexGridSizer;
-class wxPanel;
 class wxSizer;
 class wxStaticBitmap;
 class wxStaticText;
 
 namespace brelex {
 
+class Surface;
 struct DatabaseStatistics;
 struct Statistic;
 
@@ -36,7 +36,7 @@ class frmDataInfo final : public wxDialog {
     LayoutUnits units_;
     int captionWidth_ = 0;
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxSizer* figures_ = nullptr;
     wxStaticBitmap* imgAppIcon = nullptr;
     wxStaticText* lblTitle = nullptr;

@@ -44,7 +44,7 @@ frmDonation::frmDonation(wxTopLevelWindow* main, const AppInfo& info,
     CreateControls();
     PlaceControls();
     cmdDonate->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OpenDonationPage(); });
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdDonate->SetFocus();
 }
 

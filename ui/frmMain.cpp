@@ -9,8 +9,6 @@
 #include <wx/app.h>
 #include <wx/dcclient.h>
 #include <wx/dialog.h>
-#include <wx/panel.h>
-#include <wx/statbmp.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
@@ -37,6 +35,7 @@
 #include "ui/pending_events.h"
 #include "ui/scope.h"
 #include "ui/side_windows.h"
+#include "ui/surface.h"
 #include "ui/title_image.h"
 #include "ui/toolbar.h"
 #include "ui/wx_text.h"
@@ -53,6 +52,7 @@ constexpr double kTitleWidth = 190;
 constexpr double kStatusFrameHeight = 18;
 constexpr double kHintWidth = 450;
 
+constexpr int kFewestRows = 6;
 constexpr int kCommandDelayMs = 500;
 
 bool IsModalDialog(const wxWindow* window) {
@@ -156,16 +156,20 @@ frmMain::frmMain(ProgramValues& values, RecordStore& store)
     SetIcons(AppIcons());
     SetMenuBar(CreateMainMenus());
     CreateControls();
-    PlaceControls();
     BindEvents();
     txtAbbrv->SetFocus();
 }
 
+// The controls go first: as they go they still report what happens to them.
+frmMain::~frmMain() {
+    DestroyChildren();
+}
+
 void frmMain::CreateControls() {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     picToolbar = new Toolbar(surface_, units_, EventsOfToolbar());
     lblAppTitle = new Backdrop(surface_);
-    imgAppTitle = new wxStaticBitmap(lblAppTitle, wxID_ANY, wxBitmap(1, 1));
+    imgAppTitle = new TitleImage(lblAppTitle);
     lblInstruction = new wxStaticText(
         surface_, wxID_ANY,
         "&Type the first few letters of the acronym/abbreviation you are looking for:");
@@ -193,34 +197,30 @@ void frmMain::CreateControls() {
 
 void frmMain::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
-    SetClientSize(px(kInnerWidth), px(kInnerHeight));
-    const wxSize inner(px(kInnerWidth), px(kInnerHeight));
-    surface_->SetSize(inner);
-
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
+    const wxSize instruction = lblInstruction->GetBestSize();
+    const int width = std::max(px(kInnerWidth), boxLeft + instruction.x + margin);
+    // Of a height that the screen does not have, the list goes without.
+    const int height = std::min(px(kInnerHeight), LargestInside(*this).y);
+    const wxSize inner(width, height);
     picToolbar->SetSize(0, 0, inner.x, picToolbar->GetBestSize().y);
     const int top = picToolbar->GetSize().y;
-    const int boxTop = top + lblInstruction->GetBestSize().y + px(3);
+    const int boxTop = top + instruction.y + px(3);
     // The toolkit's best height does not always follow a large font (seen with GTK 3.24).
     const int boxHeight = std::max(txtAbbrv->GetBestSize().y, txtAbbrv->GetCharHeight() + px(11));
-    lblInstruction->SetSize(boxLeft, top, inner.x - boxLeft - margin,
-                            lblInstruction->GetBestSize().y);
+    lblInstruction->SetSize(boxLeft, top, inner.x - boxLeft - margin, instruction.y);
     txtAbbrv->SetSize(boxLeft, boxTop, inner.x - boxLeft - margin, boxHeight);
     lblAppTitle->SetSize(margin, top, px(kTitleWidth), boxTop + boxHeight - top);
 
     const int listTop = boxTop + boxHeight + margin + px(kColumnHeaderHeight);
-    const int listBottom = inner.y - px(kStatusFrameHeight + 2) - margin;
-    lstAcronyms->Window().SetSize(margin, listTop, inner.x - 2 * margin, listBottom - listTop);
-}
-
-// Ends the list, and the window with it, between two rows.
-void frmMain::ShowWholeRows() {
-    wxWindow& list = lstAcronyms->Window();
-    const int rest = list.GetClientSize().y % lstAcronyms->RowHeight();
-    list.SetSize(list.GetSize() - wxSize(0, rest));
-    SetClientSize(GetClientSize() - wxSize(0, rest));
-    surface_->SetSize(GetClientSize());
+    const int belowList = px(kStatusFrameHeight + 2) + margin;
+    // The list, and the window with it, ends between two rows.
+    const int rows = std::max(lstAcronyms->RowsIn(inner.y - belowList - listTop), kFewestRows);
+    const int listHeight = lstAcronyms->HeightOfRows(rows);
+    lstAcronyms->Window().SetSize(margin, listTop, inner.x - 2 * margin, listHeight);
+    inner_ = {inner.x, listTop + listHeight + belowList};
+    surface_->FillWindow(inner_);
 }
 
 void frmMain::DrawColumnHeader() {
@@ -232,9 +232,8 @@ void frmMain::DrawColumnHeader() {
 
 void frmMain::LayoutStatusBar() {
     const auto px = [this](double units) { return units_.Pixels(units); };
-    const wxSize inner = surface_->GetSize();
     const int height = px(kStatusFrameHeight);
-    const int top = inner.y - height - px(2);
+    const int top = inner_.y - height - px(2);
     int x = px(1);
     const auto place = [&](wxStaticText& label, int width) {
         AddFrame(x, top, width, height);
@@ -245,7 +244,7 @@ void frmMain::LayoutStatusBar() {
     place(*lblRecNumber, lblAppTitle->GetSize().x);
     lblDescription->SetLabelText(wxEmptyString);
     place(*lblDescription, px(kHintWidth));
-    place(*lblRecCount, inner.x - x - px(2));
+    place(*lblRecCount, inner_.x - x - px(2));
     lblRecCount->SetLabelText(
         WxText(FormatGrouped(values_.RecordCount, values_.groupSeparator) + " entries"));
 }
@@ -253,12 +252,9 @@ void frmMain::LayoutStatusBar() {
 void frmMain::PlaceTitleImage() {
     const wxRect label = lblAppTitle->GetRect();
     const int inset = units_.Pixels(6);
-    const wxBitmap image =
-        DrawTitleImage(*surface_, {label.width - 2 * inset, label.height - 2 * inset});
-    imgAppTitle->SetBitmap(image);
-    imgAppTitle->SetSize((label.width - image.GetWidth()) / 2 + 1,
-                         (label.height - image.GetHeight()) / 2 + 1, image.GetWidth(),
-                         image.GetHeight());
+    imgAppTitle->Fit({label.width - 2 * inset, label.height - 2 * inset});
+    const wxSize image = imgAppTitle->GetSize();
+    imgAppTitle->Move((label.width - image.x) / 2 + 1, (label.height - image.y) / 2 + 1);
     // Round the label, which covers what is drawn under it.
     AddFrame(label.x - 1, label.y - 1, label.width + 1, label.height + 1);
 }
@@ -306,8 +302,8 @@ void frmMain::BindListEvents() {
         lookup_.IsNavigating = wasNavigating;
     };
     lstAcronyms->onEnter = [this] { OpenEntryViewer(); };
-    lstAcronyms->onRightPress = [this](std::int32_t row) { ShowListMenu(row); };
-    lstAcronyms->onMenuKey = [this] { ShowListMenu(SelectedRow()); };
+    lstAcronyms->onRightPress = [this](std::int32_t row) { ShowListMenuAtMouse(row); };
+    lstAcronyms->onMenuKey = [this] { ShowListMenuAtRow(); };
     lstAcronyms->Window().Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         lookup_.OnListGotFocus();
         event.Skip();
@@ -367,7 +363,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     }
     values_.LoadingTime = LoadingTimeBetween(before, surroundings.secondsSinceMidnight());
     lstAcronyms->SetRows(store_);
-    ShowWholeRows();
+    PlaceControls();
     SetTitle(WxText(std::string(kAppTitle) + " (" + ShownAddress(values_.info.homePage) + ")"));
     DrawColumnHeader();
     LayoutStatusBar();
@@ -526,6 +522,7 @@ void frmMain::UnloadOtherForms() {
 
 void frmMain::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
+    surface_->DoPrepareDC(dc);
     for (const wxRect& frame : frames_) {
         Draw3DFrame(dc, frame);
     }
@@ -696,6 +693,10 @@ void frmMain::OnIconize(wxIconizeEvent& event) {
 void frmMain::OnShow(wxShowEvent& event) {
     if (event.IsShown()) {
         CatchUpWithSystem();
+        // The desktop forgets the band that a window was in when it hides (GTK on X11).
+        if (IsStayOnTop && !IsModalOpen) {
+            SetTopMost(*this, true);
+        }
     }
     TrayMenuChanged();
     event.Skip();
@@ -745,12 +746,27 @@ void frmMain::ActivateWindow() {
     }
 }
 
-void frmMain::ShowListMenu(std::int32_t row) {
+// Where the mouse is the row is seen, and must stay under it.
+void frmMain::ShowListMenuAtMouse(std::int32_t row) {
+    ShowListMenu(row, [this] { PopupMenu(CreateListMenu().get()); });
+}
+
+void frmMain::ShowListMenuAtRow() {
+    const std::int32_t row = SelectedRow();
+    lstAcronyms->ScrollIntoView(row);
+    ShowListMenu(row, [this, row] {
+        const wxPoint place = lstAcronyms->RowRect(row).GetBottomLeft() + wxPoint(FromDIP(16), 0);
+        PopupMenu(CreateListMenu().get(),
+                  ScreenToClient(lstAcronyms->Window().ClientToScreen(place)));
+    });
+}
+
+void frmMain::ShowListMenu(std::int32_t row, const std::function<void()>& popUp) {
     if (isListMenuOpen_ || IsModalOpen) {
         return;
     }
     isListMenuOpen_ = true;
-    SelectRow(row);
+    lstAcronyms->SelectRow(row);
     lstAcronyms->Window().SetFocus();
     const wxWeakRef<frmMain> self(this);
     LetPendingEventsRun();
@@ -759,7 +775,7 @@ void frmMain::ShowListMenu(std::int32_t row) {
     }
     if (!IsBeingDeleted() && !IsModalOpen) {
         lookup_.OnListMenu();
-        PopupMenu(CreateListMenu().get());
+        popUp();
     }
     if (self) {
         isListMenuOpen_ = false;
@@ -777,12 +793,8 @@ std::int32_t frmMain::SelectedRow() const {
 }
 
 void frmMain::SelectRow(std::int32_t row) {
-    lstAcronyms->Select(row);
-    const std::int32_t top = lstAcronyms->TopRow();
-    const std::int32_t page = lstAcronyms->RowsPerPage();
-    if (row < top || row >= top + page) {
-        lstAcronyms->SetTopRow(row);
-    }
+    lstAcronyms->SelectRow(row);
+    lstAcronyms->ScrollIntoView(row);
 }
 
 void frmMain::SetTopRow(std::int32_t row) {

@@ -23,16 +23,16 @@
 #include "ui/wx_message_sink.h"
 
 class wxClipboardTextEvent;
-class wxPanel;
-class wxStaticBitmap;
 class wxStaticText;
 class wxTextCtrl;
 
 namespace brelex {
 
+class Surface;
 class frmAnagram;
 class frmSearch;
 class frmSplash;
+class TitleImage;
 class Toolbar;
 struct ToolbarEvents;
 
@@ -52,6 +52,9 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
   public:
     /// `values` and `store` must outlive the window. `store` is still empty; Load fills it.
     frmMain(ProgramValues& values, RecordStore& store);
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
+    ~frmMain() override;
 
     /// Loads the database, reporting to the splash window, and gets the window ready to be shown.
     /// Returns false, after telling the user, if the database cannot be loaded.
@@ -79,7 +82,6 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
 
     void CreateControls();
     void PlaceControls();
-    void ShowWholeRows();
     void DrawColumnHeader();
     void LayoutStatusBar();
     void PlaceTitleImage();
@@ -114,7 +116,9 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void OnShow(wxShowEvent& event);
     void OnActivate(wxActivateEvent& event);
     void CatchUpWithSystem();
-    void ShowListMenu(std::int32_t row);
+    void ShowListMenu(std::int32_t row, const std::function<void()>& popUp);
+    void ShowListMenuAtMouse(std::int32_t row);
+    void ShowListMenuAtRow();
     void OnCheckCommand(wxTimerEvent& event);
 
     /// Passes a pending change of the box's text on to the lookup.
@@ -150,6 +154,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     LookupBox lookup_;
     LayoutUnits units_;
     std::string commandLine_;
+    wxSize inner_;                // of all that the window shows, in pixels
     std::vector<wxRect> frames_;  // the sunken frames that OnPaint draws
     bool boxChangePending_ = false;
     bool isListMenuOpen_ = false;
@@ -169,10 +174,10 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::unique_ptr<TrayIcon> trayIcon_;
     std::unique_ptr<ActivationHotKey> hotKey_;
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     Toolbar* picToolbar = nullptr;
     wxWindow* lblAppTitle = nullptr;
-    wxStaticBitmap* imgAppTitle = nullptr;
+    TitleImage* imgAppTitle = nullptr;
     wxStaticText* lblInstruction = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
     wxWindow* lblColHeaderBack = nullptr;

@@ -11,7 +11,6 @@
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
 #include <wx/dcclient.h>
-#include <wx/panel.h>
 #include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
@@ -23,6 +22,7 @@
 #include "platform/accessible_name.h"
 #include "platform/fine_timer.h"
 #include "platform/paint_now.h"
+#include "platform/prompt_button.h"
 #include "platform/text_columns.h"
 #include "search/database_search.h"
 #include "search/search_list.h"
@@ -35,6 +35,7 @@
 #include "ui/modGeneral.h"
 #include "ui/pending_events.h"
 #include "ui/scope.h"
+#include "ui/surface.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -121,14 +122,17 @@ frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     DrawColumnHeader();
     ResetStatus();
     ShowResultArea(false);
+    KeepCentered(*this, main_);
 }
 
 void frmSearch::CreateControls() {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     CreateFrames();
     CreateResultArea();
     cmdSearch->SetDefault();
+    ActAtOnceOnKeys(*cmdSearch);
     SetEscapeId(cmdCancel->GetId());
+    heldEnter_.emplace(*this);
 }
 
 // In the order in which the TAB key visits them. The buttons in a frame are its siblings: from
@@ -258,9 +262,8 @@ void frmSearch::PlaceControls() {
     const wxSize needed = all->GetMinSize();
     const int width = std::max(px(kInnerWidth), needed.x);
     ExpandedHeight = needed.y;
-    SetClientSize(width, ExpandedHeight);
-    surface_->SetSize(width, ExpandedHeight);
-    surface_->Layout();
+    surface_->FillWindow({width, ExpandedHeight});
+    innerWidth_ = width;
     ShrunkHeight = lblColHeaderBack->GetPosition().y + px(kShrunkMargin);
 }
 
@@ -328,6 +331,7 @@ void frmSearch::OnPaint(wxPaintEvent& /*event*/) {
 
 void frmSearch::ShowSearchWindow() {
     CenterWindow(*this, main_);
+    lblCount->SetLabelText(wxEmptyString);  // of a search that was running when the window closed
     cboSearchWhat->SetFocus();
     ShowModal();
 }
@@ -341,10 +345,7 @@ void frmSearch::ShowResultArea(bool show) {
     // What is out of sight must not be reached with the TAB key either.
     lblColHeaderBack->Show(show);
     txtSearchResult->Show(show);
-    const wxSize inner(GetClientSize().x, show ? ExpandedHeight : ShrunkHeight);
-    SetClientSize(inner);
-    surface_->SetSize(inner);
-    surface_->Layout();
+    surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});
     surface_->Refresh();
     CenterWindow(*this, main_);
 }
@@ -380,6 +381,9 @@ void frmSearch::OnClose(wxCloseEvent& event) {
 }
 
 void frmSearch::OnSearchTextChanged() {
+    if (!textChange_.IsNew(cboSearchWhat->GetValue())) {
+        return;
+    }
     cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
     chkNextSearch->Disable();
 }
@@ -429,6 +433,7 @@ bool frmSearch::SearchAndPresent(const SearchRequest& request) {
 }
 
 void frmSearch::PrepareForSearch() {
+    heldEnter_->SearchBegins();
     EnableInput(false);
     ClearResults();
     lblStatus->SetLabelText(kSearchingText);
@@ -444,6 +449,7 @@ void frmSearch::PrepareForSearch() {
     chkNextSearch->Disable();
     AddToComboHistory(*cboSearchWhat);
     LastSearchText = cboSearchWhat->GetValue();
+    (void)textChange_.IsNew(LastSearchText);
     if (!ResultAreaShown) {
         ShowResultArea(true);
     }
@@ -494,6 +500,7 @@ void frmSearch::ShowHits(std::int32_t hits) {
 }
 
 void frmSearch::ReturnToIdle() {
+    heldEnter_->SearchEnds();
     ShowBusyAnimation(false);
     if (lblStatus->GetLabelText() == kSearchingText) {  // there is no result
         lblStatus->SetLabelText(kReadyText);

@@ -11,14 +11,15 @@
 #include "database/program_values.h"
 #include "search/search_request.h"
 #include "ui/combo_box.h"
+#include "ui/held_enter.h"
 #include "ui/layout_units.h"
+#include "ui/text_change.h"
 #include "ui/wx_message_sink.h"
 
 class wxBitmapButton;
 class wxButton;
 class wxCheckBox;
 class wxComboBox;
-class wxPanel;
 class wxRadioButton;
 class wxSizer;
 class wxStaticBox;
@@ -27,6 +28,7 @@ class wxTextCtrl;
 
 namespace brelex {
 
+class Surface;
 class BusyAnimation;
 class ColumnHeader;
 struct SearchOutcome;
@@ -89,9 +91,12 @@ class frmSearch final : public wxDialog {
     ProgramValues& values_;
     WxMessageSink messages_;
     LayoutUnits units_;
+    std::optional<HeldEnter> heldEnter_;
+    TextChange textChange_;
+    int innerWidth_ = 0;        // in pixels
     bool cancelStops_ = false;  // the tag of cmdCancel: "Stop", not "Cancel"
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxWindow* statusArea_ = nullptr;
     wxStaticText* lblPrompt_ = nullptr;
     wxComboBox* cboSearchWhat = nullptr;

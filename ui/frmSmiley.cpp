@@ -60,7 +60,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     txtReadme->SetInsertionPoint(0);
     ShowAppInfoOnMenuRequest(*txtReadme, info);
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdClose->SetFocus();
 }
 

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <wx/bmpbuttn.h>
-#include <wx/panel.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -16,6 +15,7 @@
 #include "ui/app_icon.h"
 #include "ui/artwork.h"
 #include "ui/modGeneral.h"
+#include "ui/surface.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -54,13 +54,13 @@ frmViewEntry::frmViewEntry(wxTopLevelWindow* main, std::function<std::string_vie
     PlaceControls();
     BindEvents(info);
     ShowEntry();
-    CenterWindow(*this, *main);
+    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 // In the order in which the TAB key visits them.
 void frmViewEntry::CreateControls() {
-    surface_ = new wxPanel(this);
+    surface_ = new Surface(this);
     lblAbbreviation_ = new wxStaticText(surface_, wxID_ANY, "&Abbreviation:");
     txtAbbrv = new ReadOnlyLine(surface_);
     lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
@@ -120,7 +120,7 @@ void frmViewEntry::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(entry, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*this, *surface_, all, units_.Pixels(kInnerWidth));
+    FillWindow(*surface_, all, units_.Pixels(kInnerWidth));
 }
 
 void frmViewEntry::BindEvents(const AppInfo& info) {

@@ -10,12 +10,13 @@
 #include "ui/layout_units.h"
 
 class wxButton;
-class wxPanel;
 class wxSizer;
 class wxStaticText;
 class wxTextCtrl;
 
 namespace brelex {
+
+class Surface;
 
 /// The window "Current Selection (Read Only)", which shows one entry. It is made for one use.
 class frmViewEntry final : public wxDialog {
@@ -39,7 +40,7 @@ class frmViewEntry final : public wxDialog {
     std::function<std::string_view()> selectedEntry_;
     LayoutUnits units_;
 
-    wxPanel* surface_ = nullptr;
+    Surface* surface_ = nullptr;
     wxStaticText* lblAbbreviation_ = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
     wxStaticText* lblAbbrLen = nullptr;

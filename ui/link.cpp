@@ -4,20 +4,26 @@
 #include <utility>
 
 #include <wx/dcclient.h>
-#include <wx/renderer.h>
 #include <wx/settings.h>
 
 namespace brelex {
 
 namespace {
 
-constexpr int kFocusMargin = 2;  // pixels
+// In pixels at 96 dots per inch.
+constexpr int kFocusMark = 2;
+constexpr int kFocusMargin = 4;
 
 // Not the system's colour for links: themes have some that cannot be read (seen with GTK 3.24 and
 // Wine 8).
 wxColour LinkColour() {
     return wxSystemSettings::GetAppearance().IsUsingDarkBackground() ? wxColour(120, 174, 237)
                                                                      : wxColour(0, 80, 180);
+}
+
+bool IsOpeningKey(const wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    return key == WXK_SPACE || key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
 }
 
 }  // namespace
@@ -56,8 +62,13 @@ void Link::BindEvents() {
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { SetHot(false); });
     // Before the dialog sees the key and takes Enter for its button.
     Bind(wxEVT_CHAR_HOOK, &Link::OnKey, this);
+    Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
+        isKeyDown_ = isKeyDown_ && !IsOpeningKey(event);
+        event.Skip();
+    });
     for (const wxEventTypeTag<wxFocusEvent>& type : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS}) {
         Bind(type, [this](wxFocusEvent& event) {
+            isKeyDown_ = false;  // it may be released elsewhere
             Refresh();
             event.Skip();
         });
@@ -68,7 +79,8 @@ wxSize Link::DoGetBestClientSize() const {
     // Letters may come out a little wider than they were measured (seen with Wine 8).
     const wxSize inner = text_.empty() ? picture_.GetPreferredLogicalSizeFor(this)
                                        : GetTextExtent(text_) + wxSize(GetCharWidth(), 0);
-    return inner + wxSize(2 * kFocusMargin, 2 * kFocusMargin);
+    const int margin = FromDIP(kFocusMargin);
+    return inner + wxSize(2 * margin, 2 * margin);
 }
 
 // While the mouse is captured, a button was pressed here and has not been released yet.
@@ -94,13 +106,11 @@ void Link::OnMouse(wxMouseEvent& event) {
     }
 }
 
-// A key that is held opens once.
+// A key that is held opens once. GTK does not tell whether a key repeats.
 void Link::OnKey(wxKeyEvent& event) {
-    const int key = event.GetKeyCode();
-    const bool opens = key == WXK_SPACE || key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
-    if (!opens || event.HasAnyModifiers()) {
+    if (!IsOpeningKey(event) || event.HasAnyModifiers()) {
         event.Skip();
-    } else if (!event.IsAutoRepeat()) {
+    } else if (!std::exchange(isKeyDown_, true)) {
         open_();
     }
 }
@@ -116,19 +126,23 @@ void Link::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     Draw(dc);
     if (HasFocus()) {
-        wxRendererNative::Get().DrawFocusRect(this, dc, GetClientRect());
+        // The system's own mark is a pale dotted line that hardly shows, least of all on a picture.
+        dc.SetPen(wxPen(LinkColour(), FromDIP(kFocusMark)));
+        dc.SetBrush(*wxTRANSPARENT_BRUSH);
+        dc.DrawRectangle(GetClientRect().Deflate(FromDIP(kFocusMark) / 2));
     }
 }
 
 void Link::Draw(wxDC& dc) const {
+    const int margin = FromDIP(kFocusMargin);
     if (text_.empty()) {
-        dc.DrawBitmap(picture_.GetBitmapFor(this), kFocusMargin, kFocusMargin);
+        dc.DrawBitmap(picture_.GetBitmapFor(this), margin, margin);
     } else {
         wxFont font = GetFont();
         font.SetUnderlined(isHot_);
         dc.SetFont(font);
         dc.SetTextForeground(LinkColour());
-        dc.DrawText(text_, kFocusMargin, kFocusMargin);
+        dc.DrawText(text_, margin, margin);
     }
 }
 

@@ -40,7 +40,8 @@ class Link final : public wxWindow {
     wxBitmapBundle picture_;
     std::function<void()> open_;
     bool isHot_ = false;
-    wxPoint mouse_;  // where it was last
+    bool isKeyDown_ = false;  // one that opens
+    wxPoint mouse_;           // where it was last
 };
 
 }  // namespace brelex

@@ -16,6 +16,8 @@
 #include <wx/utils.h>
 
 #include "database/record_text.h"
+#include "platform/window_place.h"
+#include "ui/surface.h"
 #include "ui/wx_message_sink.h"
 #include "ui/wx_text.h"
 
@@ -53,7 +55,12 @@ void DrawFrameRound(wxDC& dc, const wxRect& area, int above) {
 
 void SetTopMost(wxTopLevelWindow& window, bool topMost) {
     const long style = window.GetWindowStyleFlag();
-    window.SetWindowStyleFlag(topMost ? style | wxSTAY_ON_TOP : style & ~wxSTAY_ON_TOP);
+    // Afresh also if it should be there: where hiding takes a window out of the band the toolkit
+    // takes no notice of it (GTK on X11).
+    window.SetWindowStyleFlag(style & ~wxSTAY_ON_TOP);
+    if (topMost) {
+        window.SetWindowStyleFlag(style | wxSTAY_ON_TOP);
+    }
 }
 
 void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText) {
@@ -123,19 +130,22 @@ bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
     return true;
 }
 
-void FillWindow(wxTopLevelWindow& window, wxWindow& surface, wxSizer* content, int width) {
+void FillWindow(Surface& surface, wxSizer* content, int width) {
     surface.SetSizer(content);
     const wxSize size = content->GetMinSize();
-    window.SetClientSize(width == 0 ? size.x : width, size.y);
-    surface.SetSize(window.GetClientSize());
-    surface.Layout();
+    surface.FillWindow({width == 0 ? size.x : width, size.y});
 }
 
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     const bool onScreen = main.IsIconized() || !main.IsShown();
-    const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : main.GetScreenRect();
-    const wxSize size = window.GetSize();
-    window.Move(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2);
+    const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : FrameOf(main);
+    const wxSize size = FrameSizeOf(window);
+    MoveFrame(window, {area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2});
+}
+
+void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
+    CenterWindow(window, main);
+    OnEachMapping(window, [&window, &main] { CenterWindow(window, main); });
 }
 
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info) {

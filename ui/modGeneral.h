@@ -19,6 +19,8 @@ class wxWindow;
 
 namespace brelex {
 
+class Surface;
+
 /// Draws a sunken 3-D frame on the boundary of `area`: the left and top edges in the system's
 /// button-shadow colour, then the right and bottom edges, which stand at left + width and
 /// top + height, in its button-highlight colour.
@@ -51,12 +53,16 @@ void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
 /// Returns false if the clipboard has no text.
 [[nodiscard]] bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength);
 
-/// Gives a window the size of its content, or `width` pixels if that is not 0, and fills it with
-/// the panel that the content is on.
-void FillWindow(wxTopLevelWindow& window, wxWindow& surface, wxSizer* content, int width = 0);
+/// Lays `content` out on the surface and gives the surface's window the size of it, or `width`
+/// pixels across if that is not 0; less where the screen is too small.
+void FillWindow(Surface& surface, wxSizer* content, int width = 0);
 
 /// Centres a window over the main window, or on the screen if that one is minimised or hidden.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
+
+/// The same now and whenever the window comes onto the screen, when it has the desktop's frame. Call
+/// once for each window; `main` must outlive it.
+void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
 /// Tells what program this is. The text box loses its selection; its caret stays.
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info);

@@ -6,17 +6,6 @@
 
 namespace brelex {
 
-PaintedPicture::PaintedPicture(wxWindow* parent, const wxBitmap& picture)
-    : Backdrop(parent),
-      picture_(picture) {
-    SetDoubleBuffered(true);
-    SetInitialSize(picture_.GetLogicalSize());
-    Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
-        wxPaintDC dc(this);
-        dc.DrawBitmap(picture_, 0, 0, true);
-    });
-}
-
 PaintedText::PaintedText(wxWindow* parent) : Backdrop(parent) {
     SetDoubleBuffered(true);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) {

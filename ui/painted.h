@@ -1,21 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/bitmap.h>
 #include <wx/string.h>
 
 #include "ui/backdrop.h"
 
 namespace brelex {
-
-/// A picture that gets the mouse's events on every system.
-class PaintedPicture final : public Backdrop {
-  public:
-    PaintedPicture(wxWindow* parent, const wxBitmap& picture);
-
-  private:
-    wxBitmap picture_;
-};
 
 /// A line of text that changes often and may be wider than its room.
 class PaintedText final : public Backdrop {

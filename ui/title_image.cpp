@@ -3,10 +3,8 @@
 
 #include <algorithm>
 
-#include <wx/dcmemory.h>
-#include <wx/image.h>
+#include <wx/dcclient.h>
 #include <wx/settings.h>
-#include <wx/window.h>
 
 #include "database/program_values.h"
 #include "ui/app_icon.h"
@@ -15,53 +13,53 @@ namespace brelex {
 
 namespace {
 
-// A bold font in which the name fills `size` as far as it goes. Widths grow with the point size.
-wxFont FittingFont(const wxWindow& window, const wxSize& size) {
-    wxFont font = window.GetFont().Bold();
+wxSize ExtentOfName(const wxWindow& window, const wxFont& font) {
     int width = 0;
     int height = 0;
     window.GetTextExtent(kAppTitle, &width, &height, nullptr, nullptr, &font);
-    const double scale = std::min(static_cast<double>(size.x) / std::max(width, 1),
-                                  static_cast<double>(size.y) / std::max(height, 1));
+    return {width, height};
+}
+
+// A bold font in which the name fills `size` as far as it goes. Widths grow with the point size.
+wxFont FittingFont(const wxWindow& window, const wxSize& size) {
+    wxFont font = window.GetFont().Bold();
+    const wxSize name = ExtentOfName(window, font);
+    const double scale = std::min(static_cast<double>(size.x) / std::max(name.x, 1),
+                                  static_cast<double>(size.y) / std::max(name.y, 1));
     constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
     font.SetFractionalPointSize(font.GetFractionalPointSize() * scale * kMargin);
     return font;
 }
 
-// Drawn in white on black and then turned into coloured transparency: text does not show on a
-// transparent bitmap on every system (seen with Wine 8).
-wxImage ImageOfName(const wxFont& font, const wxSize& size) {
-    wxBitmap bitmap(size, 24);
-    wxMemoryDC dc(bitmap);
-    dc.SetBackground(*wxBLACK_BRUSH);
-    dc.Clear();
-    dc.SetFont(font);
-    dc.SetTextForeground(*wxWHITE);
-    dc.DrawText(kAppTitle, 0, 0);
-    dc.SelectObject(wxNullBitmap);
-    wxImage image = bitmap.ConvertToImage();
-    const wxColour colour = wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
-    image.ConvertColourToAlpha(colour.Red(), colour.Green(), colour.Blue());
-    return image;
-}
-
 }  // namespace
 
-wxBitmap DrawTitleImage(const wxWindow& window, const wxSize& size) {
-    const int iconSize = size.y;
-    const int gap = window.FromDIP(6);
-    const wxFont font = FittingFont(window, {size.x - iconSize - gap, size.y});
-    int textWidth = 0;
-    int textHeight = 0;
-    window.GetTextExtent(kAppTitle, &textWidth, &textHeight, nullptr, nullptr, &font);
+TitleImage::TitleImage(wxWindow* parent) : Backdrop(parent), gap_(FromDIP(6)) {
+    SetDoubleBuffered(true);
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
+        wxPaintDC dc(this);
+        Draw(dc);
+    });
+}
 
-    wxImage image(iconSize + gap + textWidth, size.y);
-    image.InitAlpha();
-    std::fill_n(image.GetAlpha(), image.GetWidth() * image.GetHeight(), wxALPHA_TRANSPARENT);
-    image.Paste(AppIcon(iconSize).GetBitmap(wxSize(iconSize, iconSize)).ConvertToImage(), 0, 0);
-    image.Paste(ImageOfName(font, {textWidth, textHeight}), iconSize + gap,
-                (size.y - textHeight) / 2);
-    return {image};
+void TitleImage::Fit(const wxSize& largest) {
+    iconSize_ = largest.y;
+    icon_ = AppIcon(iconSize_);
+    font_ = FittingFont(*this, {largest.x - iconSize_ - gap_, largest.y});
+    // Letters may come out a little wider than they were measured (seen with Wine 8).
+    const int width = iconSize_ + gap_ + ExtentOfName(*this, font_).x + FromDIP(2);
+    SetInitialSize({std::min(width, largest.x), largest.y});
+    Refresh();
+}
+
+void TitleImage::Draw(wxDC& dc) const {
+    const double scale = GetContentScaleFactor();
+    wxBitmap icon = icon_.GetBitmap(wxSize(iconSize_, iconSize_) * scale);
+    icon.SetScaleFactor(scale);
+    dc.DrawBitmap(icon, 0, (GetClientSize().y - iconSize_) / 2);
+    dc.SetFont(font_);
+    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    dc.DrawText(kAppTitle, iconSize_ + gap_,
+                (GetClientSize().y - dc.GetTextExtent(kAppTitle).y) / 2);
 }
 
 }  // namespace brelex

@@ -1,14 +1,29 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/bitmap.h>
+#include <wx/bmpbndl.h>
+#include <wx/font.h>
 
-class wxWindow;
+#include "ui/backdrop.h"
 
 namespace brelex {
 
-/// The program's icon and name as an image at most `size` pixels large, in colours that suit the
-/// background of `window`.
-[[nodiscard]] wxBitmap DrawTitleImage(const wxWindow& window, const wxSize& size);
+/// The program's icon and its name beside it, as large as they fit into a size. Drawn anew each
+/// time the window is painted, so that it is as sharp as the screen it stands on.
+class TitleImage final : public Backdrop {
+  public:
+    explicit TitleImage(wxWindow* parent);
+
+    /// Sizes the window, in pixels, to what it shows at most as large as `largest`.
+    void Fit(const wxSize& largest);
+
+    void Draw(wxDC& dc) const;
+
+  private:
+    wxBitmapBundle icon_;
+    wxFont font_;
+    int iconSize_ = 1;
+    int gap_;
+};
 
 }  // namespace brelex

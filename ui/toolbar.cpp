@@ -8,6 +8,7 @@
 #include <wx/settings.h>
 
 #include "platform/accessible_name.h"
+#include "platform/area_tool_tip.h"
 #include "ui/artwork.h"
 #include "ui/modFlatButton.h"
 
@@ -200,9 +201,14 @@ void Toolbar::DrawIcon(int icon, int state) {
 
 void Toolbar::Describe(int icon) {
     if (icon < 0) {
-        UnsetToolTip();
+        SetAreaToolTip(*this, {}, wxEmptyString);
     } else {
-        SetToolTip(kToolbarIcons.at(static_cast<std::size_t>(icon)).toolTip);
+        const auto index = static_cast<std::size_t>(icon);
+        const IconBounds& bounds = bounds_.at(index);
+        SetAreaToolTip(*this,
+                       {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
+                        static_cast<int>(bounds.width), static_cast<int>(bounds.height)},
+                       kToolbarIcons.at(index).toolTip);
     }
     events_.onHot(icon);
 }

@@ -19,8 +19,10 @@
 #include "platform/help_association.h"
 #include "platform/modSysTray.h"
 #include "platform/text_columns.h"
+#include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/app_icon.h"
+#include "ui/main_menus.h"
 #include "ui/toolbar.h"
 
 namespace brelex {
@@ -114,6 +116,18 @@ TEST_F(HotKey, BringsAHiddenWindowBack) {
     other->Destroy();
 }
 
+TEST_F(HotKey, BringsTheWindowBackOnTopIfItStaysThere) {
+    wxCommandEvent stay(wxEVT_MENU, kOptionsItem);
+    stay.SetInt(1);
+    window_->ProcessWindowEvent(stay);
+    ASSERT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
+    window_->Hide();
+    Settle(200);
+    Press();
+    EXPECT_TRUE(IsBack());
+    EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
+}
+
 TEST_F(HotKey, IsGivenBackWhenTheWindowCloses) {
     TearDown();
     window_ = nullptr;
@@ -184,6 +198,9 @@ TEST_F(MainWindowWithoutTray, StartedMinimisedTheWindowHidesWhenALatePanelComes)
 }
 
 TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
+    wxCommandEvent stay(wxEVT_MENU, kOptionsItem);
+    stay.SetInt(1);
+    window_->ProcessWindowEvent(stay);
     {
         const Panel panel;
         // The icon waits for the panel: minimising hides as soon as it is there.
@@ -195,6 +212,7 @@ TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
         }));
     }
     ASSERT_TRUE(WaitFor([&] { return window_->IsShown(); }, 6000));
+    EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); })) << "it stays on top, too";
     const Panel panel;
     Settle(1000);
     user_.MouseMove(12, 12);

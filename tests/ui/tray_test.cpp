@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/main_menus.h"
 
 namespace brelex {
 namespace {
@@ -49,6 +51,66 @@ TEST_F(MainWindowWithTray, MinimisingHidesTheWindowAndALeftClickBringsItBack) {
     Minimise();
     ClickIcon(wxMOUSE_BTN_LEFT);
     EXPECT_TRUE(IsBack());
+}
+
+class StayOnTopWithTray : public MainWindowWithTray {
+  protected:
+    void SetUp() override {
+        MainWindowWithTray::SetUp();
+        if (window_ != nullptr) {
+            wxCommandEvent event(wxEVT_MENU, kOptionsItem);
+            event.SetInt(1);
+            window_->ProcessWindowEvent(event);
+            ASSERT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
+        }
+    }
+
+    [[nodiscard]] bool IsBackOnTop() const {
+        return IsBack() && WaitFor([&] { return IsKeptAbove(*window_); }, 1500);
+    }
+};
+
+TEST_F(StayOnTopWithTray, HoldsWhenALeftClickOnTheIconBringsTheWindowBack) {
+    for (int i = 0; i < 2; ++i) {
+        Minimise();
+        ClickIcon(wxMOUSE_BTN_LEFT);
+        EXPECT_TRUE(IsBackOnTop());
+    }
+}
+
+TEST_F(StayOnTopWithTray, HoldsWhenTheMenuOfTheIconBringsTheWindowBack) {
+    Minimise();
+    ModalDriver driver({
+        [&] {
+            user_.Char('R');
+            return true;
+        },
+    });
+    driver.Stop();
+    ClickIcon(wxMOUSE_BTN_RIGHT);
+    driver.Start(400);
+    EXPECT_TRUE(IsBackOnTop());
+}
+
+TEST_F(StayOnTopWithTray, IsNotTakenUpBehindASideWindow) {
+    ModalDriver driver({
+        [&] { return window_->IsModalOpen; },
+        [&] {
+            window_->Hide();
+            window_->Show();
+            Settle(200);
+            EXPECT_FALSE(IsKeptAbove(*window_));
+            return true;
+        },
+        [&] {
+            if (wxDialog* const dialog = OpenModalDialog()) {
+                dialog->EndModal(wxID_CANCEL);
+            }
+            return true;
+        },
+    });
+    window_->OpenModalForm(4);
+    EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
 }
 
 TEST_F(MainWindowWithTray, ALeftClickBringsACoveredWindowForward) {

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/gdicmn.h>
+
+class wxTopLevelWindow;
+
+namespace brelex {
+
+class AcronymList;
+
+// What the system itself says of windows: its answers, not the toolkit's memory of what it asked.
+
+/// Where a window stands on the screen with the frame that the desktop has put round it.
+[[nodiscard]] wxRect FrameOnScreen(const wxTopLevelWindow& window);
+
+/// Whether the desktop keeps a window above the usual ones.
+[[nodiscard]] bool IsKeptAbove(const wxTopLevelWindow& window);
+
+/// Where the pop-up menu that is open stands on the screen; empty if there is none.
+[[nodiscard]] wxRect MenuOnScreen();
+
+/// What the control of a list shows, in pixels.
+struct ListView {
+    int rowHeight;
+    int height;      ///< of the inside
+    int firstRowAt;  ///< where the first row of all begins, above 0 if it is scrolled out of sight
+};
+
+[[nodiscard]] ListView ViewOf(AcronymList& list);
+
+}  // namespace brelex

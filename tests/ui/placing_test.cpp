@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Side windows open over the middle of the main window, wherever that is.
+#include <cstdlib>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/combobox.h>
+
+#include "tests/platform/screen.h"
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/side_windows.h"
+
+namespace brelex {
+namespace {
+
+class Placing : public SideWindowTest {
+  protected:
+    // How far the middle of the side window is from that of the main window, in pixels. The middle
+    // of an odd number lies half a pixel off.
+    [[nodiscard]] wxPoint Offset() const {
+        const wxRect main = FrameOnScreen(*window_);
+        const wxRect side = FrameOnScreen(Side());
+        return {side.x + side.width / 2 - (main.x + main.width / 2),
+                side.y + side.height / 2 - (main.y + main.height / 2)};
+    }
+
+    [[nodiscard]] bool IsCentered() const {
+        return WaitFor([&] { return std::abs(Offset().x) <= 1 && std::abs(Offset().y) <= 1; },
+                       1500);
+    }
+
+    void ExpectCentered(const std::string& when) const {
+        EXPECT_TRUE(IsCentered()) << when << ": off by " << Offset().x << ", " << Offset().y;
+    }
+
+    void MoveMain(int x, int y) {
+        window_->Move(x, y);
+        ASSERT_TRUE(WaitFor([&] { return std::abs(FrameOnScreen(*window_).x - x) <= 1; }));
+        Settle(100);
+    }
+
+    void Open(int number, const char* name, const std::function<void()>& work) {
+        InSideWindow(
+            name, [&] { window_->OpenModalForm(number); }, work);
+    }
+};
+
+struct SideWindowCase {
+    const char* name;
+    int number;
+};
+
+class PlacingOfAll : public Placing, public testing::WithParamInterface<SideWindowCase> {};
+
+TEST_P(PlacingOfAll, OpensOverTheMiddleOfTheMainWindow) {
+    MoveMain(60, 80);
+    Open(GetParam().number, GetParam().name, [&] { ExpectCentered("first time"); });
+    MoveMain(300, 200);
+    Open(GetParam().number, GetParam().name,
+         [&] { ExpectCentered("after the main window moved"); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, PlacingOfAll,
+                         testing::Values(SideWindowCase{"frmSearch", kSearchWindow},
+                                         SideWindowCase{"frmAnagram", kAnagramWindow},
+                                         SideWindowCase{"frmDataInfo", kDataInfoWindow},
+                                         SideWindowCase{"frmSmiley", kSmileyWindow},
+                                         SideWindowCase{"frmAbout", kAboutWindow},
+                                         SideWindowCase{"frmCheckData", kCheckDataWindow},
+                                         SideWindowCase{"frmDonation", kDonationWindow}),
+                         CaseName());
+
+TEST_F(Placing, TheSearchWindowIsCenteredExpandedAndShrunk) {
+    MoveMain(200, 100);
+    Open(kSearchWindow, "frmSearch", [&] {
+        ExpectCentered("shrunk");
+        Click("cmdExpandShrink");
+        ExpectCentered("expanded");
+    });
+    const int expandedWindowsHeight = FrameOnScreen(*window_).height;
+    MoveMain(120, 160);
+    Open(kSearchWindow, "frmSearch", [&] {
+        Click("cmdExpandShrink");
+        ExpectCentered("the other size");
+        Click("cmdCancel");
+    });
+    Open(kSearchWindow, "frmSearch", [&] { ExpectCentered("reopened"); });
+    EXPECT_EQ(FrameOnScreen(*window_).height, expandedWindowsHeight);
+}
+
+}  // namespace
+}  // namespace brelex

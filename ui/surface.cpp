@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "ui/surface.h"
+
+#include <algorithm>
+
+#include <wx/display.h>
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+
+namespace brelex {
+
+namespace {
+
+// Of title and frame, where the desktop does not tell before it shows the window.
+constexpr int kUsualTitle = 32;
+constexpr int kUsualEdge = 4;
+
+int MenuBarHeight(const wxTopLevelWindow& window) {
+    const auto* const frame = dynamic_cast<const wxFrame*>(&window);
+    const wxMenuBar* const bar = frame == nullptr ? nullptr : frame->GetMenuBar();
+    return bar == nullptr ? 0 : std::max(bar->GetBestSize().y, bar->GetSize().y);
+}
+
+}  // namespace
+
+wxSize LargestInside(const wxTopLevelWindow& window) {
+    const int index = wxDisplay::GetFromWindow(&window);
+    const wxDisplay display(index == wxNOT_FOUND ? 0U : static_cast<unsigned>(index));
+    const wxSize usual(2 * window.FromDIP(kUsualEdge),
+                       window.FromDIP(kUsualTitle + kUsualEdge) + MenuBarHeight(window));
+    wxSize around = window.GetSize() - window.GetClientSize();
+    around.IncTo(usual);
+    wxSize inside = display.GetClientArea().GetSize() - around;
+    inside.IncTo(wxSize(1, 1));
+    return inside;
+}
+
+Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
+    Create(window, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    SetScrollRate(0, 0);
+}
+
+void Surface::FillWindow(const wxSize& size) {
+    wxSize inside = LargestInside(window_);
+    const bool scrollsDown = size.y > inside.y;
+    const bool scrollsAcross = size.x > inside.x;
+    // A bar takes room from what is beside it.
+    const wxSize wanted(
+        size.x + (scrollsDown ? wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &window_) : 0),
+        size.y + (scrollsAcross ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &window_) : 0));
+    inside.DecTo(wanted);
+    const int step = FromDIP(10);
+    SetScrollRate(scrollsAcross ? step : 0, scrollsDown ? step : 0);
+    window_.SetClientSize(inside);
+    SetSize(inside);
+    SetVirtualSize(size);
+    if (GetSizer() != nullptr) {
+        GetSizer()->SetDimension(CalcScrolledPosition(wxPoint(0, 0)), size);
+    }
+}
+
+}  // namespace brelex
