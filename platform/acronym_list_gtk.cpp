@@ -153,6 +153,9 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
     }
 
     [[nodiscard]] int RowHeight() const override {
+        if (gtk_widget_get_realized(GTK_WIDGET(TreeView())) == FALSE) {
+            return HeightOfCells();  // the tree view does not know it yet
+        }
         GtkTreePath* const path = gtk_tree_path_new_first();
         GdkRectangle area;
         gtk_tree_view_get_background_area(TreeView(), path, nullptr, &area);
@@ -200,6 +203,25 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
 
     [[nodiscard]] int ScrollPosition() const {
         return static_cast<int>(gtk_adjustment_get_value(Adjustment()));
+    }
+
+    // What the tree view will make of its cells.
+    [[nodiscard]] int HeightOfCells() const {
+        int highest = 1;
+        for (const int column : {0, 1}) {
+            GList* const cells = gtk_cell_layout_get_cells(
+                GTK_CELL_LAYOUT(gtk_tree_view_get_column(TreeView(), column)));
+            for (const GList* cell = cells; cell != nullptr; cell = cell->next) {
+                int height = 0;
+                gtk_cell_renderer_get_preferred_height(GTK_CELL_RENDERER(cell->data),
+                                                       GTK_WIDGET(TreeView()), nullptr, &height);
+                highest = std::max(highest, height);
+            }
+            g_list_free(cells);
+        }
+        int separator = 0;
+        gtk_widget_style_get(GTK_WIDGET(TreeView()), "vertical-separator", &separator, nullptr);
+        return highest + separator;
     }
 
     // Fixed columns: the first ends where the second's text begins less the padding of a cell, the

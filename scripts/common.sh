@@ -35,7 +35,7 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
                   xz-utils mmdebstrap bubblewrap libcli11-dev librsvg2-bin icoutils
                   ca-certificates)
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
-                  librsvg2-common util-linux trayer)
+                  librsvg2-common util-linux trayer xfwm4 metacity)
 
 # What building and running the Windows program takes beyond packages.
 need_windows() {

@@ -199,11 +199,15 @@ void frmMain::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
-    const wxSize instruction = lblInstruction->GetBestSize();
-    const int width = std::max(px(kInnerWidth), boxLeft + instruction.x + margin);
+    const wxSize largest = LargestInside(*this);
+    const int wanted =
+        std::max(px(kInnerWidth), boxLeft + lblInstruction->GetBestSize().x + margin);
     // Of a height that the screen does not have, the list goes without.
-    const int height = std::min(px(kInnerHeight), LargestInside(*this).y);
-    const wxSize inner(width, height);
+    const wxSize inner(std::min(wanted, largest.x), std::min(px(kInnerHeight), largest.y));
+    if (wanted > inner.x) {
+        lblInstruction->Wrap(inner.x - boxLeft - margin);
+    }
+    const wxSize instruction = lblInstruction->GetBestSize();
     picToolbar->SetSize(0, 0, inner.x, picToolbar->GetBestSize().y);
     const int top = picToolbar->GetSize().y;
     const int boxTop = top + instruction.y + px(3);
@@ -243,10 +247,13 @@ void frmMain::LayoutStatusBar() {
     lblRecNumber->SetLabelText(wxEmptyString);
     place(*lblRecNumber, lblAppTitle->GetSize().x);
     lblDescription->SetLabelText(wxEmptyString);
-    place(*lblDescription, px(kHintWidth));
+    const wxString count =
+        WxText(FormatGrouped(values_.RecordCount, values_.groupSeparator) + " entries");
+    // On a screen too small for all the number of entries comes first.
+    const int countWidth = lblRecCount->GetTextExtent(count).x + px(12);
+    place(*lblDescription, std::min(px(kHintWidth), inner_.x - x - px(5) - countWidth));
     place(*lblRecCount, inner_.x - x - px(2));
-    lblRecCount->SetLabelText(
-        WxText(FormatGrouped(values_.RecordCount, values_.groupSeparator) + " entries"));
+    lblRecCount->SetLabelText(count);
 }
 
 void frmMain::PlaceTitleImage() {
@@ -327,7 +334,11 @@ void frmMain::AddHints() {
     hints_->Add(*imgAppTitle,
                 WxText(std::string(kAppTitle) + " version " + FormatOneDecimal(values_.AppVersion) +
                        ", " + values_.info.copyright));
-    hints_->Watch();
+    std::vector<wxString> ofToolbar;
+    for (const ToolbarIcon& icon : kToolbarIcons) {
+        ofToolbar.emplace_back(icon.description);
+    }
+    hints_->Watch(ofToolbar);
 }
 
 TrayEvents frmMain::TrayEventsOfWindow() {

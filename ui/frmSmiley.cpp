@@ -14,6 +14,7 @@
 #include "presentation/program_texts.h"
 #include "ui/app_icon.h"
 #include "ui/modGeneral.h"
+#include "ui/surface.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -73,7 +74,9 @@ void frmSmiley::PlaceControls(int textWidth) {
     all->Add(txtReadme, 1, wxEXPAND | wxALL, gap);
     all->Add(cmdClose, 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, gap);
     SetSizer(all);
-    SetClientSize(boxWidth + 2 * gap, units_.Pixels(kHeight));
+    wxSize inside(boxWidth + 2 * gap, units_.Pixels(kHeight));
+    inside.DecTo(LargestInside(*this));  // the text scrolls, and wraps
+    SetClientSize(inside);
     Layout();
 }
 

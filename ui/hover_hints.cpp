@@ -9,8 +9,26 @@
 
 namespace brelex {
 
-void HoverHints::Watch() {
+void HoverHints::Watch(const std::vector<wxString>& others) {
+    FitFont(others);
     WatchAll(surface_);
+}
+
+void HoverHints::FitFont(const std::vector<wxString>& others) {
+    int widest = 1;
+    for (const wxString& text : others) {
+        widest = std::max(widest, label_.GetTextExtent(text).x);
+    }
+    for (const Hint& hint : hints_) {
+        widest = std::max(widest, label_.GetTextExtent(hint.text).x);
+    }
+    const int room = label_.GetSize().x;
+    if (widest > room) {
+        constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
+        wxFont font = label_.GetFont();
+        font.SetFractionalPointSize(font.GetFractionalPointSize() * kMargin * room / widest);
+        label_.SetFont(font);
+    }
 }
 
 // Some controls have no window of their own on some systems, and then the one under them gets their

@@ -23,8 +23,9 @@ class HoverHints {
 
     void Add(const wxWindow& control, const wxString& hint) { hints_.push_back({control, hint}); }
 
-    /// Begins to follow the mouse.
-    void Watch();
+    /// Begins to follow the mouse. The label's font becomes smaller as far as the longest hint, or
+    /// a text among `others` that is shown there too, needs it.
+    void Watch(const std::vector<wxString>& others);
 
   private:
     struct Hint {
@@ -32,6 +33,7 @@ class HoverHints {
         wxString text;
     };
 
+    void FitFont(const std::vector<wxString>& others);
     void WatchAll(wxWindow& window);
     void OnMotion(wxMouseEvent& event);
 

@@ -127,9 +127,11 @@ void Link::OnPaint(wxPaintEvent& /*event*/) {
     Draw(dc);
     if (HasFocus()) {
         // The system's own mark is a pale dotted line that hardly shows, least of all on a picture.
-        dc.SetPen(wxPen(LinkColour(), FromDIP(kFocusMark)));
+        dc.SetPen(wxPen(LinkColour()));
         dc.SetBrush(*wxTRANSPARENT_BRUSH);
-        dc.DrawRectangle(GetClientRect().Deflate(FromDIP(kFocusMark) / 2));
+        for (int line = 0; line < FromDIP(kFocusMark); ++line) {
+            dc.DrawRectangle(GetClientRect().Deflate(line));
+        }
     }
 }
 

@@ -60,8 +60,8 @@ void FillWindow(Surface& surface, wxSizer* content, int width = 0);
 /// Centres a window over the main window, or on the screen if that one is minimised or hidden.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
-/// The same now and whenever the window comes onto the screen, when it has the desktop's frame. Call
-/// once for each window; `main` must outlive it.
+/// The same now and whenever the window comes onto the screen, when it has the desktop's frame.
+/// Call once for each window; `main` must outlive it.
 void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
 /// Tells what program this is. The text box loses its selection; its caret stays.

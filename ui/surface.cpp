@@ -14,13 +14,15 @@ namespace brelex {
 namespace {
 
 // Of title and frame, where the desktop does not tell before it shows the window.
-constexpr int kUsualTitle = 32;
+constexpr int kUsualTitle = 40;
 constexpr int kUsualEdge = 4;
 
 int MenuBarHeight(const wxTopLevelWindow& window) {
     const auto* const frame = dynamic_cast<const wxFrame*>(&window);
     const wxMenuBar* const bar = frame == nullptr ? nullptr : frame->GetMenuBar();
-    return bar == nullptr ? 0 : std::max(bar->GetBestSize().y, bar->GetSize().y);
+    return bar == nullptr ? 0
+                          : std::max({bar->GetBestSize().y, bar->GetSize().y,
+                                      window.GetCharHeight() + window.FromDIP(14)});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include <wx/bitmap.h>
 #include <wx/dataview.h>
 #include <wx/toplevel.h>
 
@@ -45,6 +46,34 @@ std::vector<unsigned long> Property(const wxTopLevelWindow& window, const char* 
     return numbers;
 }
 
+// The text of the first label that is shown in a widget.
+std::string ShownText(GtkWidget* widget) {
+    if (widget == nullptr || gtk_widget_get_visible(widget) == FALSE) {
+        return {};
+    }
+    if (GTK_IS_LABEL(widget)) {
+        return gtk_label_get_text(GTK_LABEL(widget));
+    }
+    std::string text;
+    if (GTK_IS_CONTAINER(widget)) {
+        GList* const children = gtk_container_get_children(GTK_CONTAINER(widget));
+        for (const GList* child = children; child != nullptr && text.empty(); child = child->next) {
+            text = ShownText(GTK_WIDGET(child->data));
+        }
+        g_list_free(children);
+    }
+    return text;
+}
+
+wxRect PlaceOf(GtkWidget* topLevel) {
+    GdkWindow* const window = gtk_widget_get_window(topLevel);
+    wxRect place;
+    gdk_window_get_origin(window, &place.x, &place.y);
+    place.width = gdk_window_get_width(window);
+    place.height = gdk_window_get_height(window);
+    return place;
+}
+
 }  // namespace
 
 wxRect FrameOnScreen(const wxTopLevelWindow& window) {
@@ -65,6 +94,12 @@ wxRect FrameOnScreen(const wxTopLevelWindow& window) {
     return frame;
 }
 
+wxSize ScreenSize() {
+    Display* const display = gdk_x11_get_default_xdisplay();
+    return {DisplayWidth(display, DefaultScreen(display)),
+            DisplayHeight(display, DefaultScreen(display))};
+}
+
 bool IsKeptAbove(const wxTopLevelWindow& window) {
     const Atom above = XInternAtom(gdk_x11_get_default_xdisplay(), "_NET_WM_STATE_ABOVE", False);
     for (const unsigned long state : Property(window, "_NET_WM_STATE")) {
@@ -75,6 +110,29 @@ bool IsKeptAbove(const wxTopLevelWindow& window) {
     return false;
 }
 
+wxImage PictureOnScreen(wxWindow& window) {
+    const wxRect area = window.GetScreenRect();
+    GdkPixbuf* const pixels = gdk_pixbuf_get_from_window(gdk_get_default_root_window(), area.x,
+                                                         area.y, area.width, area.height);
+    const wxBitmap bitmap(pixels);  // which owns them now
+    return bitmap.ConvertToImage();
+}
+
+ToolTipView ToolTipOnScreen() {
+    GList* const windows = gtk_window_list_toplevels();
+    ToolTipView tip;
+    for (const GList* item = windows; item != nullptr; item = item->next) {
+        auto* const widget = GTK_WIDGET(item->data);
+        const bool isTip =
+            gtk_window_get_type_hint(GTK_WINDOW(widget)) == GDK_WINDOW_TYPE_HINT_TOOLTIP;
+        if (isTip && gtk_widget_get_mapped(widget) != FALSE) {
+            tip = {ShownText(gtk_bin_get_child(GTK_BIN(widget))), PlaceOf(widget)};
+        }
+    }
+    g_list_free(windows);
+    return tip;
+}
+
 wxRect MenuOnScreen() {
     GList* const windows = gtk_window_list_toplevels();
     wxRect place;
@@ -82,10 +140,7 @@ wxRect MenuOnScreen() {
         auto* const widget = GTK_WIDGET(item->data);
         GtkWidget* const child = gtk_bin_get_child(GTK_BIN(widget));
         if (GTK_IS_MENU(child) && gtk_widget_get_mapped(widget) != FALSE) {
-            GdkWindow* const window = gtk_widget_get_window(widget);
-            gdk_window_get_origin(window, &place.x, &place.y);
-            place.width = gdk_window_get_width(window);
-            place.height = gdk_window_get_height(window);
+            place = PlaceOf(widget);
         }
     }
     g_list_free(windows);

@@ -13,6 +13,8 @@
 
 #include "presentation/moving_text.h"
 #include "presentation/program_texts.h"
+#include "tests/platform/keyboard.h"
+#include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/link.h"
@@ -243,10 +245,49 @@ TEST_F(AboutTest, ALinkOpensByKeyboard) {
             ++opened;
             EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == opened; })) << key;
         }
+        PressKeypadEnter();
+        ++opened;
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == opened; })) << "keypad";
         user_.Char(WXK_SPACE, wxMOD_CONTROL);
         Settle(150);
         EXPECT_EQ(desktop_.opened.size(), opened);
         EXPECT_TRUE(Side().IsShown());
+    });
+}
+
+TEST_F(AboutTest, AKeyThatIsHeldOpensALinkOnce) {
+    InAbout([&] {
+        In("imgPayPalDonate").SetFocus();
+        Settle(50);
+        user_.KeyDown(WXK_SPACE);
+        Settle(1200);  // the keyboard repeats it
+        user_.KeyUp(WXK_SPACE);
+        Settle(50);
+        EXPECT_EQ(desktop_.opened.size(), 1U);
+        user_.Char(WXK_SPACE);
+        EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 2; }));
+    });
+}
+
+// At least two pixels of another color all round, and not only where the picture's own edge is.
+TEST_F(AboutTest, TheFocusIsPlainToSeeOnALink) {
+    InAbout([&] {
+        for (const char* name : {"lblHyperLink0", "imgPayPalDonate"}) {
+            const auto pictureOfLink = [&] { return PictureOnScreen(In(name)); };
+            In("cmdOK").SetFocus();
+            Settle(150);
+            const wxImage without = pictureOfLink();
+            In(name).SetFocus();
+            Settle(150);
+            const wxImage with = pictureOfLink();
+            const int middle = without.GetHeight() / 2;
+            for (const int x : {0, 1, without.GetWidth() - 2, without.GetWidth() - 1}) {
+                const wxColour before = ColourAt(without, x, middle);
+                const wxColour after = ColourAt(with, x, middle);
+                EXPECT_GT(std::abs(before.GetLuminance() - after.GetLuminance()), 0.3)
+                    << name << " at " << x;
+            }
+        }
     });
 }
 

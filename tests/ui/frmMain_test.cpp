@@ -85,19 +85,6 @@ TEST_F(FrmMainLookup, OvertypingASelectionIsOneChange) {
     EXPECT_EQ(SelectedRecord(), "XSS\tCross-Site Scripting");
 }
 
-TEST_F(FrmMainLookup, RetypingTheSameTextStopsTheListFromFollowing) {
-    Type("a", "A");
-    SelectAllInBox();
-    user_.Char('a');
-    ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsLookupBusy; }));
-    EXPECT_EQ(BoxText(), "A");
-    SelectAllInBox();
-    Type("x", "X");
-    EXPECT_EQ(SelectedRecord(), "AB\tAddress Bus");
-    user_.Char(WXK_DOWN);
-    EXPECT_TRUE(WaitFor([&] { return SelectedRecord() == "AB\tAudio Bus"; }));
-}
-
 TEST_F(FrmMainLookup, FastTypingAndErasingIsNotOneChange) {
     Type("a", "A");
     user_.Char('b');
@@ -517,10 +504,6 @@ TEST_F(FrmMainLayout, NoTextIsCutOff) {
         EXPECT_LE(label->GetBestSize().y, label->GetSize().y) << name;
         EXPECT_LE(label->GetTextExtent(label->GetLabelText()).x, label->GetSize().x) << name;
     }
-}
-
-TEST_F(FrmMainLayout, TheListEndsBetweenTwoRows) {
-    EXPECT_EQ(window_->List().Window().GetClientSize().y % window_->List().RowHeight(), 0);
 }
 
 TEST_F(FrmMainLayout, ALargeCountIsGrouped) {

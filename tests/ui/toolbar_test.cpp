@@ -13,6 +13,7 @@
 #include <wx/image.h>
 #include <wx/settings.h>
 
+#include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/modFlatButton.h"
@@ -63,7 +64,22 @@ TEST_F(ToolbarWindowTest, EachIconRisesAndSaysWhatItIsFor) {
     for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
         Hover(i);
         EXPECT_EQ(LabelText("lblDescription"), kToolbarIcons.at(i).description);
-        EXPECT_EQ(Bar().GetToolTipText(), kToolbarIcons.at(i).toolTip);
+    }
+}
+
+// The mouse jumps from icon to icon, while the tool tip of the one before is still shown.
+TEST_F(ToolbarWindowTest, EachIconHasItsToolTipAtItself) {
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        Hover(i);
+        ToolTipView tip;
+        EXPECT_TRUE(WaitFor([&] {
+            tip = ToolTipOnScreen();
+            return tip.text == kToolbarIcons.at(i).toolTip;
+        })) << tip.text;
+        const wxPoint icon = MiddleOf(i);
+        EXPECT_LT(tip.place.x, icon.x + 40) << i;
+        EXPECT_GT(tip.place.x + tip.place.width, icon.x - 40) << i;
+        EXPECT_LT(std::abs(tip.place.y - icon.y), 60) << i;
     }
 }
 

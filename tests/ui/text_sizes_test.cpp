@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// No window cuts its texts, whatever size a user's settings give them.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/stattext.h>
+
+#include "tests/platform/screen.h"
+#include "tests/ui/cut_texts.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/side_windows.h"
+
+namespace brelex {
+namespace {
+
+// Of the program as it starts: ctest starts these tests anew with each of the settings.
+class TextSizes : public SideWindowTest {
+  protected:
+    static void ExpectWhole(wxTopLevelWindow& window) {
+        for (const std::string& fault : CutTexts(window)) {
+            ADD_FAILURE() << window.GetName() << ": " << fault;
+        }
+    }
+};
+
+TEST_F(TextSizes, TheMainWindowCutsNoText) {
+    // The longest hints.
+    for (const char* hint :
+         {"Number of entries in the database (double-click to view Database Info)",
+          "Press Carriage Return or double-click an entry in the list to view it"}) {
+        dynamic_cast<wxStaticText&>(*Control("lblDescription")).SetLabelText(hint);
+        ExpectWhole(*window_);
+    }
+    const ListView list = ViewOf(window_->List());
+    EXPECT_EQ(list.height % list.rowHeight, 0) << list.height << "/" << list.rowHeight;
+}
+
+TEST_F(TextSizes, NoSideWindowCutsAText) {
+    struct Opened {
+        const char* name;
+        int number;
+    };
+
+    for (const Opened& opened :
+         {Opened{"frmSearch", kSearchWindow}, Opened{"frmAnagram", kAnagramWindow},
+          Opened{"frmDataInfo", kDataInfoWindow}, Opened{"frmSmiley", kSmileyWindow},
+          Opened{"frmAbout", kAboutWindow}, Opened{"frmCheckData", kCheckDataWindow},
+          Opened{"frmDonation", kDonationWindow}}) {
+        InSideWindow(
+            opened.name, [&] { window_->OpenModalForm(opened.number); },
+            [&] {
+                ExpectWhole(Side());
+                if (std::string(opened.name) == "frmSearch") {
+                    Click("cmdExpandShrink");
+                    Settle(100);
+                    ExpectWhole(Side());
+                }
+            });
+    }
+    Type("abc", "ABC");
+    InSideWindow(
+        "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, [&] { ExpectWhole(Side()); });
+}
+
+}  // namespace
+}  // namespace brelex
