@@ -13,6 +13,7 @@
 #include <wx/stattext.h>
 
 #include "search/anagram.h"
+#include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/busy_animation.h"
 #include "ui/wx_text.h"
@@ -104,6 +105,60 @@ class AnagramWindowTest : public SideWindowTest {
 
 const std::vector<std::string> kCpuHits = {"C-PU\tHyphenated", "CPU\tCentral Processing Unit",
                                            "UCP\tUniform Cp"};
+
+TEST_F(AnagramWindowTest, WhatIsTypedAfterItsStartIsNotSearchedFor) {
+    InAnagramWindow([&] {
+        for (const bool byAccessKey : {false, true}) {
+            TypeLetters("cpu", "CPU");
+            anagram_->LastSearchedLetters.clear();
+            byAccessKey ? user_.Char('S', wxMOD_ALT) : user_.Char(WXK_RETURN);
+            user_.Char('x');
+            EXPECT_TRUE(WaitFor([&] { return !anagram_->LastSearchedLetters.empty(); }));
+            EXPECT_EQ(anagram_->LastSearchedLetters, U"CPU");
+            EXPECT_EQ(Utf8Text(In<wxComboBox>("cboLetters").GetString(0)), "CPU");
+        }
+    });
+}
+
+// With hits the list gets the keyboard, and Enter there would go to the first and hide the window.
+TEST_F(AnagramWindowTest, EnterThatIsHeldSearchesOnlyOnce) {
+    InAnagramWindow([&] {
+        TypeLetters("cpu", "CPU");
+        user_.KeyDown(WXK_RETURN);
+        Settle(1500);
+        user_.KeyUp(WXK_RETURN);
+        Settle(100);
+        EXPECT_TRUE(anagram_->IsShown());
+        EXPECT_EQ(Label("lblPercentDone"), "Found 3");
+        EXPECT_EQ(Rows(), kCpuHits);
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return !anagram_->IsShown(); }))
+            << "another press goes to the hit";
+    });
+}
+
+TEST_F(AnagramWindowTest, SelectingAllLettersKeepsTheHits) {
+    InAnagramWindow([&] {
+        Search("cpu", "CPU");
+        In("cboLetters").SetFocus();
+        Settle(50);
+        user_.Char('A', wxMOD_CONTROL);
+        Settle(100);
+        EXPECT_EQ(Label("lblPercentDone"), "Found 3");
+        EXPECT_EQ(Rows(), kCpuHits);
+        user_.Char('r');
+        EXPECT_TRUE(WaitFor([&] { return Rows().empty(); }));
+    });
+}
+
+TEST_F(AnagramWindowTest, ItsListShowsWholeRowsOnly) {
+    InAnagramWindow([&] {
+        Search("cpu", "CPU");
+        const ListView view = ViewOf(anagram_->Hits());
+        ASSERT_GT(view.rowHeight, 0);
+        EXPECT_EQ(view.height % view.rowHeight, 0) << view.height << "/" << view.rowHeight;
+    });
+}
 
 TEST_F(AnagramWindowTest, OpensEmpty) {
     InAnagramWindow([&] {

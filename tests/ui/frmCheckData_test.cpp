@@ -85,6 +85,30 @@ class CheckWindowTest : public SideWindowTest {
     }
 };
 
+// With the real message, which takes the keyboard and gives it back.
+TEST_F(CheckWindowTest, AfterAnAbortedCheckTheFocusIsOnCheck) {
+    Start(NumberedRecords(60000));
+    InCheckWindow([&] {
+        int looks = 0;
+        wxTimer press;
+        press.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+            ++looks;
+            if (IsChecking() && looks < 5) {
+                user_.Char(WXK_ESCAPE);
+                looks = 5;
+            } else if (looks > 15) {
+                press.Stop();
+                user_.Char(WXK_RETURN);
+            }
+        });
+        press.Start(40);
+        Click("cmdCheck");
+        ASSERT_TRUE(WaitFor([&] { return !IsChecking() && !press.IsRunning(); }, 8000));
+        EXPECT_TRUE(Side().IsShown());
+        EXPECT_TRUE(WaitFor([&] { return HasFocus("cmdCheck"); }));
+    });
+}
+
 TEST_F(CheckWindowTest, OpensIdle) {
     InCheckWindow([&] {
         EXPECT_EQ(Side().GetTitle(), "Check Data Integrity");

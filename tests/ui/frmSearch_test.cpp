@@ -23,6 +23,7 @@
 #include "database/database_header.h"
 #include "database/windows1252.h"
 #include "search/wildcard_help.h"
+#include "tests/platform/keyboard.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/artwork.h"
@@ -495,6 +496,103 @@ TEST_F(LongSearch, StopShowsTheHitsSoFar) {
         EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_INFORMATION);
         ExpectIdle();
         EXPECT_EQ(search_->NextPosition, 0);
+    });
+}
+
+// Enter and the access key start it at once: what is typed behind them comes too late.
+TEST_F(LongSearch, WhatIsTypedAfterItsStartIsNotSearchedFor) {
+    InSearchWindow([&] {
+        const auto searchThenType = [&](const std::function<void()>& start) {
+            TypeSearchText("zz");
+            search_->LastSearchText.clear();
+            start();
+            user_.Char('h');
+            user_.Char('i');
+            EXPECT_TRUE(
+                WaitFor([&] { return !search_->LastSearchText.empty() && !IsSearching(); }, 8000));
+            EXPECT_EQ(search_->LastSearchText, "zz");
+            EXPECT_EQ(History().front(), "zz");
+        };
+        searchThenType([&] { user_.Char(WXK_RETURN); });
+        searchThenType([&] { user_.Char('S', wxMOD_ALT); });
+    });
+}
+
+TEST_F(LongSearch, EnterPressedAgainDoesNotStopIt) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        ModalDriver driver({[&] { return IsSearching(); },
+                            [&] {
+                                user_.Char(WXK_RETURN);
+                                PressKeypadEnter();
+                                return true;
+                            }});
+        TypeSearchText("zz");
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return driver.Done() && !IsSearching(); }, 8000));
+        Settle(200);
+        EXPECT_EQ(boxes.texts, std::vector<std::string>{});
+        EXPECT_EQ(Result(), "Search text is not found");
+        search_->LastSearchText.clear();
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(
+            WaitFor([&] { return search_->LastSearchText == "zz" && !IsSearching(); }, 8000))
+            << "now it starts the next one";
+    });
+}
+
+// The keyboard repeats it, beyond the end of the search.
+TEST_F(SearchWindowTest, EnterThatIsHeldStartsOneSearch) {
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        int searches = 0;
+        In("picAnim").Bind(wxEVT_SHOW, [&](wxShowEvent& event) {
+            searches += event.IsShown() ? 1 : 0;
+            event.Skip();
+        });
+        TypeSearchText("zz");
+        user_.KeyDown(WXK_RETURN);
+        Settle(1500);
+        user_.KeyUp(WXK_RETURN);
+        Settle(100);
+        EXPECT_EQ(searches, 1);
+        EXPECT_EQ(boxes.texts, std::vector<std::string>{});
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return searches == 2; })) << "and the next press another";
+        Settle(100);
+    });
+}
+
+TEST_F(LongSearch, SpaceAndEscapeStopIt) {
+    for (const int key : {WXK_SPACE, WXK_ESCAPE}) {
+        InSearchWindow([&] {
+            const MessageBoxes boxes;
+            ModalDriver driver({[&] { return IsSearching(); },
+                                [&] {
+                                    user_.Char(key);
+                                    return true;
+                                }});
+            TypeSearchText("zz");
+            user_.Char(WXK_RETURN);
+            EXPECT_TRUE(WaitFor([&] { return driver.Done() && !IsSearching(); }, 8000));
+            EXPECT_EQ(boxes.texts, std::vector<std::string>{"Search was aborted by user"}) << key;
+        });
+    }
+}
+
+// A letter that no longer fits and Ctrl+A are no changes of the text.
+TEST_F(SearchWindowTest, SelectingAllLeavesTheNextPositionToGoOnFrom) {
+    Start(NumberedRecords(1200));
+    InSearchWindow([&] {
+        const MessageBoxes boxes;
+        Search("e");
+        ASSERT_TRUE(IsEnabled("chkNextSearch"));
+        FocusSearchText();
+        user_.Char('A', wxMOD_CONTROL);
+        Settle(100);
+        EXPECT_TRUE(IsEnabled("chkNextSearch"));
+        user_.Char('x');
+        EXPECT_TRUE(WaitFor([&] { return !IsEnabled("chkNextSearch"); }));
     });
 }
 
