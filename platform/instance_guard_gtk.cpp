@@ -2,23 +2,45 @@
 #include "platform/instance_guard.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include "platform/temporary_folder_gtk.h"
 
 namespace brelex {
 
 namespace {
 
-// Private to the user: the runtime folder, or else a name of the user's own in /tmp.
+constexpr mode_t kOwnerOnly = 0600;
+constexpr int kNone = -1;
+
+// A name of the user's own, as the folder may be one that users share.
 std::string LockPath() {
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime != nullptr && *runtime != '\0') {
-        return std::string(runtime) + "/brevilexicon.lock";
+    const std::string folder = TemporaryFolder();
+    return folder.empty() ? "" : folder + "brevilexicon-" + std::to_string(geteuid()) + ".lock";
+}
+
+// Whether nobody but the user can have this file open. In a shared folder another user may have
+// taken the name before, and could hold the lock for ever.
+bool IsOnlyOurs(int file) {
+    struct stat status {};
+
+    constexpr mode_t kOthers = 077;
+    return fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid() &&
+           (status.st_mode & kOthers) == 0;
+}
+
+int OpenLockFile() {
+    const int file = open(LockPath().c_str(),
+                          O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kOwnerOnly);
+    if (file >= 0 && !IsOnlyOurs(file)) {
+        close(file);
+        return kNone;
     }
-    return "/tmp/brevilexicon-" + std::to_string(getuid()) + ".lock";
+    return file;
 }
 
 }  // namespace
@@ -27,8 +49,7 @@ std::string LockPath() {
 // stays, as removing it would let two copies lock two files of one name.
 class InstanceGuard::Place {
   public:
-    Place()
-        : file_(open(LockPath().c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly)) {}
+    Place() : file_(OpenLockFile()) {}
 
     Place(const Place&) = delete;
     Place& operator=(const Place&) = delete;
@@ -44,8 +65,7 @@ class InstanceGuard::Place {
     }
 
   private:
-    static constexpr mode_t kOwnerOnly = 0600;
-    int file_;
+    int file_;  // less than 0 if there is none: the system cannot tell then
 };
 
 InstanceGuard::InstanceGuard()

@@ -5,8 +5,9 @@
 
 namespace brelex {
 
-/// The temporary folder of the system the program runs on. On Linux that is $XDG_RUNTIME_DIR,
-/// which is private to the user, or else $TMPDIR, or else /tmp; on Windows what GetTempPath says.
+/// The temporary folder of the system the program runs on. On Linux that is the first of
+/// $XDG_RUNTIME_DIR, which is private to the user, $TMPDIR and /tmp that the user can write into;
+/// on Windows what GetTempPath says.
 class SystemTemporaryFiles final : public TemporaryFiles {
   public:
     [[nodiscard]] std::string GetTempFolder() const override;

@@ -2,11 +2,10 @@
 #include "platform/system_temporary_files.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "database/file_io.h"
+#include "platform/temporary_folder_gtk.h"
 
 namespace brelex {
 
@@ -29,13 +28,7 @@ bool WriteAll(int file, std::string_view bytes) {
 }  // namespace
 
 std::string SystemTemporaryFiles::GetTempFolder() const {
-    for (const char* name : {"XDG_RUNTIME_DIR", "TMPDIR"}) {
-        const char* folder = std::getenv(name);
-        if (folder != nullptr && *folder != '\0') {
-            return WithTrailingSeparator(folder);
-        }
-    }
-    return "/tmp/";
+    return TemporaryFolder();
 }
 
 bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {

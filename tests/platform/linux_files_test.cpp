@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,6 +18,7 @@
 #include "platform/modRunAtStartup.h"
 #include "platform/system_temporary_files.h"
 #include "platform/user_locale.h"
+#include "tests/support/named_case.h"
 #include "tests/support/test_files.h"
 
 // What only Linux has: links, permissions, environment variables.
@@ -76,15 +80,106 @@ class SmallFilesOnly {
     rlimit old_{};
 };
 
-TEST(TempFolderOnLinux, IsTheRuntimeFolderOrElseTmpdirOrElseTmp) {
-    const SystemTemporaryFiles files;
-    const Environment runtime("XDG_RUNTIME_DIR", "/run/user/1");
-    const Environment tmpdir("TMPDIR", "/var/tmp/");
-    EXPECT_EQ(files.GetTempFolder(), "/run/user/1/");
-    const Environment noRuntime("XDG_RUNTIME_DIR", std::nullopt);
-    EXPECT_EQ(files.GetTempFolder(), "/var/tmp/");
-    const Environment emptyTmpdir("TMPDIR", "");
-    EXPECT_EQ(files.GetTempFolder(), "/tmp/");
+// Paths that begin with a slash are taken as they are, other names stand for what SetUp made.
+struct FolderCase {
+    const char* name;
+    std::optional<std::string> runtime;
+    std::optional<std::string> tmpdir;
+    const char* folder;
+};
+
+class TempFolderOnLinux : public testing::TestWithParam<FolderCase> {
+  protected:
+    void SetUp() override {
+        fs::create_directory(folder_.Path() / "first");
+        fs::create_directory(folder_.Path() / "second");
+        folder_.Write("file", "no folder");
+        fs::create_symlink("first", folder_.Path() / "link");
+        fs::create_symlink("nowhere", folder_.Path() / "broken");
+    }
+
+    [[nodiscard]] std::optional<std::string> InFolder(
+        const std::optional<std::string>& name) const {
+        return !name || name->empty() || name->front() == '/' || name->front() == '.'
+                   ? name
+                   : folder_.Text() + *name;
+    }
+
+    TestFolder folder_;
+};
+
+TEST_P(TempFolderOnLinux, IsTheFirstThatCanBeWrittenInto) {
+    const Environment runtime("XDG_RUNTIME_DIR", InFolder(GetParam().runtime));
+    const Environment tmpdir("TMPDIR", InFolder(GetParam().tmpdir));
+    EXPECT_EQ(SystemTemporaryFiles().GetTempFolder(), InFolder(GetParam().folder));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Folders, TempFolderOnLinux,
+    testing::Values(FolderCase{"RuntimeFolder", "first", "second", "first/"},
+                    FolderCase{"WithItsSeparator", "first/", "second", "first/"},
+                    FolderCase{"LinkToAFolder", "link", "second", "link/"},
+                    FolderCase{"NoRuntimeFolder", std::nullopt, "second", "second/"},
+                    FolderCase{"EmptyRuntimeFolder", "", "second", "second/"},
+                    FolderCase{"MissingRuntimeFolder", "missing", "second", "second/"},
+                    FolderCase{"BrokenLink", "broken", "second", "second/"},
+                    FolderCase{"FileInItsPlace", "file", "second", "second/"},
+                    FolderCase{"BelowAFile", "file/below", "second", "second/"},
+                    FolderCase{"RelativeRuntimeFolder", ".", "second", "second/"},
+                    FolderCase{"Neither", std::nullopt, std::nullopt, "/tmp/"},
+                    FolderCase{"BothEmpty", "", "", "/tmp/"},
+                    FolderCase{"BothMissing", "missing", "missing", "/tmp/"},
+                    FolderCase{"RelativeTmpdir", "missing", "./", "/tmp/"}),
+    CaseName());
+
+// Runs `work` as somebody who may not write everywhere, whoever runs the tests. It returns what it
+// found out as a number from 0 to 255.
+template <typename Work>
+int AsOrdinaryUser(const Work& work) {
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t kNobody = 65534;
+        if (geteuid() == 0 && setuid(kNobody) != 0) {
+            _exit(255);
+        }
+        _exit(work());
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class TempFolderOfAnotherUser : public testing::Test {
+  protected:
+    // What a user has who took over another user's environment.
+    void SetUp() override {
+        fs::create_directory(folder_.Path() / "closed");
+        fs::permissions(folder_.Path() / "closed", fs::perms::owner_read | fs::perms::owner_exec);
+        fs::create_directory(folder_.Path() / "open");
+        fs::permissions(folder_.Path() / "open", fs::perms::all);
+        fs::permissions(folder_.Path(), fs::perms::others_exec, fs::perm_options::add);
+    }
+
+    TestFolder folder_;
+    Environment runtime_{"XDG_RUNTIME_DIR", folder_.Text() + "closed"};
+    Environment tmpdir_{"TMPDIR", folder_.Text() + "open"};
+};
+
+TEST_F(TempFolderOfAnotherUser, IsPassedOver) {
+    EXPECT_EQ(AsOrdinaryUser([&] {
+                  return SystemTemporaryFiles().GetTempFolder() == folder_.Text() + "open/" ? 1 : 0;
+              }),
+              1);
+}
+
+TEST_F(TempFolderOfAnotherUser, IsNotWhereTheLockIs) {
+    EXPECT_EQ(AsOrdinaryUser([&] {
+                  const InstanceGuard first;
+                  const InstanceGuard second;
+                  return second.IsAnotherRunning() ? 1 : 0;
+              }),
+              1);
+    EXPECT_FALSE(fs::is_empty(folder_.Path() / "open"));
 }
 
 class TemporaryFileOnLinux : public testing::Test {
@@ -159,10 +254,61 @@ TEST(InstanceGuardOnLinux, ACopyThatCrashedLeavesNothingBehind) {
     EXPECT_FALSE(guard.IsAnotherRunning());
 }
 
-TEST(InstanceGuardOnLinux, WhereTheLockCannotBeMadeTheProgramStartsAllTheSame) {
-    const Environment runtime("XDG_RUNTIME_DIR", "/nowhere/at/all");
+class LockFileOnLinux : public testing::Test {
+  protected:
+    // Takes the lock as any process can that has the file open.
+    [[nodiscard]] bool Hold() {
+        file_ = open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        return flock(file_, LOCK_EX | LOCK_NB) == 0;
+    }
+
+    void TearDown() override {
+        if (file_ >= 0) {
+            close(file_);
+        }
+    }
+
+    TestFolder folder_;
+    Environment runtime_{"XDG_RUNTIME_DIR", folder_.Path().string()};
+    fs::path path_ = folder_.Path() / ("brevilexicon-" + std::to_string(geteuid()) + ".lock");
+    int file_ = -1;
+};
+
+TEST_F(LockFileOnLinux, CarriesTheUsersNumberAndIsTheUsersAlone) {
     const InstanceGuard guard;
-    EXPECT_FALSE(guard.IsAnotherRunning());
+    EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_FALSE(Hold());
+}
+
+TEST_F(LockFileOnLinux, IsBelievedIfOnlyTheUserCanHoldIt) {
+    ASSERT_TRUE(Hold());
+    EXPECT_TRUE(InstanceGuard().IsAnotherRunning());
+}
+
+TEST_F(LockFileOnLinux, OfAnotherUserKeepsNobodyFromStarting) {
+    ASSERT_TRUE(Hold());
+    constexpr uid_t kNobody = 65534;
+    if (chown(path_.c_str(), kNobody, kNobody) != 0) {
+        GTEST_SKIP() << "only the superuser can give a file away";
+    }
+    EXPECT_FALSE(InstanceGuard().IsAnotherRunning());
+}
+
+TEST_F(LockFileOnLinux, ThatOthersCanOpenKeepsNobodyFromStarting) {
+    ASSERT_TRUE(Hold());
+    fs::permissions(path_, fs::perms::others_read, fs::perm_options::add);
+    EXPECT_FALSE(InstanceGuard().IsAnotherRunning());
+}
+
+TEST_F(LockFileOnLinux, InWhosePlaceIsSomethingElseKeepsNobodyFromStarting) {
+    fs::create_directory(path_);
+    EXPECT_FALSE(InstanceGuard().IsAnotherRunning());
+    fs::remove(path_);
+    fs::create_symlink(folder_.Write("victim", "precious"), path_);
+    EXPECT_FALSE(InstanceGuard().IsAnotherRunning());
+    fs::remove(path_);
+    ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_FALSE(InstanceGuard().IsAnotherRunning());
 }
 
 TEST(UserGroupSeparatorOnLinux, IsACommaWhereTheLocaleHasNone) {
