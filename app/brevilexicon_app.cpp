@@ -3,8 +3,6 @@
 
 #include <wx/clipbrd.h>
 #include <wx/datetime.h>
-#include <wx/filename.h>
-#include <wx/stdpaths.h>
 
 #include "database/program_values.h"
 #include "platform/command_line.h"
@@ -24,10 +22,6 @@ float SecondsSinceMidnight() {
     const wxDateTime now = wxDateTime::UNow();
     return static_cast<float>(now.GetHour() * 3600 + now.GetMinute() * 60 + now.GetSecond()) +
            static_cast<float>(now.GetMillisecond()) / 1000.0F;
-}
-
-std::string ProgramName() {
-    return Utf8Text(wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetName());
 }
 
 }  // namespace

@@ -38,8 +38,8 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
         surroundings.messages,
         surroundings.secondsSinceMidnight,
         surroundings.commandLine,
-        [this, set = surroundings.setRunAtStartup](bool enable) {
-            return set(values_.AppFolder, enable);
+        [this, set = surroundings.setRunAtStartup, name = surroundings.programName](bool enable) {
+            return set(values_.AppFolder, name, enable);
         }};
     if (!main->Load(*splash, mainSurroundings)) {
         splash->Destroy();

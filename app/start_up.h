@@ -23,13 +23,14 @@ struct StartUpSurroundings {
     FolderPicker& picker;
     TemporaryFiles& files;      ///< must outlive the windows
     Desktop& desktop;           ///< must outlive the windows
-    std::string programName;    ///< of the program file, without extension, UTF-8
+    std::string programName;    ///< see ProgramName
     std::string programFolder;  ///< UTF-8
     std::string commandLine;    ///< the whole argument text, UTF-8
     std::function<float()> secondsSinceMidnight;
 
-    /// Registers the program in a folder for the log-on, or no longer; see SetRunAtStartup.
-    std::function<bool(const std::string&, bool)> setRunAtStartup;
+    /// Registers the program of a folder and a name for the log-on, or no longer; see
+    /// SetRunAtStartup.
+    std::function<bool(const std::string&, const std::string&, bool)> setRunAtStartup;
 };
 
 /// Starts the program in its order and owns what all windows share. Must outlive them.

@@ -33,7 +33,8 @@ std::wstring TextBehindProgram(const std::wstring& commandLine, const std::wstri
 }
 
 wxString ArgumentText(const wxArrayString& /*arguments*/) {
-    return TextBehindProgram(GetCommandLineW(), WideOfUtf8(ProgramFolder() + "brevilexicon.exe"));
+    return TextBehindProgram(GetCommandLineW(),
+                             WideOfUtf8(ProgramFolder() + ProgramName() + ".exe"));
 }
 
 }  // namespace brelex

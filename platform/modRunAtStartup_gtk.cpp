@@ -33,7 +33,7 @@ std::optional<fs::path> AutostartFile() {
 
 }  // namespace
 
-bool SetRunAtStartup(const std::string& appFolder, bool enable) {
+bool SetRunAtStartup(const std::string& appFolder, const std::string& programName, bool enable) {
     const std::optional<fs::path> file = AutostartFile();
     if (!file) {
         return false;
@@ -44,7 +44,7 @@ bool SetRunAtStartup(const std::string& appFolder, bool enable) {
     }
     fs::create_directories(file->parent_path(), error);
     const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
-                              "\nExec=\"" + EscapedForExecLine(appFolder + "brevilexicon") +
+                              "\nExec=\"" + EscapedForExecLine(appFolder + programName) +
                               "\" /minimize\n";
     return !error && !ReplaceFile(*file, entry);
 }

@@ -8,7 +8,7 @@
 
 namespace brelex {
 
-bool SetRunAtStartup(const std::string& appFolder, bool enable) {
+bool SetRunAtStartup(const std::string& appFolder, const std::string& programName, bool enable) {
     HKEY key = nullptr;
     if (RegOpenKeyExW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Run", 0,
                       KEY_WRITE, &key) != ERROR_SUCCESS) {
@@ -17,7 +17,7 @@ bool SetRunAtStartup(const std::string& appFolder, bool enable) {
     const std::wstring name = WideOfUtf8(kAppTitle);
     LSTATUS status = ERROR_SUCCESS;
     if (enable) {
-        std::wstring command = WideOfUtf8(appFolder + "brevilexicon.exe /minimize");
+        std::wstring command = WideOfUtf8(appFolder + programName + ".exe " + "/minimize");
         CharLowerBuffW(command.data(), static_cast<DWORD>(command.size()));
         const std::size_t bytes = (command.size() + 1) * sizeof(wchar_t);  // with its zero
         status = RegSetValueExW(key, name.c_str(), 0, REG_SZ,

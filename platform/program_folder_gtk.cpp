@@ -8,11 +8,27 @@
 
 namespace brelex {
 
+namespace {
+
+// Empty where the system does not tell.
+std::filesystem::path ProgramFile() {
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error);
+}
+
+}  // namespace
+
 std::string ProgramFolder() {
     std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto folder = error ? std::filesystem::current_path(error) : program.parent_path();
+    const auto program = ProgramFile();
+    const auto folder =
+        program.empty() ? std::filesystem::current_path(error) : program.parent_path();
     return WithTrailingSeparator(Utf8OfPath(folder));
+}
+
+std::string ProgramName() {
+    const auto program = ProgramFile();
+    return program.empty() ? "brevilexicon" : Utf8OfPath(program.filename());
 }
 
 }  // namespace brelex

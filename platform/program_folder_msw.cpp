@@ -10,7 +10,9 @@
 
 namespace brelex {
 
-std::string ProgramFolder() {
+namespace {
+
+std::filesystem::path ProgramFile() {
     std::wstring path(MAX_PATH, L'\0');
     DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     while (length == path.size()) {  // cut off: a long path
@@ -18,7 +20,17 @@ std::string ProgramFolder() {
         length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     }
     path.resize(length);
-    return WithTrailingSeparator(Utf8OfPath(std::filesystem::path(path).parent_path()));
+    return path;
+}
+
+}  // namespace
+
+std::string ProgramFolder() {
+    return WithTrailingSeparator(Utf8OfPath(ProgramFile().parent_path()));
+}
+
+std::string ProgramName() {
+    return Utf8OfPath(ProgramFile().stem());
 }
 
 }  // namespace brelex

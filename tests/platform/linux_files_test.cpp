@@ -16,6 +16,7 @@
 #include "database/file_io.h"
 #include "platform/instance_guard.h"
 #include "platform/modRunAtStartup.h"
+#include "platform/program_folder.h"
 #include "platform/system_temporary_files.h"
 #include "platform/user_locale.h"
 #include "tests/support/named_case.h"
@@ -328,25 +329,44 @@ TEST(UserGroupSeparatorOnLinux, AnUnknownLocaleIsAComma) {
     EXPECT_EQ(UserGroupSeparator(), ",");
 }
 
+TEST(ProgramNameOnLinux, IsThatOfTheFile) {
+    EXPECT_EQ(ProgramName(), "core_tests");
+}
+
 TEST(SetRunAtStartupOnLinux, WritesTheAutostartEntryAndDeletesIt) {
     const TestFolder folder;
     const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
-    EXPECT_TRUE(SetRunAtStartup("/opt/Brevi Lexicon/", true));
+    EXPECT_TRUE(SetRunAtStartup("/opt/Brevi Lexicon/", "brevilexicon", true));
     const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
     EXPECT_EQ(ReadText(file),
               "[Desktop Entry]\nType=Application\nName=Brevilexicon\n"
               "Exec=\"/opt/Brevi Lexicon/brevilexicon\" /minimize\n");
-    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", true));
+    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", "brevilexicon", true));
     EXPECT_NE(ReadText(file).find("/opt/elsewhere/"), std::string::npos);
-    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", false));
+    EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", "brevilexicon", false));
     EXPECT_FALSE(fs::exists(file));
-    EXPECT_FALSE(SetRunAtStartup("/opt/elsewhere/", false));  // there was nothing to delete
+    EXPECT_FALSE(
+        SetRunAtStartup("/opt/elsewhere/", "brevilexicon", false));  // there was nothing to delete
+}
+
+TEST(SetRunAtStartupOnLinux, NamesTheFileThatTheProgramIs) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
+    for (const std::string name : {"brevi-renamed", "My Lexicon 2.0", "L\xC3\xA9xico"}) {
+        EXPECT_TRUE(SetRunAtStartup("/opt/", name, true));
+        EXPECT_NE(ReadText(file).find("\nExec=\"/opt/" + name + "\" /minimize\n"),
+                  std::string::npos)
+            << name;
+    }
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "50%", true));
+    EXPECT_NE(ReadText(file).find("Exec=\"/opt/50%%\" /minimize\n"), std::string::npos);
 }
 
 TEST(SetRunAtStartupOnLinux, ReservedCharactersOfThePathAreEscaped) {
     const TestFolder folder;
     const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
-    EXPECT_TRUE(SetRunAtStartup("/a\"b`c$d\\e%f/", true));
+    EXPECT_TRUE(SetRunAtStartup("/a\"b`c$d\\e%f/", "brevilexicon", true));
     EXPECT_NE(ReadText(folder.Path() / "autostart/brevilexicon.desktop")
                   .find("Exec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f/brevilexicon\" /minimize\n"),
               std::string::npos);
@@ -356,7 +376,7 @@ TEST(SetRunAtStartupOnLinux, WithoutAConfigurationHomeItIsTheOneInTheHome) {
     const TestFolder folder;
     const Environment configuration("XDG_CONFIG_HOME", "relative/paths/count/as/none");
     const Environment home("HOME", folder.Path().string());
-    EXPECT_TRUE(SetRunAtStartup("/opt/", true));
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
     EXPECT_TRUE(fs::exists(folder.Path() / ".config/autostart/brevilexicon.desktop"));
 }
 
@@ -364,8 +384,8 @@ TEST(SetRunAtStartupOnLinux, AConfigurationHomeThatCannotBeWrittenIsAFailure) {
     const TestFolder folder;
     folder.Write("file", "in the way");
     const Environment configuration("XDG_CONFIG_HOME", (folder.Path() / "file").string());
-    EXPECT_FALSE(SetRunAtStartup("/opt/", true));
-    EXPECT_FALSE(SetRunAtStartup("/opt/", false));
+    EXPECT_FALSE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_FALSE(SetRunAtStartup("/opt/", "brevilexicon", false));
     EXPECT_EQ(ReadText(folder.Path() / "file"), "in the way");
 }
 

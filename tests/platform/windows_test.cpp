@@ -75,6 +75,10 @@ TEST(ProgramFolderOnWindows, HasBackslashesAndEndsInOne) {
     EXPECT_EQ(folder[1], ':');
 }
 
+TEST(ProgramNameOnWindows, IsThatOfTheFileWithoutItsExtension) {
+    EXPECT_EQ(ProgramName(), "core_tests");
+}
+
 TEST(WithTrailingSeparatorOnWindows, ADriveRootGetsNoSecondBackslash) {
     EXPECT_EQ(WithTrailingSeparator("C:\\"), "C:\\");
     EXPECT_EQ(WithTrailingSeparator("C:\\Data"), "C:\\Data\\");
@@ -187,26 +191,31 @@ class RunAtStartupOnWindows : public testing::Test {
 };
 
 TEST_F(RunAtStartupOnWindows, WritesTheCommandInSmallLettersWithItsZero) {
-    ASSERT_TRUE(SetRunAtStartup("C:\\Program Files\\BREVI\u00C9\\", true));
+    ASSERT_TRUE(SetRunAtStartup("C:\\Program Files\\BREVI\u00C9\\", "Brevilexicon", true));
     const std::wstring command = L"c:\\program files\\brevi\u00E9\\brevilexicon.exe /minimize";
     EXPECT_EQ(Stored(), command + L'\0');
     EXPECT_EQ(type_, static_cast<DWORD>(REG_SZ));
     EXPECT_EQ(bytes_, (command.size() + 1) * sizeof(wchar_t));
 }
 
+TEST_F(RunAtStartupOnWindows, NamesTheFileThatTheProgramIs) {
+    ASSERT_TRUE(SetRunAtStartup("C:\\", "My L\u00C9xico 2.0", true));
+    EXPECT_EQ(Stored(), std::wstring(L"c:\\my l\u00E9xico 2.0.exe /minimize") + L'\0');
+}
+
 TEST_F(RunAtStartupOnWindows, DeletesTheValueOnce) {
-    ASSERT_TRUE(SetRunAtStartup("C:\\", true));
-    EXPECT_TRUE(SetRunAtStartup("C:\\", false));
+    ASSERT_TRUE(SetRunAtStartup("C:\\", "brevilexicon", true));
+    EXPECT_TRUE(SetRunAtStartup("C:\\", "brevilexicon", false));
     EXPECT_EQ(Stored(), L"(none)");
-    EXPECT_FALSE(SetRunAtStartup("C:\\", false));
-    EXPECT_TRUE(SetRunAtStartup("C:\\", true));
+    EXPECT_FALSE(SetRunAtStartup("C:\\", "brevilexicon", false));
+    EXPECT_TRUE(SetRunAtStartup("C:\\", "brevilexicon", true));
     EXPECT_EQ(Stored(), std::wstring(L"c:\\brevilexicon.exe /minimize") + L'\0');
 }
 
 TEST_F(RunAtStartupOnWindows, WithoutTheKeyNothingIsWritten) {
     RegDeleteTreeW(HKEY_CURRENT_USER, L"Software");
-    EXPECT_FALSE(SetRunAtStartup("C:\\", true));
-    EXPECT_FALSE(SetRunAtStartup("C:\\", false));
+    EXPECT_FALSE(SetRunAtStartup("C:\\", "brevilexicon", true));
+    EXPECT_FALSE(SetRunAtStartup("C:\\", "brevilexicon", false));
     CreateRun();
     EXPECT_EQ(Stored(), L"(none)");
 }

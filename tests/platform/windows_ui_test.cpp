@@ -95,9 +95,9 @@ TEST(StartUpOnWindows, ALogOffThatArrivesWhileLoadingClosesTheWindowAfterwards) 
     auto* const question = new wxCloseEvent(wxEVT_QUERY_END_SESSION);
     question->SetCanVeto(true);
     wxTheApp->QueueEvent(question);
-    frmMain* const window =
-        startUp.Run({messages, picker, files, desktop, "brevilexicon", folder.Text(), "",
-                     [] { return 0.0F; }, [](const std::string&, bool) { return true; }});
+    frmMain* const window = startUp.Run(
+        {messages, picker, files, desktop, "brevilexicon", folder.Text(), "", [] { return 0.0F; },
+         [](const std::string&, const std::string&, bool) { return true; }});
     ASSERT_NE(window, nullptr);
     wxTheApp->SetTopWindow(window);
     window->Show();
@@ -277,13 +277,29 @@ INSTANTIATE_TEST_SUITE_P(
         CommandLineCase{"Quoted", L"\"C:\\My Programs\\brevilexicon.exe\" /minimize", "/minimize"},
         CommandLineCase{"AsTheLogOnGivesIt", L"c:\\my programs\\brevilexicon.exe /minimize",
                         "/minimize"},
-        CommandLineCase{"TypedByName", L"brevilexicon  /minimize", "/minimize"},
+        CommandLineCase{"TypedAtThePrompt", L"brevilexicon  /minimize", "/minimize"},
+        CommandLineCase{"TypedAtThePromptInQuotes",
+                        L"\"C:\\My Programs\\brevilexicon.exe\"  /minimize", "/minimize"},
         CommandLineCase{"NotTrimmedAtItsEnd", L"brevilexicon /minimize ", "/minimize "},
         CommandLineCase{"TwoArguments", L"brevilexicon /minimize x", "/minimize x"},
         CommandLineCase{"AnArgumentInQuotes", L"brevilexicon \" /minimize\"", "\" /minimize\""},
         CommandLineCase{"Nothing", L"\"C:\\My Programs\\brevilexicon.exe\"", ""},
         CommandLineCase{"AnOpenQuote", L"\"C:\\My", ""}, CommandLineCase{"Empty", L"", ""}),
     CaseName());
+
+TEST(TextBehindProgramThatWasRenamed, IsTheWholeArgumentText) {
+    const std::wstring program = L"D:\\B\u00FCcher 2.0\\My L\u00C9xico.exe";
+    EXPECT_EQ(TextBehindProgram(L"d:\\b\u00FCcher 2.0\\my l\u00E9xico.exe /minimize", program),
+              L"/minimize");
+    EXPECT_EQ(TextBehindProgram(L"\"" + program + L"\" /minimize", program), L"/minimize");
+}
+
+TEST(ArgumentTextOnWindows, IsWhatTheseTestsWereStartedWith) {
+    const std::wstring line = GetCommandLineW();
+    const std::wstring text = ArgumentText({}).ToStdWstring();
+    EXPECT_TRUE(line.ends_with(text));
+    EXPECT_EQ(text.find(L"ui_tests"), std::wstring::npos);
+}
 
 TEST_F(MainWindowTest, StayOnTopPutsTheWindowIntoTheTopmostBand) {
     const auto isTopMost = [&] {

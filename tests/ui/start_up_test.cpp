@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
 
+#include <string>
+#include <tuple>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include <wx/stattext.h>
@@ -14,6 +18,8 @@
 namespace brelex {
 namespace {
 
+constexpr const char* kProgramName = "Brevi Lex\xC3\xA9";
+
 class StartUpTest : public testing::Test {
   protected:
     void TearDown() override { Settle(); }
@@ -25,15 +31,15 @@ class StartUpTest : public testing::Test {
                 picker_,
                 files_,
                 desktop_,
-                "brevilexicon",
+                kProgramName,
                 folder_.Text(),
                 "",
                 [this] {
                     clock_ += 1.234F;
                     return clock_;
                 },
-                [this](const std::string& folder, bool enable) {
-                    registered_.emplace_back(folder, enable);
+                [this](const std::string& folder, const std::string& name, bool enable) {
+                    registered_.emplace_back(folder, name, enable);
                     return true;
                 }};
     }
@@ -50,7 +56,8 @@ class StartUpTest : public testing::Test {
     FakeDesktop desktop_;
     StartUp startUp_;
     float clock_ = 100;
-    std::vector<std::pair<std::string, bool>> registered_;  // what was asked of the log-on
+    std::vector<std::tuple<std::string, std::string, bool>>
+        registered_;  // what was asked of the log-on
 };
 
 TEST_F(StartUpTest, SetsTheValuesOfTheProgram) {
@@ -72,7 +79,7 @@ TEST_F(StartUpTest, EveryStartRegistersTheProgramForTheLogOn) {
     frmMain* window = Run();
     ASSERT_NE(window, nullptr);
     ASSERT_EQ(registered_.size(), 1U);
-    EXPECT_EQ(registered_[0], std::pair(folder_.Text(), true));
+    EXPECT_EQ(registered_[0], std::tuple(folder_.Text(), std::string(kProgramName), true));
     window->Destroy();
 }
 

@@ -135,12 +135,13 @@ void MainWindowTest::StartWith(const std::string& databaseFile, const std::strin
     startUp_.reset();
     folder_.Write("Acronyms.dat", databaseFile);
     startUp_ = std::make_unique<StartUp>();
-    window_ = startUp_->Run({messages_, picker_, files_, desktop_, "brevilexicon", folder_.Text(),
-                             commandLine, [] { return 0.0F; },
-                             [this](const std::string& /*folder*/, bool enable) {
-                                 runAtStartup_.push_back(enable);
-                                 return runAtStartupWorks_;
-                             }});
+    window_ = startUp_->Run(
+        {messages_, picker_, files_, desktop_, "brevilexicon", folder_.Text(), commandLine,
+         [] { return 0.0F; },
+         [this](const std::string& /*folder*/, const std::string& /*name*/, bool enable) {
+             runAtStartup_.push_back(enable);
+             return runAtStartupWorks_;
+         }});
     ASSERT_NE(window_, nullptr);
     window_->Show();
     GiveBoxTheKeyboard();
