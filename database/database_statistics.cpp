@@ -29,9 +29,11 @@ std::string LetterCountText(std::string_view text) {
     return std::to_string(LetterCount(text)) + " letters";
 }
 
-std::string VersionText(const DatabaseHeader& header, float applicationVersion) {
+std::string VersionText(const DatabaseHeader& header, float applicationVersion,
+                        std::string_view decimalSeparator) {
     const auto day = DayOfCount(header.ReleaseDate);
-    return (std::isfinite(header.Version) ? FormatOneDecimal(header.Version) : "unknown") +
+    return (std::isfinite(header.Version) ? FormatOneDecimal(header.Version, decimalSeparator)
+                                          : "unknown") +
            ", released on " + (day ? FormatShortDay(*day) : "an unknown day") +
            (header.Version > applicationVersion ? " (Updated)" : "");
 }
@@ -50,8 +52,10 @@ DatabaseStatistics StatisticsOf(const ProgramValues& values) {
     const std::string_view longest = GetAbbreviation(RecordAt(rows, header.LongestAbbrvIndex));
     const std::string_view richest = GetAbbreviation(RecordAt(rows, header.MostExpansionsIndex));
     return {
-        .version = "Application version " + FormatOneDecimal(values.AppVersion),
-        .dbVersion = {"Database version:", VersionText(header, values.AppVersion)},
+        .version =
+            "Application version " + FormatOneDecimal(values.AppVersion, values.decimalSeparator),
+        .dbVersion = {"Database version:",
+                      VersionText(header, values.AppVersion, values.decimalSeparator)},
         .acronymCount = {"Total number of entries:",
                          FormatGrouped(header.RecordCount, values.groupSeparator)},
         .loadingTime = {"Loading time (current session):",

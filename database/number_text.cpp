@@ -118,7 +118,7 @@ std::string FormatPlain(float number, std::string_view decimalSeparator) {
     return text;
 }
 
-std::string FormatOneDecimal(float number) {
+std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
     // Long enough for the largest number, which has 39 digits, and for the smallest.
     std::array<char, 160> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
@@ -141,7 +141,11 @@ std::string FormatOneDecimal(float number) {
     }
     const std::string whole = tenths.substr(0, tenths.size() - 1);
     const bool negative = number < 0 && tenths.find_first_not_of('0') != std::string::npos;
-    return (negative ? "-" : "") + (whole == "0" ? std::string() : whole) + "." + tenths.back();
+    std::string text = negative ? "-" : "";
+    text += whole == "0" ? std::string() : whole;
+    text += decimalSeparator;
+    text += tenths.back();
+    return text;
 }
 
 int PercentOf(std::int32_t done, std::int32_t total) {

@@ -16,9 +16,10 @@ namespace brelex {
 /// first 15 digits are exact, as far as the number is; those behind them are zeros.
 [[nodiscard]] std::string FormatGrouped(double number, std::string_view separator);
 
-/// `number` with one decimal and no leading zero, "#.0": 6.1 is "6.1", 0.5 is ".5". Rounds halves
-/// of its shortest decimal text up: 1.25 is "1.3". Requires a finite number.
-[[nodiscard]] std::string FormatOneDecimal(float number);
+/// `number` with one decimal behind `decimalSeparator` (UTF-8) and no leading zero, "#.0": 6.1 is
+/// "6.1", 0.5 is ".5". Rounds halves of its shortest decimal text up: 1.25 is "1.3". Requires a
+/// finite number.
+[[nodiscard]] std::string FormatOneDecimal(float number, std::string_view decimalSeparator);
 
 /// `number` as its shortest plain decimal text with `decimalSeparator` (UTF-8) in it: 0.25 is
 /// "0.25" and 3 is "3". Requires a finite number.

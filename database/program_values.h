@@ -37,7 +37,7 @@ struct ProgramValues {
     std::int32_t ProgressStep = 1;  ///< records between two progress reports
     AppInfo info;
     std::string groupSeparator = ",";    ///< between thousands in shown numbers, UTF-8
-    std::string decimalSeparator = ".";  ///< before the decimals of the loading time, UTF-8
+    std::string decimalSeparator = ".";  ///< before the decimals of shown numbers, UTF-8
 };
 
 }  // namespace brelex

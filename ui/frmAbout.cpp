@@ -58,8 +58,9 @@ void frmAbout::CreateControls() {
     picAppTitle = title;
     lblDescription =
         new wxStaticText(surface_, wxID_ANY, "The best offline database of computer acronyms");
-    lblVersion = new wxStaticText(surface_, wxID_ANY,
-                                  WxText("version " + FormatOneDecimal(values_.AppVersion)));
+    lblVersion = new wxStaticText(
+        surface_, wxID_ANY,
+        WxText("version " + FormatOneDecimal(values_.AppVersion, values_.decimalSeparator)));
     lblCopyRight = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
     lblCopyRight->SetLabelText(WxText(values_.info.copyright + ". All Rights Reserved."));
     lblDBVersion = new wxStaticText(surface_, wxID_ANY, wxEmptyString);

@@ -332,8 +332,9 @@ void frmMain::AddHints() {
                 "Number of entries in the database (double-click to view Database Info)");
     hints_->Add(*lblRecNumber, "Current record number (double-click to go to specified record)");
     hints_->Add(*imgAppTitle,
-                WxText(std::string(kAppTitle) + " version " + FormatOneDecimal(values_.AppVersion) +
-                       ", " + values_.info.copyright));
+                WxText(std::string(kAppTitle) + " version " +
+                       FormatOneDecimal(values_.AppVersion, values_.decimalSeparator) + ", " +
+                       values_.info.copyright));
     std::vector<wxString> ofToolbar;
     for (const ToolbarIcon& icon : kToolbarIcons) {
         ofToolbar.emplace_back(icon.description);

@@ -120,6 +120,14 @@ TEST_F(StatisticsTest, TheLoadingTimeHasTheUsersDecimalSeparatorAndNoFixedDecima
     EXPECT_EQ(Statistics().loadingTime.text, "-86399,9 seconds");
 }
 
+TEST_F(StatisticsTest, VersionsHaveTheUsersDecimalSeparator) {
+    values_.AppVersion = 1.5F;
+    values_.Header.Version = 2.0F;
+    values_.decimalSeparator = ",";
+    EXPECT_EQ(Statistics().version, "Application version 1,5");
+    EXPECT_TRUE(Statistics().dbVersion.text.starts_with("2,0, released on "));
+}
+
 TEST_F(StatisticsTest, CountsAreShownWithoutGroups) {
     values_.Header.CommonFirstLetter = 'S';
     values_.Header.CommonFirstLetterCount = 1234;

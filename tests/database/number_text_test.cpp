@@ -55,24 +55,37 @@ INSTANTIATE_TEST_SUITE_P(
     CaseName());
 
 struct DecimalCase {
+    const char* name;
     float number;
+    const char* separator;
     const char* text;
 };
 
 class FormatOneDecimalTest : public testing::TestWithParam<DecimalCase> {};
 
 TEST_P(FormatOneDecimalTest, HasOneDecimalAndNoLeadingZero) {
-    EXPECT_EQ(FormatOneDecimal(GetParam().number), GetParam().text);
+    EXPECT_EQ(FormatOneDecimal(GetParam().number, GetParam().separator), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, FormatOneDecimalTest,
-    testing::Values(DecimalCase{6.1F, "6.1"}, DecimalCase{1.0F, "1.0"}, DecimalCase{0.5F, ".5"},
-                    DecimalCase{0.0F, ".0"}, DecimalCase{1.25F, "1.3"}, DecimalCase{1.24F, "1.2"},
-                    DecimalCase{1.35F, "1.4"}, DecimalCase{9.95F, "10.0"},
-                    DecimalCase{0.95F, "1.0"}, DecimalCase{0.04F, ".0"}, DecimalCase{-0.5F, "-.5"},
-                    DecimalCase{-0.04F, ".0"}, DecimalCase{1e9F, "1000000000.0"},
-                    DecimalCase{std::numeric_limits<float>::infinity(), "inf"}));
+    testing::Values(
+        DecimalCase{"OneDecimal", 6.1F, ".", "6.1"}, DecimalCase{"Whole", 1.0F, ".", "1.0"},
+        DecimalCase{"BelowOne", 0.5F, ".", ".5"}, DecimalCase{"Nothing", 0.0F, ".", ".0"},
+        DecimalCase{"HalfUp", 1.25F, ".", "1.3"}, DecimalCase{"BelowHalf", 1.24F, ".", "1.2"},
+        DecimalCase{"HalfUpFromOdd", 1.35F, ".", "1.4"}, DecimalCase{"UpToTen", 9.95F, ".", "10.0"},
+        DecimalCase{"UpToOne", 0.95F, ".", "1.0"}, DecimalCase{"DownToNothing", 0.04F, ".", ".0"},
+        DecimalCase{"Negative", -0.5F, ".", "-.5"},
+        DecimalCase{"NegativeNothing", -0.04F, ".", ".0"},
+        DecimalCase{"Large", 1e9F, ".", "1000000000.0"},
+        DecimalCase{"GermanWhole", 1.0F, ",", "1,0"},
+        DecimalCase{"GermanBelowOne", 0.5F, ",", ",5"},
+        DecimalCase{"GermanNegative", -12.34F, ",", "-12,3"},
+        DecimalCase{"ArabicSeparator", 6.1F, "\xD9\xAB",
+                    "6\xD9\xAB"
+                    "1"},
+        DecimalCase{"Infinite", std::numeric_limits<float>::infinity(), ",", "inf"}),
+    CaseName());
 
 struct ParseCase {
     const char* name;

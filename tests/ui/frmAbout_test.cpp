@@ -79,6 +79,18 @@ class AboutTest : public SideWindowTest {
     }
 };
 
+TEST_F(AboutTest, TheVersionHasTheUsersDecimalSeparator) {
+    ProgramValues values = startUp_->Values();
+    values.decimalSeparator = ",";
+    const std::function<void(const std::string&)> openNothing = [](const std::string&) {};
+    const auto open = [&] {
+        auto* const about = new frmAbout(window_, values, openNothing);
+        about->ShowModal();
+        about->Destroy();
+    };
+    InSideWindow("frmAbout", open, [&] { EXPECT_EQ(Label("lblVersion"), "version 1,0"); });
+}
+
 TEST_F(AboutTest, SaysWhatTheProgramIs) {
     InAbout([&] {
         const AppInfo& info = startUp_->Values().info;
