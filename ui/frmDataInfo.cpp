@@ -5,6 +5,7 @@
 
 #include <wx/button.h>
 #include <wx/dcclient.h>
+#include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/statline.h>
@@ -15,6 +16,7 @@
 #include "ui/app_icon.h"
 #include "ui/modGeneral.h"
 #include "ui/surface.h"
+#include "ui/wrapped_text.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -25,6 +27,16 @@ namespace {
 constexpr double kMargin = 10;
 constexpr double kValueWidth = 260;
 constexpr int kIconSize = 48;
+
+// How many lines a fact takes at most, however long an entry is.
+constexpr int kFewLines = 3;
+constexpr int kManyLines = 12;
+
+// Behind a long entry the note in brackets tells how long it is, and where to find it.
+std::size_t LengthOfNote(const wxString& fact) {
+    const std::size_t begin = fact.rfind(" (");
+    return begin == wxString::npos ? 0 : fact.length() - begin;
+}
 
 }  // namespace
 
@@ -59,6 +71,9 @@ void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
     }
     captionWidth_ += units_.Pixels(4);  // measured text is a little wider when drawn (with Wine)
 
+    // With a large font on a small screen fewer.
+    const int linesOfExpansion =
+        std::clamp(wxDisplay(this).GetClientArea().height / 4 / GetCharHeight(), 1, kManyLines);
     const int gap = units_.Pixels(kMargin);
     figures_ = new wxBoxSizer(wxVERTICAL);
     const auto addGroup = [&](wxFlexGridSizer* group, bool last) {
@@ -68,24 +83,27 @@ void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
         }
     };
     wxFlexGridSizer* group = NewGroup();
-    lblDBVersion = AddStatistic(*group, "lblDBVersion", statistics.dbVersion);
-    lblAcronymCount = AddStatistic(*group, "lblAcronymCount", statistics.acronymCount);
-    lblLoadingTime = AddStatistic(*group, "lblLoadingTime", statistics.loadingTime);
+    lblDBVersion = AddStatistic(*group, "lblDBVersion", statistics.dbVersion, kFewLines);
+    lblAcronymCount = AddStatistic(*group, "lblAcronymCount", statistics.acronymCount, kFewLines);
+    lblLoadingTime = AddStatistic(*group, "lblLoadingTime", statistics.loadingTime, kFewLines);
     addGroup(group, false);
     group = NewGroup();
-    lblFirstLetterOfMostAcronyms =
-        AddStatistic(*group, "lblFirstLetterOfMostAcronyms", statistics.firstLetterOfMostAcronyms);
-    lblAcronymWithHighestExpn =
-        AddStatistic(*group, "lblAcronymWithHighestExpn", statistics.acronymWithHighestExpn);
+    lblFirstLetterOfMostAcronyms = AddStatistic(*group, "lblFirstLetterOfMostAcronyms",
+                                                statistics.firstLetterOfMostAcronyms, kFewLines);
+    lblAcronymWithHighestExpn = AddStatistic(*group, "lblAcronymWithHighestExpn",
+                                             statistics.acronymWithHighestExpn, kFewLines);
     addGroup(group, false);
     group = NewGroup();
-    lblLongestAcronym = AddStatistic(*group, "lblLongestAcronym", statistics.longestAcronym);
-    lblLongestExpansion = AddStatistic(*group, "lblLongestExpansion", statistics.longestExpansion);
+    lblLongestAcronym =
+        AddStatistic(*group, "lblLongestAcronym", statistics.longestAcronym, kFewLines);
+    lblLongestExpansion =
+        AddStatistic(*group, "lblLongestExpansion", statistics.longestExpansion, linesOfExpansion);
     addGroup(group, false);
     group = NewGroup();
-    lblAvgLenOfAcronyms = AddStatistic(*group, "lblAvgLenOfAcronyms", statistics.avgLenOfAcronyms);
+    lblAvgLenOfAcronyms =
+        AddStatistic(*group, "lblAvgLenOfAcronyms", statistics.avgLenOfAcronyms, kFewLines);
     lblAvgLenOfExpansions =
-        AddStatistic(*group, "lblAvgLenOfExpansions", statistics.avgLenOfExpansions);
+        AddStatistic(*group, "lblAvgLenOfExpansions", statistics.avgLenOfExpansions, kFewLines);
     addGroup(group, true);
 
     lblFootnote_ = new wxStaticText(surface_, wxID_ANY, kStatisticsFootnote);
@@ -103,15 +121,16 @@ wxFlexGridSizer* frmDataInfo::NewGroup() const {
 }
 
 wxStaticText* frmDataInfo::AddStatistic(wxFlexGridSizer& group, const char* name,
-                                        const Statistic& statistic) {
+                                        const Statistic& statistic, int mostLines) {
     auto* caption = new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
                                      wxDefaultPosition, {captionWidth_, -1});
     auto* value = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
-    value->SetName(name);
-    value->SetLabelText(WxText(statistic.text));
-    value->Wrap(units_.Pixels(kValueWidth));
-    // A long word does not wrap.
-    value->SetMinSize({std::max(units_.Pixels(kValueWidth), value->GetBestSize().x), -1});
+    const wxString fact = WxText(statistic.text);
+    const int width = units_.Pixels(kValueWidth);
+    value->SetLabelText(WrappedText(*value, fact, {width, mostLines}, LengthOfNote(fact)));
+    SetNames(*value, name, fact);  // also what may be left out in the window
+    // Measured text is a little wider when drawn.
+    value->SetMinSize({std::max(width, value->GetBestSize().x), -1});
     group.Add(caption);
     group.Add(value, 0, wxEXPAND);
     return value;

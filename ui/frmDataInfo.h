@@ -27,7 +27,7 @@ class frmDataInfo final : public wxDialog {
   private:
     void CreateControls(const DatabaseStatistics& statistics);
     [[nodiscard]] wxStaticText* AddStatistic(wxFlexGridSizer& group, const char* name,
-                                             const Statistic& statistic);
+                                             const Statistic& statistic, int mostLines);
     [[nodiscard]] wxFlexGridSizer* NewGroup() const;
     [[nodiscard]] wxSizer* LayoutOfTitle();
     void PlaceControls();

@@ -450,5 +450,19 @@ TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {
     box->Destroy();
 }
 
+using InfoWindowOnLinux = SideWindowTest;
+
+TEST_F(InfoWindowOnLinux, AScreenReaderSaysAlsoWhatDoesNotFit) {
+    const std::string expansion(5000, 'x');
+    Start({"LONG\t" + expansion});
+    const auto open = [&] { window_->OpenModalForm(2); };
+    InSideWindow("frmDataInfo", open, [&] {
+        AtkObject* const label =
+            gtk_widget_get_accessible(GTK_WIDGET(In("lblLongestExpansion").GetHandle()));
+        EXPECT_EQ(std::string(atk_object_get_name(label)),
+                  expansion + " (5000 letters, abbreviated as LONG)");
+    });
+}
+
 }  // namespace
 }  // namespace brelex

@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/display.h>
 #include <wx/stattext.h>
 
 #include "database/database_header.h"
+#include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/wx_text.h"
 
@@ -107,6 +109,75 @@ TEST_F(InfoWindowTest, NothingIsCutOff) {
             EXPECT_GE(In(name).GetSize().x, In(name).GetBestSize().x) << name;
             EXPECT_GE(In(name).GetSize().y, In(name).GetBestSize().y) << name;
         }
+    });
+}
+
+struct LongCase {
+    const char* name;
+    std::string abbreviation;
+    std::string expansion;
+    const char* begin;  // of what the window shows
+    const char* end;
+};
+
+std::string Repeated(const std::string& word, int times) {
+    std::string text;
+    for (int i = 0; i < times; ++i) {
+        text += word;
+    }
+    return text;
+}
+
+class LongEntryTest : public InfoWindowTest, public testing::WithParamInterface<LongCase> {
+  protected:
+    // The size with nothing long in it.
+    void SetUp() override {
+        InfoWindowTest::SetUp();
+        InInfoWindow([&] { usual_ = Side().GetSize(); });
+    }
+
+    wxSize usual_;
+};
+
+TEST_P(LongEntryTest, LeavesTheWindowOnTheScreen) {
+    Start({GetParam().abbreviation + "\t" + GetParam().expansion});
+    InInfoWindow([&] {
+        const wxRect screen = wxDisplay(&Side()).GetGeometry();
+        EXPECT_TRUE(screen.Contains(Side().GetScreenRect()));
+        EXPECT_TRUE(screen.Contains(In("cmdOK").GetScreenRect()));
+        EXPECT_LE(Side().GetSize().x, usual_.x + 10);
+        const auto& label = In<wxStaticText>("lblLongestExpansion");
+        EXPECT_GE(label.GetSize().x, label.GetBestSize().x);
+        EXPECT_GE(label.GetSize().y, label.GetBestSize().y);
+        EXPECT_NE(label.GetLabelText().Find(L'\u2026'), wxNOT_FOUND);
+        const std::string shown = Unwrapped("lblLongestExpansion");
+        EXPECT_TRUE(shown.starts_with(GetParam().begin)) << shown;
+        EXPECT_TRUE(shown.ends_with(GetParam().end)) << shown;
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Entries, LongEntryTest,
+    testing::Values(LongCase{"Words", "X", Repeated("word ", 2400) + "end", "word word word ",
+                             " (9603 letters, abbreviated as X)"},
+                    LongCase{"OneWord", "X", Repeated("Wolkenkratzer", 1000),
+                             "WolkenkratzerWolkenkratzer", " (13000 letters, abbreviated as X)"},
+                    LongCase{"BothLong", Repeated("ABBREVIATION", 500),
+                             Repeated("Ex pan sion", 500), "Ex pan sionEx ", "\xE2\x80\xA6"},
+                    LongCase{"LinesOfItsOwn", "X", Repeated("a\nb\tc\r", 600) + "end",
+                             "a b c a b c ", " (3603 letters, abbreviated as X)"}),
+    CaseName());
+
+// Three hundred letters find their place whole.
+TEST_F(InfoWindowTest, AWordThatIsLongerThanALineIsBroken) {
+    const std::string word = Repeated("abcdefghij", 30);
+    Start({"X\t" + word});
+    InInfoWindow([&] {
+        wxString shown = In<wxStaticText>("lblLongestExpansion").GetLabelText();
+        EXPECT_GT(shown.Freq('\n'), 3);
+        shown.Replace("\n", "");
+        EXPECT_EQ(Utf8Text(shown).substr(0, word.size()), word);
+        EXPECT_TRUE(wxDisplay(&Side()).GetGeometry().Contains(In("cmdOK").GetScreenRect()));
     });
 }
 
