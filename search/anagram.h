@@ -63,8 +63,8 @@ class AnagramWatcher {
     /// The entry of a row (0-based) is a hit.
     virtual void OnHit(std::int32_t row) = 0;
 
-    /// Row 0, 100, 200, ... is done: so many percent of all, to the nearest, halves to even. The
-    /// search ends if this returns false.
+    /// Row 0, 100, 200, ... is done: so many percent of all, to the nearest, halves to even,
+    /// which may be 100 before the last row is. The search ends if this returns false.
     [[nodiscard]] virtual bool OnProgress(int percent) = 0;
 };
 

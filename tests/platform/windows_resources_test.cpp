@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What Explorer and the system read out of the two programs.
+// What Explorer and the system read out of the programs.
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -71,6 +71,7 @@ class ProgramFileTest : public testing::TestWithParam<ProgramCase> {
 
 TEST_P(ProgramFileTest, SaysWhatItIs) {
     EXPECT_EQ(VersionText(program_, L"ProductName"), "Brevilexicon");
+    EXPECT_EQ(VersionText(program_, L"CompanyName"), TEST_PUBLISHER);
     EXPECT_EQ(VersionText(program_, L"FileDescription"), GetParam().description);
     EXPECT_EQ(VersionText(program_, L"LegalCopyright"), TEST_COPYRIGHT);
     EXPECT_EQ(VersionText(program_, L"FileVersion"), TEST_VERSION);
@@ -101,7 +102,8 @@ TEST_P(ProgramFileTest, AsksForTodaysControlsScalingAndPaths) {
 INSTANTIATE_TEST_SUITE_P(
     Programs, ProgramFileTest,
     testing::Values(ProgramCase{"Dictionary", "brevilexicon.exe", "Brevilexicon"},
-                    ProgramCase{"Companion", "brelex.exe", "Brevilexicon in the terminal"}),
+                    ProgramCase{"Companion", "brelex.exe", "Brevilexicon in the terminal"},
+                    ProgramCase{"HelpViewer", "brelex-help.exe", "Brevilexicon help"}),
     CaseName());
 
 }  // namespace
