@@ -32,6 +32,9 @@ constexpr int kHeight = 660;
 // The project file in a book, which is a ZIP archive.
 const char* const kProjectInBook = "#zip:brelex.hhp";
 
+}  // namespace
+
+// Not in the unnamed namespace: the toolkit's macro makes a function that returns it.
 class HelpApp final : public wxApp {
   public:
     bool OnInit() override {
@@ -101,8 +104,6 @@ class HelpApp final : public wxApp {
     wxHtmlHelpController controller_{wxHF_DEFAULT_STYLE & ~(wxHF_OPEN_FILES | wxHF_BOOKMARKS)};
     bool done_ = false;  // what was asked for instead of a window
 };
-
-}  // namespace
 
 }  // namespace brelex
 

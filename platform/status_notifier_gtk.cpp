@@ -17,7 +17,6 @@ namespace {
 
 constexpr char kWatcher[] = "org.kde.StatusNotifierWatcher";
 constexpr char kWatcherPath[] = "/StatusNotifierWatcher";
-constexpr char kItemInterface[] = "org.kde.StatusNotifierItem";
 constexpr char kItemPath[] = "/StatusNotifierItem";
 constexpr char kMenuPath[] = "/MenuBar";
 
