@@ -10,18 +10,26 @@ namespace {
 
 constexpr char kKey[] = "<Control><Shift>G";
 
+// Once for the process, as each time takes another connection to the display and keeps it.
+bool IsKeybinderReady() {
+    static const bool ready = [] {
+        if (keybinder_supported() == FALSE) {  // not an X11 display
+            return false;
+        }
+        keybinder_init();
+        // Or else a key with Shift is bound but never fires (keybinder 3.0-0.3.2).
+        keybinder_set_use_cooked_accelerators(FALSE);
+        return true;
+    }();
+    return ready;
+}
+
 }  // namespace
 
 class ActivationHotKey::Binding {
   public:
     explicit Binding(std::function<void()> bringForward) : bringForward_(std::move(bringForward)) {
-        if (keybinder_supported() == FALSE) {  // not an X11 display
-            return;
-        }
-        keybinder_init();
-        // Or else a key with Shift is bound but never fires (keybinder 3.0-0.3.2).
-        keybinder_set_use_cooked_accelerators(FALSE);
-        bound_ = keybinder_bind(kKey, &Binding::OnKey, this) != FALSE;
+        bound_ = IsKeybinderReady() && keybinder_bind(kKey, &Binding::OnKey, this) != FALSE;
     }
 
     Binding(const Binding&) = delete;
