@@ -19,6 +19,7 @@ frmSplash::frmSplash(const AppInfo& info)
     : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
               wxFRAME_NO_TASKBAR | wxBORDER_NONE) {
     SetName("frmSplash");
+    SetExtraStyle(GetExtraStyle() | wxWS_EX_TRANSIENT);  // owns no message box, as it goes soon
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
 

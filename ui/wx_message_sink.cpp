@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/wx_message_sink.h"
 
-#include <wx/msgdlg.h>
-
+#include "platform/message_box.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -29,8 +28,8 @@ long StyleOf(MessageIcon icon) {
 
 MessageAnswer WxMessageSink::Show(const Message& message) {
     const bool question = message.buttons == MessageButtons::YesNo;
-    wxMessageDialog box(owner_, WxText(message.text), WxText(message.title),
-                        StyleOf(message.icon) | wxCENTRE | (question ? wxYES_NO : wxOK));
+    SystemMessageBox box(owner_, WxText(message.text), WxText(message.title),
+                         StyleOf(message.icon) | (question ? wxYES_NO : wxOK));
     const int answer = box.ShowModal();
     if (!question) {
         return MessageAnswer::Ok;

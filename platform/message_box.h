@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/msgdlg.h>
+
+namespace brelex {
+
+/// A message box of the system with one of its standard icons, which the toolkit's own box lacks on
+/// GTK and shows in another kind of dialog on Windows. It belongs to the owner's window, or else to
+/// the window that is in front. While none of ours is up, as at the start, it can be found
+/// like any window: it carries the program's icon, is in the task bar, and stays above others.
+class SystemMessageBox final : public wxMessageDialog {
+  public:
+    /// `owner` may be null. `style` is wxOK or wxYES_NO and one of wxICON_NONE, wxICON_INFORMATION,
+    /// wxICON_QUESTION, wxICON_EXCLAMATION and wxICON_ERROR.
+    SystemMessageBox(wxWindow* owner, const wxString& text, const wxString& title, long style)
+        : wxMessageDialog(owner, text, title, style) {}
+
+    /// Returns the identifier of the button, or wxID_CANCEL if the box is closed without one.
+    int ShowModal() override;
+};
+
+}  // namespace brelex
