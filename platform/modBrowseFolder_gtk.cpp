@@ -3,13 +3,23 @@
 
 #include <wx/dirdlg.h>
 
+#include <gtk/gtk.h>
+
 #include "database/file_io.h"
+#include "platform/lone_window_gtk.h"
+#include "platform/program_folder.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
 
 wxString BrowseForFolder(wxWindow* owner, const wxString& title) {
-    wxDirDialog browser(owner, title, wxEmptyString, wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
+    // Without a folder to start in, GTK shows a list of recently used ones, in which no path can be
+    // typed. What is sought here mostly lies near the program.
+    wxDirDialog browser(owner, title, WxText(ProgramFolder()),
+                        wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
+    if (browser.GetParent() == nullptr) {
+        MakeFindable(GTK_WINDOW(browser.GetHandle()));
+    }
     if (browser.ShowModal() != wxID_OK) {
         return {};
     }

@@ -3,12 +3,16 @@
 
 #include <array>
 
+#include <wx/bmpbndl.h>
+#include <wx/iconbndl.h>
 #include <wx/window.h>
 
 #include <windows.h>
 #include <shlobj.h>
 
 #include "database/file_io.h"
+#include "platform/dialog_hook_msw.h"
+#include "ui/app_icon.h"
 #include "ui/wx_text.h"
 
 namespace brelex {
@@ -18,6 +22,8 @@ wxString BrowseForFolder(wxWindow* owner, const wxString& title) {
     request.hwndOwner = owner != nullptr ? owner->GetHWND() : GetDesktopWindow();
     request.lpszTitle = title.wc_str();
     request.ulFlags = BIF_RETURNONLYFSDIRS;
+    const wxIconBundle icons = AppIcons();
+    const DialogHook hook([&](HWND browser) { GiveIcons(browser, icons); });
     PIDLIST_ABSOLUTE const chosen = SHBrowseForFolderW(&request);
     if (chosen == nullptr) {
         return {};

@@ -22,7 +22,9 @@
 #include "platform/modBrowseFolder.h"
 #include "platform/text_columns.h"
 #include "platform/wide_text.h"
+#include "tests/platform/system_window.h"
 #include "tests/support/named_case.h"
+#include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/modGeneral.h"
 #include "ui/wx_text.h"
@@ -211,6 +213,21 @@ TEST_F(BrowseForFolderTest, CancellingGivesAnEmptyText) {
     EXPECT_EQ(BrowseForFolder(nullptr, "Location of Acronyms.dat"), "");
     EXPECT_TRUE(driver.Done());
     EXPECT_TRUE(titleShown_);
+}
+
+TEST_F(BrowseForFolderTest, TheBrowserCanBeFoundAmongOtherWindows) {
+    const ModalDriver driver({[] {
+                                  HWND const browser = BrowserWindow();
+                                  if (browser == nullptr) {
+                                      return false;
+                                  }
+                                  EXPECT_TRUE(IsInTaskBar(browser));
+                                  EXPECT_TRUE(ShowsTheProgramsIcon(browser));
+                                  return true;
+                              },
+                              Press(IDCANCEL)});
+    EXPECT_EQ(BrowseForFolder(nullptr, "Location of Acronyms.dat"), "");
+    EXPECT_TRUE(driver.Done());
 }
 
 TEST_F(BrowseForFolderTest, AFolderEndsInABackslash) {
