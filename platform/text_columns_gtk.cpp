@@ -21,6 +21,10 @@ void SetSideMargins(wxTextCtrl& box, int pixels) {
     gtk_text_view_set_right_margin(TextViewOf(box), pixels);
 }
 
+void SetTopMargin(wxTextCtrl& box, int pixels) {
+    gtk_text_view_set_top_margin(TextViewOf(box), pixels);
+}
+
 int SetTabStop(wxTextCtrl& box, int dialogUnits) {
     const int pixels = box.ConvertDialogToPixels(wxPoint(dialogUnits, 0)).x;
     PangoTabArray* const tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, pixels);

@@ -64,6 +64,7 @@ void frmAbout::CreateControls() {
     lblCopyRight = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
     lblCopyRight->SetLabelText(WxText(values_.info.copyright + ". All Rights Reserved."));
     lblDBVersion = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
+    lblDBVersion->Hide();  // or it would take the room of a line, as empty as it is
     lblHyperLink[0] = new Link(surface_, WxText(values_.info.homePage),
                                [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); });
     lblHyperLink[1] = new Link(surface_, WxText(values_.info.supportAddress), [this] {
@@ -95,7 +96,7 @@ wxSizer* frmAbout::LayoutOfTexts() {
     auto* texts = new wxBoxSizer(wxVERTICAL);
     texts->Add(picAppTitle, 0, wxBOTTOM, gap);
     for (wxStaticText* label : {lblDescription, lblVersion, lblDBVersion, lblCopyRight}) {
-        texts->Add(label, 0, wxEXPAND | wxBOTTOM, label == lblDBVersion ? 0 : gap / 3);
+        texts->Add(label, 0, wxEXPAND | wxBOTTOM, gap / 3);
     }
     texts->AddSpacer(gap / 2);
     for (Link* link : lblHyperLink) {

@@ -26,7 +26,6 @@ constexpr double kHeight = 420;
 constexpr double kMargin = 10;
 
 constexpr int kTextMarginPixels = 8;
-constexpr int kTabStopDialogUnits = 32;
 
 // The rows with tabs are all shorter than the introduction.
 int WidestLine(const wxWindow& window, const wxString& text) {
@@ -35,6 +34,29 @@ int WidestLine(const wxWindow& window, const wxString& text) {
         widest = std::max(widest, window.GetTextExtent(line).x);
     }
     return widest;
+}
+
+// Smileys stand behind one tab, what they mean behind two more, or one more if the smiley is long.
+// The meanings form a column if the stops are wider apart than the short smileys and not wider than
+// the long ones. Which distance that is depends on the font. Returns it in dialog units.
+int TabStopFor(const wxWindow& window, const wxString& text) {
+    int widestShort = 0;
+    int narrowestLong = 0;
+    for (const wxString& line : wxSplit(text, '\n', '\0')) {
+        const wxArrayString parts = wxSplit(line, '\t', '\0');
+        if (parts.size() < 3) {
+            continue;
+        }
+        const int width = window.GetTextExtent(parts[1]).x;
+        if (parts[2].empty()) {
+            widestShort = std::max(widestShort, width);
+        } else if (narrowestLong == 0 || width < narrowestLong) {
+            narrowestLong = width;
+        }
+    }
+    // A font may be so odd that a long smiley is not: then it stands out, and no other row does.
+    const int stop = (widestShort + std::max(widestShort, narrowestLong)) / 2 + 1;
+    return window.ConvertPixelsToDialog(wxPoint(stop, 0)).x;
 }
 
 }  // namespace
@@ -56,13 +78,15 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     const wxString text = WxLines(WxText(SmileyDictionaryText()));
     PlaceControls(WidestLine(*txtReadme, text));
     SetSideMargins(*txtReadme, kTextMarginPixels);
-    SetTabStop(*txtReadme, kTabStopDialogUnits);
+    SetTopMargin(*txtReadme, kTextMarginPixels);
+    SetTabStop(*txtReadme, TabStopFor(*txtReadme, text));
     txtReadme->ChangeValue(text);
     txtReadme->SetInsertionPoint(0);
     ShowAppInfoOnMenuRequest(*txtReadme, info);
+    Bind(wxEVT_CHAR_HOOK, &frmSmiley::OnKey, this);
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
     KeepCentered(*this, *main);
-    cmdClose->SetFocus();
+    txtReadme->SetFocus();  // the keys that scroll it and Shift+F10 work at once
 }
 
 void frmSmiley::PlaceControls(int textWidth) {
@@ -78,6 +102,15 @@ void frmSmiley::PlaceControls(int textWidth) {
     inside.DecTo(LargestInside(*this));  // the text scrolls, and wraps
     SetClientSize(inside);
     Layout();
+}
+
+void frmSmiley::OnKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && txtReadme->HasFocus()) {
+        EndModal(wxID_CLOSE);  // the box would keep the key to itself
+    } else {
+        event.Skip();
+    }
 }
 
 }  // namespace brelex

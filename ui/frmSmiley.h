@@ -19,6 +19,7 @@ class frmSmiley final : public wxDialog {
 
   private:
     void PlaceControls(int textWidth);
+    void OnKey(wxKeyEvent& event);
 
     LayoutUnits units_;
     wxTextCtrl* txtReadme = nullptr;

@@ -127,6 +127,7 @@ void frmViewEntry::BindEvents(const AppInfo& info) {
     Bind(wxEVT_CHAR_HOOK, &frmViewEntry::OnKey, this);
     cmdCopy->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { CopyEntry(); });
     SetSideMargins(*txtExpn, kTextMarginPixels);
+    SetTopMargin(*txtExpn, kTextMarginPixels);
     LeadAccessKeysTo(*this, {{lblAbbreviation_, txtAbbrv}, {lblExpansion_, txtExpn}});
     for (wxTextCtrl* box : {txtAbbrv, txtExpn}) {
         ShowAppInfoOnMenuRequest(*box, info);

@@ -399,5 +399,27 @@ TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {
     box->Destroy();
 }
 
+TEST_F(MainWindowTest, ATopMarginChangesOnlyTheTopAndLastsOverANewSize) {
+    auto* const box = new wxTextCtrl(window_, wxID_ANY, wxEmptyString, wxDefaultPosition, {600, 80},
+                                     wxTE_MULTILINE | wxTE_DONTWRAP);
+    const auto area = [&] {
+        RECT text{};
+        SendMessageW(static_cast<HWND>(box->GetHandle()), EM_GETRECT, 0,
+                     reinterpret_cast<LPARAM>(&text));
+        return wxRect(wxPoint(text.left, text.top), wxPoint(text.right, text.bottom));
+    };
+    SetSideMargins(*box, 5);
+    const wxRect before = area();
+    SetTopMargin(*box, 9);
+    EXPECT_EQ(area().x, before.x);
+    EXPECT_EQ(area().width, before.width);
+    EXPECT_LE(area().GetBottom(), before.GetBottom());  // whole lines
+    EXPECT_EQ(area().y, 9);
+    box->SetSize(500, 90);
+    EXPECT_TRUE(WaitFor([&] { return area().y == 9 && area().width < before.width; }));
+    EXPECT_EQ(area().x, before.x);
+    box->Destroy();
+}
+
 }  // namespace
 }  // namespace brelex

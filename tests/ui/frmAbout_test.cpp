@@ -104,6 +104,14 @@ TEST_F(AboutTest, SaysWhatTheProgramIs) {
     });
 }
 
+TEST_F(AboutTest, TheEmptyTextLeavesNoGap) {
+    InAbout([&] {
+        const auto top = [&](const char* name) { return In(name).GetPosition().y; };
+        EXPECT_EQ(top("lblCopyRight") - top("lblVersion"),
+                  top("lblVersion") - top("lblDescription"));
+    });
+}
+
 TEST_F(AboutTest, TheTextSlidesIn) {
     InAbout([&] {
         const auto& text = In<PaintedText>("picPayPal");

@@ -10,6 +10,8 @@
 #include <wx/textctrl.h>
 
 #include "presentation/program_texts.h"
+#include "tests/platform/keyboard.h"
+#include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/wx_text.h"
 
@@ -56,6 +58,43 @@ TEST_F(SmileyWindowTest, NoLineIsCutOff) {
             ASSERT_TRUE(Text().GetValue().Contains(line));
             EXPECT_GE(Text().GetClientSize().x, Text().GetTextExtent(line).x + 2 * 8) << line;
         }
+    });
+}
+
+TEST_F(SmileyWindowTest, TheMeaningsFormOneColumn) {
+    InSmileyWindow([&] { EXPECT_EQ(ColumnsOfMeanings(Text()).size(), 1U); });
+}
+
+TEST_F(SmileyWindowTest, TheFirstLineKeepsItsDistanceToTheEdge) {
+    InSmileyWindow([&] {
+        constexpr int kMargin = 8;  // above the caret, which is as high as the line
+        EXPECT_TRUE(WaitFor([&] { return RowsAboveText(Text()) >= kMargin; }))
+            << RowsAboveText(Text());
+    });
+}
+
+TEST_F(SmileyWindowTest, TheTextTakesKeysAtOnce) {
+    const MessageBoxes boxes;
+    InSmileyWindow([&] {
+        EXPECT_TRUE(HasFocus("txtReadme"));
+        EXPECT_EQ(Text().GetStringSelection(), "");
+        user_.Char(WXK_F10, wxMOD_SHIFT);
+        EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        user_.Char(WXK_PAGEDOWN);
+        EXPECT_TRUE(WaitFor([&] { return Text().GetInsertionPoint() > 0; }));
+        user_.Char(WXK_TAB);
+        EXPECT_TRUE(WaitFor([&] { return HasFocus("cmdClose"); }));
+    });
+}
+
+TEST_F(SmileyWindowTest, EnterInTheTextClosesIt) {
+    InSmileyWindow([&] {
+        user_.Char(WXK_RETURN);
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
+    });
+    InSmileyWindow([&] {
+        PressKeypadEnter();
+        EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
     });
 }
 

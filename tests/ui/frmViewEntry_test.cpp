@@ -18,6 +18,7 @@
 #include "database/database_header.h"
 #include "tests/platform/keyboard.h"
 #include "tests/support/named_case.h"
+#include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/main_menus.h"
 #include "ui/wx_text.h"
@@ -71,6 +72,14 @@ TEST_F(EntryViewerTest, ShowsTheSelectedEntryAndItsLetters) {
         std::sort(labels.begin(), labels.end());
         EXPECT_EQ(labels, (std::vector<std::string>{
                               "14", "3", "Abbreviation:", "Expansion:", "letters", "letters"}));
+    });
+}
+
+TEST_F(EntryViewerTest, TheExpansionKeepsItsDistanceToTheEdge) {
+    InViewer("ROM\tRead Only Memory", [&] {
+        constexpr int kMargin = 4;
+        EXPECT_TRUE(WaitFor([&] { return RowsAboveText(In("txtExpn")) >= kMargin + 2; }))
+            << RowsAboveText(In("txtExpn"));
     });
 }
 
