@@ -11,7 +11,6 @@
 #include <wx/dialog.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-#include <wx/textdlg.h>
 #include <wx/utils.h>
 #include <wx/weakref.h>
 
@@ -36,6 +35,7 @@
 #include "ui/scope.h"
 #include "ui/side_windows.h"
 #include "ui/surface.h"
+#include "ui/text_question.h"
 #include "ui/title_image.h"
 #include "ui/toolbar.h"
 #include "ui/wx_text.h"
@@ -842,7 +842,7 @@ std::string frmMain::AskText(const std::string& title, const std::string& prompt
                              const std::string& defaultText) {
     // The box gets the focus back with its caret where it is put meanwhile.
     caretStays_ = txtAbbrv->HasFocus();
-    wxTextEntryDialog dialog(this, WxText(prompt), WxText(title), WxText(defaultText));
+    TextQuestion dialog(this, WxText(title), WxText(prompt), WxText(defaultText));
     return dialog.ShowModal() == wxID_OK ? Utf8Text(dialog.GetValue()) : std::string();
 }
 

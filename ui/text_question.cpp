@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "ui/text_question.h"
+
+#include <wx/display.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include "platform/accessible_name.h"
+#include "ui/app_icon.h"
+
+namespace brelex {
+
+// Made of the parts of the toolkit's question, which would lay itself out in a window that can be
+// resized.
+TextQuestion::TextQuestion(wxWindow* owner, const wxString& title, const wxString& prompt,
+                           const wxString& proposed) {
+    constexpr int kAnswerWidth = 300;
+    constexpr int kMargin = 12;
+    wxDialog::Create(owner, wxID_ANY, title);
+    SetName("TextQuestion");
+    SetIcons(AppIcons());
+    m_dialogStyle = wxOK | wxCANCEL;
+    m_value = proposed;
+
+    auto* lblPrompt = new wxStaticText(this, wxID_ANY, wxEmptyString);
+    lblPrompt->SetLabelText(prompt);
+    lblPrompt->Wrap(wxDisplay(owner).GetClientArea().width / 2);
+    m_textctrl = new wxTextCtrl(this, wxID_ANY, proposed, wxDefaultPosition,
+                                FromDIP(wxSize(kAnswerWidth, -1)));
+    SetNames(*m_textctrl, "txtAnswer", prompt);
+
+    const int gap = FromDIP(kMargin);
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(lblPrompt, 0, wxLEFT | wxTOP | wxRIGHT, gap);
+    all->Add(m_textctrl, 0, wxEXPAND | wxALL, gap);
+    all->Add(CreateButtonSizer(m_dialogStyle), 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    SetSizerAndFit(all);
+    CentreOnParent();
+}
+
+bool TextQuestion::TransferDataToWindow() {
+    const bool done = wxTextEntryDialog::TransferDataToWindow();
+    m_textctrl->SelectAll();
+    return done;
+}
+
+}  // namespace brelex

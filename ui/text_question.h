@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/textdlg.h>
+
+namespace brelex {
+
+/// Asks for a line of text. The proposed one is selected, so that typing replaces it.
+class TextQuestion final : public wxTextEntryDialog {
+  public:
+    TextQuestion(wxWindow* owner, const wxString& title, const wxString& prompt,
+                 const wxString& proposed);
+
+    bool TransferDataToWindow() override;
+};
+
+}  // namespace brelex
