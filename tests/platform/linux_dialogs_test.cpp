@@ -41,7 +41,7 @@ class BrowseForFolderTest : public testing::Test {
             }
             return false;
         }});
-        const std::string answer = Utf8Text(BrowseForFolder(nullptr, kTitle));
+        std::string answer = Utf8Text(BrowseForFolder(nullptr, kTitle));
         EXPECT_TRUE(driver.Done());
         EXPECT_TRUE(WaitFor([] { return OpenWindow(kTitle) == nullptr; }));
         return answer;
@@ -113,7 +113,7 @@ TEST_F(BrowseForFolderTest, EscapeGivesNoAnswer) {
 
 TEST_F(BrowseForFolderTest, ItCanBeFoundAmongOtherWindows) {
     Browse({[&] {
-                SystemWindow const browser = OpenWindow(kTitle);
+                auto* const browser = OpenWindow(kTitle);
                 EXPECT_TRUE(IsInTaskBar(browser));
                 EXPECT_TRUE(ShowsTheProgramsIcon(browser));
                 return true;
@@ -131,7 +131,7 @@ struct FontCase {
 
 // Dialogs while the user has chosen a font.
 class DialogsInFont : public SideWindowTest, public testing::WithParamInterface<FontCase> {
-  protected:
+  public:
     DialogsInFont() {
         g_object_get(gtk_settings_get_default(), "gtk-font-name", &font_, nullptr);
         g_object_set(gtk_settings_get_default(), "gtk-font-name", GetParam().font, nullptr);

@@ -250,6 +250,7 @@ std::vector<std::string> ButtonsOfBox(SystemWindow box) {
     });
     std::sort(buttons.begin(), buttons.end());
     std::vector<std::string> texts;
+    texts.reserve(buttons.size());
     for (const auto& [x, text] : buttons) {
         texts.push_back(text);
     }
@@ -295,8 +296,8 @@ wxImage StandardIcon(MessageIcon icon, const wxColour& ground) {
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const guint8* const pixel = gdk_pixbuf_read_pixels(loaded) +
-                                        y * gdk_pixbuf_get_rowstride(loaded) +
-                                        x * gdk_pixbuf_get_n_channels(loaded);
+                                        std::ptrdiff_t{y} * gdk_pixbuf_get_rowstride(loaded) +
+                                        std::ptrdiff_t{x} * gdk_pixbuf_get_n_channels(loaded);
             const unsigned alpha = gdk_pixbuf_get_has_alpha(loaded) != FALSE ? pixel[3] : 255U;
             image.SetRGB(x, y, Over(pixel[0], alpha, ground.Red()),
                          Over(pixel[1], alpha, ground.Green()),

@@ -210,6 +210,7 @@ std::vector<std::string> ButtonsOfBox(SystemWindow box) {
     }
     std::sort(buttons.begin(), buttons.end());
     std::vector<std::string> texts;
+    texts.reserve(buttons.size());
     for (const auto& [x, text] : buttons) {
         texts.push_back(text);
     }

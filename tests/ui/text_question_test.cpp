@@ -70,7 +70,7 @@ TEST_F(TextQuestionTest, CarriesTheProgramsIconAndCannotBeResized) {
     Ask(
         "How many?",
         [](TextQuestion& question) {
-            SystemWindow const window = SystemWindowOf(question);
+            auto* const window = SystemWindowOf(question);
             EXPECT_TRUE(ShowsTheProgramsIcon(window));
             EXPECT_FALSE(CanBeResized(window));
         },

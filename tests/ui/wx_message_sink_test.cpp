@@ -157,10 +157,10 @@ class OwnedMessageBox : public WxMessageSinkTest {
                 EXPECT_FALSE(IsInTaskBar(box));
                 EXPECT_FALSE(StaysAbove(box));
                 const wxRect area = AreaOf(box);
-                const wxRect around = owner_->GetScreenRect();
                 constexpr int kDecorations = 40;
-                EXPECT_NEAR(area.x + area.width / 2, around.x + around.width / 2, kDecorations);
-                EXPECT_NEAR(area.y + area.height / 2, around.y + around.height / 2, kDecorations);
+                const wxRect centered = area.CentreIn(owner_->GetScreenRect());
+                EXPECT_NEAR(area.x, centered.x, kDecorations);
+                EXPECT_NEAR(area.y, centered.y, kDecorations);
             },
             [&] { PressEnter(); });
         EXPECT_TRUE(owner_->IsEnabled());
