@@ -8,7 +8,22 @@
 
 namespace brelex {
 
-void ShowHelpContents(const ProgramPlace& place, Desktop& desktop, MessageSink& messages) {
+namespace {
+
+bool ShowInOpenViewer(Desktop& desktop, const std::string& page) {
+    if (!desktop.BringWindowForward(kHelpTitle)) {
+        return false;
+    }
+    if (!page.empty()) {
+        desktop.TurnToPage(kHelpTitle, page);
+    }
+    return true;
+}
+
+}  // namespace
+
+void ShowHelpContents(const ProgramPlace& place, Desktop& desktop, MessageSink& messages,
+                      const std::string& page) {
     const auto help = FindFileIgnoringCase(place.folder, kHelpFileName);
     if (!help) {
         messages.Show({std::string("Cannot find the Help file ") + kHelpFileName +
@@ -16,7 +31,8 @@ void ShowHelpContents(const ProgramPlace& place, Desktop& desktop, MessageSink& 
                            "reinstall " +
                            place.name + ".",
                        kAppTitle, MessageIcon::Information, MessageButtons::Ok});
-    } else if (!desktop.BringWindowForward(kHelpTitle) && !desktop.Open(*help)) {
+    } else if (!ShowInOpenViewer(desktop, page) &&
+               !desktop.StartHelpViewer(place.folder, *help, page) && !desktop.Open(*help)) {
         messages.Show(
             {"Cannot find the associated application to open the Help file. Unable to "
              "display Help.",

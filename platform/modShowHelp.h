@@ -26,6 +26,15 @@ class Desktop {
     /// the desktop does not tell.
     [[nodiscard]] virtual bool BringWindowForward(const std::string& title) = 0;
 
+    /// Has the help viewer whose window has this title turn to a page, as `ShowHelpContents` names
+    /// it. Nothing happens where the desktop does not tell of windows. Does not wait for it.
+    virtual void TurnToPage(const std::string& title, const std::string& page) = 0;
+
+    /// Starts the help viewer that stands in `folder` with the help file and, unless it is empty, a
+    /// page of it. Returns false if there is none, or it does not start.
+    [[nodiscard]] virtual bool StartHelpViewer(const std::string& folder, const std::string& book,
+                                               const std::string& page) = 0;
+
     /// Asks the window with this title, if there is one, to close; does not wait for it.
     virtual void AskWindowToClose(const std::string& title) = 0;
 
@@ -43,9 +52,13 @@ struct ProgramPlace {
     std::string name;    ///< of the program file, without extension
 };
 
-/// Shows the help: brings an open viewer forward, or starts one. Tells the user if the help file or
-/// a program for it is missing.
-void ShowHelpContents(const ProgramPlace& place, Desktop& desktop, MessageSink& messages);
+/// Shows the help: brings an open viewer forward, or starts one. That is the one beside the
+/// program; without it the desktop opens the help file with whatever it has for it. `page` is the
+/// file name of a page in the help, which may go on with "#" and a place on it; without one, an
+/// open viewer stays where it is and a new one shows the first page. Tells the user if the help
+/// file or a program for it is missing.
+void ShowHelpContents(const ProgramPlace& place, Desktop& desktop, MessageSink& messages,
+                      const std::string& page = {});
 
 /// Closes an open help viewer.
 void CloseHelp(Desktop& desktop);

@@ -9,6 +9,8 @@
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
+#include "platform/help_page.h"
+
 namespace brelex {
 
 namespace {
@@ -90,6 +92,28 @@ void Ask(const FoundWindow& found, const char* message, long first, long second)
 
 constexpr long kFromPager = 2;
 
+struct UnrefObject {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+
+// With it the window that opens may come to the front.
+std::unique_ptr<GdkAppLaunchContext, UnrefObject> LaunchContext() {
+    return std::unique_ptr<GdkAppLaunchContext, UnrefObject>(
+        gdk_display_get_app_launch_context(gdk_display_get_default()));
+}
+
+// An argument as GLib takes command lines apart: quoted as for a shell, though none is started, and
+// with percent signs doubled.
+std::string Quoted(const std::string& argument) {
+    char* const quoted = g_shell_quote(argument.c_str());
+    std::string text;
+    for (const char* c = quoted; *c != '\0'; ++c) {
+        text += *c == '%' ? "%%" : std::string(1, *c);
+    }
+    g_free(quoted);
+    return text;
+}
+
 }  // namespace
 
 bool SystemDesktop::BringWindowForward(const std::string& title) {
@@ -99,6 +123,31 @@ bool SystemDesktop::BringWindowForward(const std::string& title) {
         return true;
     }
     return false;
+}
+
+void SystemDesktop::TurnToPage(const std::string& title, const std::string& page) {
+    const FoundWindow found = WindowTitled(title);
+    if (found.window != None) {
+        TellHelpPage(found.window, page);
+    }
+}
+
+bool SystemDesktop::StartHelpViewer(const std::string& folder, const std::string& book,
+                                    const std::string& page) {
+    const std::string viewer = folder + "brelex-help";
+    if (g_file_test(viewer.c_str(), G_FILE_TEST_IS_REGULAR) == FALSE ||
+        g_file_test(viewer.c_str(), G_FILE_TEST_IS_EXECUTABLE) == FALSE) {
+        return false;
+    }
+    std::string command = Quoted(viewer) + " " + Quoted(book);
+    if (!page.empty()) {
+        command += " " + Quoted(page);
+    }
+    const std::unique_ptr<GAppInfo, UnrefObject> info(g_app_info_create_from_commandline(
+        command.c_str(), kHelpTitle, G_APP_INFO_CREATE_SUPPORTS_STARTUP_NOTIFICATION, nullptr));
+    return info != nullptr &&
+           g_app_info_launch(info.get(), nullptr, G_APP_LAUNCH_CONTEXT(LaunchContext().get()),
+                             nullptr) != FALSE;
 }
 
 void SystemDesktop::AskWindowToClose(const std::string& title) {
@@ -112,12 +161,9 @@ bool SystemDesktop::Open(const std::string& target) {
     char* const uri = g_path_is_absolute(target.c_str())
                           ? g_filename_to_uri(target.c_str(), nullptr, nullptr)
                           : g_strdup(target.c_str());
-    // With it the window that opens may come to the front.
-    GdkAppLaunchContext* const context =
-        gdk_display_get_app_launch_context(gdk_display_get_default());
-    const bool opened = uri != nullptr && g_app_info_launch_default_for_uri(
-                                              uri, G_APP_LAUNCH_CONTEXT(context), nullptr) != FALSE;
-    g_object_unref(context);
+    const bool opened =
+        uri != nullptr && g_app_info_launch_default_for_uri(
+                              uri, G_APP_LAUNCH_CONTEXT(LaunchContext().get()), nullptr) != FALSE;
     g_free(uri);
     return opened;
 }

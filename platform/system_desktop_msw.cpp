@@ -6,6 +6,7 @@
 #include <windows.h>
 #include <shellapi.h>
 
+#include "platform/help_page.h"
 #include "platform/wide_text.h"
 
 namespace brelex {
@@ -33,6 +34,33 @@ bool SystemDesktop::BringWindowForward(const std::string& title) {
     }
     ShowWindow(window, SW_RESTORE);
     SetForegroundWindow(window);
+    return true;
+}
+
+void SystemDesktop::TurnToPage(const std::string& title, const std::string& page) {
+    if (HWND const window = WindowTitled(title)) {
+        TellHelpPage(reinterpret_cast<SystemWindow>(window), page);
+    }
+}
+
+bool SystemDesktop::StartHelpViewer(const std::string& folder, const std::string& book,
+                                    const std::string& page) {
+    const std::wstring viewer = WideOfUtf8(folder + "brelex-help.exe");
+    // A file name has no quotation marks and a page no blanks.
+    std::wstring command = L"\"" + viewer + L"\" \"" + WideOfUtf8(book) + L"\"";
+    if (!page.empty()) {
+        command += L" " + WideOfUtf8(page);
+    }
+    STARTUPINFOW how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION started{};
+    if (CreateProcessW(viewer.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                       &how, &started) == 0) {
+        return false;
+    }
+    AllowSetForegroundWindow(started.dwProcessId);
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
     return true;
 }
 

@@ -16,7 +16,9 @@ namespace {
 
 class ShowHelpTest : public testing::Test {
   protected:
-    void ShowHelp() { ShowHelpContents({folder_.Text(), "brevilexicon"}, desktop_, messages_); }
+    void ShowHelp(const std::string& page = {}) {
+        ShowHelpContents({folder_.Text(), "brevilexicon"}, desktop_, messages_, page);
+    }
 
     void ReadMe() { OpenReadMe({folder_.Text(), "brevilexicon"}, desktop_, messages_); }
 
@@ -39,9 +41,27 @@ const char* const kNoHelp =
     "Cannot find the Help file Brelex.hlp. Ensure that the file exists on your disk. Otherwise you "
     "may need to reinstall brevilexicon.";
 
-TEST_F(ShowHelpTest, StartsAViewer) {
+TEST_F(ShowHelpTest, StartsTheViewerBesideTheProgram) {
     const std::string path = folder_.Write("Brelex.hlp", "help");
+    desktop_.hasViewer = true;
     ShowHelp();
+    ASSERT_EQ(desktop_.viewersStarted.size(), 1U);
+    EXPECT_EQ(desktop_.viewersStarted[0], (Strings{folder_.Text(), path, ""}));
+    EXPECT_TRUE(desktop_.opened.empty());
+    EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(ShowHelpTest, StartsTheViewerAtAPage) {
+    const std::string path = folder_.Write("Brelex.hlp", "help");
+    desktop_.hasViewer = true;
+    ShowHelp("search.html#limit");
+    ASSERT_EQ(desktop_.viewersStarted.size(), 1U);
+    EXPECT_EQ(desktop_.viewersStarted[0], (Strings{folder_.Text(), path, "search.html#limit"}));
+}
+
+TEST_F(ShowHelpTest, WithoutThatViewerTheDesktopOpensTheFile) {
+    const std::string path = folder_.Write("Brelex.hlp", "help");
+    ShowHelp("search.html");
     EXPECT_EQ(desktop_.opened, Strings{path});
     EXPECT_TRUE(messages_.shown.empty());
 }
@@ -52,20 +72,35 @@ TEST_F(ShowHelpTest, BringsAnOpenViewerForwardInsteadOfStartingAnother) {
     ShowHelp();
     EXPECT_EQ(desktop_.broughtForward, Strings{"Brevilexicon Help"});
     EXPECT_TRUE(desktop_.opened.empty());
+    EXPECT_TRUE(desktop_.viewersStarted.empty());
+    EXPECT_TRUE(desktop_.turnedTo.empty()) << "the reader's place is lost";
+}
+
+TEST_F(ShowHelpTest, AnOpenViewerTurnsToThePage) {
+    folder_.Write("Brelex.hlp", "help");
+    desktop_.openWindow = "Brevilexicon Help";
+    desktop_.hasViewer = true;
+    ShowHelp("search.html");
+    EXPECT_EQ(desktop_.broughtForward, Strings{"Brevilexicon Help"});
+    EXPECT_EQ(desktop_.turnedTo, Strings{"Brevilexicon Help search.html"});
+    EXPECT_TRUE(desktop_.viewersStarted.empty());
 }
 
 TEST_F(ShowHelpTest, AViewerOfAnotherNameIsNotTheOne) {
     folder_.Write("Brelex.hlp", "help");
     desktop_.openWindow = "Help";
-    ShowHelp();
+    ShowHelp("search.html");
     EXPECT_EQ(desktop_.opened.size(), 1U);
+    EXPECT_TRUE(desktop_.turnedTo.empty());
 }
 
 TEST_F(ShowHelpTest, SaysThatTheFileIsMissingEvenWithAnOpenViewer) {
     desktop_.openWindow = "Brevilexicon Help";
-    ShowHelp();
+    desktop_.hasViewer = true;
+    ShowHelp("search.html");
     ExpectMessage(kNoHelp, MessageIcon::Information);
     EXPECT_TRUE(desktop_.broughtForward.empty());
+    EXPECT_TRUE(desktop_.viewersStarted.empty());
 }
 
 TEST_F(ShowHelpTest, AFolderOfThatNameIsNoFile) {

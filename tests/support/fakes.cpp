@@ -51,6 +51,18 @@ bool FakeDesktop::BringWindowForward(const std::string& title) {
     return true;
 }
 
+void FakeDesktop::TurnToPage(const std::string& title, const std::string& page) {
+    turnedTo.push_back(title + " " + page);
+}
+
+bool FakeDesktop::StartHelpViewer(const std::string& folder, const std::string& book,
+                                  const std::string& page) {
+    if (hasViewer) {
+        viewersStarted.push_back({folder, book, page});
+    }
+    return hasViewer;
+}
+
 void FakeDesktop::AskWindowToClose(const std::string& title) {
     askedToClose.push_back(title);
 }

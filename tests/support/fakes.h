@@ -63,17 +63,24 @@ class FakeTemporaryFiles final : public TemporaryFiles {
     std::string folder_;
 };
 
-/// A desktop with or without an open window, and with or without programs for files.
+/// A desktop with or without an open window, a help viewer beside the program, and programs for
+/// files.
 class FakeDesktop final : public Desktop {
   public:
     [[nodiscard]] bool BringWindowForward(const std::string& title) override;
+    void TurnToPage(const std::string& title, const std::string& page) override;
+    [[nodiscard]] bool StartHelpViewer(const std::string& folder, const std::string& book,
+                                       const std::string& page) override;
     void AskWindowToClose(const std::string& title) override;
     bool Open(const std::string& target) override;
     void OpenToRead(const std::string& path) override;
 
     std::string openWindow;  ///< its title
     bool hasPrograms = true;
+    bool hasViewer = false;
     std::vector<std::string> broughtForward;
+    std::vector<std::string> turnedTo;                     ///< title and page with a blank between
+    std::vector<std::vector<std::string>> viewersStarted;  ///< folder, book and page
     std::vector<std::string> askedToClose;
     std::vector<std::string> opened;
     std::vector<std::string> openedToRead;

@@ -1,43 +1,139 @@
 // SPDX-License-Identifier: MIT
-// The real help book in the real viewer on this desktop.
+// The real help book in the real viewer on this desktop, looked at from outside.
+#include "help/help_viewer.h"
+
 #include <filesystem>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
+
+#include <wx/clipbrd.h>
+#include <wx/html/helpfrm.h>
+#include <wx/html/htmlwin.h>
+#include <wx/notebook.h>
+#include <wx/process.h>
+#include <wx/treectrl.h>
+#include <wx/txtstrm.h>
+#include <wx/utils.h>
+#include <wx/wfstream.h>
 
 #include "database/file_io.h"
 #include "platform/modShowHelp.h"
 #include "platform/program_folder.h"
 #include "platform/system_desktop.h"
 #include "tests/platform/help_registration.h"
+#include "tests/platform/help_window.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {
 
-class HelpViewerTest : public testing::Test {
-  protected:
-    void TearDown() override {
-        CloseHelp(desktop_);
-        EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
+constexpr int kPatienceMs = 20000;  // the viewer is a program that has to start
+
+std::string Book() {
+    return ProgramFolder() + kHelpFileName;
+}
+
+// The viewer beside the tests, run by them.
+class ViewerProcess final : public wxProcess {
+  public:
+    explicit ViewerProcess(const std::string& page = {}) {
+        Redirect();
+        const wxString program = WxText(ProgramFolder() + "brelex-help");
+        const wxString book = WxText(Book());
+        const wxString pageText = WxText(page);
+        const wchar_t* const command[] = {program.wc_str(), book.wc_str(),
+                                          page.empty() ? nullptr : pageText.wc_str(), nullptr};
+        // Else Windows would hide the viewer's window as if it were a console.
+        EXPECT_NE(wxExecute(command, wxEXEC_ASYNC | wxEXEC_SHOW_CONSOLE, this), 0);
     }
 
-    void ShowHelp() {
-        ShowHelpContents({ProgramFolder(), "brevilexicon"}, desktop_, messages_);
+    void OnTerminate(int, int status) override {
+        status_ = status;
+        hasEnded_ = true;
+        wxTextInputStream lines(*GetErrorStream());
+        while (GetErrorStream()->CanRead()) {
+            errors_ += Utf8Text(lines.ReadLine()) + "\n";
+        }
+    }
+
+    [[nodiscard]] bool HasEnded() const { return hasEnded_; }
+
+    [[nodiscard]] int Status() const { return status_; }
+
+    /// What it wrote to its standard error.
+    [[nodiscard]] const std::string& Errors() const { return errors_; }
+
+  private:
+    bool hasEnded_ = false;
+    int status_ = -1;
+    std::string errors_;
+};
+
+class HelpViewerTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_FALSE(desktop_.BringWindowForward(kHelpTitle)); }
+
+    void TearDown() override {
+        CloseHelp(desktop_);
+        EXPECT_TRUE(WaitFor([&] { return PlaceOfWindow(kHelpTitle).IsEmpty(); }, kPatienceMs));
+    }
+
+    void ShowHelp(const std::string& page = {}) {
+        ShowHelpContents({ProgramFolder(), "brevilexicon"}, desktop_, messages_, page);
         EXPECT_TRUE(messages_.shown.empty());
     }
 
-    HelpRegistration registration_;
+    void WaitForKeyboard() {
+        ASSERT_TRUE(WaitFor([] { return WindowHasKeyboard(kHelpTitle); }, kPatienceMs));
+    }
+
+    // Waits until the page in the viewer begins with a text. It is copied as a user would.
+    void ExpectPage(const std::string& beginning) {
+        WaitForKeyboard();
+        PutOnClipboard("nothing yet");
+        std::string text;
+        const bool begins = WaitFor(
+            [&] {
+                user_.Char('A', wxMOD_CONTROL);
+                user_.Char('C', wxMOD_CONTROL);
+                Settle(100);
+                text = ClipboardText();
+                return text.starts_with(beginning);
+            },
+            kPatienceMs);
+        EXPECT_TRUE(begins) << text.substr(0, 100);
+    }
+
+    // Keys and clicks for the contents while the viewer closes.
+    void DisturbClosing(wxPoint contents) {
+        user_.MouseMove(contents);
+        user_.MouseClick();
+        for (int i = 0; i < 6; ++i) {
+            user_.Char(WXK_DOWN);
+        }
+        desktop_.AskWindowToClose(kHelpTitle);
+        for (int i = 0; i < 8; ++i) {
+            user_.Char(WXK_DOWN);
+            user_.Char(WXK_UP);
+            user_.MouseMove(contents + wxPoint(0, 9 * i));
+            user_.MouseClick();
+        }
+    }
+
+    wxUIActionSimulator user_;
     SystemDesktop desktop_;
     FakeMessageSink messages_;
 };
 
 TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
-    ASSERT_FALSE(desktop_.BringWindowForward(kHelpTitle));
     ShowHelp();
-    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, 20000));
+    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, kPatienceMs));
     // Asked for twice it is still one: closing that one leaves none.
     ShowHelp();
     Settle(1500);
@@ -52,8 +148,80 @@ TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
     EXPECT_FALSE(desktop_.BringWindowForward(kHelpTitle));
 }
 
-// As users have it: somewhere else, under any name.
+TEST_F(HelpViewerTest, OpensAtAPageAndTurnsToOthers) {
+    ShowHelp("search.html");
+    ExpectPage("Searching the Database");
+    ShowHelp("viewer.html");
+    ExpectPage("The Entry Viewer");
+    ShowHelp("about.html#donate");
+    ExpectPage("About, Credits and Donations");
+    ShowHelp();
+    Settle(300);
+    ExpectPage("About, Credits and Donations");
+    CloseHelp(desktop_);
+    EXPECT_TRUE(WaitFor([] { return PlaceOfWindow(kHelpTitle).IsEmpty(); }, kPatienceMs));
+}
+
+TEST_F(HelpViewerTest, WithoutAPageOrWithAnUnknownOneItOpensAtTheFirst) {
+    ShowHelp();
+    ExpectPage("Welcome");
+    desktop_.TurnToPage(kHelpTitle, "nowhere.html");
+    desktop_.TurnToPage(kHelpTitle, "file:" + Book() + "#zip:keys.html");
+    Settle(300);
+    ExpectPage("Welcome");
+    desktop_.TurnToPage(kHelpTitle, "keys.html");
+    ExpectPage("Keys");
+}
+
+TEST_F(HelpViewerTest, EscapeClosesItAndItHadNothingToComplainOf) {
+    ViewerProcess viewer("keys.html");
+    WaitForKeyboard();
+    user_.Char(WXK_ESCAPE);
+    ASSERT_TRUE(WaitFor([&] { return viewer.HasEnded(); }, kPatienceMs));
+    EXPECT_EQ(viewer.Status(), 0);
+    EXPECT_EQ(viewer.Errors(), "");
+}
+
+TEST_F(HelpViewerTest, KeysAndClicksWhileItClosesDoNotBreakIt) {
+    for (int i = 0; i < 4; ++i) {
+        ViewerProcess viewer;
+        WaitForKeyboard();
+        const wxRect place = PlaceOfWindow(kHelpTitle);
+        DisturbClosing(place.GetPosition() + wxPoint(90, place.height / 3));
+        ASSERT_TRUE(WaitFor([&] { return viewer.HasEnded(); }, kPatienceMs));
+        EXPECT_EQ(viewer.Status(), 0);
+        EXPECT_EQ(viewer.Errors(), "");
+    }
+}
+
+// As users have it who only unpacked it: nothing is registered, the folder has any name.
+TEST_F(HelpViewerTest, TheViewerStartsFromAFolderOfAnyName) {
+    const TestFolder folder;
+    const auto program = folder.Path() / PathOfUtf8("d\u00e9j\u00e0 vu 100% $HOME 'quoted'");
+    std::filesystem::create_directory(program);
+    for (const std::string file : {"brelex-help", "brelex-help.exe", kHelpFileName}) {
+        const auto original = PathOfUtf8(ProgramFolder() + file);
+        if (std::filesystem::exists(original)) {
+            std::filesystem::copy_file(original, program / file);
+        }
+    }
+    const std::string place = WithTrailingSeparator(Utf8OfPath(program));
+    ASSERT_TRUE(desktop_.StartHelpViewer(place, place + kHelpFileName, "tray.html"));
+    ExpectPage("Always at Hand");
+    CloseHelp(desktop_);
+    EXPECT_TRUE(WaitFor([] { return PlaceOfWindow(kHelpTitle).IsEmpty(); }, kPatienceMs));
+}
+
+TEST_F(HelpViewerTest, WithoutAViewerInTheFolderNoneStarts) {
+    const TestFolder folder;
+    EXPECT_FALSE(desktop_.StartHelpViewer(folder.Text(), Book(), ""));
+    std::filesystem::create_directory(folder.Path() / "brelex-help");
+    EXPECT_FALSE(desktop_.StartHelpViewer(folder.Text(), Book(), ""));
+}
+
+// Without a viewer in that folder, by what the desktop has for such files.
 TEST_F(HelpViewerTest, TheBookOpensFromAFolderWithBlanksAndAccents) {
+    const HelpRegistration registration;
     const TestFolder folder;
     const auto program = folder.Path() / PathOfUtf8("d\u00e9j\u00e0 vu 100%");
     std::filesystem::create_directory(program);
@@ -61,7 +229,67 @@ TEST_F(HelpViewerTest, TheBookOpensFromAFolderWithBlanksAndAccents) {
                                program / kHelpFileName);
     ShowHelpContents({Utf8OfPath(program) + "/", "brevilexicon"}, desktop_, messages_);
     EXPECT_TRUE(messages_.shown.empty());
-    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, 20000));
+    ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, kPatienceMs));
+}
+
+// The window of the viewer, in this program.
+class HelpWindowTest : public testing::Test {
+  protected:
+    void Show() {
+        ASSERT_TRUE(viewer_.Show(WxText(Book()), ""));
+        ASSERT_TRUE(WaitFor([&] { return Frame().IsActive(); }));
+    }
+
+    void TearDown() override {
+        Frame().Close();
+        EXPECT_TRUE(WaitFor([&] { return viewer_.GetHelpWindow() == nullptr; }));
+    }
+
+    [[nodiscard]] wxFrame& Frame() const { return *viewer_.GetFrame(); }
+
+    // Whether the title of each entry of the contents is whole, with room for a scroll bar.
+    void ExpectWholeTitles(const wxTreeItemId& parent) {
+        wxTreeCtrl& contents = *viewer_.GetHelpWindow()->GetTreeCtrl();
+        wxTreeItemIdValue cookie = nullptr;
+        for (auto item = contents.GetFirstChild(parent, cookie); item.IsOk();
+             item = contents.GetNextChild(parent, cookie)) {
+            ++titles_;
+            wxRect place;
+            ASSERT_TRUE(contents.GetBoundingRect(item, place, true));
+            EXPECT_LT(place.GetRight(), contents.GetClientSize().x) << contents.GetItemText(item);
+            ExpectWholeTitles(item);
+        }
+    }
+
+    void ExpectWholeColumn() {
+        Show();
+        wxTreeCtrl& contents = *viewer_.GetHelpWindow()->GetTreeCtrl();
+        ExpectWholeTitles(contents.GetRootItem());
+        EXPECT_GT(titles_, 20);
+        const auto* const notebook = dynamic_cast<wxNotebook*>(contents.GetGrandParent());
+        ASSERT_NE(notebook, nullptr);
+        EXPECT_EQ(notebook->GetPageCount(), 3U);
+        EXPECT_TRUE(ShowsAllTabs(*notebook));
+        EXPECT_GE(viewer_.GetHelpWindow()->GetHtmlWindow()->GetClientSize().x,
+                  Frame().FromDIP(600));  // the widest picture
+    }
+
+    HelpViewer viewer_;
+    int titles_ = 0;
+};
+
+TEST_F(HelpWindowTest, TitlesAndTabsAreWhole) {
+    ExpectWholeColumn();
+}
+
+TEST_F(HelpWindowTest, TitlesAndTabsAreWholeWithALargeFont) {
+    const LargeFont font;
+    ExpectWholeColumn();
+}
+
+TEST_F(HelpWindowTest, ThePageHasTheKeyboard) {
+    Show();
+    EXPECT_TRUE(WaitFor([&] { return viewer_.GetHelpWindow()->GetHtmlWindow()->HasFocus(); }));
 }
 
 TEST(SystemDesktop, SaysThatNoProgramOpensAFileOfAnUnknownKind) {

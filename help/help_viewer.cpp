@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "help/help_viewer.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <wx/dialog.h>
+#include <wx/display.h>
+#include <wx/filename.h>
+#include <wx/filesys.h>
+#include <wx/fs_zip.h>
+#include <wx/html/helpfrm.h>
+#include <wx/html/htmlwin.h>
+#include <wx/image.h>
+#include <wx/notebook.h>
+#include <wx/settings.h>
+#include <wx/splitter.h>
+#include <wx/treectrl.h>
+
+#include "platform/help_page.h"
+#include "platform/modShowHelp.h"
+#include "ui/app_icon.h"
+#include "ui/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// At 96 dots per inch: the pictures in the pages are up to 600 pixels wide.
+constexpr int kPageWidth = 640;
+constexpr int kHeight = 660;
+
+// The project file in a book, which is a ZIP archive.
+const char* const kProjectInBook = "#zip:brelex.hhp";
+
+// For the pages in a book and the pictures in the pages.
+void AddHandlers() {
+    if (wxImage::FindHandler(wxBITMAP_TYPE_PNG) == nullptr) {
+        wxImage::AddHandler(new wxPNGHandler);
+    }
+    if (!wxFileSystem::HasHandlerForPath(wxString("x") + kProjectInBook)) {
+        wxFileSystem::AddHandler(new wxZipFSHandler);
+    }
+}
+
+bool IsBook(const wxString& url) {
+    wxFileSystem files;
+    const std::unique_ptr<wxFSFile> project(files.OpenFile(url));
+    return project != nullptr;
+}
+
+wxNotebook& NotebookOf(const wxHtmlHelpWindow& help) {
+    return dynamic_cast<wxNotebook&>(*help.GetTreeCtrl()->GetGrandParent());
+}
+
+// How wide the contents are with all branches open, and the tabs above them side by side.
+int ColumnWidth(const wxHtmlHelpWindow& help) {
+    wxTreeCtrl& contents = *help.GetTreeCtrl();
+    contents.ExpandAll();
+    contents.SetQuickBestSize(false);  // or else it would look at the last titles only
+    contents.InvalidateBestSize();
+    const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &contents);
+    int tabs = 0;
+    const wxNotebook& notebook = NotebookOf(help);
+    for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
+        // The toolkit does not tell how much room the theme leaves around a title.
+        constexpr int kTabMargins = 36;
+        tabs += notebook.GetTextExtent(notebook.GetPageText(i)).x + notebook.FromDIP(kTabMargins);
+    }
+    constexpr int kEdges = 24;  // of the notebook, the page in it and the tree
+    return std::max(contents.GetBestSize().x + scrollBar, tabs) + notebook.FromDIP(kEdges);
+}
+
+// Gives all parts of the window their sizes before it is shown. On GTK (toolkit 3.2) most would
+// otherwise learn theirs when their parent shows, and until then be too small for their own borders
+// and scroll bars, which GTK complains about.
+void LayOut(wxHtmlHelpFrame& frame, int column) {
+    wxHtmlHelpWindow& help = *frame.GetHelpWindow();
+    frame.Layout();
+    help.SetSize(frame.GetClientSize());
+    help.Layout();
+    help.GetSplitterWindow()->SetSashPosition(column);
+    wxNotebook& notebook = NotebookOf(help);
+    notebook.GetParent()->Layout();
+    for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
+        notebook.GetPage(i)->SetSize(notebook.GetClientSize());
+        notebook.GetPage(i)->Layout();
+    }
+}
+
+// A modal window of the viewer, such as that for the letters' size; null if there is none.
+wxDialog* OpenDialog() {
+    for (wxWindow* const window : wxTopLevelWindows) {
+        auto* const dialog = dynamic_cast<wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
+// In place of what the toolkit does (3.2): it takes the book away from the window at once, while
+// keys and clicks still arrive until the window is deleted, and the contents crash on them.
+void OnClose(wxCloseEvent& event) {
+    auto& frame = dynamic_cast<wxHtmlHelpFrame&>(*event.GetEventObject());
+    if (wxDialog* const dialog = OpenDialog()) {
+        dialog->EndModal(wxID_CANCEL);
+        frame.CallAfter([&frame] { frame.Close(); });  // when whoever opened it has gone on
+        return;
+    }
+    frame.Hide();
+    frame.Destroy();
+}
+
+void OnKey(wxKeyEvent& event) {
+    auto* const window = dynamic_cast<wxWindow*>(event.GetEventObject());
+    if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE &&
+        window != nullptr) {
+        wxGetTopLevelParent(window)->Close();
+    } else {
+        event.Skip();
+    }
+}
+
+// With Ctrl+C, which the toolkit knows, the whole page can be copied.
+void OnPageKey(wxKeyEvent& event) {
+    if (event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL) {
+        dynamic_cast<wxHtmlWindow&>(*event.GetEventObject()).SelectAll();
+    } else {
+        event.Skip();
+    }
+}
+
+}  // namespace
+
+HelpViewer::HelpViewer()
+    : wxHtmlHelpController(wxHF_DEFAULT_STYLE & ~(wxHF_OPEN_FILES | wxHF_BOOKMARKS)) {
+    SetTitleFormat(kHelpTitle);
+    SetShouldPreventAppExit(true);
+}
+
+bool HelpViewer::Show(const wxString& bookPath, const wxString& page) {
+    AddHandlers();
+    const wxString url = wxFileSystem::FileNameToURL(wxFileName(bookPath)) + kProjectInBook;
+    if (!wxFileName::FileExists(bookPath) || !IsBook(url) || !AddBook(url)) {
+        return false;
+    }
+    DisplayContents();
+    TurnTo(page);
+    GetHelpWindow()->GetHtmlWindow()->SetFocus();  // keys scroll the page
+    return true;
+}
+
+void HelpViewer::TurnTo(const wxString& page) {
+    // Files outside of the book are not asked for.
+    if (!page.empty() && page.find_first_of(":/\\") == wxString::npos &&
+        GetHelpWindow() != nullptr) {
+        GetHelpWindow()->Display(page);
+    }
+}
+
+wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {
+    wxHtmlHelpFrame* const frame = wxHtmlHelpController::CreateHelpFrame(data);
+    wxHtmlHelpWindow& help = *frame->GetHelpWindow();
+    frame->SetName("frmHelp");
+    frame->SetIcons(AppIcons());
+    frame->Bind(wxEVT_CLOSE_WINDOW, &OnClose);
+    frame->Bind(wxEVT_CHAR_HOOK, &OnKey);
+    help.GetHtmlWindow()->Bind(wxEVT_KEY_DOWN, &OnPageKey);
+    HearHelpPages(*frame, [this](const std::string& page) { TurnTo(WxText(page)); });
+
+    const int column = ColumnWidth(help);
+    // The size of its inside, as a window of a given outer size is laid out once at a size of next
+    // to nothing under X11 (toolkit 3.2).
+    const wxSize screen = wxDisplay(frame).GetClientArea().GetSize();
+    frame->SetClientSize(std::min(column + frame->FromDIP(kPageWidth), screen.x),
+                         std::min(frame->FromDIP(kHeight), screen.y));
+    frame->CentreOnScreen();
+    LayOut(*frame, column);
+    return frame;
+}
+
+}  // namespace brelex

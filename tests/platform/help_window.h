@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <wx/gdicmn.h>
+
+class wxNotebook;
+
+namespace brelex {
+
+/// Where on the screen the inside of a window of any program with this title is; empty if there is
+/// no such window.
+[[nodiscard]] wxRect PlaceOfWindow(const std::string& title);
+
+/// Whether keys go to the window of any program with this title.
+[[nodiscard]] bool WindowHasKeyboard(const std::string& title);
+
+/// Whether all tabs are to be seen at once.
+[[nodiscard]] bool ShowsAllTabs(const wxNotebook& notebook);
+
+/// As long as it lives, new windows have a large font where a program can say so: on Linux.
+class LargeFont {
+  public:
+    LargeFont();
+    LargeFont(const LargeFont&) = delete;
+    LargeFont& operator=(const LargeFont&) = delete;
+    ~LargeFont();
+
+  private:
+    std::string before_;
+};
+
+}  // namespace brelex

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "tests/platform/help_window.h"
+
+#include <array>
+
+#include <wx/notebook.h>
+
+#include <windows.h>
+#include <commctrl.h>
+
+#include "platform/wide_text.h"
+
+namespace brelex {
+
+wxRect PlaceOfWindow(const std::string& title) {
+    HWND const window = FindWindowW(nullptr, WideOfUtf8(title).c_str());
+    RECT inside{};
+    POINT corner{};
+    if (window == nullptr || GetClientRect(window, &inside) == 0 ||
+        ClientToScreen(window, &corner) == 0) {
+        return {};
+    }
+    return {corner.x, corner.y, inside.right, inside.bottom};
+}
+
+bool WindowHasKeyboard(const std::string& title) {
+    std::array<wchar_t, MAX_PATH> text{};
+    GetWindowTextW(GetForegroundWindow(), text.data(), static_cast<int>(text.size()));
+    return WideOfUtf8(title) == text.data();
+}
+
+bool ShowsAllTabs(const wxNotebook& notebook) {
+    RECT last{};
+    SendMessageW(notebook.GetHWND(), TCM_GETITEMRECT, notebook.GetPageCount() - 1,
+                 reinterpret_cast<LPARAM>(&last));
+    return last.right > 0 && last.right <= notebook.GetSize().x;
+}
+
+LargeFont::LargeFont() = default;
+LargeFont::~LargeFont() = default;
+
+}  // namespace brelex
