@@ -17,6 +17,18 @@ namespace brelex {
 /// Whether keys go to the window of any program with this title.
 [[nodiscard]] bool WindowHasKeyboard(const std::string& title);
 
+/// A program stands still as long as it lives, and what the user does to it piles up.
+class Standstill {
+  public:
+    explicit Standstill(long process);
+    Standstill(const Standstill&) = delete;
+    Standstill& operator=(const Standstill&) = delete;
+    ~Standstill();
+
+  private:
+    long process_;
+};
+
 /// Whether all tabs are to be seen at once.
 [[nodiscard]] bool ShowsAllTabs(const wxNotebook& notebook);
 

@@ -4,6 +4,7 @@
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
+#include <csignal>
 #include <cstring>
 #include <vector>
 
@@ -81,6 +82,14 @@ bool WindowHasKeyboard(const std::string& title) {
     const bool has = Titled(WindowsIn("_NET_ACTIVE_WINDOW"), title) != None;
     gdk_x11_display_error_trap_pop_ignored(gdk_display_get_default());
     return has;
+}
+
+Standstill::Standstill(long process) : process_(process) {
+    kill(static_cast<pid_t>(process_), SIGSTOP);
+}
+
+Standstill::~Standstill() {
+    kill(static_cast<pid_t>(process_), SIGCONT);
 }
 
 // A tab behind the arrows is not mapped.

@@ -29,6 +29,30 @@ bool WindowHasKeyboard(const std::string& title) {
     return WideOfUtf8(title) == text.data();
 }
 
+namespace {
+
+// What debuggers use; no header has it.
+void CallForProcess(const char* function, long process) {
+    using Function = LONG(NTAPI*)(HANDLE);
+    const auto call = reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), function)));
+    HANDLE const handle = OpenProcess(PROCESS_SUSPEND_RESUME, FALSE, static_cast<DWORD>(process));
+    if (call != nullptr && handle != nullptr) {
+        call(handle);
+    }
+    CloseHandle(handle);
+}
+
+}  // namespace
+
+Standstill::Standstill(long process) : process_(process) {
+    CallForProcess("NtSuspendProcess", process_);
+}
+
+Standstill::~Standstill() {
+    CallForProcess("NtResumeProcess", process_);
+}
+
 bool ShowsAllTabs(const wxNotebook& notebook) {
     RECT last{};
     SendMessageW(notebook.GetHWND(), TCM_GETITEMRECT, notebook.GetPageCount() - 1,
