@@ -17,7 +17,12 @@ namespace brelex {
 /// Whether keys go to the window of any program with this title.
 [[nodiscard]] bool WindowHasKeyboard(const std::string& title);
 
-/// A program stands still as long as it lives, and what the user does to it piles up.
+/// Whether a program does nothing just now, as far as the system tells.
+[[nodiscard]] bool IsAsleep(long process);
+
+/// A program stands still as long as this lives, and what the user does to it piles up. It should
+/// be asleep: GTK has the X server to itself for moments, and a program that stood still in one of
+/// them would stop us, too.
 class Standstill {
   public:
     explicit Standstill(long process);

@@ -6,6 +6,7 @@
 #include <X11/Xlib.h>
 #include <csignal>
 #include <cstring>
+#include <fstream>
 #include <vector>
 
 #include <wx/notebook.h>
@@ -82,6 +83,13 @@ bool WindowHasKeyboard(const std::string& title) {
     const bool has = Titled(WindowsIn("_NET_ACTIVE_WINDOW"), title) != None;
     gdk_x11_display_error_trap_pop_ignored(gdk_display_get_default());
     return has;
+}
+
+bool IsAsleep(long process) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    std::string text;
+    std::getline(file, text);
+    return text.find(") S ") != std::string::npos;
 }
 
 Standstill::Standstill(long process) : process_(process) {

@@ -45,6 +45,10 @@ void CallForProcess(const char* function, long process) {
 
 }  // namespace
 
+bool IsAsleep(long) {
+    return true;
+}
+
 Standstill::Standstill(long process) : process_(process) {
     CallForProcess("NtSuspendProcess", process_);
 }
