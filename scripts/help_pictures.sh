@@ -18,9 +18,11 @@ wait_for() {
     exit 1
 }
 keys() { local key; for key in "$@"; do xdotool key "$key"; sleep 0.15; done; }
-# At most 600 pixels wide, in few colours and without a date, so that the files stay small and the same.
+# At most 600 pixels wide, with an edge that sets them off from the page, in few colours and without a
+# date, so that the files stay small and the same.
 picture() {
-    import -window "$(xdotool getactivewindow)" -resize '600x>' +dither -colors 128 -strip \
+    import -window "$(xdotool getactivewindow)" -resize '598x>' -bordercolor '#a0a0a0' -border 1 \
+        +dither -colors 128 -strip \
         -define png:exclude-chunks=date,time png8:"$folder/$1.png"
 }
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The pages of the help in help/, as they go into the book.
+#include "presentation/help_pages.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -84,6 +86,37 @@ TEST(HelpPages, AreAllInTheContentsAndTheIndexNamesOnlyThem) {
             ExpectTarget(pages, list, target);
         }
     }
+}
+
+TEST(HelpPages, ThePageOfTheToolbarShowsEachOfItsIcons) {
+    const auto shown = Matches(TextOf(kHelp / "toolbar.html"), "src=\"pictures/([^\"]+)\\.png\"");
+    std::set<std::string> icons;
+    for (const auto& entry : std::filesystem::directory_iterator(kHelp.parent_path() / "assets")) {
+        if (entry.path().filename().string().starts_with("toolbar_")) {
+            icons.insert(entry.path().stem().string());
+        }
+    }
+    EXPECT_EQ(shown, icons);
+}
+
+TEST(HelpPageOf, IsAPageOfTheHelpForEachWindow) {
+    const auto pages = Pages();
+    std::set<std::string> different;
+    for (const char* const window :
+         {"frmMain", "frmSearch", "frmAnagram", "frmDataInfo", "frmSmiley", "frmAbout",
+          "frmCheckData", "frmDonation", "frmCredit", "frmViewEntry", "Go to Record"}) {
+        const std::string page(HelpPageOf(window));
+        ASSERT_FALSE(page.empty()) << window;
+        ASSERT_NE(page[0], '#') << window;
+        ExpectTarget(pages, window, page);
+        different.insert(page);
+    }
+    EXPECT_EQ(different.size(), 11U);
+}
+
+TEST(HelpPageOf, IsTheFirstPageForOtherWindows) {
+    EXPECT_EQ(HelpPageOf("frmSplash"), "");
+    EXPECT_EQ(HelpPageOf(""), "");
 }
 
 }  // namespace
