@@ -112,11 +112,24 @@ void OnClose(wxCloseEvent& event) {
     frame.Destroy();
 }
 
+// From the page to what stands beside it, or back; the toolkit has no key for that.
+void ChangeSides(const wxHtmlHelpWindow& help) {
+    if (help.GetHtmlWindow()->HasFocus() && help.GetSplitterWindow()->IsSplit()) {
+        NotebookOf(help).GetCurrentPage()->SetFocus();
+    } else {
+        help.GetHtmlWindow()->SetFocus();
+    }
+}
+
 void OnKey(wxKeyEvent& event) {
     auto* const window = dynamic_cast<wxWindow*>(event.GetEventObject());
-    if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE &&
-        window != nullptr) {
-        wxGetTopLevelParent(window)->Close();
+    auto* const frame = dynamic_cast<wxHtmlHelpFrame*>(wxGetTopLevelParent(window));
+    if (frame == nullptr || event.GetModifiers() != wxMOD_NONE) {
+        event.Skip();
+    } else if (event.GetKeyCode() == WXK_ESCAPE) {
+        frame->Close();
+    } else if (event.GetKeyCode() == WXK_F6) {
+        ChangeSides(*frame->GetHelpWindow());
     } else {
         event.Skip();
     }

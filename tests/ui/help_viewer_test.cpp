@@ -312,9 +312,15 @@ TEST_F(HelpWindowTest, TitlesAndTabsAreWholeWithALargeFont) {
     ExpectWholeColumn();
 }
 
-TEST_F(HelpWindowTest, ThePageHasTheKeyboard) {
+TEST_F(HelpWindowTest, ThePageHasTheKeyboardAndF6GoesToTheContentsAndBack) {
     Show();
-    EXPECT_TRUE(WaitFor([&] { return viewer_.GetHelpWindow()->GetHtmlWindow()->HasFocus(); }));
+    const wxWindow& page = *viewer_.GetHelpWindow()->GetHtmlWindow();
+    EXPECT_TRUE(WaitFor([&] { return page.HasFocus(); }));
+    wxTreeCtrl& contents = *viewer_.GetHelpWindow()->GetTreeCtrl();
+    wxUIActionSimulator().Char(WXK_F6);
+    EXPECT_TRUE(WaitFor([&] { return contents.HasFocus(); }));
+    wxUIActionSimulator().Char(WXK_F6);
+    EXPECT_TRUE(WaitFor([&] { return page.HasFocus(); }));
 }
 
 TEST(SystemDesktop, SaysThatNoProgramOpensAFileOfAnUnknownKind) {
