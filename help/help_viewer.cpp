@@ -114,8 +114,9 @@ void OnClose(wxCloseEvent& event) {
 
 // From the page to what stands beside it, or back; the toolkit has no key for that.
 void ChangeSides(const wxHtmlHelpWindow& help) {
-    if (help.GetHtmlWindow()->HasFocus() && help.GetSplitterWindow()->IsSplit()) {
-        NotebookOf(help).GetCurrentPage()->SetFocus();
+    wxWindow* const beside = NotebookOf(help).GetCurrentPage();
+    if (beside != nullptr && beside->IsShownOnScreen() && help.GetHtmlWindow()->HasFocus()) {
+        beside->SetFocus();
     } else {
         help.GetHtmlWindow()->SetFocus();
     }
@@ -124,11 +125,10 @@ void ChangeSides(const wxHtmlHelpWindow& help) {
 void OnKey(wxKeyEvent& event) {
     auto* const window = dynamic_cast<wxWindow*>(event.GetEventObject());
     auto* const frame = dynamic_cast<wxHtmlHelpFrame*>(wxGetTopLevelParent(window));
-    if (frame == nullptr || event.GetModifiers() != wxMOD_NONE) {
-        event.Skip();
-    } else if (event.GetKeyCode() == WXK_ESCAPE) {
+    const bool isPlain = frame != nullptr && event.GetModifiers() == wxMOD_NONE;
+    if (isPlain && event.GetKeyCode() == WXK_ESCAPE) {
         frame->Close();
-    } else if (event.GetKeyCode() == WXK_F6) {
+    } else if (isPlain && event.GetKeyCode() == WXK_F6) {
         ChangeSides(*frame->GetHelpWindow());
     } else {
         event.Skip();

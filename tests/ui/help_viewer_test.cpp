@@ -24,6 +24,7 @@
 #include "platform/system_desktop.h"
 #include "tests/platform/help_registration.h"
 #include "tests/platform/help_window.h"
+#include "tests/platform/keyboard.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
@@ -262,7 +263,7 @@ class HelpWindowTest : public testing::Test {
   protected:
     void Show() {
         ASSERT_TRUE(viewer_.Show(WxText(Book()), ""));
-        ASSERT_TRUE(WaitFor([&] { return Frame().IsActive(); }));
+        ASSERT_TRUE(WaitFor([&] { return HasKeyboard(Frame()); }));
     }
 
     void TearDown() override {
