@@ -26,8 +26,8 @@ namespace brelex {
 
 namespace {
 
-// At 96 dots per inch: the pictures in the pages are up to 600 pixels wide.
-constexpr int kPageWidth = 640;
+// At 96 dots per inch: the pictures in the pages are up to 602 pixels wide.
+constexpr int kPageWidth = 680;
 constexpr int kHeight = 660;
 
 // The project file in a book, which is a ZIP archive.
@@ -108,7 +108,6 @@ void OnClose(wxCloseEvent& event) {
         frame.CallAfter([&frame] { frame.Close(); });  // when whoever opened it has gone on
         return;
     }
-    frame.Hide();
     frame.Destroy();
 }
 

@@ -17,6 +17,12 @@ namespace brelex {
 /// Whether keys go to the window of any program with this title.
 [[nodiscard]] bool WindowHasKeyboard(const std::string& title);
 
+/// The text that another program has put on the clipboard; empty if there is none.
+[[nodiscard]] std::string CopiedText();
+
+/// Takes everything off the clipboard.
+void EmptyClipboard();
+
 /// Whether a program does nothing just now, as far as the system tells.
 [[nodiscard]] bool IsAsleep(long process);
 

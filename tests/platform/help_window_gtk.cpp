@@ -85,6 +85,20 @@ bool WindowHasKeyboard(const std::string& title) {
     return has;
 }
 
+std::string CopiedText() {
+    char* const copied = gtk_clipboard_wait_for_text(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD));
+    std::string text = copied == nullptr ? "" : copied;
+    g_free(copied);
+    return text;
+}
+
+// Only what a program itself has put there can be taken off.
+void EmptyClipboard() {
+    GtkClipboard* const clipboard = gtk_clipboard_get(GDK_SELECTION_CLIPBOARD);
+    gtk_clipboard_set_text(clipboard, "", 0);
+    gtk_clipboard_clear(clipboard);
+}
+
 bool IsAsleep(long process) {
     std::ifstream file("/proc/" + std::to_string(process) + "/stat");
     std::string text;

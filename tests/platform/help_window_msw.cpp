@@ -45,6 +45,27 @@ void CallForProcess(const char* function, long process) {
 
 }  // namespace
 
+// Without OLE, which the toolkit uses: its talk with the other program, which at the same time may
+// be copying once more, has that one busy for ever now and then under Wine.
+std::string CopiedText() {
+    std::string text;
+    if (OpenClipboard(nullptr) != 0) {
+        if (HANDLE const data = GetClipboardData(CF_UNICODETEXT)) {
+            text = Utf8OfWide(static_cast<const wchar_t*>(GlobalLock(data)));
+            GlobalUnlock(data);
+        }
+        CloseClipboard();
+    }
+    return text;
+}
+
+void EmptyClipboard() {
+    if (OpenClipboard(nullptr) != 0) {
+        ::EmptyClipboard();
+        CloseClipboard();
+    }
+}
+
 bool IsAsleep(long) {
     return true;
 }
