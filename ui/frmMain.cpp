@@ -17,6 +17,7 @@
 #include "database/number_text.h"
 #include "platform/accessible_name.h"
 #include "platform/bring_forward.h"
+#include "presentation/help_pages.h"
 #include "ui/app_icon.h"
 #include "ui/backdrop.h"
 #include "ui/column_header.h"
@@ -388,6 +389,7 @@ bool frmMain::Load(frmSplash& splash, const MainSurroundings& surroundings) {
     desktop_ = &surroundings.desktop;
     programName_ = surroundings.programName;
     openAddress_ = [this](const std::string& address) { OpenAddress(address); };
+    helpKey_.emplace([this](const std::string& window) { return ShowHelpOf(window); });
     setRunAtStartup_ = surroundings.setRunAtStartup;
     setRunAtStartup_(true);
     splash.Destroy();
@@ -455,9 +457,21 @@ std::string_view frmMain::SelectedEntry() const {
     return row < 0 ? std::string_view() : store_.RowText(row);
 }
 
-void frmMain::ShowHelp() {
-    const ModalScope modal(*this);  // it may complain
-    ShowHelpContents({values_.AppFolder, programName_}, *desktop_, messages_);
+void frmMain::ShowHelp(const std::string& page) {
+    const ModalScope modal(*this);    // it may complain
+    WxMessageSink messages(nullptr);  // over whatever is in front
+    ShowHelpContents({values_.AppFolder, programName_}, *desktop_, messages, page);
+}
+
+// The main window's own key is that of its menu. In a window of another program, such as a browser
+// for folders, none is ours.
+bool frmMain::ShowHelpOf(const std::string& window) {
+    const std::string_view page = HelpPageOf(window);
+    if (window == "frmMain" || page.empty()) {
+        return false;
+    }
+    ShowHelp(std::string(page));
+    return true;
 }
 
 void frmMain::ShowReadMe() {
@@ -497,7 +511,7 @@ void frmMain::RunToolbarAction(int icon) {
             OpenModalForm(kSmileyWindow);
             break;
         case kHelpIcon:
-            ShowHelp();
+            ShowHelp("");
             break;
         case kAboutIcon:
             OpenModalForm(kAboutWindow);
@@ -569,7 +583,7 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             setRunAtStartup_(event.IsChecked());
             break;
         case kHelpItem:
-            ShowHelp();
+            ShowHelp("");
             break;
         case kHelpItem + 2:
             ShowReadMe();

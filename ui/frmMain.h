@@ -17,6 +17,7 @@
 #include "platform/hot_key.h"
 #include "platform/modShowHelp.h"
 #include "platform/modSysTray.h"
+#include "ui/help_key.h"
 #include "ui/hover_hints.h"
 #include "ui/layout_units.h"
 #include "ui/tray_behaviour.h"
@@ -95,7 +96,8 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     void UnloadOtherForms();
     void OpenEntryViewer();
     [[nodiscard]] std::string_view SelectedEntry() const;
-    void ShowHelp();
+    void ShowHelp(const std::string& page);
+    [[nodiscard]] bool ShowHelpOf(const std::string& window);
     void ShowReadMe();
     void OpenAddress(const std::string& address);
     [[nodiscard]] ToolbarEvents EventsOfToolbar();
@@ -167,6 +169,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     std::string programName_;
     std::function<void(const std::string&)> openAddress_;
     bool isOpeningAddress_ = false;
+    std::optional<HelpKey> helpKey_;
     std::optional<HoverHints> hints_;
     frmSearch* search_ = nullptr;  // made when they are first opened
     frmAnagram* anagram_ = nullptr;

@@ -17,12 +17,13 @@ namespace {
 constexpr int kUsualTitle = 40;
 constexpr int kUsualEdge = 4;
 
+// A menu bar that was not shown yet does not know it either.
 int MenuBarHeight(const wxTopLevelWindow& window) {
     const auto* const frame = dynamic_cast<const wxFrame*>(&window);
-    const wxMenuBar* const bar = frame == nullptr ? nullptr : frame->GetMenuBar();
-    return bar == nullptr ? 0
-                          : std::max({bar->GetBestSize().y, bar->GetSize().y,
-                                      window.GetCharHeight() + window.FromDIP(14)});
+    return frame == nullptr || frame->GetMenuBar() == nullptr
+               ? 0
+               : std::max(wxSystemSettings::GetMetric(wxSYS_MENU_Y, &window),
+                          window.GetCharHeight() + window.FromDIP(14));
 }
 
 }  // namespace
