@@ -186,6 +186,7 @@ void frmAnagram::BindEvents() {
     surface_->Bind(wxEVT_PAINT, &frmAnagram::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmAnagram::OnClose, this);
     TypeInCapitals(*cboLetters, *cboLetters);
+    SelectAllOnCtrlA(*cboLetters, *cboLetters);
     for (const wxEventTypeTag<wxCommandEvent>& type : {wxEVT_TEXT, wxEVT_COMBOBOX}) {
         cboLetters->Bind(type, [this](wxCommandEvent& event) {
             OnLettersChanged();

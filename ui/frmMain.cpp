@@ -289,6 +289,7 @@ void frmMain::BindEvents() {
     txtAbbrv->Bind(wxEVT_TEXT, &frmMain::OnBoxText, this);
     txtAbbrv->Bind(wxEVT_KEY_DOWN, &frmMain::OnBoxKeyDown, this);
     TypeInCapitals(*txtAbbrv, *txtAbbrv);
+    SelectAllOnCtrlA(*txtAbbrv, *txtAbbrv);
     txtAbbrv->Bind(wxEVT_SET_FOCUS, &frmMain::OnBoxFocus, this);
     txtAbbrv->Bind(wxEVT_TEXT_PASTE, &frmMain::OnBoxPaste, this);
     BindListEvents();

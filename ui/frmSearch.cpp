@@ -271,6 +271,7 @@ void frmSearch::BindEvents() {
     LeadAccessKeysTo(*this, {{lblPrompt_, cboSearchWhat}});
     surface_->Bind(wxEVT_PAINT, &frmSearch::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
+    SelectAllOnCtrlA(*cboSearchWhat, *cboSearchWhat);
     cboSearchWhat->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
         OnSearchTextChanged();
         event.Skip();

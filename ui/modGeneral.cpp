@@ -97,6 +97,16 @@ void SelectAllText(wxTextEntry& control) {
     control.SelectAll();
 }
 
+void SelectAllOnCtrlA(wxWindow& window, wxTextEntry& entry) {
+    window.Bind(wxEVT_KEY_DOWN, [&entry](wxKeyEvent& event) {
+        if (event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL) {
+            SelectAllText(entry);
+        } else {
+            event.Skip();
+        }
+    });
+}
+
 void TypeInCapitals(wxWindow& window, wxTextEntry& entry) {
     window.Bind(wxEVT_CHAR, [&entry](wxKeyEvent& event) {
         const wxChar typed = event.GetUnicodeKey();

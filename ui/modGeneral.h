@@ -44,6 +44,10 @@ void AddToComboHistory(wxComboBox& combo);
 /// Selects all text of a control.
 void SelectAllText(wxTextEntry& control);
 
+/// Has Ctrl+A select all text of a control, which Windows' own does not do on every version of the
+/// system. `window` and `entry` are the same control.
+void SelectAllOnCtrlA(wxWindow& window, wxTextEntry& entry);
+
 /// Has small letters that are typed into a control become capitals. Other characters, and what is
 /// pasted, stay as they are. `window` and `entry` are the same control.
 void TypeInCapitals(wxWindow& window, wxTextEntry& entry);

@@ -10,6 +10,10 @@ bool HasKeyboard(wxTopLevelWindow& window) {
     return window.IsActive();
 }
 
+void PressSelectAll() {
+    wxUIActionSimulator().Char('A', wxMOD_CONTROL);
+}
+
 void PressKeypadEnter() {
     wxUIActionSimulator().Char(WXK_NUMPAD_ENTER);
 }

@@ -12,6 +12,19 @@ bool HasKeyboard(wxTopLevelWindow& window) {
     return window.IsActive() && GetForegroundWindow() == window.GetHWND();
 }
 
+// The simulator of the toolkit leaves out which key of the keyboard it is, and without that Wine
+// makes no character of it.
+void PressSelectAll() {
+    const auto press = [](UINT key, DWORD flags) {
+        keybd_event(static_cast<BYTE>(key), static_cast<BYTE>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)),
+                    flags, 0);
+    };
+    press(VK_CONTROL, 0);
+    press('A', 0);
+    press('A', KEYEVENTF_KEYUP);
+    press(VK_CONTROL, KEYEVENTF_KEYUP);
+}
+
 // The simulator of the toolkit does not know this key.
 void PressKeypadEnter() {
     for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {

@@ -13,6 +13,7 @@
 #include <wx/stattext.h>
 
 #include "search/anagram.h"
+#include "tests/platform/keyboard.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/busy_animation.h"
@@ -142,7 +143,7 @@ TEST_F(AnagramWindowTest, SelectingAllLettersKeepsTheHits) {
         Search("cpu", "CPU");
         In("cboLetters").SetFocus();
         Settle(50);
-        user_.Char('A', wxMOD_CONTROL);
+        PressSelectAll();
         Settle(100);
         EXPECT_EQ(Label("lblPercentDone"), "Found 3");
         EXPECT_EQ(Rows(), kCpuHits);

@@ -588,7 +588,7 @@ TEST_F(SearchWindowTest, SelectingAllLeavesTheNextPositionToGoOnFrom) {
         Search("e");
         ASSERT_TRUE(IsEnabled("chkNextSearch"));
         FocusSearchText();
-        user_.Char('A', wxMOD_CONTROL);
+        PressSelectAll();
         Settle(100);
         EXPECT_TRUE(IsEnabled("chkNextSearch"));
         user_.Char('x');
