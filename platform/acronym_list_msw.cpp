@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/acronym_list.h"
 
+#include <algorithm>
+
 #include <wx/listctrl.h>
 
 #include <windows.h>
@@ -73,8 +75,19 @@ class AcronymListMsw final : public wxListView, public AcronymList {
     [[nodiscard]] std::int32_t RowsPerPage() const override { return GetCountPerPage(); }
 
     [[nodiscard]] int RowHeight() const override {
-        wxRect area;
-        return RowCount() > 0 && GetItemRect(0, area) ? area.height : 1;
+        // The control tells it of a row only; so it is given one for the question.
+        const bool isEmpty = RowCount() == 0;
+        if (isEmpty) {
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 1, LVSICF_NOINVALIDATEALL);
+        }
+        RECT row{};
+        row.left = LVIR_BOUNDS;
+        const LRESULT known =
+            SendMessageW(GetHWND(), LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+        if (isEmpty) {
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 0, LVSICF_NOINVALIDATEALL);
+        }
+        return known != 0 ? std::max(1, static_cast<int>(row.bottom - row.top)) : 1;
     }
 
     [[nodiscard]] std::int32_t RowAt(const wxPoint& point) const override {

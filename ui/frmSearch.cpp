@@ -289,7 +289,7 @@ void frmSearch::BindEvents() {
     cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunSearch(); });
     cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
         if (cancelStops_) {
-            AbortRequested = true;
+            AbortRequested = AbortRequested || !heldEnter_->PressesButton();
         } else {
             DismissSearchWindow();
         }

@@ -49,6 +49,10 @@ void HeldEnter::SearchEnds() {
     isHeld_ = isHeld_ && IsEnterDown();
 }
 
+bool HeldEnter::PressesButton() const {
+    return isSearching_ && IsEnterDown();
+}
+
 void HeldEnter::OnKey(wxKeyEvent& event) {
     event.Skip(!IsEnter(event) || !(isSearching_ || isHeld_));
 }

@@ -19,6 +19,10 @@ class HeldEnter {
     void SearchBegins();
     void SearchEnds();
 
+    /// Whether a button that is pressed now, while a search runs, is pressed with Enter. Windows does
+    /// that without asking the window for its keys.
+    [[nodiscard]] bool PressesButton() const;
+
   private:
     void WatchReleases(wxWindow& window);
     void OnKey(wxKeyEvent& event);

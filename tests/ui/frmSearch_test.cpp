@@ -523,8 +523,11 @@ TEST_F(LongSearch, EnterPressedAgainDoesNotStopIt) {
         const MessageBoxes boxes;
         ModalDriver driver({[&] { return IsSearching(); },
                             [&] {
-                                user_.Char(WXK_RETURN);
-                                PressKeypadEnter();
+                                user_.KeyDown(WXK_RETURN);
+                                return true;
+                            },
+                            [&] {
+                                user_.KeyUp(WXK_RETURN);
                                 return true;
                             }});
         TypeSearchText("zz");
