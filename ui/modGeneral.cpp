@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/modGeneral.h"
 
+#include <algorithm>
+
 #include <wx/accel.h>
 #include <wx/clipbrd.h>
 #include <wx/combobox.h>
 #include <wx/dataobj.h>
 #include <wx/dc.h>
+#include <wx/display.h>
 #include <wx/gdicmn.h>
 #include <wx/log.h>
 #include <wx/settings.h>
@@ -150,7 +153,16 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     const bool onScreen = main.IsIconized() || !main.IsShown();
     const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : FrameOf(main);
     const wxSize size = FrameSizeOf(window);
-    MoveFrame(window, {area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2});
+    wxRect place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x,
+                 size.y);
+    // Of a window that would reach beyond the screen, title and upper left corner stay on it.
+    const int display = wxDisplay::GetFromWindow(&main);
+    if (display != wxNOT_FOUND) {
+        const wxRect screen = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
+        place.x = std::max(std::min(place.x, screen.GetRight() + 1 - size.x), screen.x);
+        place.y = std::max(std::min(place.y, screen.GetBottom() + 1 - size.y), screen.y);
+    }
+    MoveFrame(window, place.GetTopLeft());
 }
 
 void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main) {

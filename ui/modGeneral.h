@@ -61,7 +61,8 @@ void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
 /// pixels across if that is not 0; less where the screen is too small.
 void FillWindow(Surface& surface, wxSizer* content, int width = 0);
 
-/// Centres a window over the main window, or on the screen if that one is minimised or hidden.
+/// Centres a window over the main window, or on the screen if that one is minimised or hidden, but
+/// not beyond the edges of the screen.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
 /// The same now and whenever the window comes onto the screen, when it has the desktop's frame.
