@@ -54,7 +54,7 @@ frmAbout::frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
 void frmAbout::CreateControls() {
     surface_ = new Surface(this);
     auto* const title = new TitleImage(surface_);
-    title->Fit({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
+    title->FitInto({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
     picAppTitle = title;
     lblDescription =
         new wxStaticText(surface_, wxID_ANY, "The best offline database of computer acronyms");

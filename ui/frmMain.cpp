@@ -260,7 +260,7 @@ void frmMain::LayoutStatusBar() {
 void frmMain::PlaceTitleImage() {
     const wxRect label = lblAppTitle->GetRect();
     const int inset = units_.Pixels(6);
-    imgAppTitle->Fit({label.width - 2 * inset, label.height - 2 * inset});
+    imgAppTitle->FitInto({label.width - 2 * inset, label.height - 2 * inset});
     const wxSize image = imgAppTitle->GetSize();
     imgAppTitle->Move((label.width - image.x) / 2 + 1, (label.height - image.y) / 2 + 1);
     // Round the label, which covers what is drawn under it.

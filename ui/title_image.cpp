@@ -41,7 +41,7 @@ TitleImage::TitleImage(wxWindow* parent) : Backdrop(parent), gap_(FromDIP(6)) {
     });
 }
 
-void TitleImage::Fit(const wxSize& largest) {
+void TitleImage::FitInto(const wxSize& largest) {
     iconSize_ = largest.y;
     icon_ = AppIcon(iconSize_);
     font_ = FittingFont(*this, {largest.x - iconSize_ - gap_, largest.y});

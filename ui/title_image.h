@@ -15,7 +15,7 @@ class TitleImage final : public Backdrop {
     explicit TitleImage(wxWindow* parent);
 
     /// Sizes the window, in pixels, to what it shows at most as large as `largest`.
-    void Fit(const wxSize& largest);
+    void FitInto(const wxSize& largest);
 
     void Draw(wxDC& dc) const;
 
