@@ -10,9 +10,8 @@
 #include "tests/ui/ui_test_support.h"
 #include "ui/exception_report.h"
 
-namespace {
-
-// Runs the tests inside the event loop, as simulated events need a running one.
+// Runs the tests inside the event loop, as simulated events need a running one. Not in an unnamed
+// namespace: the toolkit's macro makes a function that returns it.
 class TestApp final : public wxApp {
   public:
     bool OnInit() override {
@@ -48,8 +47,6 @@ class TestApp final : public wxApp {
   private:
     int result_ = 1;
 };
-
-}  // namespace
 
 wxIMPLEMENT_APP_NO_MAIN(TestApp);
 
