@@ -19,8 +19,8 @@ class HeldEnter {
     void SearchBegins();
     void SearchEnds();
 
-    /// Whether a button that is pressed now, while a search runs, is pressed with Enter. Windows does
-    /// that without asking the window for its keys.
+    /// Whether a button that is pressed now, while a search runs, is pressed with Enter. Windows
+    /// does that without asking the window for its keys.
     [[nodiscard]] bool PressesButton() const;
 
   private:
