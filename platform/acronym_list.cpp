@@ -48,7 +48,7 @@ bool AcronymList::IsTyping() const {
 
 void AcronymList::OnCharacter(wxKeyEvent& event) {
     const wxChar character = event.GetUnicodeKey();
-    const bool typed = character != WXK_NONE && character >= WXK_SPACE && character != WXK_DELETE;
+    const bool typed = character >= WXK_SPACE && character != WXK_DELETE;
     if (!typed || !IsTyped(event) || Rows() == nullptr) {
         event.Skip();
         return;

@@ -98,8 +98,9 @@ void frmAnagram::CreateControls() {
     cmdSearch = new wxButton(surface_, wxID_ANY, "&Search");
     cmdCancel = new wxButton(surface_, wxID_ANY, "Cancel");
     for (wxStaticText** label : {&lblWordLen, &lblPossiblePerms, &lblPercentDone}) {
-        *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                  wxDefaultSize, wxST_NO_AUTORESIZE);
+        *label =
+            new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                             wxST_NO_AUTORESIZE | (label == &lblPercentDone ? wxALIGN_RIGHT : 0));
     }
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
     lblColHeaderBack = new Backdrop(surface_);

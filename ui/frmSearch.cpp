@@ -167,8 +167,9 @@ void frmSearch::CreateResultArea() {
     picAnim = new BusyAnimation(surface_, SearchFilmStrip(), kAnimationIntervalMs);
     statusArea_ = new Backdrop(surface_);
     for (wxStaticText** label : {&lblStatus, &lblCount}) {
-        *label = new wxStaticText(statusArea_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                  wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+        *label = new wxStaticText(
+            statusArea_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+            wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END | (label == &lblCount ? wxALIGN_RIGHT : 0));
     }
     cmdExpandShrink = new wxBitmapButton(surface_, wxID_ANY, ExpandPicture());
     lblColHeaderBack = new Backdrop(surface_);
@@ -241,7 +242,7 @@ void frmSearch::PlaceControls() {
     const int gap = px(kMargin);
     auto* labels = new wxBoxSizer(wxHORIZONTAL);
     labels->Add(lblStatus, 1, wxALIGN_CENTRE_VERTICAL | wxLEFT, px(4));
-    labels->Add(lblCount, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, gap);
+    labels->Add(lblCount, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, px(4));
     lblCount->SetMinSize({px(kCountWidth), -1});
     statusArea_->SetSizer(labels);
     statusArea_->SetMinSize({-1, lblStatus->GetCharHeight() + px(4)});

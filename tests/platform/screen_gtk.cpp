@@ -3,11 +3,11 @@
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 #include <cstddef>
 #include <string>
 #include <vector>
 
-#include <wx/bitmap.h>
 #include <wx/dataview.h>
 #include <wx/toplevel.h>
 
@@ -111,11 +111,25 @@ bool IsKeptAbove(const wxTopLevelWindow& window) {
 }
 
 wxImage PictureOnScreen(wxWindow& window) {
+    // The display counts its own pixels, of which the toolkit's may be several.
+    const int scale = gtk_widget_get_scale_factor(window.GetHandle());
     const wxRect area = window.GetScreenRect();
-    GdkPixbuf* const pixels = gdk_pixbuf_get_from_window(gdk_get_default_root_window(), area.x,
-                                                         area.y, area.width, area.height);
-    const wxBitmap bitmap(pixels);  // which owns them now
-    return bitmap.ConvertToImage();
+    Display* const display = gdk_x11_get_default_xdisplay();
+    XImage* const pixels =
+        XGetImage(display, DefaultRootWindow(display), area.x * scale, area.y * scale,
+                  static_cast<unsigned>(area.width * scale),
+                  static_cast<unsigned>(area.height * scale), AllPlanes, ZPixmap);
+    wxImage picture(area.width * scale, area.height * scale);
+    for (int y = 0; y < picture.GetHeight(); ++y) {
+        for (int x = 0; x < picture.GetWidth(); ++x) {
+            const unsigned long pixel = XGetPixel(pixels, x, y);  // 24 bits: red, green, blue
+            picture.SetRGB(x, y, static_cast<unsigned char>(pixel >> 16U),
+                           static_cast<unsigned char>(pixel >> 8U),
+                           static_cast<unsigned char>(pixel));
+        }
+    }
+    XDestroyImage(pixels);
+    return picture;
 }
 
 ToolTipView ToolTipOnScreen() {
