@@ -78,14 +78,14 @@ class AcronymListMsw final : public wxListView, public AcronymList {
         // The control tells it of a row only; so it is given one for the question.
         const bool isEmpty = RowCount() == 0;
         if (isEmpty) {
-            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 1, LVSICF_NOINVALIDATEALL);
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 1, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
         }
         RECT row{};
         row.left = LVIR_BOUNDS;
         const LRESULT known =
             SendMessageW(GetHWND(), LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
         if (isEmpty) {
-            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 0, LVSICF_NOINVALIDATEALL);
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 0, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
         }
         return known != 0 ? std::max(1, static_cast<int>(row.bottom - row.top)) : 1;
     }
@@ -132,6 +132,9 @@ class AcronymListMsw final : public wxListView, public AcronymList {
 
   private:
     [[nodiscard]] wxString OnGetItemText(long item, long column) const override {
+        if (item >= RowCount()) {
+            return {};  // the one that RowHeight asks of
+        }
         const std::string_view text = rows_->RowText(static_cast<std::int32_t>(item));
         return WxTextOfBytes(ColumnText(text, static_cast<int>(column)));
     }

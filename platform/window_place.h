@@ -19,8 +19,8 @@ namespace brelex {
 /// Moves a window, shown or hidden, so that its frame begins at `corner`.
 void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner);
 
-/// Calls `act` each time a window has come onto the screen and has its frame, for as long as the
-/// window lives. Call once for each window.
-void OnEachMapping(wxTopLevelWindow& window, const std::function<void()>& act);
+/// Calls `act` each time a window that was shown has come onto the screen and has its frame, for as
+/// long as the window lives; not when the desktop only brings it back. Call once for each window.
+void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act);
 
 }  // namespace brelex

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/window_place.h"
 
+#include <utility>
+
 #include <wx/toplevel.h>
 
 #include <gtk/gtk.h>
@@ -13,13 +15,26 @@ GdkWindow* WindowOf(const wxTopLevelWindow& window) {
     return gtk_widget_get_window(GTK_WIDGET(window.GetHandle()));
 }
 
-gboolean OnMapped(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer act) {
-    (*static_cast<std::function<void()>*>(act))();
+// What is to be done when a window is on the screen.
+struct Showing {
+    std::function<void()> act;
+    bool isAwaited = true;
+};
+
+void OnShow(GtkWidget* /*widget*/, gpointer showing) {
+    static_cast<Showing*>(showing)->isAwaited = true;
+}
+
+gboolean OnMapped(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer data) {
+    auto* const showing = static_cast<Showing*>(data);
+    if (std::exchange(showing->isAwaited, false)) {
+        showing->act();
+    }
     return FALSE;
 }
 
-void DeleteAct(gpointer act, GClosure* /*closure*/) {
-    delete static_cast<std::function<void()>*>(act);
+void DeleteShowing(gpointer showing, GClosure* /*closure*/) {
+    delete static_cast<Showing*>(showing);
 }
 
 }  // namespace
@@ -55,9 +70,11 @@ void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner) {
     }
 }
 
-void OnEachMapping(wxTopLevelWindow& window, const std::function<void()>& act) {
-    g_signal_connect_data(window.GetHandle(), "map-event", G_CALLBACK(OnMapped),
-                          new std::function<void()>(act), DeleteAct, G_CONNECT_AFTER);
+void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act) {
+    auto* const showing = new Showing{act};
+    g_signal_connect(window.GetHandle(), "show", G_CALLBACK(OnShow), showing);
+    g_signal_connect_data(window.GetHandle(), "map-event", G_CALLBACK(OnMapped), showing,
+                          DeleteShowing, G_CONNECT_AFTER);
 }
 
 }  // namespace brelex

@@ -17,7 +17,7 @@ void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner) {
     window.Move(corner);
 }
 
-void OnEachMapping(wxTopLevelWindow& window, const std::function<void()>& act) {
+void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act) {
     window.Bind(wxEVT_SHOW, [act](wxShowEvent& event) {
         event.Skip();
         if (event.IsShown()) {

@@ -85,6 +85,11 @@ frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
     KeepCentered(*this, main_);
 }
 
+// The controls go first: as they go they still report what happens to them.
+frmAnagram::~frmAnagram() {
+    DestroyChildren();
+}
+
 // In the order in which the TAB key visits them.
 void frmAnagram::CreateControls() {
     surface_ = new Surface(this);

@@ -36,6 +36,9 @@ class frmAnagram final : public wxDialog {
     /// the main window by its record number (1-based).
     frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
                std::function<void(std::int32_t)> goToRecord);
+    frmAnagram(const frmAnagram&) = delete;
+    frmAnagram& operator=(const frmAnagram&) = delete;
+    ~frmAnagram() override;
 
     /// Shows the window over the main window until it is dismissed.
     void ShowAnagramWindow();

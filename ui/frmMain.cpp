@@ -252,7 +252,8 @@ void frmMain::LayoutStatusBar() {
         WxText(FormatGrouped(values_.RecordCount, values_.groupSeparator) + " entries");
     // On a screen too small for all the number of entries comes first.
     const int countWidth = lblRecCount->GetTextExtent(count).x + px(12);
-    place(*lblDescription, std::min(px(kHintWidth), inner_.x - x - px(5) - countWidth));
+    place(*lblDescription,
+          std::max(std::min(px(kHintWidth), inner_.x - x - px(5) - countWidth), px(kMargin)));
     place(*lblRecCount, inner_.x - x - px(2));
     lblRecCount->SetLabelText(count);
 }

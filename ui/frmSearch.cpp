@@ -125,6 +125,11 @@ frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     KeepCentered(*this, main_);
 }
 
+// The controls go first: as they go they still report what happens to them.
+frmSearch::~frmSearch() {
+    DestroyChildren();
+}
+
 void frmSearch::CreateControls() {
     surface_ = new Surface(this);
     CreateFrames();

@@ -42,6 +42,9 @@ class frmSearch final : public wxDialog {
   public:
     /// `values` must outlive the window; the database is loaded.
     frmSearch(wxTopLevelWindow* main, ProgramValues& values);
+    frmSearch(const frmSearch&) = delete;
+    frmSearch& operator=(const frmSearch&) = delete;
+    ~frmSearch() override;
 
     /// Shows the window over the main window until it is dismissed.
     void ShowSearchWindow();

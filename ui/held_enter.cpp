@@ -42,6 +42,7 @@ void HeldEnter::WatchReleases(wxWindow& window) {
 void HeldEnter::SearchBegins() {
     isSearching_ = true;
     isHeld_ = IsEnterDown();
+    lastEnter_ = Clock::now();
 }
 
 void HeldEnter::SearchEnds() {
@@ -49,12 +50,23 @@ void HeldEnter::SearchEnds() {
     isHeld_ = isHeld_ && IsEnterDown();
 }
 
+bool HeldEnter::IsSoonAfter() const {
+    constexpr std::chrono::milliseconds kImpatience(600);
+    return Clock::now() - lastEnter_ < kImpatience;
+}
+
 bool HeldEnter::PressesButton() const {
-    return isSearching_ && IsEnterDown();
+    return isSearching_ && IsEnterDown() && (isHeld_ || IsSoonAfter());
 }
 
 void HeldEnter::OnKey(wxKeyEvent& event) {
-    event.Skip(!IsEnter(event) || !(isSearching_ || isHeld_));
+    if (!IsEnter(event)) {
+        event.Skip();
+        return;
+    }
+    const bool isTooSoon = isSearching_ && IsSoonAfter();
+    lastEnter_ = Clock::now();
+    event.Skip(!isHeld_ && !isTooSoon);
 }
 
 }  // namespace brelex

@@ -26,7 +26,9 @@ void HoverHints::FitFont(const std::vector<wxString>& others) {
     if (widest > room) {
         constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
         wxFont font = label_.GetFont();
-        font.SetFractionalPointSize(font.GetFractionalPointSize() * kMargin * room / widest);
+        constexpr double kLeastPoints = 6;  // smaller ones cannot be read: the end is left out
+        font.SetFractionalPointSize(
+            std::max(font.GetFractionalPointSize() * kMargin * room / widest, kLeastPoints));
         label_.SetFont(font);
     }
 }

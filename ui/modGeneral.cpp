@@ -156,7 +156,8 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     wxRect place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x,
                  size.y);
     // Of a window that would reach beyond the screen, title and upper left corner stay on it.
-    const int display = wxDisplay::GetFromWindow(&main);
+    const int display =
+        wxDisplay::GetFromPoint({area.x + area.width / 2, area.y + area.height / 2});
     if (display != wxNOT_FOUND) {
         const wxRect screen = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
         place.x = std::max(std::min(place.x, screen.GetRight() + 1 - size.x), screen.x);
@@ -167,7 +168,7 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
 
 void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     CenterWindow(window, main);
-    OnEachMapping(window, [&window, &main] { CenterWindow(window, main); });
+    OnEachShowing(window, [&window, &main] { CenterWindow(window, main); });
 }
 
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info) {

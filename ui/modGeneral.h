@@ -62,7 +62,7 @@ void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
 void FillWindow(Surface& surface, wxSizer* content, int width = 0);
 
 /// Centres a window over the main window, or on the screen if that one is minimised or hidden, but
-/// not beyond the edges of the screen.
+/// not beyond the edges of the screen that the middle is on.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
 /// The same now and whenever the window comes onto the screen, when it has the desktop's frame.
