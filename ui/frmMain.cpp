@@ -339,6 +339,7 @@ void frmMain::AddHints() {
                        FormatOneDecimal(values_.AppVersion, values_.decimalSeparator) + ", " +
                        values_.info.copyright));
     std::vector<wxString> ofToolbar;
+    ofToolbar.reserve(kToolbarIcons.size());
     for (const ToolbarIcon& icon : kToolbarIcons) {
         ofToolbar.emplace_back(icon.description);
     }

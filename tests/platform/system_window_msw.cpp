@@ -171,7 +171,7 @@ std::string SpokenNameOf(wxWindow& control) {
     BSTR name = nullptr;
     object->get_accName(self, &name);
     object->Release();
-    const std::string text = name == nullptr ? "" : Utf8OfWide(name);
+    std::string text = name == nullptr ? "" : Utf8OfWide(name);
     SysFreeString(name);
     return text;
 }
