@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The icon in a real notification area, which stands in the upper left corner of the display.
 #include <cstdlib>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,18 @@ class MainWindowWithTray : public MainWindowTest {
         user_.MouseMove(12, 12);
         Settle();
         user_.MouseClick(button);
+    }
+
+    // Opens the icon's menu, presses the access key of an item there and waits for what it does.
+    bool ChooseInMenu(char key, const std::function<bool()>& isDone) {
+        ModalDriver driver({[&] {
+            user_.Char(key);
+            return true;
+        }});
+        driver.Stop();
+        ClickIcon(wxMOUSE_BTN_RIGHT);
+        driver.Start(400);
+        return isDone();
     }
 
     void Minimise() {
@@ -80,16 +93,7 @@ TEST_F(StayOnTopWithTray, HoldsWhenALeftClickOnTheIconBringsTheWindowBack) {
 
 TEST_F(StayOnTopWithTray, HoldsWhenTheMenuOfTheIconBringsTheWindowBack) {
     Minimise();
-    ModalDriver driver({
-        [&] {
-            user_.Char('R');
-            return true;
-        },
-    });
-    driver.Stop();
-    ClickIcon(wxMOUSE_BTN_RIGHT);
-    driver.Start(400);
-    EXPECT_TRUE(IsBackOnTop());
+    EXPECT_TRUE(ChooseInMenu('R', [&] { return IsBackOnTop(); }));
 }
 
 TEST_F(StayOnTopWithTray, IsNotTakenUpBehindASideWindow) {
@@ -125,29 +129,11 @@ TEST_F(MainWindowWithTray, ALeftClickBringsACoveredWindowForward) {
 
 TEST_F(MainWindowWithTray, TheMenusRestoreItemBringsTheWindowBack) {
     Minimise();
-    ModalDriver driver({
-        [&] {
-            user_.Char('R');
-            return true;
-        },
-    });
-    driver.Stop();
-    ClickIcon(wxMOUSE_BTN_RIGHT);
-    driver.Start(400);
-    EXPECT_TRUE(IsBack());
+    EXPECT_TRUE(ChooseInMenu('R', [&] { return IsBack(); }));
 }
 
 TEST_F(MainWindowWithTray, TheMenusMinimizeItemHidesTheWindow) {
-    ModalDriver driver({
-        [&] {
-            user_.Char('M');
-            return true;
-        },
-    });
-    driver.Stop();
-    ClickIcon(wxMOUSE_BTN_RIGHT);
-    driver.Start(400);
-    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    EXPECT_TRUE(ChooseInMenu('M', [&] { return WaitFor([&] { return !window_->IsShown(); }); }));
 }
 
 TEST_F(MainWindowWithTray, ClosingTheMenuDoesNothing) {
