@@ -100,7 +100,7 @@ TEST_F(HotKey, BringsACoveredWindowForward) {
 TEST_F(HotKey, BringsAMinimisedWindowBack) {
     wxFrame* const other = Cover();
     window_->Iconize();
-    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized() || !window_->IsShown(); }));
+    ASSERT_TRUE(WaitFor([&] { return IsMinimised(); }));
     Settle(100);
     Press();
     EXPECT_TRUE(IsBack());

@@ -941,7 +941,7 @@ TEST_F(SearchWindowTest, OverAHiddenMainWindowItStandsInTheMiddleOfTheScreen) {
 
 TEST_F(SearchWindowTest, OverAMinimisedMainWindowItStandsInTheMiddleOfTheScreen) {
     window_->Iconize();
-    ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
+    ASSERT_TRUE(WaitFor([&] { return IsMinimised(); }));
     wxFrame other(nullptr, wxID_ANY, "Another window", {5, 5}, {300, 200});
     CenterWindow(other, *window_);
     ExpectSameMiddle(other.GetScreenRect(), wxRect(wxGetDisplaySize()));

@@ -166,11 +166,9 @@ class CommandLineTest : public MainWindowTest, public testing::WithParamInterfac
 
 TEST_P(CommandLineTest, OnlyTheExactWordMinimises) {
     Start({"ABC\tx"}, GetParam().commandLine);
-    // With an icon in the notification area it is hidden, too.
-    const auto isMinimised = [&] { return window_->IsIconized() || !window_->IsShown(); };
-    EXPECT_FALSE(isMinimised());
-    WaitFor(isMinimised, 900);
-    EXPECT_EQ(isMinimised(), GetParam().minimised);
+    EXPECT_FALSE(IsMinimised());
+    WaitFor([&] { return IsMinimised(); }, 900);
+    EXPECT_EQ(IsMinimised(), GetParam().minimised);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, CommandLineTest,

@@ -254,9 +254,12 @@ void PutOnClipboard(const wxString& text) {
     ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
 }
 
+bool MainWindowTest::IsMinimised() const {
+    return window_->IsIconized() || !window_->IsShown();
+}
+
 bool MainWindowTest::IsBack() const {
-    return WaitFor(
-        [&] { return window_->IsShown() && !window_->IsIconized() && window_->IsActive(); });
+    return WaitFor([&] { return !IsMinimised() && window_->IsActive(); });
 }
 
 std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,

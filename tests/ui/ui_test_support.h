@@ -145,6 +145,10 @@ class MainWindowTest : public testing::Test {
     /// Waits until typed keys arrive in the look-up box.
     void GiveBoxTheKeyboard();
 
+    /// Whether the main window is minimised, which hides it where a notification area shows its
+    /// icon: the desktop may forget then that it was minimised.
+    [[nodiscard]] bool IsMinimised() const;
+
     /// Waits until the main window is shown, not minimised, and in front.
     [[nodiscard]] bool IsBack() const;
 
