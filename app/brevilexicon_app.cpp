@@ -4,15 +4,15 @@
 #include <wx/clipbrd.h>
 #include <wx/datetime.h>
 
+#include "app/exception_report.h"
 #include "database/program_values.h"
-#include "platform/command_line.h"
-#include "platform/modRunAtStartup.h"
-#include "platform/program_folder.h"
-#include "ui/exception_report.h"
+#include "platform/desktop/command_line.h"
+#include "platform/desktop/wx_folder_picker.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "platform/system/modRunAtStartup.h"
+#include "platform/system/program_folder.h"
+#include "toolkit/wx_text.h"
 #include "ui/frmMain.h"
-#include "ui/wx_folder_picker.h"
-#include "ui/wx_message_sink.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

@@ -4,8 +4,8 @@
 #include <wx/app.h>
 
 #include "app/start_up.h"
-#include "platform/system_desktop.h"
-#include "platform/system_temporary_files.h"
+#include "platform/desktop/system_desktop.h"
+#include "platform/system/system_temporary_files.h"
 
 namespace brelex {
 

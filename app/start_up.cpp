@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
 
-#include "app/app_info.h"
+#include "app/configured_app_info.h"
 #include "database/locate_database.h"
-#include "platform/user_locale.h"
+#include "platform/system/user_locale.h"
 #include "ui/frmMain.h"
 #include "ui/frmSplash.h"
 

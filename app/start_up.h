@@ -5,13 +5,13 @@
 #include <memory>
 #include <string>
 
-#include "database/folder_picker.h"
-#include "database/message_sink.h"
+#include "base/folder_picker.h"
+#include "base/message_sink.h"
+#include "base/temporary_files.h"
 #include "database/program_values.h"
 #include "database/record_store.h"
-#include "database/temporary_files.h"
-#include "platform/instance_guard.h"
-#include "platform/modShowHelp.h"
+#include "platform/system/instance_guard.h"
+#include "platform/system/modShowHelp.h"
 
 namespace brelex {
 

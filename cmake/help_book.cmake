@@ -22,9 +22,9 @@ add_custom_target(help_book ALL DEPENDS "${help_book}" "${read_me}")
 if(NOT WIN32)
   set(HELP_PROGRAM "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/brelex-help")
   set(share "${CMAKE_BINARY_DIR}/share")
-  configure_file(packaging/linux/brelex-help.desktop.in
+  configure_file("${CMAKE_SOURCE_DIR}/packaging/linux/brelex-help.desktop.in"
                  "${share}/applications/brelex-help.desktop" @ONLY)
-  configure_file(packaging/linux/brelex-help-type.xml
+  configure_file("${CMAKE_SOURCE_DIR}/packaging/linux/brelex-help-type.xml"
                  "${share}/mime/packages/brelex-help-type.xml" COPYONLY)
   # What update-desktop-database would write.
   file(WRITE "${share}/applications/mimeinfo.cache"

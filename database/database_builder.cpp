@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "database/calendar_day.h"
+#include "base/calendar_day.h"
 #include "database/modCRC32.h"
 #include "database/record_text.h"
 #include "database/string_order.h"

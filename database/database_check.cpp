@@ -6,11 +6,11 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/windows1252.h"
 #include "database/database_builder.h"
 #include "database/modCRC32.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
-#include "database/windows1252.h"
 
 namespace brelex {
 

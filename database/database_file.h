@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/progress_sink.h"
 #include "database/database_header.h"
-#include "database/progress_sink.h"
 #include "database/record_store.h"
 #include "database/szdd.h"
 

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "database/calendar_day.h"
-#include "database/number_text.h"
+#include "base/calendar_day.h"
+#include "base/number_text.h"
+#include "base/windows1252.h"
 #include "database/record_text.h"
-#include "database/windows1252.h"
 
 namespace brelex {
 

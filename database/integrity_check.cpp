@@ -7,8 +7,8 @@
 #include <string_view>
 #include <system_error>
 
-#include "database/byte_buffer.h"
-#include "database/file_io.h"
+#include "base/byte_buffer.h"
+#include "base/file_io.h"
 #include "database/modDataLoader.h"
 
 namespace brelex {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/temporary_files.h"
 #include "database/modCRC32.h"
 #include "database/program_values.h"
-#include "database/temporary_files.h"
 
 namespace brelex {
 

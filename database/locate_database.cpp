@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 
 namespace brelex {
 

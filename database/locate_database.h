@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "database/folder_picker.h"
-#include "database/message_sink.h"
+#include "base/folder_picker.h"
+#include "base/message_sink.h"
 #include "database/program_values.h"
 
 namespace brelex {

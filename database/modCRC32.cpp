@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstddef>
 
-#include "database/number_text.h"
+#include "base/number_text.h"
 
 namespace brelex {
 

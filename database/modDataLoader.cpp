@@ -7,9 +7,9 @@
 #include <system_error>
 #include <utility>
 
+#include "base/file_io.h"
+#include "base/number_text.h"
 #include "database/database_file.h"
-#include "database/file_io.h"
-#include "database/number_text.h"
 
 namespace brelex {
 

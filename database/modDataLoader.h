@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
+#include "base/progress_sink.h"
+#include "base/temporary_files.h"
 #include "database/program_values.h"
-#include "database/progress_sink.h"
 #include "database/record_store.h"
 #include "database/szdd.h"
-#include "database/temporary_files.h"
 
 namespace brelex {
 

@@ -4,23 +4,11 @@
 #include <cstdint>
 #include <string>
 
+#include "base/app_info.h"
 #include "database/database_header.h"
 #include "database/row_list.h"
 
 namespace brelex {
-
-/// The application title, in captions and messages.
-inline constexpr const char* kAppTitle = "Brevilexicon";
-
-/// What the program says of itself. Texts are UTF-8.
-struct AppInfo {
-    int majorVersion = 0;
-    int minorVersion = 0;      ///< below 10, so that both parts joined by a point order as numbers
-    std::string copyright;     ///< the legal-rights text
-    std::string homePage;      ///< a web address
-    std::string donationPage;  ///< a web address
-    std::string supportAddress;
-};
 
 /// The values that the whole program shares. app/ owns the one instance. Paths are UTF-8; folders
 /// end in the system's separator.

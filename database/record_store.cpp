@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-#include "database/number_text.h"
+#include "base/number_text.h"
 #include "database/string_order.h"
 
 namespace brelex {

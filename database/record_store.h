@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "database/progress_sink.h"
+#include "base/progress_sink.h"
 #include "database/row_list.h"
 #include "database/szdd.h"
 

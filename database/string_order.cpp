@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "database/windows1252.h"
+#include "base/windows1252.h"
 
 namespace brelex {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "database/byte_buffer.h"
+#include "base/byte_buffer.h"
 
 namespace brelex {
 

@@ -6,7 +6,7 @@
 #include <iostream>
 #include <string_view>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "database/windows1252.h"
+#include "base/windows1252.h"
 #include "search/fragment_search.h"
 
 // Compiles and matches; what does not contain a fragment of the pattern must not match.

@@ -8,12 +8,12 @@
 #include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
 
-#include "database/program_values.h"
+#include "base/app_info.h"
 #include "help/help_viewer.h"
-#include "platform/help_association.h"
-#include "platform/modShowHelp.h"
-#include "platform/program_folder.h"
-#include "ui/wx_text.h"
+#include "platform/desktop/help_association.h"
+#include "platform/system/modShowHelp.h"
+#include "platform/system/program_folder.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 

@@ -17,10 +17,10 @@
 #include <wx/splitter.h>
 #include <wx/treectrl.h>
 
-#include "platform/help_page.h"
-#include "platform/modShowHelp.h"
-#include "ui/app_icon.h"
-#include "ui/wx_text.h"
+#include "platform/desktop/help_page.h"
+#include "platform/system/modShowHelp.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "database/number_text.h"
+#include "base/number_text.h"
+#include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
-#include "database/windows1252.h"
 #include "lookup/prefix_search.h"
 
 namespace brelex {

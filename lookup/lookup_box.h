@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
 #include "database/program_values.h"
 #include "lookup/list_navigation.h"
 

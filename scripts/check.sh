@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
-folders=(app database help lookup presentation search ui platform tools tests fuzz benchmarks)
+folders=(app base database fuzz help lookup platform presentation search tests toolkit tools ui)
 need_packages "${build_packages[@]}" libgtest-dev googletest clang clang-format clang-tidy
 step "layout"
 mapfile -t code < <(git ls-files --cached --others --exclude-standard -- '*.h' '*.cpp')
@@ -19,7 +19,7 @@ need_windows
 [ -f build/win32/build.ninja ] || cmake --preset win32 || fail "configuring win32 failed"
 if [ $# = 0 ]; then
     mapfile -t sources < <(git ls-files --cached --others --exclude-standard -- \
-        "${folders[@]/%//*.cpp}" | grep -v '^benchmarks/')
+        "${folders[@]/%//*.cpp}")
 else
     sources=("$@")
 fi

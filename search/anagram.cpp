@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "database/number_text.h"
+#include "base/letter_case.h"
+#include "base/number_text.h"
+#include "base/windows1252.h"
 #include "database/program_values.h"
-#include "database/windows1252.h"
-#include "search/letter_case.h"
 
 namespace brelex {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
 #include "database/row_list.h"
 
 namespace brelex {

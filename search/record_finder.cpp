@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/letter_case.h"
+#include "base/windows1252.h"
 #include "database/record_text.h"
-#include "database/windows1252.h"
-#include "search/letter_case.h"
 #include "search/whole_word.h"
 
 namespace brelex {

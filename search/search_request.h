@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
 
 namespace brelex {
 

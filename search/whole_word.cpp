@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "search/letter_case.h"
+#include "base/letter_case.h"
 
 namespace brelex {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
 
 namespace brelex {
 

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string>
 
-#include "database/windows1252.h"
-#include "search/letter_case.h"
+#include "base/letter_case.h"
+#include "base/windows1252.h"
 
 namespace brelex {
 

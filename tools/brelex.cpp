@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "database/locate_database.h"
-#include "platform/program_folder.h"
-#include "platform/terminal.h"
+#include "platform/system/program_folder.h"
+#include "platform/system/terminal.h"
 #include "tools/build_command.h"
 #include "tools/open_database.h"
 #include "tools/query_commands.h"

@@ -7,13 +7,13 @@
 #include <string_view>
 #include <system_error>
 
-#include "database/calendar_day.h"
+#include "base/calendar_day.h"
+#include "base/file_io.h"
+#include "base/windows1252.h"
 #include "database/database_builder.h"
 #include "database/database_check.h"
 #include "database/database_file.h"
-#include "database/file_io.h"
 #include "database/szdd.h"
-#include "database/windows1252.h"
 #include "lookup/prefix_search.h"
 #include "search/search_list.h"
 #include "tools/dictd_reader.h"

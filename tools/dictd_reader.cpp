@@ -8,7 +8,7 @@
 #include <system_error>
 #include <zlib.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "search/search_list.h"
 
 namespace brelex {

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <optional>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
+#include "base/windows1252.h"
 #include "database/string_order.h"
-#include "database/windows1252.h"
 
 namespace brelex {
 

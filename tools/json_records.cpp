@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/windows1252.h"
 #include "database/record_text.h"
-#include "database/windows1252.h"
 
 namespace brelex {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/open_database.h"
 
+#include "base/file_io.h"
 #include "database/database_file.h"
-#include "database/file_io.h"
 
 namespace brelex {
 

@@ -7,11 +7,11 @@
 #include <cstdint>
 #include <string_view>
 
-#include "database/calendar_day.h"
+#include "base/calendar_day.h"
+#include "base/windows1252.h"
 #include "database/database_check.h"
 #include "database/database_statistics.h"
 #include "database/string_order.h"
-#include "database/windows1252.h"
 #include "lookup/prefix_search.h"
 #include "search/search_list.h"
 #include "tools/open_database.h"

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "database/windows1252.h"
+#include "base/windows1252.h"
 #include "search/anagram.h"
 #include "search/database_search.h"
 #include "tools/json_records.h"

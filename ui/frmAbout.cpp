@@ -5,18 +5,18 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "database/number_text.h"
-#include "platform/accessible_name.h"
+#include "base/number_text.h"
+#include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "ui/app_icon.h"
-#include "ui/artwork.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/link.h"
+#include "ui/controls/painted.h"
+#include "ui/controls/surface.h"
+#include "ui/controls/title_image.h"
 #include "ui/frmCredit.h"
-#include "ui/link.h"
 #include "ui/modGeneral.h"
-#include "ui/painted.h"
-#include "ui/surface.h"
-#include "ui/title_image.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

@@ -10,7 +10,7 @@
 
 #include "database/program_values.h"
 #include "presentation/moving_text.h"
-#include "ui/layout_units.h"
+#include "ui/controls/layout_units.h"
 
 class wxButton;
 class wxSizer;

@@ -12,20 +12,22 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "database/windows1252.h"
-#include "platform/accessible_name.h"
-#include "platform/prompt_button.h"
+#include "base/scope.h"
+#include "base/windows1252.h"
+#include "platform/window/accessible_name.h"
+#include "platform/window/prompt_button.h"
 #include "search/anagram.h"
-#include "ui/app_icon.h"
-#include "ui/artwork.h"
-#include "ui/backdrop.h"
-#include "ui/busy_animation.h"
-#include "ui/column_header.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/pending_events.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/access_keys.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/backdrop.h"
+#include "ui/controls/busy_animation.h"
+#include "ui/controls/column_header.h"
+#include "ui/controls/surface.h"
+#include "ui/controls/text_entry.h"
 #include "ui/modGeneral.h"
-#include "ui/pending_events.h"
-#include "ui/scope.h"
-#include "ui/surface.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

@@ -10,13 +10,13 @@
 #include <wx/dialog.h>
 
 #include "database/program_values.h"
-#include "platform/acronym_list.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "platform/list/acronym_list.h"
 #include "search/copied_rows.h"
-#include "ui/combo_box.h"
-#include "ui/held_enter.h"
-#include "ui/layout_units.h"
-#include "ui/text_change.h"
-#include "ui/wx_message_sink.h"
+#include "ui/controls/combo_box.h"
+#include "ui/controls/held_enter.h"
+#include "ui/controls/layout_units.h"
+#include "ui/controls/text_change.h"
 
 class wxButton;
 class wxComboBox;

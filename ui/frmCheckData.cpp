@@ -11,18 +11,18 @@
 #include <wx/stattext.h>
 #include <wx/utils.h>
 
+#include "base/scope.h"
 #include "database/integrity_check.h"
-#include "platform/accessible_name.h"
-#include "platform/fine_timer.h"
-#include "platform/paint_now.h"
-#include "ui/app_icon.h"
-#include "ui/artwork.h"
-#include "ui/backdrop.h"
+#include "platform/system/fine_timer.h"
+#include "platform/window/accessible_name.h"
+#include "platform/window/paint_now.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/pending_events.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/backdrop.h"
+#include "ui/controls/progress_bar.h"
+#include "ui/controls/surface.h"
 #include "ui/modGeneral.h"
-#include "ui/pending_events.h"
-#include "ui/progress_bar.h"
-#include "ui/scope.h"
-#include "ui/surface.h"
 
 namespace brelex {
 

@@ -4,10 +4,10 @@
 #include <wx/dialog.h>
 #include <wx/timer.h>
 
+#include "base/temporary_files.h"
 #include "database/program_values.h"
-#include "database/temporary_files.h"
-#include "ui/layout_units.h"
-#include "ui/wx_message_sink.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "ui/controls/layout_units.h"
 
 class wxButton;
 class wxStaticBitmap;

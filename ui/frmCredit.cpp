@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/accessible_name.h"
+#include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "ui/app_icon.h"
-#include "ui/layout_units.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/layout_units.h"
+#include "ui/controls/scroll_area.h"
 #include "ui/modGeneral.h"
-#include "ui/scroll_area.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

@@ -12,12 +12,12 @@
 #include <wx/stattext.h>
 
 #include "database/database_statistics.h"
-#include "platform/accessible_name.h"
-#include "ui/app_icon.h"
+#include "platform/window/accessible_name.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/surface.h"
+#include "ui/controls/wrapped_text.h"
 #include "ui/modGeneral.h"
-#include "ui/surface.h"
-#include "ui/wrapped_text.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

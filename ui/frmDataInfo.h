@@ -4,7 +4,7 @@
 #include <wx/dialog.h>
 
 #include "database/program_values.h"
-#include "ui/layout_units.h"
+#include "ui/controls/layout_units.h"
 
 class wxButton;
 class wxFlexGridSizer;

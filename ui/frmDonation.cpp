@@ -6,14 +6,14 @@
 #include <wx/button.h>
 #include <wx/sizer.h>
 
-#include "platform/accessible_name.h"
+#include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "ui/app_icon.h"
-#include "ui/artwork.h"
-#include "ui/link.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/link.h"
+#include "ui/controls/scroll_area.h"
 #include "ui/modGeneral.h"
-#include "ui/scroll_area.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

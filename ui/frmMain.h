@@ -13,15 +13,15 @@
 
 #include "database/modDataLoader.h"
 #include "lookup/lookup_box.h"
-#include "platform/acronym_list.h"
-#include "platform/hot_key.h"
-#include "platform/modShowHelp.h"
-#include "platform/modSysTray.h"
-#include "ui/help_key.h"
-#include "ui/hover_hints.h"
-#include "ui/layout_units.h"
-#include "ui/tray_behaviour.h"
-#include "ui/wx_message_sink.h"
+#include "platform/desktop/hot_key.h"
+#include "platform/desktop/modSysTray.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "platform/list/acronym_list.h"
+#include "platform/system/modShowHelp.h"
+#include "ui/controls/hover_hints.h"
+#include "ui/controls/layout_units.h"
+#include "ui/main/help_key.h"
+#include "ui/main/tray_behaviour.h"
 
 class wxClipboardTextEvent;
 class wxStaticText;

@@ -9,12 +9,12 @@
 #include <wx/dialog.h>
 
 #include "database/program_values.h"
+#include "platform/desktop/wx_message_sink.h"
 #include "search/search_request.h"
-#include "ui/combo_box.h"
-#include "ui/held_enter.h"
-#include "ui/layout_units.h"
-#include "ui/text_change.h"
-#include "ui/wx_message_sink.h"
+#include "ui/controls/combo_box.h"
+#include "ui/controls/held_enter.h"
+#include "ui/controls/layout_units.h"
+#include "ui/controls/text_change.h"
 
 class wxBitmapButton;
 class wxButton;

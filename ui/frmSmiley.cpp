@@ -9,13 +9,13 @@
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
-#include "platform/accessible_name.h"
-#include "platform/text_columns.h"
+#include "platform/list/text_columns.h"
+#include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "ui/app_icon.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/surface.h"
 #include "ui/modGeneral.h"
-#include "ui/surface.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

@@ -8,10 +8,10 @@
 #include <wx/stattext.h>
 #include <wx/time.h>
 
-#include "platform/accessible_name.h"
-#include "platform/paint_now.h"
-#include "ui/app_icon.h"
-#include "ui/wx_text.h"
+#include "platform/window/accessible_name.h"
+#include "platform/window/paint_now.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 

@@ -3,8 +3,8 @@
 
 #include <wx/frame.h>
 
+#include "base/progress_sink.h"
 #include "database/program_values.h"
-#include "database/progress_sink.h"
 
 class wxStaticText;
 

@@ -10,13 +10,14 @@
 #include <wx/textctrl.h>
 
 #include "database/record_text.h"
-#include "platform/accessible_name.h"
-#include "platform/text_columns.h"
-#include "ui/app_icon.h"
-#include "ui/artwork.h"
+#include "platform/list/text_columns.h"
+#include "platform/window/accessible_name.h"
+#include "toolkit/app_icon.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/access_keys.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/surface.h"
 #include "ui/modGeneral.h"
-#include "ui/surface.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 

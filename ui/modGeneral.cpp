@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include <wx/accel.h>
 #include <wx/clipbrd.h>
 #include <wx/combobox.h>
 #include <wx/dataobj.h>
@@ -12,17 +11,14 @@
 #include <wx/gdicmn.h>
 #include <wx/log.h>
 #include <wx/settings.h>
-#include <wx/sizer.h>
-#include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
 #include "database/record_text.h"
-#include "platform/window_place.h"
-#include "ui/surface.h"
-#include "ui/wx_message_sink.h"
-#include "ui/wx_text.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "platform/window/window_place.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 
@@ -100,55 +96,6 @@ void SelectAllText(wxTextEntry& control) {
     control.SelectAll();
 }
 
-void SelectAllOnCtrlA(wxWindow& window, wxTextEntry& entry) {
-    window.Bind(wxEVT_KEY_DOWN, [&entry](wxKeyEvent& event) {
-        if (event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL) {
-            SelectAllText(entry);
-        } else {
-            event.Skip();
-        }
-    });
-}
-
-void TypeInCapitals(wxWindow& window, wxTextEntry& entry) {
-    window.Bind(wxEVT_CHAR, [&entry](wxKeyEvent& event) {
-        const wxChar typed = event.GetUnicodeKey();
-        if (typed >= 'a' && typed <= 'z' && !event.HasModifiers()) {
-            entry.WriteText(wxString(static_cast<wxChar>(typed - 'a' + 'A')));
-        } else {
-            event.Skip();
-        }
-    });
-}
-
-bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
-    wxTextDataObject text;
-    {
-        const wxClipboardLocker clipboard;
-        if (!clipboard || !wxTheClipboard->GetData(text)) {
-            return false;
-        }
-    }
-    long from = 0;
-    long to = 0;
-    entry.GetSelection(&from, &to);
-    const std::size_t kept = entry.GetValue().length() - static_cast<std::size_t>(to - from);
-    const std::size_t room = maxLength > kept ? maxLength - kept : 0;
-    const wxString pasted = text.GetText().BeforeFirst('\n').Left(room);
-    if (pasted.empty() && from != to) {
-        entry.Remove(from, to);  // GTK tells nothing of a selection overwritten with nothing
-    } else {
-        entry.WriteText(pasted);
-    }
-    return true;
-}
-
-void FillWindow(Surface& surface, wxSizer* content, int width) {
-    surface.SetSizer(content);
-    const wxSize size = content->GetMinSize();
-    surface.FillWindow({width == 0 ? size.x : width, size.y});
-}
-
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     const bool onScreen = main.IsIconized() || !main.IsShown();
     const wxRect area = onScreen ? wxRect(wxGetDisplaySize()) : FrameOf(main);
@@ -199,26 +146,6 @@ void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info) {
             event.Skip();
         }
     });
-}
-
-void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledControl>& controls) {
-    std::vector<wxAcceleratorEntry> entries;
-    for (const auto& [label, target] : controls) {
-        const int ampersand = label->GetLabel().Find('&');
-        if (ampersand == wxNOT_FOUND) {
-            continue;
-        }
-        const wxUniChar key = wxToupper(label->GetLabel()[static_cast<std::size_t>(ampersand) + 1]);
-        // Held by the handler, so that the number can be used again when the window is gone.
-        const wxWindowIDRef command(wxWindow::NewControlId());
-        entries.emplace_back(wxACCEL_ALT, static_cast<int>(key.GetValue()), command);
-        window.Bind(
-            wxEVT_MENU,
-            [control = target, command](wxCommandEvent& /*event*/) { control->SetFocus(); },
-            command);
-    }
-    window.SetAcceleratorTable(
-        wxAcceleratorTable(static_cast<int>(entries.size()), entries.data()));
 }
 
 }  // namespace brelex

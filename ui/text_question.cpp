@@ -6,8 +6,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "platform/accessible_name.h"
-#include "ui/app_icon.h"
+#include "platform/window/accessible_name.h"
+#include "toolkit/app_icon.h"
 
 namespace brelex {
 

@@ -6,11 +6,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "base/file_io.h"
 #include "benchmarks/support/generated_records.h"
 #include "database/database_file.h"
-#include "database/file_io.h"
 #include "database/modDataLoader.h"
-#include "platform/system_temporary_files.h"
+#include "platform/system/system_temporary_files.h"
 
 namespace brelex {
 namespace {

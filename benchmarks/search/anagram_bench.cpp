@@ -10,9 +10,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include "base/windows1252.h"
 #include "benchmarks/support/generated_records.h"
 #include "database/record_text.h"
-#include "database/windows1252.h"
 
 namespace brelex {
 namespace {

@@ -11,10 +11,10 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
+#include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
-#include "database/windows1252.h"
 #include "search/search_list.h"
 #include "tests/data/entry_rules.h"
 #include "tools/build_command.h"

@@ -8,7 +8,7 @@
 #include <set>
 #include <utility>
 
-#include "database/windows1252.h"
+#include "base/windows1252.h"
 
 namespace brelex {
 

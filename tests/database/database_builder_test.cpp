@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/calendar_day.h"
+#include "base/calendar_day.h"
 #include "database/modCRC32.h"
 
 namespace brelex {

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/calendar_day.h"
+#include "base/calendar_day.h"
 #include "database/database_builder.h"
 #include "tests/support/fakes.h"
 #include "tests/support/named_case.h"

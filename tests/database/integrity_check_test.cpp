@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "database/modDataLoader.h"
 #include "database/szdd.h"
 #include "tests/support/fakes.h"

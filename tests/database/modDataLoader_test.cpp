@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
-#include "database/number_text.h"
+#include "base/file_io.h"
+#include "base/number_text.h"
 #include "database/szdd.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"

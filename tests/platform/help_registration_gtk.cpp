@@ -8,7 +8,7 @@
 
 #include <wx/utils.h>
 
-#include "platform/program_folder.h"
+#include "platform/system/program_folder.h"
 
 namespace brelex {
 

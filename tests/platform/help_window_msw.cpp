@@ -8,7 +8,7 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include "platform/wide_text.h"
+#include "platform/system/wide_text.h"
 
 namespace brelex {
 

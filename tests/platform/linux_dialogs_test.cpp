@@ -12,15 +12,15 @@
 
 #include <gtk/gtk.h>
 
-#include "database/file_io.h"
-#include "platform/modBrowseFolder.h"
-#include "platform/program_folder.h"
+#include "base/file_io.h"
+#include "platform/desktop/modBrowseFolder.h"
+#include "platform/system/program_folder.h"
 #include "tests/platform/system_window.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
+#include "toolkit/wx_text.h"
 #include "ui/text_question.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {

@@ -16,14 +16,14 @@
 
 #include <gtk/gtk.h>
 
-#include "platform/help_association.h"
-#include "platform/modSysTray.h"
-#include "platform/text_columns.h"
+#include "platform/desktop/help_association.h"
+#include "platform/desktop/modSysTray.h"
+#include "platform/list/text_columns.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/app_icon.h"
-#include "ui/main_menus.h"
-#include "ui/toolbar.h"
+#include "toolkit/app_icon.h"
+#include "ui/controls/toolbar.h"
+#include "ui/main/main_menus.h"
 
 namespace brelex {
 namespace {

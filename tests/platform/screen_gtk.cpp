@@ -14,7 +14,7 @@
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
-#include "platform/acronym_list.h"
+#include "platform/list/acronym_list.h"
 
 namespace brelex {
 

@@ -12,8 +12,8 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include "platform/acronym_list.h"
-#include "platform/wide_text.h"
+#include "platform/list/acronym_list.h"
+#include "platform/system/wide_text.h"
 
 namespace brelex {
 

@@ -7,7 +7,7 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-#include "database/message_sink.h"
+#include "base/message_sink.h"
 
 class wxTextCtrl;
 class wxTopLevelWindow;

@@ -15,7 +15,7 @@
 
 #include <windows.h>
 
-#include "platform/wide_text.h"
+#include "platform/system/wide_text.h"
 
 namespace brelex {
 

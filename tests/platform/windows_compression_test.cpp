@@ -10,7 +10,7 @@
 #include <lzexpand.h>
 
 #include "database/szdd.h"
-#include "platform/program_folder.h"
+#include "platform/system/program_folder.h"
 #include "tests/support/named_case.h"
 #include "tests/support/test_files.h"
 

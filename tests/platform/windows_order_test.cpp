@@ -11,7 +11,7 @@
 #include "database/modDataLoader.h"
 #include "database/string_order.h"
 #include "lookup/prefix_search.h"
-#include "platform/program_folder.h"
+#include "platform/system/program_folder.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
-#include "platform/program_folder.h"
+#include "base/file_io.h"
+#include "platform/system/program_folder.h"
 #include "tests/support/named_case.h"
 #include "tests/support/test_files.h"
 

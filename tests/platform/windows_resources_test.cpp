@@ -9,9 +9,9 @@
 
 #include <windows.h>
 
-#include "database/file_io.h"
-#include "platform/program_folder.h"
-#include "platform/wide_text.h"
+#include "base/file_io.h"
+#include "platform/system/program_folder.h"
+#include "platform/system/wide_text.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {

@@ -7,13 +7,13 @@
 
 #include <windows.h>
 
-#include "database/file_io.h"
-#include "platform/instance_guard.h"
-#include "platform/modRunAtStartup.h"
-#include "platform/program_folder.h"
-#include "platform/system_temporary_files.h"
-#include "platform/user_locale.h"
-#include "platform/wide_text.h"
+#include "base/file_io.h"
+#include "platform/system/instance_guard.h"
+#include "platform/system/modRunAtStartup.h"
+#include "platform/system/program_folder.h"
+#include "platform/system/system_temporary_files.h"
+#include "platform/system/user_locale.h"
+#include "platform/system/wide_text.h"
 #include "tests/support/test_files.h"
 
 namespace brelex {

@@ -17,17 +17,17 @@
 #include <commctrl.h>
 #include <shlobj.h>
 
-#include "database/file_io.h"
-#include "platform/command_line.h"
-#include "platform/modBrowseFolder.h"
-#include "platform/text_columns.h"
-#include "platform/wide_text.h"
+#include "base/file_io.h"
+#include "platform/desktop/command_line.h"
+#include "platform/desktop/modBrowseFolder.h"
+#include "platform/list/text_columns.h"
+#include "platform/system/wide_text.h"
 #include "tests/platform/system_window.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
+#include "toolkit/wx_text.h"
 #include "ui/modGeneral.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/windows1252.h"
+#include "base/windows1252.h"
 
 namespace brelex {
 namespace {

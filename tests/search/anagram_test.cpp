@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/windows1252.h"
 #include "database/record_text.h"
-#include "database/windows1252.h"
 #include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <new>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 
 namespace brelex {
 

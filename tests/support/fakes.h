@@ -8,12 +8,12 @@
 #include <utility>
 #include <vector>
 
-#include "database/folder_picker.h"
-#include "database/message_sink.h"
-#include "database/progress_sink.h"
+#include "base/folder_picker.h"
+#include "base/message_sink.h"
+#include "base/progress_sink.h"
+#include "base/temporary_files.h"
 #include "database/row_list.h"
-#include "database/temporary_files.h"
-#include "platform/modShowHelp.h"
+#include "platform/system/modShowHelp.h"
 
 namespace brelex {
 

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <random>
 
+#include "base/file_io.h"
 #include "database/database_builder.h"
-#include "database/file_io.h"
 #include "database/szdd.h"
 
 namespace brelex {

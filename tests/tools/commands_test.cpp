@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/file_io.h"
 #include "database/database_file.h"
-#include "database/file_io.h"
 #include "database/szdd.h"
 #include "tests/support/named_case.h"
 #include "tests/support/test_files.h"

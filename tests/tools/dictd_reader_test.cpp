@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "tests/support/test_files.h"
 
 namespace brelex {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "tests/support/named_case.h"
 #include "tests/support/test_files.h"
 

@@ -12,7 +12,7 @@
 #include <wx/toplevel.h>
 
 #include "tests/platform/screen.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 

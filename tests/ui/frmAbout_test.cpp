@@ -17,10 +17,10 @@
 #include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/link.h"
-#include "ui/painted.h"
-#include "ui/scroll_area.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/link.h"
+#include "ui/controls/painted.h"
+#include "ui/controls/scroll_area.h"
 
 namespace brelex {
 namespace {

@@ -16,8 +16,8 @@
 #include "tests/platform/keyboard.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/busy_animation.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/busy_animation.h"
 
 namespace brelex {
 namespace {

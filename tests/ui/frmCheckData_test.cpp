@@ -15,11 +15,11 @@
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
 
-#include "database/file_io.h"
+#include "base/file_io.h"
 #include "database/szdd.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/artwork.h"
-#include "ui/progress_bar.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/progress_bar.h"
 
 namespace brelex {
 namespace {

@@ -12,7 +12,7 @@
 #include "database/database_header.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 namespace {

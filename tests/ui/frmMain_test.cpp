@@ -12,8 +12,8 @@
 #include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main_menus.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
+#include "ui/main/main_menus.h"
 
 namespace brelex {
 namespace {

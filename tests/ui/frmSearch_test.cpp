@@ -20,16 +20,16 @@
 #include <wx/textctrl.h>
 #include <wx/tooltip.h>
 
+#include "base/windows1252.h"
 #include "database/database_header.h"
-#include "database/windows1252.h"
 #include "search/wildcard_help.h"
 #include "tests/platform/keyboard.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/artwork.h"
-#include "ui/busy_animation.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/busy_animation.h"
 #include "ui/modGeneral.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {

@@ -13,7 +13,7 @@
 #include "tests/platform/keyboard.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 namespace {

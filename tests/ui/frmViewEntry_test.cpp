@@ -20,8 +20,8 @@
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main_menus.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
+#include "ui/main/main_menus.h"
 
 namespace brelex {
 namespace {

@@ -18,17 +18,17 @@
 #include <wx/treectrl.h>
 #include <wx/utils.h>
 
-#include "database/file_io.h"
-#include "platform/modShowHelp.h"
-#include "platform/program_folder.h"
-#include "platform/system_desktop.h"
+#include "base/file_io.h"
+#include "platform/desktop/system_desktop.h"
+#include "platform/system/modShowHelp.h"
+#include "platform/system/program_folder.h"
 #include "tests/platform/help_registration.h"
 #include "tests/platform/help_window.h"
 #include "tests/platform/keyboard.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 namespace {

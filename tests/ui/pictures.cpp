@@ -9,7 +9,7 @@
 #include <wx/textctrl.h>
 
 #include "tests/ui/ui_test_support.h"
-#include "ui/app_icon.h"
+#include "toolkit/app_icon.h"
 
 namespace brelex {
 

@@ -9,11 +9,11 @@
 
 #include <wx/stattext.h>
 
-#include "app/app_info.h"
+#include "app/configured_app_info.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
+#include "toolkit/wx_text.h"
 #include "ui/frmSplash.h"
-#include "ui/wx_text.h"
 
 namespace brelex {
 namespace {

@@ -12,7 +12,7 @@
 #include "tests/platform/system_window.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 namespace {

@@ -10,7 +10,7 @@
 #include "tests/platform/screen.h"
 #include "tests/ui/cut_texts.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/side_windows.h"
+#include "ui/main/side_windows.h"
 
 namespace brelex {
 namespace {

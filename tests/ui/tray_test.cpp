@@ -7,7 +7,7 @@
 
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main_menus.h"
+#include "ui/main/main_menus.h"
 
 namespace brelex {
 namespace {

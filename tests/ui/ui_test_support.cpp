@@ -16,7 +16,7 @@
 #include <wx/utils.h>
 
 #include "tests/platform/keyboard.h"
-#include "ui/wx_text.h"
+#include "toolkit/wx_text.h"
 
 namespace brelex {
 

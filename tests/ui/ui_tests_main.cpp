@@ -7,8 +7,8 @@
 #include <wx/app.h>
 #include <wx/init.h>
 
+#include "app/exception_report.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/exception_report.h"
 
 // Runs the tests inside the event loop, as simulated events need a running one. Not in an unnamed
 // namespace: the toolkit's macro makes a function that returns it.

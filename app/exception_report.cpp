@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "app/exception_report.h"
+
+#include <exception>
+#include <new>
+#include <string>
+
+#include "database/program_values.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "ui/frmMain.h"
+
+namespace brelex {
+
+namespace {
+
+std::string TextOfCaughtException() {
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return "There is not enough memory for that.";
+    } catch (const std::exception& failure) {
+        return std::string("That could not be done: ") + failure.what();
+    } catch (...) {
+        return "That could not be done.";
+    }
+}
+
+}  // namespace
+
+Message MessageOfCaughtException() {
+    return {TextOfCaughtException(), kAppTitle, MessageIcon::Stop, MessageButtons::Ok};
+}
+
+void TellOfCaughtException() {
+    const Message message = MessageOfCaughtException();
+    for (wxWindow* window : wxTopLevelWindows) {
+        auto* const main = dynamic_cast<frmMain*>(window);
+        if (main != nullptr && main->IsShown()) {
+            main->ShowMessage(message);
+            return;
+        }
+    }
+    WxMessageSink(nullptr).Show(message);
+}
+
+}  // namespace brelex

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace brelex {
+
+/// The application title, in captions and messages.
+inline constexpr const char* kAppTitle = "Brevilexicon";
+
+/// What the program says of itself. Texts are UTF-8.
+struct AppInfo {
+    int majorVersion = 0;
+    int minorVersion = 0;      ///< below 10, so that both parts joined by a point order as numbers
+    std::string copyright;     ///< the legal-rights text
+    std::string homePage;      ///< a web address
+    std::string donationPage;  ///< a web address
+    std::string supportAddress;
+};
+
+}  // namespace brelex

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "base/calendar_day.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <system_error>
+
+namespace brelex {
+
+namespace {
+
+using std::chrono::day;
+using std::chrono::days;
+using std::chrono::month;
+using std::chrono::sys_days;
+using std::chrono::year;
+using std::chrono::year_month_day;
+
+constexpr sys_days kDayZero = year(1899) / 12 / 30;
+constexpr sys_days kFirstDay = year(100) / 1 / 1;
+constexpr sys_days kLastDay = year(9999) / 12 / 31;
+
+std::string Digits(unsigned number, std::size_t width) {
+    std::string text = std::to_string(number);
+    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
+}
+
+std::optional<int> ParseDigits(std::string_view text) {
+    int number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stop == end && number >= 0 ? std::optional(number)
+                                                              : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<year_month_day> DayOfCount(double count) {
+    const double first = (kFirstDay - kDayZero).count();
+    const double last = (kLastDay - kDayZero).count();
+    if (!(count > first - 1 && count < last + 1)) {
+        return std::nullopt;
+    }
+    return year_month_day(kDayZero + days(static_cast<int>(std::trunc(count))));
+}
+
+double CountOfDay(year_month_day day) {
+    return static_cast<double>((sys_days(day) - kDayZero).count());
+}
+
+std::string FormatIsoDay(year_month_day day) {
+    return Digits(static_cast<unsigned>(static_cast<int>(day.year())), 4) + "-" +
+           Digits(static_cast<unsigned>(day.month()), 2) + "-" +
+           Digits(static_cast<unsigned>(day.day()), 2);
+}
+
+std::string FormatShortDay(year_month_day day) {
+    constexpr std::array kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    return std::to_string(static_cast<unsigned>(day.day())) + " " +
+           kMonths.at(static_cast<unsigned>(day.month()) - 1) + " " +
+           Digits(static_cast<unsigned>(static_cast<int>(day.year())), 4);
+}
+
+std::optional<year_month_day> ParseIsoDay(std::string_view text) {
+    if (text.size() != 10 || text[4] != '-' || text[7] != '-') {
+        return std::nullopt;
+    }
+    const auto y = ParseDigits(text.substr(0, 4));
+    const auto m = ParseDigits(text.substr(5, 2));
+    const auto d = ParseDigits(text.substr(8, 2));
+    if (!y || !m || !d || *y < 100) {
+        return std::nullopt;
+    }
+    const year_month_day parsed(year(*y), month(static_cast<unsigned>(*m)),
+                                day(static_cast<unsigned>(*d)));
+    return parsed.ok() ? std::optional(parsed) : std::nullopt;
+}
+
+}  // namespace brelex

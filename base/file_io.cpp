@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "base/file_io.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <system_error>
+
+namespace brelex {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+char FoldAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameIgnoringCase(std::string_view one, std::string_view other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });
+}
+
+bool IsFile(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
+}  // namespace
+
+fs::path PathOfUtf8(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string Utf8OfPath(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::string WithTrailingSeparator(std::string folder) {
+    constexpr auto kSeparator = static_cast<char>(fs::path::preferred_separator);
+    if (!folder.ends_with(kSeparator)) {
+        folder.push_back(kSeparator);
+    }
+    return folder;
+}
+
+std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::string_view name) {
+    std::string usual = folder;
+    usual += name;
+    if (IsFile(PathOfUtf8(usual))) {
+        return usual;
+    }
+    std::optional<std::string> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(PathOfUtf8(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string spelling = Utf8OfPath(entry->path().filename());
+        // The system lists the spellings in any order.
+        if (SameIgnoringCase(spelling, name) && IsFile(entry->path()) &&
+            (!found || folder + spelling < *found)) {
+            found = folder + spelling;
+        }
+    }
+    return found;
+}
+
+std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
+    std::error_code error;
+    const auto size = fs::file_size(path, error);
+    std::ifstream file;
+    file.rdbuf()->pubsetbuf(nullptr, 0);  // one read goes straight to its place
+    file.open(path, std::ios::binary);
+    constexpr std::uintmax_t kMostBytes = std::uintmax_t{1} << 31U;
+    if (error || !file || size > kMostBytes) {
+        return std::nullopt;
+    }
+    ByteBuffer bytes(static_cast<std::size_t>(size));
+    if (bytes.IsNull()) {
+        return std::nullopt;
+    }
+    file.read(bytes.Data(), static_cast<std::streamsize>(size));
+    return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
+                                                               : std::nullopt;
+}
+
+std::optional<std::string> ReplaceFile(const fs::path& path, std::string_view bytes) {
+    fs::path unfinished = path;
+    unfinished += ".part";
+    std::error_code ignored;
+    fs::remove(unfinished, ignored);
+    std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    std::error_code error;
+    if (file.fail()) {
+        fs::remove(unfinished, ignored);
+        return "cannot write " + Utf8OfPath(unfinished);
+    }
+    fs::rename(unfinished, path, error);
+    if (error) {
+        fs::remove(unfinished, ignored);
+        return "cannot replace " + Utf8OfPath(path) + ": " + error.message();
+    }
+    return std::nullopt;
+}
+
+}  // namespace brelex

@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/status_notifier.h"
+
+#include <cstddef>
+#include <libdbusmenu-glib/menuitem.h>
+#include <libdbusmenu-glib/server.h>
+#include <utility>
+#include <vector>
+
+#include <wx/icon.h>
+
+#include <gtk/gtk.h>
+
+namespace brelex {
+
+namespace {
+
+constexpr char kWatcher[] = "org.kde.StatusNotifierWatcher";
+constexpr char kWatcherPath[] = "/StatusNotifierWatcher";
+constexpr char kItemPath[] = "/StatusNotifierItem";
+constexpr char kMenuPath[] = "/MenuBar";
+
+// The part of the item's interface that hosts use.
+constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotifierItem">
+  <property name="Category" type="s" access="read"/>
+  <property name="Id" type="s" access="read"/>
+  <property name="Title" type="s" access="read"/>
+  <property name="Status" type="s" access="read"/>
+  <property name="IconName" type="s" access="read"/>
+  <property name="IconPixmap" type="a(iiay)" access="read"/>
+  <property name="ToolTip" type="(sa(iiay)ss)" access="read"/>
+  <property name="ItemIsMenu" type="b" access="read"/>
+  <property name="Menu" type="o" access="read"/>
+  <method name="Activate"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
+  <method name="SecondaryActivate"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
+  <method name="ContextMenu"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
+  <method name="Scroll"><arg type="i" direction="in"/><arg type="s" direction="in"/></method>
+</interface></node>)xml";
+
+// A picture as the bus carries it: width, height, and ARGB in network byte order, row by row.
+GVariant* PixmapOf(GdkPixbuf* picture) {
+    const int width = gdk_pixbuf_get_width(picture);
+    const int height = gdk_pixbuf_get_height(picture);
+    const auto stride = static_cast<std::ptrdiff_t>(gdk_pixbuf_get_rowstride(picture));
+    const auto channels = static_cast<std::ptrdiff_t>(gdk_pixbuf_get_n_channels(picture));
+    const guchar* const pixels = gdk_pixbuf_read_pixels(picture);
+    GVariantBuilder bytes;
+    g_variant_builder_init(&bytes, G_VARIANT_TYPE("ay"));
+    for (int y = 0; y < height; ++y) {
+        const guchar* pixel = pixels + y * stride;
+        for (int x = 0; x < width; ++x, pixel += channels) {
+            constexpr int kAlpha = 3;
+            constexpr guchar kOpaque = 255;
+            g_variant_builder_add(&bytes, "y", channels > kAlpha ? pixel[kAlpha] : kOpaque);
+            for (int colour = 0; colour < kAlpha; ++colour) {
+                g_variant_builder_add(&bytes, "y", pixel[colour]);
+            }
+        }
+    }
+    return g_variant_new("(iiay)", width, height, &bytes);
+}
+
+}  // namespace
+
+std::string MenuLabel(const std::string& caption) {
+    std::string text;
+    for (const char c : caption) {
+        if (c == '_') {
+            text += '_';
+        }
+        text += c == '&' ? '_' : c;
+    }
+    return text;
+}
+
+class StatusNotifier::Item {
+  public:
+    Item(const wxIconBundle& pictures, std::string tip, const TrayEvents& events,
+         std::function<void()> onHostChanged)
+        : pictures_(pictures),
+          tip_(std::move(tip)),
+          events_(events),
+          onHostChanged_(std::move(onHostChanged)),
+          watch_(g_bus_watch_name(G_BUS_TYPE_SESSION, kWatcher, G_BUS_NAME_WATCHER_FLAGS_NONE,
+                                  &Item::OnWatcherAppeared, &Item::OnWatcherVanished, this,
+                                  nullptr)) {}
+
+    Item(const Item&) = delete;
+    Item& operator=(const Item&) = delete;
+
+    ~Item() {
+        g_cancellable_cancel(cancel_);
+        g_object_unref(cancel_);
+        g_bus_unwatch_name(watch_);
+        Withdraw();
+    }
+
+    // A watcher alone shows nothing, and one that refuses the item does not show it.
+    [[nodiscard]] bool IsShown() const { return hasHost_ && isRegistered_; }
+
+    void MenuChanged() const {
+        const std::vector<TrayMenuItem> items = events_.menu();
+        for (std::size_t i = 0; i < entries_.size() && i < items.size(); ++i) {
+            if (items[i].caption != "-") {
+                dbusmenu_menuitem_property_set(entries_[i], DBUSMENU_MENUITEM_PROP_LABEL,
+                                               MenuLabel(items[i].caption).c_str());
+            }
+            dbusmenu_menuitem_property_set_bool(entries_[i], DBUSMENU_MENUITEM_PROP_VISIBLE,
+                                                items[i].enabled ? TRUE : FALSE);
+        }
+    }
+
+  private:
+    static void OnWatcherAppeared(GDBusConnection* connection, const char* /*name*/,
+                                  const char* /*owner*/, void* data) {
+        static_cast<Item*>(data)->Offer(connection);
+    }
+
+    static void OnWatcherVanished(GDBusConnection* /*connection*/, const char* /*name*/,
+                                  void* data) {
+        auto* const self = static_cast<Item*>(data);
+        const bool wasShown = self->IsShown();
+        self->Withdraw();
+        self->hasHost_ = false;
+        if (wasShown) {
+            self->onHostChanged_();
+        }
+    }
+
+    void Offer(GDBusConnection* connection) {
+        Withdraw();
+        connection_ = G_DBUS_CONNECTION(g_object_ref(connection));
+        GDBusNodeInfo* const node = g_dbus_node_info_new_for_xml(kDescription, nullptr);
+        static const GDBusInterfaceVTable kHandlers = {
+            &Item::OnMethod, &Item::OnGetProperty, nullptr, {}};
+        object_ = g_dbus_connection_register_object(connection_, kItemPath, node->interfaces[0],
+                                                    &kHandlers, this, nullptr, nullptr);
+        g_dbus_node_info_unref(node);
+        MakeMenu();
+        // The watcher takes the item that has our connection's own name.
+        g_dbus_connection_call(
+            connection_, kWatcher, kWatcherPath, kWatcher, "RegisterStatusNotifierItem",
+            g_variant_new("(s)", g_dbus_connection_get_unique_name(connection_)), nullptr,
+            G_DBUS_CALL_FLAGS_NONE, -1, cancel_, &Item::OnRegistered, this);
+        changes_ = g_dbus_connection_signal_subscribe(
+            connection_, kWatcher, kWatcher, nullptr, kWatcherPath, nullptr,
+            G_DBUS_SIGNAL_FLAGS_NONE, &Item::OnWatcherSignal, this, nullptr);
+        AskForHost();
+    }
+
+    void Withdraw() {
+        if (connection_ == nullptr) {
+            return;
+        }
+        g_dbus_connection_signal_unsubscribe(connection_, changes_);
+        g_dbus_connection_unregister_object(connection_, object_);
+        DropMenu();
+        isRegistered_ = false;
+        g_clear_object(&connection_);
+    }
+
+    static void OnRegistered(GObject* connection, GAsyncResult* result, void* data) {
+        GError* error = nullptr;
+        GVariant* const answer =
+            g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error);
+        const bool cancelled = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE;
+        g_clear_error(&error);
+        if (!cancelled) {  // or else the item is gone
+            static_cast<Item*>(data)->SetState(static_cast<Item*>(data)->hasHost_,
+                                               answer != nullptr);
+        }
+        if (answer != nullptr) {
+            g_variant_unref(answer);
+        }
+    }
+
+    static void OnWatcherSignal(GDBusConnection* /*connection*/, const char* /*sender*/,
+                                const char* /*path*/, const char* /*interface*/,
+                                const char* /*signal*/, GVariant* /*parameters*/, void* data) {
+        static_cast<Item*>(data)->AskForHost();
+    }
+
+    void AskForHost() {
+        g_dbus_connection_call(
+            connection_, kWatcher, kWatcherPath, "org.freedesktop.DBus.Properties", "Get",
+            g_variant_new("(ss)", kWatcher, "IsStatusNotifierHostRegistered"),
+            G_VARIANT_TYPE("(v)"), G_DBUS_CALL_FLAGS_NONE, -1, cancel_, &Item::OnHostAnswer, this);
+    }
+
+    static void OnHostAnswer(GObject* connection, GAsyncResult* result, void* data) {
+        GError* error = nullptr;
+        GVariant* const answer =
+            g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error);
+        const bool cancelled = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE;
+        g_clear_error(&error);
+        if (cancelled) {
+            return;  // and the item is gone
+        }
+        bool has = false;
+        if (answer != nullptr) {
+            GVariant* value = nullptr;
+            g_variant_get(answer, "(v)", &value);
+            has = g_variant_is_of_type(value, G_VARIANT_TYPE_BOOLEAN) != FALSE &&
+                  g_variant_get_boolean(value) != FALSE;
+            g_variant_unref(value);
+            g_variant_unref(answer);
+        }
+        static_cast<Item*>(data)->SetState(has, static_cast<Item*>(data)->isRegistered_);
+    }
+
+    void SetState(bool hasHost, bool isRegistered) {
+        const bool wasShown = IsShown();
+        hasHost_ = hasHost;
+        isRegistered_ = isRegistered;
+        if (IsShown() != wasShown) {
+            onHostChanged_();
+        }
+    }
+
+    static void OnMethod(GDBusConnection* /*connection*/, const char* /*sender*/,
+                         const char* /*path*/, const char* /*interface*/, const char* method,
+                         GVariant* /*parameters*/, GDBusMethodInvocation* call, void* data) {
+        // Answered first: what follows may wait for the user.
+        g_dbus_method_invocation_return_value(call, nullptr);
+        const auto* const self = static_cast<const Item*>(data);
+        if (g_strcmp0(method, "Activate") == 0) {
+            self->events_.onLeftRelease();
+        }
+    }
+
+    static GVariant* OnGetProperty(GDBusConnection* /*connection*/, const char* /*sender*/,
+                                   const char* /*path*/, const char* /*interface*/,
+                                   const char* property, GError** /*error*/, void* data) {
+        return static_cast<const Item*>(data)->Property(property);
+    }
+
+    [[nodiscard]] GVariant* Property(const std::string& name) const {
+        if (name == "IconPixmap") {
+            return Pixmaps();
+        }
+        if (name == "ToolTip") {
+            return g_variant_new("(s@a(iiay)ss)", "", Pixmaps(), tip_.c_str(), "");
+        }
+        if (name == "ItemIsMenu") {
+            return g_variant_new_boolean(FALSE);
+        }
+        if (name == "Menu") {
+            return g_variant_new_object_path(kMenuPath);
+        }
+        if (name == "Category") {
+            return g_variant_new_string("ApplicationStatus");
+        }
+        if (name == "Status") {
+            return g_variant_new_string("Active");
+        }
+        // The name of the icon stays empty: the picture is ours.
+        return g_variant_new_string(name == "Id"      ? "brevilexicon"
+                                    : name == "Title" ? tip_.c_str()
+                                                      : "");
+    }
+
+    [[nodiscard]] GVariant* Pixmaps() const {
+        GVariantBuilder list;
+        g_variant_builder_init(&list, G_VARIANT_TYPE("a(iiay)"));
+        for (std::size_t i = 0; i < pictures_.GetIconCount(); ++i) {
+            g_variant_builder_add_value(&list, PixmapOf(pictures_.GetIconByIndex(i).GetPixbuf()));
+        }
+        return g_variant_builder_end(&list);
+    }
+
+    // The menu is drawn by the desktop. Its items stay the same, as a desktop remembers them; what
+    // is disabled is not shown at all.
+    void MakeMenu() {
+        menuServer_ = dbusmenu_server_new(kMenuPath);
+        root_ = dbusmenu_menuitem_new();
+        int index = 0;
+        for (const TrayMenuItem& item : events_.menu()) {
+            DbusmenuMenuitem* const entry = dbusmenu_menuitem_new();
+            if (item.caption == "-") {
+                dbusmenu_menuitem_property_set(entry, DBUSMENU_MENUITEM_PROP_TYPE, "separator");
+            }
+            g_object_set_data(G_OBJECT(entry), kIndexKey, GINT_TO_POINTER(index));
+            g_signal_connect(entry, DBUSMENU_MENUITEM_SIGNAL_ITEM_ACTIVATED,
+                             G_CALLBACK(&Item::OnMenuItem), this);
+            dbusmenu_menuitem_child_append(root_, entry);
+            entries_.push_back(entry);
+            ++index;
+        }
+        MenuChanged();
+        dbusmenu_server_set_root(menuServer_, root_);
+    }
+
+    // What a desktop has asked for may still be on its way to an item: it must not come here then.
+    void DropMenu() {
+        for (DbusmenuMenuitem* entry : entries_) {
+            g_signal_handlers_disconnect_by_data(entry, this);
+            g_object_unref(entry);
+        }
+        entries_.clear();
+        g_clear_object(&root_);
+        g_clear_object(&menuServer_);
+    }
+
+    static void OnMenuItem(DbusmenuMenuitem* entry, guint /*time*/, Item* self) {
+        self->events_.onMenuItem(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey)));
+    }
+
+    static constexpr char kIndexKey[] = "brelex-index";
+
+    const wxIconBundle pictures_;
+    const std::string tip_;
+    const TrayEvents& events_;
+    std::function<void()> onHostChanged_;
+    bool hasHost_ = false;
+    bool isRegistered_ = false;
+    DbusmenuMenuitem* root_ = nullptr;
+    std::vector<DbusmenuMenuitem*> entries_;
+    GCancellable* cancel_ = g_cancellable_new();
+    GDBusConnection* connection_ = nullptr;
+    DbusmenuServer* menuServer_ = nullptr;
+    guint object_ = 0;
+    guint changes_ = 0;
+    guint watch_;  // last: the bus may answer as soon as it is set
+};
+
+StatusNotifier::StatusNotifier(const wxIconBundle& pictures, const std::string& tip,
+                               const TrayEvents& events, std::function<void()> onHostChanged)
+    : item_(std::make_unique<Item>(pictures, tip, events, std::move(onHostChanged))) {}
+
+StatusNotifier::~StatusNotifier() = default;
+
+void StatusNotifier::MenuChanged() {
+    item_->MenuChanged();
+}
+
+bool StatusNotifier::IsShown() const {
+    return item_->IsShown();
+}
+
+}  // namespace brelex

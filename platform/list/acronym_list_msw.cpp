@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "platform/list/acronym_list.h"
+
+#include <algorithm>
+
+#include <wx/listctrl.h>
+
+#include <windows.h>
+#include <commctrl.h>
+
+#include "database/record_text.h"
+#include "toolkit/wx_text.h"
+
+namespace brelex {
+
+namespace {
+
+// The system's list view over virtual rows.
+class AcronymListMsw final : public wxListView, public AcronymList {
+  public:
+    AcronymListMsw(wxWindow& parent, int expansionTextAt)
+        : wxListView(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                     wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL) {
+        const int cellPadding = FromDIP(6);  // of the list view's columns but the first
+        AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, expansionTextAt - cellPadding);
+        AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
+        Bind(wxEVT_LIST_ITEM_SELECTED, &AcronymListMsw::OnSelected, this);
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
+        Bind(wxEVT_LIST_ITEM_DESELECTED, &AcronymListMsw::OnDeselected, this);
+        Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
+        Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown, this);
+        Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { OnCharacter(event); });
+        Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
+        Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
+    }
+
+    wxWindow& Window() override { return *this; }
+
+    void SetRows(const RowList& rows) override {
+        rows_ = &rows;
+        selected_ = -1;
+        SetItemCount(rows.RowCount());
+        Refresh();
+    }
+
+    void SetTextColour(const wxColour& colour) override {
+        wxListView::SetTextColour(colour);
+        Refresh();
+    }
+
+    [[nodiscard]] wxColour TextColour() const override { return GetTextColour(); }
+
+    void SelectRow(std::int32_t row) override {
+        quiet_ = true;  // the control tells of the change before it returns
+        // Or else selecting walks all rows of a virtual list (seen with Wine 8).
+        if (selected_ >= 0 && selected_ != row) {
+            SetItemState(selected_, 0, wxLIST_STATE_SELECTED);
+        }
+        constexpr long kState = wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED;
+        SetItemState(row, kState, kState);
+        selected_ = row;
+        quiet_ = false;
+    }
+
+    [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
+
+    [[nodiscard]] bool IsHighlighted(std::int32_t row) const override { return IsSelected(row); }
+
+    void SetTopRow(std::int32_t row) override { ScrollList(0, (row - TopRow()) * RowHeight()); }
+
+    [[nodiscard]] std::int32_t TopRow() const override {
+        return static_cast<std::int32_t>(GetTopItem());
+    }
+
+    [[nodiscard]] std::int32_t RowsPerPage() const override { return GetCountPerPage(); }
+
+    [[nodiscard]] int RowHeight() const override {
+        // The control tells it of a row only; so it is given one for the question.
+        const bool isEmpty = RowCount() == 0;
+        if (isEmpty) {
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 1, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+        }
+        RECT row{};
+        row.left = LVIR_BOUNDS;
+        const LRESULT known =
+            SendMessageW(GetHWND(), LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+        if (isEmpty) {
+            SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 0, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+        }
+        return known != 0 ? std::max(1, static_cast<int>(row.bottom - row.top)) : 1;
+    }
+
+    [[nodiscard]] std::int32_t RowAt(const wxPoint& point) const override {
+        int flags = 0;
+        return static_cast<std::int32_t>(HitTest(point, flags));
+    }
+
+    [[nodiscard]] int HeightOfRows(int rows) const override {
+        return rows * RowHeight() + GetSize().y - GetClientSize().y;
+    }
+
+    [[nodiscard]] wxRect RowRect(std::int32_t row) const override {
+        wxRect area;
+        GetItemRect(row, area);
+        return area;
+    }
+
+  protected:
+    [[nodiscard]] const RowList* Rows() const override { return rows_; }
+
+    void SetBottomRow(std::int32_t row) override { EnsureVisible(row); }
+
+    // The row found is what a person typing into the box looks at: it keeps the colours of a
+    // selection while the list has not the focus, instead of a grey that hardly shows.
+    bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override {
+        if (reinterpret_cast<const NMHDR*>(parameter)->code == LVN_ODFINDITEMW) {
+            *result = -1;  // no other row; or else the control would take it for the first one
+            return true;
+        }
+        auto* const drawing = reinterpret_cast<NMLVCUSTOMDRAW*>(parameter);
+        if (drawing->nmcd.hdr.code == NM_CUSTOMDRAW &&
+            drawing->nmcd.dwDrawStage == CDDS_ITEMPREPAINT && !HasFocus() &&
+            IsSelected(static_cast<long>(drawing->nmcd.dwItemSpec))) {
+            drawing->nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+            drawing->clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+            drawing->clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+            *result = CDRF_NEWFONT;
+            return true;
+        }
+        return wxListView::MSWOnNotify(control, parameter, result);
+    }
+
+  private:
+    [[nodiscard]] wxString OnGetItemText(long item, long column) const override {
+        if (item >= RowCount()) {
+            return {};  // the one that RowHeight asks of
+        }
+        const std::string_view text = rows_->RowText(static_cast<std::int32_t>(item));
+        return WxTextOfBytes(ColumnText(text, static_cast<int>(column)));
+    }
+
+    void OnSelected(wxListEvent& event) {
+        const auto row = static_cast<std::int32_t>(event.GetIndex());
+        if (quiet_ || row == selected_) {
+            return;
+        }
+        selected_ = row;
+        if (onClick) {
+            onClick();
+        }
+    }
+
+    // A click with Ctrl clears the selection, as does one below the last row; a list box keeps it.
+    void OnDeselected(wxListEvent& /*event*/) {
+        if (!quiet_) {
+            CallAfter([this] {
+                if (selected_ >= 0 && !IsSelected(selected_)) {
+                    SelectRow(selected_);
+                }
+            });
+        }
+    }
+
+    // A blank would open the entry, and so would Enter with whatever is held down with it.
+    void OnKeyDown(wxKeyEvent& event) {
+        const int key = event.GetKeyCode();
+        const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+        const bool opens = (key == WXK_SPACE && !IsTyping()) || (enter && event.HasAnyModifiers());
+        if (!opens) {
+            event.Skip();
+        }
+    }
+
+    void OnActivated(wxListEvent& /*event*/) {
+        if (selected_ >= 0 && onEnter) {
+            onEnter();
+        }
+    }
+
+    // The second column takes what the first leaves.
+    void OnSize(wxSizeEvent& event) {
+        SetColumnWidth(1, GetClientSize().x - GetColumnWidth(0));
+        event.Skip();
+    }
+
+    const RowList* rows_ = nullptr;
+    std::int32_t selected_ = -1;
+    bool quiet_ = false;
+};
+
+}  // namespace
+
+AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt) {
+    return *new AcronymListMsw(parent, expansionTextAt);
+}
+
+}  // namespace brelex

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "platform/list/text_columns.h"
+
+#include <wx/textctrl.h>
+
+#include <gtk/gtk.h>
+
+namespace brelex {
+
+namespace {
+
+GtkTextView* TextViewOf(wxTextCtrl& box) {
+    // The box's own widget is what scrolls the text.
+    return GTK_TEXT_VIEW(gtk_bin_get_child(GTK_BIN(box.GetHandle())));
+}
+
+}  // namespace
+
+void SetSideMargins(wxTextCtrl& box, int pixels) {
+    gtk_text_view_set_left_margin(TextViewOf(box), pixels);
+    gtk_text_view_set_right_margin(TextViewOf(box), pixels);
+}
+
+void SetTopMargin(wxTextCtrl& box, int pixels) {
+    gtk_text_view_set_top_margin(TextViewOf(box), pixels);
+}
+
+int SetTabStop(wxTextCtrl& box, int dialogUnits) {
+    const int pixels = box.ConvertDialogToPixels(wxPoint(dialogUnits, 0)).x;
+    PangoTabArray* const tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, pixels);
+    gtk_text_view_set_tabs(TextViewOf(box), tabs);
+    pango_tab_array_free(tabs);
+    return pixels;
+}
+
+}  // namespace brelex

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/modRunAtStartup.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "base/app_info.h"
+#include "base/file_io.h"
+#include "platform/system/exec_line_gtk.h"
+
+namespace brelex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Where XDG has autostart entries; a relative path counts as none there.
+std::optional<fs::path> AutostartFile() {
+    constexpr const char* kName = "autostart/brevilexicon.desktop";
+    const char* const configuration = std::getenv("XDG_CONFIG_HOME");
+    if (configuration != nullptr && fs::path(configuration).is_absolute()) {
+        return fs::path(configuration) / kName;
+    }
+    const char* const home = std::getenv("HOME");
+    if (home == nullptr || !fs::path(home).is_absolute()) {
+        return std::nullopt;
+    }
+    return fs::path(home) / ".config" / kName;
+}
+
+}  // namespace
+
+bool SetRunAtStartup(const std::string& appFolder, const std::string& programName, bool enable) {
+    const std::optional<fs::path> file = AutostartFile();
+    if (!file) {
+        return false;
+    }
+    std::error_code error;
+    if (!enable) {
+        return fs::remove(*file, error);
+    }
+    fs::create_directories(file->parent_path(), error);
+    const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
+                              "\nExec=\"" + EscapedForExecLine(appFolder + programName) +
+                              "\" /minimize\n";
+    return !error && !ReplaceFile(*file, entry);
+}
+
+}  // namespace brelex

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/system_temporary_files.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "platform/system/temporary_folder_gtk.h"
+
+namespace brelex {
+
+namespace {
+
+bool WriteAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string SystemTemporaryFiles::GetTempFolder() const {
+    return TemporaryFolder();
+}
+
+bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
+    unlink(path.c_str());  // if this fails, so does the next
+    constexpr mode_t kOwnerOnly = 0600;
+    const int file =
+        open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
+    if (file < 0) {
+        return false;
+    }
+    const bool written = WriteAll(file, bytes);
+    return close(file) == 0 && written;
+}
+
+}  // namespace brelex

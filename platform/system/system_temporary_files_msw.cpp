@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/system_temporary_files.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include <windows.h>
+
+#include "base/file_io.h"
+#include "platform/system/wide_text.h"
+
+namespace brelex {
+
+std::string SystemTemporaryFiles::GetTempFolder() const {
+    // A longer path leaves the buffer empty: the caller takes the program's folder then.
+    std::array<char, 100> folder{};
+    if (GetTempPathA(static_cast<DWORD>(folder.size()), folder.data()) == 0) {
+        return {};
+    }
+    return Utf8OfAnsi(folder.data());
+}
+
+bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
+    const std::filesystem::path file = PathOfUtf8(path);
+    DeleteFileW(file.c_str());
+    HANDLE handle = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    constexpr std::size_t kChunk = std::size_t{1} << 24U;
+    bool written = true;
+    while (written && !bytes.empty()) {
+        const auto count = static_cast<DWORD>(std::min(bytes.size(), kChunk));
+        DWORD done = 0;
+        written = WriteFile(handle, bytes.data(), count, &done, nullptr) != 0 && done == count;
+        bytes.remove_prefix(count);
+    }
+    return CloseHandle(handle) != 0 && written;
+}
+
+}  // namespace brelex

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/terminal.h"
+
+namespace brelex {
+
+std::vector<std::string> Utf8Arguments(int argc, char** argv) {
+    return {argv + (argc > 0 ? 1 : 0), argv + argc};
+}
+
+// Terminals here take the bytes as they come, and they are UTF-8 anyway.
+class Utf8Terminal::Before {};
+
+Utf8Terminal::Utf8Terminal() = default;
+
+Utf8Terminal::~Utf8Terminal() = default;
+
+}  // namespace brelex

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "platform/window/accessible_name.h"
+
+#include <wx/access.h>
+#include <wx/window.h>
+
+namespace brelex {
+
+namespace {
+
+// The system's own description of a window, but for its name.
+class NamedAccessible final : public wxAccessible {
+  public:
+    NamedAccessible(wxWindow* window, const wxString& name) : wxAccessible(window), name_(name) {}
+
+    wxAccStatus GetName(int childId, wxString* name) override {
+        if (childId != wxACC_SELF) {
+            return wxACC_NOT_IMPLEMENTED;
+        }
+        *name = name_;
+        return wxACC_OK;
+    }
+
+  private:
+    wxString name_;
+};
+
+}  // namespace
+
+void SetNames(wxWindow& window, const wxString& name, const wxString& spokenName) {
+    window.SetName(name);
+    window.SetAccessible(new NamedAccessible(&window, spokenName));
+}
+
+}  // namespace brelex

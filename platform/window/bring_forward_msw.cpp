@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "platform/window/bring_forward.h"
+
+#include <wx/frame.h>
+
+#include <windows.h>
+
+namespace brelex {
+
+void BringForward(wxFrame& window) {
+    HWND const handle = window.GetHWND();
+    window.Restore();  // or else the toolkit would show a hidden one minimised
+    window.Show();
+    if (IsIconic(handle) != 0) {
+        ShowWindow(handle, SW_RESTORE);
+    }
+    // A modal window over it gets the keyboard: the window itself takes no keys then.
+    SetForegroundWindow(GetLastActivePopup(handle));
+}
+
+bool SystemShows(const wxFrame& window) {
+    return IsWindowVisible(window.GetHWND()) != 0 && IsIconic(window.GetHWND()) == 0;
+}
+
+}  // namespace brelex

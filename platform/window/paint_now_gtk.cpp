@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "platform/window/paint_now.h"
+
+#include <wx/window.h>
+
+#include <gtk/gtk.h>
+
+namespace brelex {
+
+namespace {
+
+gboolean NoteDrawn(GtkWidget* /*widget*/, cairo_t* /*context*/, gpointer drawn) {
+    *static_cast<bool*>(drawn) = true;
+    return FALSE;
+}
+
+gboolean NoteOverdue(gpointer overdue) {
+    *static_cast<bool*>(overdue) = true;
+    return G_SOURCE_REMOVE;
+}
+
+}  // namespace
+
+void PaintFirst(wxWindow& window) {
+    GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
+    bool drawn = false;
+    bool overdue = false;
+    const gulong handler = g_signal_connect_after(widget, "draw", G_CALLBACK(NoteDrawn), &drawn);
+    constexpr guint kPatienceMs = 200;
+    const guint timer = g_timeout_add(kPatienceMs, NoteOverdue, &overdue);
+    gtk_widget_queue_draw(widget);
+    while (!drawn && !overdue) {
+        gtk_main_iteration();
+    }
+    if (!overdue) {
+        g_source_remove(timer);
+    }
+    g_signal_handler_disconnect(widget, handler);
+    gdk_display_flush(gtk_widget_get_display(widget));
+}
+
+// At once, without waiting for the next frame of the display.
+void PaintNow(wxWindow& window) {
+    GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
+    GdkWindow* const inside = gtk_widget_get_window(widget);
+    if (inside == nullptr) {
+        return;  // not on the screen
+    }
+    gtk_container_check_resize(GTK_CONTAINER(widget));
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 has no other way, GTK 4 none at all
+        gdk_window_process_updates(inside, TRUE);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+    gdk_display_flush(gtk_widget_get_display(widget));
+}
+
+}  // namespace brelex

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "base/file_io.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/test_files.h"
+
+namespace brelex {
+namespace {
+
+TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOne) {
+    const TestFolder folder;
+    const auto path = folder.Path() / "file";
+    EXPECT_EQ(ReplaceFile(path, "old"), std::nullopt);
+    EXPECT_EQ(ReplaceFile(path, "new"), std::nullopt);
+    EXPECT_EQ(ReadText(path), "new");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
+}
+
+TEST(ReplaceFile, AFailureLeavesTheOldContent) {
+    const TestFolder folder;
+    const auto path = folder.Path() / "file";
+    std::filesystem::create_directory(path);  // cannot be replaced by a file
+    EXPECT_NE(ReplaceFile(path, "new"), std::nullopt);
+    EXPECT_TRUE(std::filesystem::is_directory(path));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
+}
+
+TEST(ReplaceFile, AMissingFolderIsAFailure) {
+    const TestFolder folder;
+    EXPECT_NE(ReplaceFile(folder.Path() / "no" / "file", "new"), std::nullopt);
+}
+
+TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
+    const TestFolder folder;
+    const std::string bytes("a\0b\r\n\x1A", 6);
+    folder.Write("file", bytes);
+    EXPECT_EQ(ReadWholeFile(folder.Path() / "file")->View(), bytes);
+    EXPECT_FALSE(ReadWholeFile(folder.Path() / "missing").has_value());
+    EXPECT_FALSE(ReadWholeFile(folder.Path()).has_value());
+}
+
+TEST(PathOfUtf8, NamesWithAccentsSurvive) {
+    const TestFolder folder;
+    const std::string path = folder.Write("Abkürzungen-日本", "x");
+    EXPECT_EQ(ReadText(PathOfUtf8(path)), "x");
+    EXPECT_EQ(Utf8OfPath(PathOfUtf8(path)), path);
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/toolbar.h"
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
+#include <wx/image.h>
+#include <wx/settings.h>
+
+#include "tests/platform/screen.h"
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/controls/modFlatButton.h"
+
+namespace brelex {
+namespace {
+
+class ToolbarWindowTest : public MainWindowTest {
+  protected:
+    [[nodiscard]] Toolbar& Bar() const { return dynamic_cast<Toolbar&>(*Control("picToolbar")); }
+
+    [[nodiscard]] wxPoint MiddleOf(std::size_t icon) const {
+        const IconBounds& bounds = Bar().BoundsOf(icon);
+        return Bar().ClientToScreen(wxPoint(static_cast<int>(bounds.left + bounds.width / 2),
+                                            static_cast<int>(bounds.top + bounds.height / 2)));
+    }
+
+    void MoveTo(const wxPoint& place) {
+        user_.MouseMove(place - wxPoint(1, 0));
+        Settle(20);
+        user_.MouseMove(place);
+        Settle(40);
+    }
+
+    void Hover(std::size_t icon) {
+        MoveTo(MiddleOf(icon));
+        ASSERT_TRUE(WaitFor([&] { return Bar().StateOf(icon) == kRaised; }));
+    }
+
+    void Press(std::size_t icon) {
+        Hover(icon);
+        user_.MouseDown();
+        ASSERT_TRUE(WaitFor([&] { return Bar().StateOf(icon) == kSunken; }));
+    }
+
+    [[nodiscard]] wxPoint BelowTheToolbar() const {
+        return window_->List().Window().ClientToScreen(wxPoint(200, 60));
+    }
+
+    void ExpectFlat() const {
+        for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+            EXPECT_EQ(Bar().StateOf(i), kFlat) << i;
+        }
+    }
+};
+
+TEST_F(ToolbarWindowTest, EachIconRisesAndSaysWhatItIsFor) {
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        Hover(i);
+        EXPECT_EQ(LabelText("lblDescription"), kToolbarIcons.at(i).description);
+    }
+}
+
+// The mouse jumps from icon to icon, while the tool tip of the one before is still shown.
+TEST_F(ToolbarWindowTest, EachIconHasItsToolTipAtItself) {
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        Hover(i);
+        const wxPoint icon = MiddleOf(i);
+        ToolTipView tip;
+        EXPECT_TRUE(WaitFor([&] {
+            tip = ToolTipOnScreen();
+            return tip.text == kToolbarIcons.at(i).toolTip && tip.place.x < icon.x + 40 &&
+                   tip.place.x + tip.place.width > icon.x - 40 &&
+                   std::abs(tip.place.y - icon.y) < 70;
+        })) << i
+            << ": \"" << tip.text << "\" at " << tip.place.x << ", " << tip.place.y << ", icon at "
+            << icon.x << ", " << icon.y;
+    }
+}
+
+TEST_F(ToolbarWindowTest, LeavingFlattensTheIconAndEmptiesTheDescription) {
+    Hover(0);
+    MoveTo(BelowTheToolbar());
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+    EXPECT_NE(LabelText("lblDescription"), "Search Database");
+    EXPECT_FALSE(Bar().HasCapture());
+}
+
+TEST_F(ToolbarWindowTest, BetweenIconsNothingIsRaisedOrDescribed) {
+    Hover(0);
+    const IconBounds& icon = Bar().BoundsOf(0);
+    const double behind = icon.left + icon.width;
+    const double gap = Bar().BoundsOf(1).left - behind;
+    MoveTo(Bar().ClientToScreen(
+        wxPoint(static_cast<int>(behind + gap / 2), static_cast<int>(icon.top + icon.height / 2))));
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+    ExpectFlat();
+    EXPECT_EQ(LabelText("lblDescription"), "");
+    EXPECT_EQ(Bar().GetToolTipText(), "");
+}
+
+// A touch moves the mouse, presses and releases at once.
+TEST_F(ToolbarWindowTest, ATapOpensTheWindow) {
+    MoveTo(BelowTheToolbar());
+    EXPECT_EQ(NameOfOpened([&] {
+                  user_.MouseMove(MiddleOf(2));
+                  user_.MouseDown();
+                  user_.MouseUp();
+              }),
+              "frmSmiley");
+    ExpectFlat();
+    EXPECT_FALSE(Bar().HasCapture());
+}
+
+TEST_F(ToolbarWindowTest, AMouseThatOnlyCrossesAnIconLeavesItFlat) {
+    MoveTo(BelowTheToolbar());
+    user_.MouseMove(MiddleOf(2));
+    user_.MouseMove(BelowTheToolbar());
+    Settle(100);
+    ExpectFlat();
+    EXPECT_NE(LabelText("lblDescription"), "Smiley Dictionary");
+}
+
+struct ActionCase {
+    const char* name;
+    std::size_t icon;
+    const char* window;
+};
+
+class ToolbarAction : public ToolbarWindowTest, public testing::WithParamInterface<ActionCase> {};
+
+TEST_P(ToolbarAction, OpensItsWindowOnRelease) {
+    Press(GetParam().icon);
+    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_EQ(NameOfOpened([&] { user_.MouseUp(); }, [&] { ExpectFlat(); }), GetParam().window);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ToolbarAction,
+                         testing::Values(ActionCase{"Search", 0, "frmSearch"},
+                                         ActionCase{"Anagrams", 1, "frmAnagram"},
+                                         ActionCase{"Smileys", 2, "frmSmiley"},
+                                         ActionCase{"About", 4, "frmAbout"},
+                                         ActionCase{"DonationThatSaysExit", 5, "frmDonation"}),
+                         CaseName());
+
+TEST_F(ToolbarWindowTest, TheFourthShowsTheHelp) {
+    folder_.Write("Brelex.hlp", "help");
+    Press(3);
+    user_.MouseUp();
+    EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
+}
+
+TEST_F(ToolbarWindowTest, TheLastEndsTheProgram) {
+    Press(6);
+    frmMain* const window = std::exchange(window_, nullptr);
+    user_.MouseUp();
+    EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+}
+
+TEST_F(ToolbarWindowTest, APressThatIsDraggedOutOpensNothing) {
+    Press(0);
+    EXPECT_TRUE(Bar().HasCapture());
+    MoveTo(BelowTheToolbar());
+    EXPECT_FALSE(Bar().HasCapture());
+    user_.MouseUp();
+    Settle(150);
+    EXPECT_FALSE(window_->IsModalOpen);
+    ExpectFlat();
+}
+
+TEST_F(ToolbarWindowTest, APressThatSlidesToAnotherIconRunsThatOne) {
+    Press(0);
+    MoveTo(MiddleOf(2));
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(2) == kSunken; }));
+    EXPECT_EQ(Bar().StateOf(0), kFlat);
+    EXPECT_EQ(NameOfOpened([&] { user_.MouseUp(); }), "frmSmiley");
+}
+
+TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
+    Hover(0);
+    user_.MouseDown(wxMOUSE_BTN_RIGHT);
+    Settle(60);
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    MoveTo(MiddleOf(0) + wxPoint(3, 0));
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    user_.MouseUp(wxMOUSE_BTN_RIGHT);
+    Settle(60);
+    EXPECT_FALSE(Bar().HasCapture());
+    EXPECT_FALSE(window_->IsModalOpen);
+}
+
+TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
+    const EdgeRectangle edge = EdgeOf(Bar().BoundsOf(2));
+    const int middle = (edge.top + edge.bottom) / 2;
+    const auto edgeColour = [&] { return ColourAt(PictureOf(Bar()), edge.right, middle); };
+    MoveTo(BelowTheToolbar());
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+    Hover(1);
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+    Hover(2);
+    EXPECT_EQ(edgeColour(), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+    user_.MouseDown();
+    EXPECT_TRUE(WaitFor([&] { return edgeColour() == SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT); }));
+    MoveTo(BelowTheToolbar());
+    user_.MouseUp();
+    EXPECT_EQ(edgeColour(), *wxGREEN);
+}
+
+TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
+    const wxImage bar = PictureOf(Bar());
+    for (std::size_t i = 0; i + 1 < kToolbarIcons.size(); ++i) {
+        const IconBounds& icon = Bar().BoundsOf(i);
+        const int middle = static_cast<int>(icon.top + icon.height / 2);
+        int lines = 0;
+        for (int x = static_cast<int>(icon.left + icon.width) + 1; x < Bar().BoundsOf(i + 1).left;
+             ++x) {
+            lines += ColourAt(bar, x, middle) == SystemColour(wxSYS_COLOUR_BTNSHADOW) ? 1 : 0;
+        }
+        const bool ends = std::set<std::size_t>{1, 2, 4, 5}.contains(i);
+        EXPECT_EQ(lines, ends ? 1 : 0) << i;
+    }
+}
+
+TEST_F(ToolbarWindowTest, EachIconHasAPictureOfItsOwn) {
+    const wxImage bar = PictureOf(Bar());
+    std::set<std::string> pictures;
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        const IconBounds& icon = Bar().BoundsOf(i);
+        const wxImage picture =
+            bar.GetSubImage({static_cast<int>(icon.left), static_cast<int>(icon.top),
+                             static_cast<int>(icon.width), static_cast<int>(icon.height)});
+        const auto* const bytes = reinterpret_cast<const char*>(picture.GetData());
+        pictures.emplace(bytes,
+                         static_cast<std::size_t>(3 * picture.GetWidth() * picture.GetHeight()));
+    }
+    EXPECT_EQ(pictures.size(), kToolbarIcons.size());
+}
+
+TEST_F(ToolbarWindowTest, KeysWorkWhileAnIconIsRaised) {
+    Hover(0);
+    user_.Char('R');
+    EXPECT_TRUE(WaitFor([&] { return BoxText() == "R"; }));
+    EXPECT_EQ(Bar().StateOf(0), kRaised);
+    MoveTo(BelowTheToolbar());
+    EXPECT_TRUE(WaitFor([&] { return Bar().StateOf(0) == kFlat; }));
+}
+
+TEST_F(ToolbarWindowTest, AWindowOpenedByKeyUnderAHotIconGetsTheMouse) {
+    Hover(0);
+    const auto look = [&] {
+        ExpectFlat();
+        EXPECT_FALSE(Bar().HasCapture());
+    };
+    EXPECT_EQ(NameOfOpened([&] { user_.Char(WXK_F3); }, look), "frmSearch");
+}
+
+TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
+    struct Edge {
+        int state;
+        wxSystemColour leftAndTop;
+        wxSystemColour rightAndBottom;
+    };
+
+    for (const Edge& edge : {Edge{kFlat, wxSYS_COLOUR_BTNFACE, wxSYS_COLOUR_BTNFACE},
+                             Edge{kRaised, wxSYS_COLOUR_BTNHIGHLIGHT, wxSYS_COLOUR_BTNSHADOW},
+                             Edge{kSunken, wxSYS_COLOUR_BTNSHADOW, wxSYS_COLOUR_BTNHIGHLIGHT}}) {
+        wxBitmap bitmap(60, 60, 24);
+        wxMemoryDC dc(bitmap);
+        dc.SetBackground(*wxGREEN_BRUSH);
+        dc.Clear();
+        DrawFlatButton({10, 10, 32, 32}, dc, edge.state);
+        dc.SelectObject(wxNullBitmap);
+        const wxImage image = bitmap.ConvertToImage();
+        EXPECT_EQ(ColourAt(image, 10, 20), SystemColour(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 20, 10), SystemColour(edge.leftAndTop)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 42, 20), SystemColour(edge.rightAndBottom)) << edge.state;
+        EXPECT_EQ(ColourAt(image, 20, 42), SystemColour(edge.rightAndBottom)) << edge.state;
+        for (const wxPoint& outside : {wxPoint(9, 20), wxPoint(11, 20), wxPoint(43, 20)}) {
+            EXPECT_EQ(ColourAt(image, outside.x, outside.y), *wxGREEN) << edge.state;
+        }
+    }
+}
+
+TEST(DrawFlatButton, AnyOtherStateDrawsNothing) {
+    wxBitmap bitmap(60, 60, 24);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(*wxGREEN_BRUSH);
+    dc.Clear();
+    DrawFlatButton({10, 10, 32, 32}, dc, 3);
+    dc.SelectObject(wxNullBitmap);
+    const wxImage image = bitmap.ConvertToImage();
+    EXPECT_EQ(image.GetGreen(10, 20), 255);
+    EXPECT_EQ(image.GetRed(10, 20), 0);
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// F1 in each window shows the page of the help that fits it.
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/named_case.h"
+#include "tests/ui/ui_test_support.h"
+#include "ui/main/side_windows.h"
+
+namespace brelex {
+namespace {
+
+struct HelpCase {
+    const char* name;
+    int number;
+    const char* page;
+};
+
+class HelpKeyTest : public SideWindowTest {
+  protected:
+    void SetUp() override {
+        SideWindowTest::SetUp();
+        folder_.Write("Brelex.hlp", "a book");
+        desktop_.hasViewer = true;
+    }
+
+    // Presses F1 and waits for a viewer to be started at a page.
+    void ExpectHelpAt(const std::string& page) {
+        desktop_.viewersStarted.clear();
+        user_.Char(WXK_F1);
+        ASSERT_TRUE(WaitFor([&] { return !desktop_.viewersStarted.empty(); }));
+        Settle(50);
+        ASSERT_EQ(desktop_.viewersStarted.size(), 1U);
+        EXPECT_EQ(desktop_.viewersStarted[0].at(2), page);
+    }
+};
+
+class HelpKeyInSideWindow : public HelpKeyTest, public testing::WithParamInterface<HelpCase> {};
+
+TEST_P(HelpKeyInSideWindow, ShowsItsPage) {
+    InSideWindow(
+        GetParam().name, [&] { window_->OpenModalForm(GetParam().number); },
+        [&] {
+            ExpectHelpAt(GetParam().page);
+            EXPECT_TRUE(Side().IsShown());
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, HelpKeyInSideWindow,
+                         testing::Values(HelpCase{"frmSearch", kSearchWindow, "search.html"},
+                                         HelpCase{"frmAnagram", kAnagramWindow, "anagrams.html"},
+                                         HelpCase{"frmDataInfo", kDataInfoWindow, "info.html"},
+                                         HelpCase{"frmSmiley", kSmileyWindow, "smileys.html"},
+                                         HelpCase{"frmAbout", kAboutWindow, "about.html"},
+                                         HelpCase{"frmCheckData", kCheckDataWindow, "check.html"},
+                                         HelpCase{"frmDonation", kDonationWindow,
+                                                  "about.html#donate"}),
+                         CaseName());
+
+TEST_F(HelpKeyTest, InTheMainWindowShowsTheContents) {
+    ExpectHelpAt("");
+}
+
+TEST_F(HelpKeyTest, InTheEntryViewerShowsItsPage) {
+    Type("abc", "ABC");
+    InSideWindow(
+        "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, [&] { ExpectHelpAt("viewer.html"); });
+}
+
+TEST_F(HelpKeyTest, WhereARecordIsAskedForShowsThatPage) {
+    InSideWindow(
+        "TextQuestion", [&] { window_->GoToRecordNumber(-1); },
+        [&] { ExpectHelpAt("lookup.html#goto"); });
+}
+
+TEST_F(HelpKeyTest, HelpThatIsMissingIsToldOverTheSideWindow) {
+    std::filesystem::remove(folder_.Text() + "Brelex.hlp");
+    InSideWindow(
+        "frmAbout", [&] { window_->OpenModalForm(kAboutWindow); },
+        [&] {
+            const MessageBoxes boxes;
+            user_.Char(WXK_F1);
+            EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
+        });
+}
+
+}  // namespace
+}  // namespace brelex

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "toolkit/app_icon.h"
+
+#include "embedded/kIconSvg.h"
+
+namespace brelex {
+
+wxBitmapBundle AppIcon(int size) {
+    return wxBitmapBundle::FromSVG(kIconSvg, wxSize(size, size));
+}
+
+wxIconBundle AppIcons() {
+    wxIconBundle icons;
+    for (const int size : {16, 32, 48, 64}) {
+        wxIcon icon;
+        icon.CopyFromBitmap(AppIcon(size).GetBitmap(wxSize(size, size)));
+        icons.AddIcon(icon);
+    }
+    return icons;
+}
+
+}  // namespace brelex

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/controls/backdrop.h"
+#include "ui/controls/layout_units.h"
+
+namespace brelex {
+
+// In layout units.
+inline constexpr double kColumnHeaderHeight = 18;
+inline constexpr double kColumnHeaderFrameAbove = 3;  ///< how far a frame round it stands above it
+inline constexpr double kExpansionTextAt = 139.5;     ///< of lists under it, from their left
+
+/// The drawn header of a list, `picColHeader`: the names of its two columns, a line under them,
+/// a sunken line between them and an arrow for the ascending order.
+class ColumnHeader final : public Backdrop {
+  public:
+    ColumnHeader(wxWindow* parent, const LayoutUnits& units);
+
+    /// Has the second column begin `pixels` from the left.
+    void SetSecondColumn(int pixels);
+
+  private:
+    void OnPaint(wxPaintEvent& event);
+
+    const LayoutUnits& units_;
+    int secondColumn_;
+};
+
+}  // namespace brelex

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/combo_box.h"
+
+#include <algorithm>
+
+#include <wx/combobox.h>
+
+#include "ui/controls/text_entry.h"
+
+namespace brelex {
+
+ComboTextLimit::ComboTextLimit(wxComboBox& combo) : combo_(combo) {
+    combo.Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
+        Apply();
+        event.Skip();
+    });
+    combo.Bind(wxEVT_TEXT_PASTE, [this](wxClipboardTextEvent& event) {
+        event.Skip(limit_ == 0 || !PasteWhatFits(combo_, limit_));
+    });
+    combo.Bind(wxEVT_COMBOBOX, [this](wxCommandEvent& event) {
+        RestorePickedText();
+        event.Skip();
+    });
+}
+
+void ComboTextLimit::Set(std::size_t length) {
+    limit_ = length;
+    Apply();
+}
+
+// The toolkit's limit cuts longer text on GTK; so it is never below what is there.
+void ComboTextLimit::Apply() {
+    const std::size_t length = std::max(limit_, combo_.GetValue().length());
+    combo_.SetMaxLength(limit_ == 0 ? 0 : static_cast<unsigned long>(length));
+}
+
+void ComboTextLimit::RestorePickedText() {
+    const int picked = combo_.GetSelection();
+    if (picked != wxNOT_FOUND &&
+        combo_.GetString(static_cast<unsigned>(picked)) != combo_.GetValue()) {
+        const wxString text = combo_.GetString(static_cast<unsigned>(picked));
+        combo_.SetMaxLength(0);
+        combo_.SetValue(text);  // and tell of it
+    }
+    Apply();
+}
+
+}  // namespace brelex

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/string.h>
+
+#include "ui/controls/backdrop.h"
+
+namespace brelex {
+
+/// A line of text that changes often and may be wider than its room.
+class PaintedText final : public Backdrop {
+  public:
+    explicit PaintedText(wxWindow* parent);
+
+    void SetText(const wxString& text);
+
+    [[nodiscard]] const wxString& Text() const { return text_; }
+
+    void Draw(wxDC& dc) const;
+
+  private:
+    wxString text_;
+};
+
+}  // namespace brelex

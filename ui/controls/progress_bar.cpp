@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/progress_bar.h"
+
+#include <string>
+
+#include <wx/dcbuffer.h>
+#include <wx/math.h>
+#include <wx/settings.h>
+
+namespace brelex {
+
+ProgressBar::ProgressBar(wxWindow* parent) : Backdrop(parent) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Bind(wxEVT_PAINT, &ProgressBar::OnPaint, this);
+}
+
+void ProgressBar::SetPercent(int percent) {
+    percent_ = percent;
+    Refresh();
+    Update();  // whoever reports progress lets events run only now and then
+}
+
+void ProgressBar::Clear() {
+    percent_ = -1;
+    Refresh();
+}
+
+void ProgressBar::OnPaint(wxPaintEvent& /*event*/) {
+    wxAutoBufferedPaintDC dc(this);
+    Draw(dc);
+}
+
+void ProgressBar::Draw(wxDC& dc) const {
+    dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
+    dc.Clear();
+    if (percent_ < 0) {
+        return;
+    }
+    const wxSize size = GetClientSize();
+    const int right = wxRound(size.x / 100.0 * percent_ - 1);
+    const int bottom = size.y - 1;
+    if (right > 0) {
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.SetBrush(wxBrush(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE)));
+        dc.DrawRectangle(0, 0, right + 1, size.y);
+    }
+    const wxString text = std::to_string(percent_) + "%";
+    dc.SetFont(GetFont());
+    const wxSize extent = dc.GetTextExtent(text);
+    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    dc.DrawText(text, (size.x - extent.x) / 2, (size.y - extent.y) / 2);
+    if (right > 0) {
+        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
+        dc.DrawLine(0, 0, 0, bottom);
+        dc.DrawLine(0, 0, right, 0);
+        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+        dc.DrawLine(right, bottom, right, 0);
+        dc.DrawLine(right, bottom, 0, bottom);
+    }
+}
+
+}  // namespace brelex

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/scroll_area.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/dcbuffer.h>
+#include <wx/dcclient.h>
+#include <wx/settings.h>
+
+#include "presentation/moving_text.h"
+
+namespace brelex {
+
+namespace {
+
+constexpr int kFirstTickMs = 500;
+constexpr int kStepMs = 70;
+
+// At 96 dots per inch.
+constexpr int kStep = 1;
+constexpr int kLeft = 10;
+
+}  // namespace
+
+ScrollArea::ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines)
+    : Backdrop(parent),
+      tmrScrollText(this),
+      lines_(std::move(lines)) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Measure();
+    Bind(wxEVT_PAINT, &ScrollArea::OnPaint, this);
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { OnTick(); });
+    tmrScrollText.StartOnce(kFirstTickMs);
+}
+
+void ScrollArea::Measure() {
+    wxClientDC dc(this);
+    for (const ScrollLine& line : lines_) {
+        dc.SetFont(line.font);
+        linesHeight_ += dc.GetCharHeight();
+        linesWidth_ = std::max(linesWidth_, dc.GetTextExtent(line.text).x + 2 * FromDIP(kLeft));
+    }
+}
+
+void ScrollArea::OnTick() {
+    if (!isScrolling_) {
+        isScrolling_ = true;
+        position_ = FirstScrollPosition(GetClientSize().y);
+        tmrScrollText.Start(kStepMs);
+    } else {
+        position_ = NextScrollPosition(position_, FromDIP(kStep), linesHeight_, GetClientSize().y);
+    }
+    Refresh();
+}
+
+void ScrollArea::OnPaint(wxPaintEvent& /*event*/) {
+    wxAutoBufferedPaintDC dc(this);
+    Draw(dc);
+}
+
+void ScrollArea::Draw(wxDC& dc) const {
+    dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
+    dc.Clear();
+    if (!isScrolling_) {
+        return;
+    }
+    int top = position_;
+    for (const ScrollLine& line : lines_) {
+        dc.SetFont(line.font);
+        dc.SetTextForeground(line.colour.IsOk()
+                                 ? line.colour
+                                 : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        dc.DrawText(line.text, FromDIP(kLeft), top);
+        top += dc.GetCharHeight();
+    }
+}
+
+}  // namespace brelex

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include <wx/colour.h>
+#include <wx/font.h>
+#include <wx/string.h>
+#include <wx/timer.h>
+
+#include "ui/controls/backdrop.h"
+
+namespace brelex {
+
+/// A line of a scrolling text.
+struct ScrollLine {
+    wxString text;
+    wxFont font;
+    wxColour colour;
+};
+
+/// An area in which lines of text scroll upwards, over and over, until it is destroyed.
+class ScrollArea final : public Backdrop {
+  public:
+    ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines);
+
+    [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
+
+    /// Where the first line is now, in pixels from the top.
+    [[nodiscard]] int Position() const { return position_; }
+
+    /// The height of all lines, in pixels.
+    [[nodiscard]] int LinesHeight() const { return linesHeight_; }
+
+    /// The width that all lines need, in pixels.
+    [[nodiscard]] int LinesWidth() const { return linesWidth_; }
+
+    /// Draws the lines where they are now, on the background too.
+    void Draw(wxDC& dc) const;
+
+    /// Ends the scrolling. For use before the window is hidden.
+    void Stop() { tmrScrollText.Stop(); }
+
+    wxTimer tmrScrollText;
+
+  private:
+    void Measure();
+    void OnTick();
+    void OnPaint(wxPaintEvent& event);
+
+    std::vector<ScrollLine> lines_;
+    int linesHeight_ = 0;
+    int linesWidth_ = 0;
+    int position_ = 0;
+    bool isScrolling_ = false;
+};
+
+}  // namespace brelex

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/surface.h"
+
+#include <algorithm>
+
+#include <wx/display.h>
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+
+namespace brelex {
+
+namespace {
+
+// Of title and frame, where the desktop does not tell before it shows the window.
+constexpr int kUsualTitle = 40;
+constexpr int kUsualEdge = 4;
+
+// A menu bar that was not shown yet does not know it either.
+int MenuBarHeight(const wxTopLevelWindow& window) {
+    const auto* const frame = dynamic_cast<const wxFrame*>(&window);
+    return frame == nullptr || frame->GetMenuBar() == nullptr
+               ? 0
+               : std::max(wxSystemSettings::GetMetric(wxSYS_MENU_Y, &window),
+                          window.GetCharHeight() + window.FromDIP(14));
+}
+
+}  // namespace
+
+wxSize LargestInside(const wxTopLevelWindow& window) {
+    const int index = wxDisplay::GetFromWindow(&window);
+    const wxDisplay display(index == wxNOT_FOUND ? 0U : static_cast<unsigned>(index));
+    const wxSize usual(2 * window.FromDIP(kUsualEdge),
+                       window.FromDIP(kUsualTitle + kUsualEdge) + MenuBarHeight(window));
+    wxSize around = window.GetSize() - window.GetClientSize();
+    around.IncTo(usual);
+    wxSize inside = display.GetClientArea().GetSize() - around;
+    inside.IncTo(wxSize(1, 1));
+    return inside;
+}
+
+Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
+    Create(window, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    SetScrollRate(0, 0);
+}
+
+void Surface::FillWindow(const wxSize& size) {
+    wxSize inside = LargestInside(window_);
+    const bool scrollsDown = size.y > inside.y;
+    const bool scrollsAcross = size.x > inside.x;
+    // A bar takes room from what is beside it.
+    const wxSize wanted(
+        size.x + (scrollsDown ? wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &window_) : 0),
+        size.y + (scrollsAcross ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &window_) : 0));
+    inside.DecTo(wanted);
+    const int step = FromDIP(10);
+    SetScrollRate(scrollsAcross ? step : 0, scrollsDown ? step : 0);
+    window_.SetClientSize(inside);
+    SetSize(inside);
+    SetVirtualSize(size);
+    if (GetSizer() != nullptr) {
+        GetSizer()->SetDimension(CalcScrolledPosition(wxPoint(0, 0)), size);
+    }
+}
+
+void FillWindow(Surface& surface, wxSizer* content, int width) {
+    surface.SetSizer(content);
+    const wxSize size = content->GetMinSize();
+    surface.FillWindow({width == 0 ? size.x : width, size.y});
+}
+
+}  // namespace brelex

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/bmpbndl.h>
+#include <wx/font.h>
+
+#include "ui/controls/backdrop.h"
+
+namespace brelex {
+
+/// The program's icon and its name beside it, as large as they fit into a size. Drawn anew each
+/// time the window is painted, so that it is as sharp as the screen it stands on.
+class TitleImage final : public Backdrop {
+  public:
+    explicit TitleImage(wxWindow* parent);
+
+    /// Sizes the window, in pixels, to what it shows at most as large as `largest`.
+    void FitInto(const wxSize& largest);
+
+    void Draw(wxDC& dc) const;
+
+  private:
+    wxBitmapBundle icon_;
+    wxFont font_;
+    int iconSize_ = 1;
+    int gap_;
+};
+
+}  // namespace brelex

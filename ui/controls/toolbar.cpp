@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/toolbar.h"
+
+#include <cstddef>
+#include <utility>
+
+#include <wx/dcclient.h>
+#include <wx/settings.h>
+
+#include "platform/window/accessible_name.h"
+#include "platform/window/area_tool_tip.h"
+#include "ui/controls/artwork.h"
+#include "ui/controls/modFlatButton.h"
+
+namespace brelex {
+
+namespace {
+
+// The layout, in layout units.
+constexpr double kIconSize = 32;
+constexpr double kMargin = 4;
+constexpr double kGap = 6;
+constexpr double kSeparatorWidth = 12;
+
+bool HasSeparatorBehind(std::size_t icon) {
+    return icon == kAnagramIcon || icon == kSmileyIcon || icon == kAboutIcon ||
+           icon == kDonationIcon;
+}
+
+int ButtonsOf(const wxMouseEvent& event) {
+    return (event.LeftIsDown() ? kLeftButton : 0) | (event.RightIsDown() ? kRightButton : 0) |
+           (event.MiddleIsDown() ? kMiddleButton : 0);
+}
+
+// The one that went down or up.
+int ButtonOf(const wxMouseEvent& event) {
+    switch (event.GetButton()) {
+        case wxMOUSE_BTN_LEFT:
+            return kLeftButton;
+        case wxMOUSE_BTN_RIGHT:
+            return kRightButton;
+        default:
+            return kMiddleButton;
+    }
+}
+
+}  // namespace
+
+Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents events)
+    : Backdrop(parent),
+      units_(units),
+      events_(std::move(events)),
+      imgToolbarIcon(ToolbarPictures()) {
+    SetNames(*this, "picToolbar", "Toolbar");
+    SetDoubleBuffered(true);
+    PlaceIcons();
+    BindEvents();
+}
+
+// The toolkit wants the mouse back before the window goes.
+Toolbar::~Toolbar() {
+    if (HasCapture()) {
+        ReleaseMouse();
+    }
+}
+
+void Toolbar::PlaceIcons() {
+    const auto px = [this](double units) { return units_.Pixels(units); };
+    const int size = px(kIconSize);
+    const int margin = px(kMargin);
+    int x = margin;
+    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+        bounds_.push_back({.left = static_cast<double>(x),
+                           .top = static_cast<double>(margin),
+                           .width = static_cast<double>(size),
+                           .height = static_cast<double>(size)});
+        x += size + px(kGap);
+        if (HasSeparatorBehind(i)) {
+            separators_.push_back(x + px(kSeparatorWidth - kGap) / 2 - 1);
+            x += px(kSeparatorWidth);
+        }
+    }
+    const wxSize whole(x, size + 2 * margin);
+    SetInitialSize(whole);
+    state_.emplace(bounds_, whole.x, whole.y, static_cast<ToolbarView&>(*this));
+}
+
+void Toolbar::BindEvents() {
+    Bind(wxEVT_PAINT, &Toolbar::OnPaint, this);
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        const wxSize size = GetClientSize();
+        state_->OnResize(size.x, size.y);
+        event.Skip();
+    });
+    // Entering is a movement, too: a window that covered the toolbar may have closed.
+    for (const wxEventTypeTag<wxMouseEvent>& type : {wxEVT_MOTION, wxEVT_ENTER_WINDOW}) {
+        Bind(type, &Toolbar::OnMove, this);
+    }
+    for (const wxEventTypeTag<wxMouseEvent>& type :
+         {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
+        Bind(type, &Toolbar::OnButtonDown, this);
+    }
+    for (const wxEventTypeTag<wxMouseEvent>& type :
+         {wxEVT_LEFT_UP, wxEVT_RIGHT_UP, wxEVT_MIDDLE_UP}) {
+        Bind(type, &Toolbar::OnButtonUp, this);
+    }
+    Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
+        event.Skip();
+        if (!HasCapture()) {
+            buttonsDown_ = 0;
+            state_->OnMouseMove(0, -1, -1);
+        }
+    });
+    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { LetGo(); });
+}
+
+void Toolbar::OnMove(wxMouseEvent& event) {
+    const wxPoint mouse = event.GetPosition();
+    event.Skip();
+    buttonsDown_ = ButtonsOf(event);
+    state_->OnMouseMove(buttonsDown_, mouse.x, mouse.y);
+}
+
+// The mouse may not have moved since something else was here: then this is where it came.
+void Toolbar::OnButtonDown(wxMouseEvent& event) {
+    const int button = ButtonOf(event);
+    buttonsDown_ = ButtonsOf(event) & ~button;
+    state_->OnMouseMove(buttonsDown_, event.GetX(), event.GetY());
+    buttonsDown_ |= button;
+    SetCapture();
+    state_->OnMouseDown(button);
+}
+
+void Toolbar::OnButtonUp(wxMouseEvent& event) {
+    const int button = ButtonOf(event);
+    buttonsDown_ = ButtonsOf(event) & ~button;
+    if (buttonsDown_ == 0) {
+        ReleaseCapture();
+    }
+    state_->OnMouseUp(button);
+}
+
+void Toolbar::OnPaint(wxPaintEvent& /*event*/) {
+    wxPaintDC dc(this);
+    Draw(dc);
+}
+
+void Toolbar::Draw(wxDC& dc) const {
+    const int height = GetClientSize().y;
+    const int margin = units_.Pixels(kMargin);
+    for (const int x : separators_) {
+        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+        dc.DrawLine(x, margin, x, height - margin);
+        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
+        dc.DrawLine(x + 1, margin, x + 1, height - margin);
+    }
+    for (std::size_t i = 0; i < bounds_.size(); ++i) {
+        const IconBounds& icon = bounds_[i];
+        const wxSize size(static_cast<int>(icon.width), static_cast<int>(icon.height));
+        wxBitmap picture = imgToolbarIcon.at(i).GetBitmap(size * GetContentScaleFactor());
+        picture.SetScaleFactor(GetContentScaleFactor());
+        dc.DrawBitmap(picture, static_cast<int>(icon.left), static_cast<int>(icon.top));
+        // A flat edge is in the colour of buttons, which need not be that of the window behind it.
+        if (states_.at(i) != kFlat) {
+            DrawFlatButton(icon, dc, states_.at(i));
+        }
+    }
+}
+
+void Toolbar::LetGo() {
+    buttonsDown_ = 0;
+    ReleaseCapture();
+    state_->OnCaptureLost();
+}
+
+// Only while a button is held: without one the toolkit tells when the mouse leaves, and Windows
+// has no menu keys while the mouse is captured.
+void Toolbar::SetCapture() {
+    if (buttonsDown_ != 0 && !HasCapture()) {
+        CaptureMouse();
+    }
+}
+
+void Toolbar::ReleaseCapture() {
+    if (HasCapture()) {
+        ReleaseMouse();
+    }
+}
+
+// No events: what the mouse's next movement changes here, the one in hand would change back, and
+// the window may be closed.
+void Toolbar::LetPendingPaintingRun() {
+    wxGetTopLevelParent(this)->Update();
+}
+
+void Toolbar::DrawIcon(int icon, int state) {
+    states_.at(static_cast<std::size_t>(icon)) = state;
+    Refresh();
+    Update();
+}
+
+void Toolbar::Describe(int icon) {
+    if (icon < 0) {
+        SetAreaToolTip(*this, {}, wxEmptyString);
+    } else {
+        const auto index = static_cast<std::size_t>(icon);
+        const IconBounds& bounds = bounds_.at(index);
+        SetAreaToolTip(*this,
+                       {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
+                        static_cast<int>(bounds.width), static_cast<int>(bounds.height)},
+                       kToolbarIcons.at(index).toolTip);
+    }
+    events_.onHot(icon);
+}
+
+void Toolbar::RunAction(int icon) {
+    events_.onAction(icon);
+}
+
+}  // namespace brelex

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include <wx/bmpbndl.h>
+
+#include "presentation/toolbar_state.h"
+#include "ui/controls/backdrop.h"
+#include "ui/controls/layout_units.h"
+
+namespace brelex {
+
+/// What happens on the toolbar; icons are numbered from 0.
+struct ToolbarEvents {
+    std::function<void(int icon)> onHot;     ///< this icon is under the mouse; -1 for none
+    std::function<void(int icon)> onAction;  ///< this icon was chosen
+};
+
+/// The toolbar `picToolbar`: flat icons in a row.
+class Toolbar final : public Backdrop, private ToolbarView {
+  public:
+    Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents events);
+    Toolbar(const Toolbar&) = delete;
+    Toolbar& operator=(const Toolbar&) = delete;
+    ~Toolbar() override;
+
+    /// Flattens the icon under the mouse and lets go of the mouse: another window wants it.
+    void LetGo();
+
+    /// Where an icon is, in the toolbar's pixels, and how it is drawn.
+    [[nodiscard]] const IconBounds& BoundsOf(std::size_t icon) const { return bounds_.at(icon); }
+
+    [[nodiscard]] int StateOf(std::size_t icon) const { return states_.at(icon); }
+
+    /// Draws the pictures, the edge of the hot icon and the separators, without the background.
+    void Draw(wxDC& dc) const;
+
+  private:
+    void PlaceIcons();
+    void BindEvents();
+    void OnPaint(wxPaintEvent& event);
+    void OnMove(wxMouseEvent& event);
+    void OnButtonDown(wxMouseEvent& event);
+    void OnButtonUp(wxMouseEvent& event);
+
+    void SetCapture() override;
+    void ReleaseCapture() override;
+    void LetPendingPaintingRun() override;
+    void DrawIcon(int icon, int state) override;
+    void Describe(int icon) override;
+    void RunAction(int icon) override;
+
+    const LayoutUnits& units_;
+    ToolbarEvents events_;
+    std::array<wxBitmapBundle, kToolbarIcons.size()> imgToolbarIcon;
+    std::vector<IconBounds> bounds_;
+    std::array<int, kToolbarIcons.size()> states_ = {};
+    std::vector<int> separators_;  // x of each
+    std::optional<ToolbarState> state_;
+    int buttonsDown_ = 0;  // as bits, while the mouse is here
+};
+
+}  // namespace brelex
