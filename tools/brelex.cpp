@@ -50,23 +50,21 @@ void AddChoice(CLI::App& command, const char* name, const char* typeName, const 
 void AddBuild(CLI::App& app, brelex::BuildRequest& request) {
     request.date = BRELEX_DATA_DATE;
     request.output = brelex::kDatabaseName;
-    CLI::App* const command = app.add_subcommand("build", "Makes a database file");
-    command->add_option("--version", request.version, "The database's version, 1.0 if not given")
+    CLI::App* const command = app.add_subcommand("build", "Build a database file");
+    command->add_option("--version", request.version, "Version of the data (default: 1.0)")
         ->type_name("N.N");
-    command
-        ->add_option("--date", request.date, "Its release date, " BRELEX_DATA_DATE " if not given")
+    command->add_option("--date", request.date, "Release date (default: " BRELEX_DATA_DATE ")")
         ->type_name("YYYY-MM-DD");
     command
         ->add_option("--search-list", request.searchList,
-                     "Suggested search texts, parted by commas")
+                     "Suggested search texts, separated by commas")
         ->type_name("TEXTS");
-    command
-        ->add_option("-o,--output", request.output, "The file to write, Acronyms.dat if not given")
+    command->add_option("-o,--output", request.output, "File to write (default: Acronyms.dat)")
         ->type_name("FILE");
     command
         ->add_option("INPUT", request.inputs,
-                     "UTF-8 .tsv files (abbreviation, TAB, expansion) and dictd "
-                     "dictionaries (NAME.index beside NAME.dict.dz)")
+                     "UTF-8 .tsv files (abbreviation, TAB, expansion) or dictd "
+                     "dictionaries (NAME.index next to NAME.dict.dz)")
         ->required()
         ->type_name("");
 }
@@ -74,36 +72,38 @@ void AddBuild(CLI::App& app, brelex::BuildRequest& request) {
 void AddSearch(CLI::App& app, brelex::SearchOptions& options) {
     using brelex::SearchIn;
     using brelex::SearchPosition;
-    CLI::App* const command = app.add_subcommand("search", "Prints the entries that match a text");
+    CLI::App* const command = app.add_subcommand("search", "Find the entries that match a text");
     command
         ->add_option("TEXT", options.request.text,
-                     "? any character, # any digit, [a-n] a range, [!a-n] all but it")
+                     "Text to find: ? is any character, # any digit, [a-n] a range, "
+                     "[!a-n] anything outside it")
         ->required()
         ->type_name("");
-    AddChoice(*command, "--in", "PART", "abbreviations or expansions (if not given)",
+    AddChoice(*command, "--in", "PART", "What to search: abbreviations or expansions (default)",
               options.request.in,
               {{"abbreviations", SearchIn::Abbreviations}, {"expansions", SearchIn::Expansions}});
-    AddChoice(*command, "--position", "WHERE", "anywhere (if not given), beginning or ending",
+    AddChoice(*command, "--position", "WHERE",
+              "Where the text must be: anywhere (default), beginning or ending",
               options.request.position,
               {{"anywhere", SearchPosition::Anywhere},
                {"beginning", SearchPosition::Beginning},
                {"ending", SearchPosition::Ending}});
-    command->add_flag("--match-case", options.request.matchCase, "Capitals are no small letters");
-    command->add_flag("--whole-word", options.request.wholeWord, "The text stands alone");
-    command->add_option("--from", options.from, "The number of the entry to begin at, 1 the first")
+    command->add_flag("--match-case", options.request.matchCase, "Match case");
+    command->add_flag("--whole-word", options.request.wholeWord, "Match whole words only");
+    command->add_option("--from", options.from, "Number of the entry to start at (default: 1)")
         ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description(""))
         ->type_name("N");
-    command->add_flag("--all", options.all, "All that match, not the first 500");
-    command->add_flag("--json", options.json, "An array of JSON");
+    command->add_flag("--all", options.all, "Print every match, not just the first 500");
+    command->add_flag("--json", options.json, "Print a JSON array");
 }
 
 void AddAnagram(CLI::App& app, std::string& letters, bool& json) {
     CLI::App* const command =
-        app.add_subcommand("anagram", "Prints the entries that letters in any order give");
-    command->add_option("LETTERS", letters, "The letters of an abbreviation")
+        app.add_subcommand("anagram", "Find abbreviations made of these letters");
+    command->add_option("LETTERS", letters, "Letters of an abbreviation, in any order")
         ->required()
         ->type_name("");
-    command->add_flag("--json", json, "An array of JSON");
+    command->add_flag("--json", json, "Print a JSON array");
 }
 
 }  // namespace
@@ -111,7 +111,7 @@ void AddAnagram(CLI::App& app, std::string& letters, bool& json) {
 // What is thrown here beyond the parser's errors is "out of memory".
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
     const brelex::Utf8Terminal terminal;
-    CLI::App app("Looks abbreviations up and makes databases for Brevilexicon.", "brelex");
+    CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);
     // On Windows, too, "/x" is a text to look up or the path of a file.
     app.allow_windows_style_options(false);
@@ -119,18 +119,18 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     app.fallthrough();
     std::string database;
     app.add_option("-d,--database", database,
-                   "The database file; without it, Acronyms.dat beside this program")
+                   "Database file to read (default: Acronyms.dat in this program's folder)")
         ->type_name("FILE");
     brelex::BuildRequest build;
     AddBuild(app, build);
-    app.add_subcommand("info", "Prints the database's header");
-    app.add_subcommand("dump", "Prints all records as UTF-8 TSV");
-    app.add_subcommand("check", "Says what is wrong with the database");
-    auto* lookupCommand = app.add_subcommand(
-        "lookup", "Prints the entry that typing a text in the program would select");
+    app.add_subcommand("info", "Show facts about the database");
+    app.add_subcommand("dump", "Print all entries as UTF-8 TSV");
+    app.add_subcommand("check", "Check the database for errors");
+    auto* lookupCommand =
+        app.add_subcommand("lookup", "Look up abbreviations by their first letters");
     std::vector<std::string> texts;
     lookupCommand
-        ->add_option("TEXT", texts, "First letters of an abbreviation; - reads lines from input")
+        ->add_option("TEXT", texts, "First letters of an abbreviation; - reads standard input")
         ->required()
         ->type_name("");
     brelex::SearchOptions search;
@@ -150,7 +150,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     std::ios::sync_with_stdio(false);
     if (app.got_subcommand("build")) {
         if (!database.empty()) {
-            std::cerr << "brelex: build reads no database; name the file to write with -o\n";
+            std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
             return brelex::kFailed;
         }
         return Finished(brelex::RunBuild(build, std::cout, std::cerr));

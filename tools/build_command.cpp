@@ -43,7 +43,8 @@ void ReadInput(const std::string& input, std::vector<std::string>& records, Inpu
     } else if (path.extension() == ".dict") {
         ReadDictdPair(fs::path(path).replace_extension(".index"), records, report);
     } else {
-        report.errors.push_back(input + ": neither .tsv nor a dictd dictionary (.index, .dict.dz)");
+        report.errors.push_back(input +
+                                ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
     }
 }
 
@@ -97,18 +98,21 @@ std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
         const std::string_view item = TrimBlanks(rest.substr(0, end));
         rest.remove_prefix(std::min(end + 1, rest.size()));
         if (item.find('1') != std::string_view::npos) {
-            reason = "the digit 1 parts the items of the search list, so none may hold it: " +
-                     std::string(item);
+            reason =
+                "search-list items must not contain the digit 1, which separates them in "
+                "the file: " +
+                std::string(item);
             return std::nullopt;
         }
         if (std::any_of(item.begin(), item.end(),
                         [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; })) {
-            reason = "the search list holds a control character";
+            reason = "the search list contains a control character";
             return std::nullopt;
         }
         const EncodedText encoded = BytesOfUtf8(item);
         if (!encoded.complete) {
-            reason = "the search list holds a character outside Windows-1252: " + std::string(item);
+            reason =
+                "the search list contains a character outside Windows-1252: " + std::string(item);
             return std::nullopt;
         }
         if (!item.empty()) {
@@ -116,8 +120,8 @@ std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
         }
     }
     if (list.size() > kMostCharacters) {
-        reason = "the search list has " + std::to_string(list.size()) +
-                 " characters; there is room for 1024";
+        reason =
+            "the search list has " + std::to_string(list.size()) + " characters, but only 1024 fit";
         return std::nullopt;
     }
     return list;
@@ -151,10 +155,11 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
         blockBytes += record.size() + 1;
     }
     if (blockBytes > kMaxExpandedBytes - kHeaderBytes) {
-        report.errors.emplace_back("the entries take more than the 1 GiB that the program reads");
+        report.errors.emplace_back(
+            "the entries take up more than the 1 GiB that the program can read");
     }
     if (report.errors.empty() && content.records.empty()) {
-        report.errors.emplace_back("the inputs hold no entry");
+        report.errors.emplace_back("the inputs contain no entries");
     }
     if (!report.errors.empty()) {
         for (const std::string& error : report.errors) {

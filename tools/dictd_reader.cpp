@@ -238,7 +238,7 @@ void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
         const bool header = line.starts_with("00database") || line.starts_with("00-database");
         const auto entries = header ? EntriesOfHeaderArticle(*article) : EntriesOfArticle(*article);
         if (entries.empty() && !header) {
-            report.warnings.push_back(place + ": no expansion, left out");
+            report.warnings.push_back(place + ": no expansion; entry left out");
         }
         for (const DictdEntry& entry : entries) {
             AddEntry(entry.abbreviation, entry.expansion, place, records, report);

@@ -25,14 +25,14 @@ std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed)
     for (const char32_t c : DecodeUtf8(text)) {
         if (c == '\t') {
             if (!tabAllowed) {
-                return "holds a TAB";
+                return "contains a TAB";
             }
         } else if (c == 0) {
-            return "holds a NUL";
+            return "contains a NUL";
         } else if (IsControl(c)) {
-            return "holds a control character";
+            return "contains a control character";
         } else if (!ByteOfCharacter(c)) {
-            return "holds a character outside Windows-1252, or is not UTF-8";
+            return "contains a character outside Windows-1252, or is not UTF-8";
         }
     }
     return std::nullopt;
@@ -53,7 +53,7 @@ void AddEntry(std::string_view abbreviation, std::string_view expansion, const s
     const std::string bytes = BytesOfUtf8(abbreviation).bytes;
     if (!std::all_of(bytes.begin(), bytes.end(), [](char c) { return WeightOf(c).IsPlain(); })) {
         report.warnings.push_back(place + ": the abbreviation " + std::string(abbreviation) +
-                                  " holds an accent, ligature, superscript or soft hyphen; "
+                                  " contains an accent, ligature, superscript or soft hyphen; "
                                   "look-ups may miss it");
     }
     records.push_back(bytes + "\t" + BytesOfUtf8(expansion).bytes);

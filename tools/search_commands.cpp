@@ -14,7 +14,7 @@ namespace brelex {
 int RunSearch(const std::string& database, const SearchOptions& options, std::ostream& out,
               std::ostream& err) {
     if (options.request.text.empty()) {
-        err << "brelex: there is no text to search for\n";
+        err << "brelex: the search text is empty\n";
         return kFailed;
     }
     if (const auto refusal = RefusalOf(options.request)) {
@@ -45,8 +45,8 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
     }
     err << NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size())) << "\n";
     if (outcome.limitReached) {
-        err << "There are more: go on with --from " << outcome.nextPosition + 1
-            << ", or ask for --all.\n";
+        err << "There are more hits: continue with --from " << outcome.nextPosition + 1
+            << ", or use --all.\n";
     }
     return outcome.hits.empty() ? kNothingFound : kFound;
 }

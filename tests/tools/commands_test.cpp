@@ -223,14 +223,15 @@ INSTANTIATE_TEST_SUITE_P(
         BadRequest{"VersionWithTwoPoints", WithVersion("2..1"), "not of the form N.N: 2..1"},
         BadRequest{"Date", WithDate("2026-02-30"), "not a day of the form YYYY-MM-DD: 2026-02-30"},
         BadRequest{"DigitOneInTheSearchList", WithList("network,802.11"),
-                   "the digit 1 parts the items of the search list, so none may hold it: 802.11"},
+                   "search-list items must not contain the digit 1, which separates them in "
+                   "the file: 802.11"},
         BadRequest{"LongSearchList", WithList(std::string(1025, 'x')),
-                   "the search list has 1025 characters; there is room for 1024"},
+                   "the search list has 1025 characters, but only 1024 fit"},
         BadRequest{"SearchListOutsideTheCodePage", WithList("日本"), "outside Windows-1252: 日本"},
         BadRequest{"ControlCharacterInTheSearchList", WithList("net\twork"),
-                   "the search list holds a control character"},
+                   "the search list contains a control character"},
         BadRequest{"UnknownKindOfInput", WithInput("list.csv"),
-                   "list.csv: neither .tsv nor a dictd dictionary"},
+                   "list.csv: neither a .tsv file nor a dictd dictionary"},
         BadRequest{"MissingInput", WithInput("no.tsv"), "no.tsv: cannot be read"}),
     CaseName());
 
@@ -251,7 +252,7 @@ TEST_F(CommandsTest, AnEmptyInputIsRefused) {
     BuildRequest request;
     request.inputs = {folder_.Write("empty.tsv", "\n")};
     EXPECT_EQ(Build(request), 2);
-    EXPECT_EQ(err_.str(), "brelex: the inputs hold no entry\n");
+    EXPECT_EQ(err_.str(), "brelex: the inputs contain no entries\n");
 }
 
 TEST_F(CommandsTest, ARefusedBuildLeavesTheOldFile) {

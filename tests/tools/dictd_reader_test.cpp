@@ -150,7 +150,7 @@ TEST_F(ReadDictdPairTest, AnEntryWithoutExpansionIsLeftOutWithAWarning) {
     Read();
     EXPECT_TRUE(report_.errors.empty());
     ASSERT_EQ(report_.warnings.size(), 1U);
-    EXPECT_TRUE(report_.warnings[0].ends_with("my.index:1: no expansion, left out"));
+    EXPECT_TRUE(report_.warnings[0].ends_with("my.index:1: no expansion; entry left out"));
 }
 
 }  // namespace

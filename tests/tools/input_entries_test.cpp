@@ -72,22 +72,22 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"BlankAbbreviation", "  \tx", "the abbreviation is empty"},
         BadLine{"EmptyExpansion", "ABC\t", "the expansion is empty"},
         BadLine{"ExpansionOfTabs", "ABC\t\t ", "the expansion is empty"},
-        BadLine{"NulInAbbreviation", std::string("A\0B\tx", 5), "the abbreviation holds a NUL"},
-        BadLine{"NulInExpansion", std::string("AB\tx\0", 5), "the expansion holds a NUL"},
-        BadLine{"ControlCharacter", "A\x1B\tx", "the abbreviation holds a control character"},
-        BadLine{"Delete", "AB\tx\x7F", "the expansion holds a control character"},
-        BadLine{"UpperControl", "AB\tx\u0085", "the expansion holds a control character"},
+        BadLine{"NulInAbbreviation", std::string("A\0B\tx", 5), "the abbreviation contains a NUL"},
+        BadLine{"NulInExpansion", std::string("AB\tx\0", 5), "the expansion contains a NUL"},
+        BadLine{"ControlCharacter", "A\x1B\tx", "the abbreviation contains a control character"},
+        BadLine{"Delete", "AB\tx\x7F", "the expansion contains a control character"},
+        BadLine{"UpperControl", "AB\tx\u0085", "the expansion contains a control character"},
         BadLine{"OutsideTheCodePage", "AB\t日本",
-                "the expansion holds a character outside Windows-1252, or is not UTF-8"},
+                "the expansion contains a character outside Windows-1252, or is not UTF-8"},
         BadLine{"NotUtf8", "AB\t\xFF",
-                "the expansion holds a character outside Windows-1252, or is not UTF-8"}),
+                "the expansion contains a character outside Windows-1252, or is not UTF-8"}),
     CaseName());
 
 TEST(AddEntry, ATabInTheAbbreviationIsRefused) {
     std::vector<std::string> records;
     InputReport report;
     AddEntry("A\tB", "x", "here:1", records, report);
-    EXPECT_EQ(report.errors, std::vector<std::string>{"here:1: the abbreviation holds a TAB"});
+    EXPECT_EQ(report.errors, std::vector<std::string>{"here:1: the abbreviation contains a TAB"});
     EXPECT_TRUE(records.empty());
 }
 
@@ -100,7 +100,7 @@ TEST_P(AccentTest, InTheAbbreviationIsWarnedOfButKept) {
     EXPECT_EQ(records.size(), 1U);
     ASSERT_EQ(report.warnings.size(), 1U);
     EXPECT_EQ(report.warnings[0], "here:1: the abbreviation " + std::string(GetParam()) +
-                                      " holds an accent, ligature, superscript or soft hyphen; "
+                                      " contains an accent, ligature, superscript or soft hyphen; "
                                       "look-ups may miss it");
 }
 

@@ -102,15 +102,16 @@ TEST_F(SearchCommandTest, RefusesWithTheWindowsMessage) {
     EXPECT_EQ(Search(For("x[abc")), 2);
     EXPECT_EQ(err_.str().rfind("The pattern string is invalid. ", 0), 0U);
     EXPECT_EQ(Search(For("")), 2);
-    EXPECT_EQ(err_.str(), "brelex: there is no text to search for\n");
+    EXPECT_EQ(err_.str(), "brelex: the search text is empty\n");
     EXPECT_EQ(out_.str(), "");
 }
 
 TEST_F(SearchCommandTest, AtTheLimitItSaysWhereToGoOn) {
     Use(NumberedRecords(600));
     EXPECT_EQ(Search(For("?")), 0);
-    EXPECT_EQ(err_.str(),
-              "Number of Hits: 500\nThere are more: go on with --from 501, or ask for --all.\n");
+    EXPECT_EQ(
+        err_.str(),
+        "Number of Hits: 500\nThere are more hits: continue with --from 501, or use --all.\n");
     SearchOptions rest = For("?");
     rest.from = 501;
     EXPECT_EQ(Search(rest), 0);
