@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# embed_text(TARGET FILE NAME): makes the text file available to TARGET's sources as the constant
+# embed_text(TARGET FILE NAME): makes the text of FILE available to TARGET's sources as the constant
 # NAME (const char[]), declared in "embedded/NAME.h".
 function(embed_text target file name)
   set(header "${CMAKE_BINARY_DIR}/embedded/${name}.h")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The help book: a ZIP archive of the pages in help/, and the read-me, beside the programs.
+# Puts the help book, a ZIP archive of the pages in help/, and the read-me into the programs' folder.
 file(GLOB help_pages RELATIVE "${CMAKE_SOURCE_DIR}/help" CONFIGURE_DEPENDS
      "${CMAKE_SOURCE_DIR}/help/*.html" "${CMAKE_SOURCE_DIR}/help/brelex.hh?"
      "${CMAKE_SOURCE_DIR}/help/pictures/*.png")
@@ -17,8 +17,8 @@ add_custom_command(OUTPUT "${read_me}"
   VERBATIM)
 add_custom_target(help_book ALL DEPENDS "${help_book}" "${read_me}")
 
-# On Linux the desktop learns from a MIME type and a desktop entry which program shows the book.
-# For a build tree both stand in its share/, which XDG_DATA_DIRS can name.
+# On Linux a MIME type and a desktop entry tell the desktop which program shows the book. A build tree
+# has both in its share/, which you can add to XDG_DATA_DIRS.
 if(NOT WIN32)
   set(HELP_PROGRAM "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/brelex-help")
   set(share "${CMAKE_BINARY_DIR}/share")
@@ -26,7 +26,7 @@ if(NOT WIN32)
                  "${share}/applications/brelex-help.desktop" @ONLY)
   configure_file("${CMAKE_SOURCE_DIR}/packaging/linux/brelex-help-type.xml"
                  "${share}/mime/packages/brelex-help-type.xml" COPYONLY)
-  # What update-desktop-database would write.
+  # This is what update-desktop-database would write.
   file(WRITE "${share}/applications/mimeinfo.cache"
        "[MIME Cache]\napplication/x-brelex-help=brelex-help.desktop;\n")
   find_program(UPDATE_MIME_DATABASE update-mime-database)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Cross build for 32-bit Windows with Debian's g++-mingw-w64-i686-posix.
-# WX_PREFIX (cache variable or environment): where wxWidgets for this target is installed, if it is
-# not where scripts/windows/build_wx puts it.
+# The cross build for 32-bit Windows with Debian's g++-mingw-w64-i686-posix.
+# WX_PREFIX (cache variable or environment) says where wxWidgets for this target is installed. The
+# default is where scripts/windows/build_wx puts it.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86)
 set(triplet i686-w64-mingw32)
@@ -20,7 +20,7 @@ if(WX_PREFIX STREQUAL "")
 endif()
 set(WX_PREFIX "${WX_PREFIX}" CACHE PATH "Prefix of the cross-built wxWidgets")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES WX_PREFIX)
-# wx-config answers with real paths, and what is below no root path is not found.
+# wx-config reports real paths, and CMake finds only files below a root path.
 file(REAL_PATH "${WX_PREFIX}" wx_real)
 set(CMAKE_FIND_ROOT_PATH /usr/${triplet} ${WX_PREFIX} ${wx_real})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
@@ -28,20 +28,21 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(wxWidgets_CONFIG_EXECUTABLE "${WX_PREFIX}/bin/wx-config" CACHE FILEPATH "" FORCE)
-# Every processor that Windows 7 with its updates runs on has SSE2, but the compiler's default is
-# older: loops would not become vector instructions, and numbers would pass through the x87 unit. The
-# compiler then also realigns the stack where the system calls in with one aligned to 4 bytes only.
+# Every processor that runs Windows 7 with its updates has SSE2. The compiler's default is older: it would
+# not turn loops into vector instructions and would pass numbers through the x87 unit. With these flags
+# the compiler also realigns the stack where the system calls in with a stack aligned to only 4 bytes.
 set(CMAKE_C_FLAGS_INIT "-msse2 -mfpmath=sse")
 set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
-# Windows 7 or later. No structured exception handlers: this compiler's exceptions are of the kind
-# dwarf2, and neither its runtime nor the toolkit registers a handler of the old chain, so the system
-# need accept none that an attacker plants. Addresses may lie above 2 GiB.
+# The programs need Windows 7 or later. They use no structured exception handlers: this compiler's
+# exceptions are of the dwarf2 kind, and neither its runtime nor the toolkit registers a handler in the
+# old chain. So the system does not have to accept a handler that an attacker plants. Addresses may be
+# above 2 GiB.
 string(CONCAT CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--gc-sections"
   " -Wl,--major-os-version,6 -Wl,--minor-os-version,1"
   " -Wl,--major-subsystem-version,6 -Wl,--minor-subsystem-version,1"
   " -Wl,--nxcompat -Wl,--dynamicbase -Wl,--no-seh -Wl,--large-address-aware")
-# Without symbols, which are almost half of a program.
+# Strip the symbols, which make up almost half of a program.
 set(CMAKE_EXE_LINKER_FLAGS_RELEASE_INIT "-s")
-# ctest, and whatever else runs a program that was built, does so under Wine.
+# ctest, and anything else that runs a built program, runs it under Wine.
 set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../scripts/windows/wine32"
     CACHE FILEPATH "")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The warnings of our own code. The presets turn them into errors.
+# The warnings for our own code. The presets turn them into errors.
 add_library(brelex_warnings INTERFACE)
 target_compile_options(brelex_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
@@ -7,5 +7,5 @@ target_compile_options(brelex_warnings INTERFACE
   -Wmissing-declarations -Wundef -Wextra-semi
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>
   $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
-  # GCC 12 takes "text" + std::to_string(n) for overlapping memory (its bug 105329).
+  # GCC 12 mistakes "text" + std::to_string(n) for overlapping memory (its bug 105329).
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)

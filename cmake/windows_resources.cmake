@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# windows_resources(PROGRAM DESCRIPTION [TOOLKIT]): gives a program for Windows its icon, version
-# information and manifest; with TOOLKIT the toolkit's own resources (cursors), too.
+# windows_resources(PROGRAM DESCRIPTION [TOOLKIT]): gives a Windows program its icon, version
+# information and manifest. With TOOLKIT it also adds the toolkit's own resources (cursors).
 enable_language(RC)
 find_program(RSVG_CONVERT rsvg-convert)
 find_program(ICOTOOL icotool)
@@ -22,7 +22,7 @@ if(RSVG_CONVERT AND ICOTOOL)
     COMMENT "Drawing the program's icon" VERBATIM)
   add_custom_target(program_ico DEPENDS "${program_ico}")
 else()
-  message(WARNING "Without rsvg-convert and icotool the programs get no icon of their own.")
+  message(WARNING "The programs get no icon, because rsvg-convert or icotool is missing.")
 endif()
 
 function(windows_resources program program_description)
@@ -36,7 +36,8 @@ function(windows_resources program program_description)
   endif()
   set(source "${CMAKE_BINARY_DIR}/${program}.rc")
   configure_file("${CMAKE_SOURCE_DIR}/app/windows/program.rc.in" "${source}" @ONLY)
-  # A library of its own, as a program's compile options are none for the resource compiler.
+  # This is a separate library because the resource compiler does not understand a program's compile
+  # options.
   add_library(${program}_resources OBJECT "${source}")
   target_include_directories(${program}_resources PRIVATE ${wxWidgets_INCLUDE_DIRS})
   set_source_files_properties("${source}" PROPERTIES OBJECT_DEPENDS

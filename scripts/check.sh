@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# check.sh [FILE...]: layout, layers and lint of the code, all of it or that of some sources.
+# check.sh [FILE...]: checks the layout, the layers and the lint of the code. With FILEs, it lints only
+# those sources.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -13,7 +14,7 @@ clang-format --dry-run -Werror "${code[@]}" || fail "run clang-format -i on thes
 step "layers"
 scripts/check_layers.sh || fail "the layers are broken"
 step "lint"
-# The generated headers must be there.
+# The linter needs the generated headers.
 configure_and_build dev
 need_windows
 [ -f build/win32/build.ninja ] || cmake --preset win32 || fail "configuring win32 failed"
@@ -23,7 +24,7 @@ if [ $# = 0 ]; then
 else
     sources=("$@")
 fi
-# lint PRESET ARG...: the sources on its input, two at a time.
+# lint PRESET ARG...: lints the sources named on its input, two at a time.
 lint() {
     local preset=$1; shift
     xargs -r -P "$(nproc)" -n 2 clang-tidy -p "build/$preset" --quiet \
@@ -32,8 +33,8 @@ lint() {
 }
 windows_source='_msw\.cpp$|(^|/)windows_[a-z_]*\.cpp$'
 { printf '%s\n' "${sources[@]}" | grep -vE "$windows_source" || true; } | lint dev
-# clang has no C++ library for that target: it takes the cross compiler's. Windows passes pointers as
-# numbers and names its pointer types as if they were none.
+# clang has no C++ library for this target, so it uses the cross compiler's. Two checks are off because
+# Windows passes pointers as numbers and hides pointers behind its type names.
 cxx=$(dirname "$(i686-w64-mingw32-g++-posix -print-libgcc-file-name)")/include/c++
 { printf '%s\n' "${sources[@]}" | grep -E "$windows_source" || true; } |
     lint win32 --checks=-misc-misplaced-const,-performance-no-int-to-ptr \

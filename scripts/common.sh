@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Shared by the scripts; to be sourced.
+# Functions that the scripts share. Source this file.
 
 step() { printf '\n== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
@@ -14,7 +14,7 @@ as_root() {
     fi
 }
 
-# need_packages NAME...: installs the Debian packages that are missing.
+# need_packages NAME...: installs those of the Debian packages that are missing.
 need_packages() {
     local missing=() package
     for package in "$@"; do
@@ -37,14 +37,14 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux trayer xfwm4 metacity)
 
-# What building and running the Windows program takes beyond packages.
+# Installs what it takes to build and run the Windows program: packages, wxWidgets and Wine.
 need_windows() {
     need_packages "${windows_packages[@]}" "$@"
     scripts/windows/build_wx || fail "wxWidgets for Windows could not be built"
     scripts/windows/setup_wine || fail "the 32-bit Wine could not be set up"
 }
 
-# configure_and_build PRESET [TARGET...]
+# configure_and_build PRESET [TARGET...]: configures the preset if necessary and builds it.
 configure_and_build() {
     local preset=$1; shift
     step "building ($preset)"

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # help_pictures.sh FOLDER COMMAND...: starts the program on the current display, opens its windows
-# with keys and writes pictures of them for the help.
+# with simulated keys and saves pictures of them for the help.
 set -euo pipefail
 folder=$1
 shift
 "$@" & pid=$!
 trap 'kill $pid 2>/dev/null' EXIT
-# wait_for TITLE: until a window whose title begins so is active.
+# wait_for TITLE: waits until a window whose title begins with TITLE is active.
 wait_for() {
     for _ in $(seq 200); do
         [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1"* ]] && { sleep 0.7; return; }
@@ -18,15 +18,15 @@ wait_for() {
     exit 1
 }
 keys() { local key; for key in "$@"; do xdotool key "$key"; sleep 0.15; done; }
-# At most 600 pixels wide, with an edge that sets them off from the page, in few colours and without a
-# date, so that the files stay small and the same.
+# Saves a picture of the active window. It is at most 600 pixels wide, with a border that sets it off from
+# the page. Few colors keep the file small; without a date, the file stays the same each time.
 picture() {
     import -window "$(xdotool getactivewindow)" -resize '598x>' -bordercolor '#a0a0a0' -border 1 \
         +dither -colors 128 -strip \
         -define png:exclude-chunks=date,time png8:"$folder/$1.png"
 }
 
-xdotool mousemove 1 1  # away from what has a tool tip
+xdotool mousemove 1 1  # away from anything with a tooltip
 wait_for "Brevilexicon ("
 xdotool type --delay 40 ram
 sleep 0.5

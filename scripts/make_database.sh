@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# make_database.sh FOLDER: makes Acronyms.dat in the folder of the built programs from the
-# entries in data/ and the V.E.R.A. list of Debian's package dict-vera. The package is fetched by
-# name and only unpacked. Without it the database is made from data/ alone.
+# make_database.sh FOLDER: builds Acronyms.dat in the folder of the built programs from the entries in
+# data/ and the V.E.R.A. list in Debian's package dict-vera. It downloads the package and unpacks it
+# without installing it. If it cannot get the package, it builds the database from data/ alone.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -24,7 +24,7 @@ find_vera() {
     if [ ! -f "$vera/vera.index" ]; then
         rm -rf "$vera.part"
         mkdir -p "$vera.part/package"
-        # What apt says goes to the error output: the path is all that this function prints.
+        # Send apt's output to the error output, because this function must print only the path.
         (cd "$vera.part" && apt-get -q download dict-vera && dpkg-deb -x dict-vera_*.deb package) \
             >&2 || return 1
         mv "$vera.part"/package/usr/share/dictd/vera.* "$vera.part/"
@@ -39,7 +39,7 @@ inputs=(data/*.tsv)
 if index=$(find_vera); then
     inputs+=("$index")
 else
-    echo "make_database: the package dict-vera cannot be had; using data/*.tsv alone" >&2
+    echo "make_database: cannot get the package dict-vera; using data/*.tsv alone" >&2
 fi
 
 newest=$(ls -t "${inputs[@]}" data/search-words.txt "$brelex" | head -1)
@@ -48,7 +48,7 @@ if [ -f "$output" ] && [ ! "$newest" -nt "$output" ] &&
     [ "$(cat "$stamp" 2>/dev/null)" = "${inputs[*]}" ]; then
     exit 0
 fi
-step "making the database"
+step "building the database"
 $emulator "$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" "${inputs[@]}" ||
-    fail "the database could not be made"
+    fail "could not build the database"
 echo "${inputs[*]}" > "$stamp"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# pictures.sh: takes the pictures of the main window in docs/images/, one on each system, and those
-# of the help.
+# pictures.sh: takes the pictures of the main window for docs/images/, one on each system, and the
+# pictures for the help.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

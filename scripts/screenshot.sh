@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# screenshot.sh PICTURE TEXT COMMAND...: starts the program on the current display, types TEXT into
-# it if there is any, and writes a picture of its main window.
+# screenshot.sh PICTURE TEXT COMMAND...: starts the program on the current display, types TEXT into it
+# unless TEXT is empty, and saves a picture of its main window.
 set -euo pipefail
 picture=$1 text=$2
 shift 2

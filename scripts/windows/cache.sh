@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
-# Shared by the scripts of this folder; to be sourced.
+# Functions that the scripts in this folder share. Source this file.
 
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/brevilexicon
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
-# Of Debian's package sources only the release itself is used: an update suite that is being synced
-# may list versions that its mirror does not hold yet. Prints "MIRROR CODENAME".
+# Prints "MIRROR CODENAME" of Debian's release. The scripts use only the release itself, because an
+# update suite that is being synced may list versions that its mirror does not have yet.
 release_suite() {
     local codename
     codename=$(. /etc/os-release; echo "$VERSION_CODENAME")
@@ -15,10 +15,10 @@ release_suite() {
         fail "apt knows no package list of $codename (apt-get update?)"
 }
 
-# up_to_date STAMP KEY: whether the stamp file says that this very version is there.
+# up_to_date STAMP KEY: succeeds if the stamp file contains this very key.
 up_to_date() { [ "$(cat "$1" 2>/dev/null)" = "$2" ]; }
 
-# One at a time: two clones share the cache.
+# Lets only one script at a time change the cache, which all clones share.
 lock_cache() {
     mkdir -p "$cache"
     exec 8>"$cache/.lock"
