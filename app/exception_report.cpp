@@ -19,9 +19,9 @@ std::string TextOfCaughtException() {
     } catch (const std::bad_alloc&) {
         return "There is not enough memory for that.";
     } catch (const std::exception& failure) {
-        return std::string("That could not be done: ") + failure.what();
+        return std::string("The operation failed: ") + failure.what();
     } catch (...) {
-        return "That could not be done.";
+        return "The operation failed.";
     }
 }
 

@@ -41,8 +41,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ExceptionCase{"NoMemory", [] { throw std::bad_alloc(); },
                                   "There is not enough memory for that."},
                     ExceptionCase{"AReason", [] { throw std::runtime_error("no such thing"); },
-                                  "That could not be done: no such thing"},
-                    ExceptionCase{"NoReason", [] { throw 1; }, "That could not be done."}),
+                                  "The operation failed: no such thing"},
+                    ExceptionCase{"NoReason", [] { throw 1; }, "The operation failed."}),
     CaseName());
 
 class ExceptionInHandler : public MainWindowTest {};
