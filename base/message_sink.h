@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "base/interface.h"
+
 namespace brelex {
 
 enum class MessageIcon {
@@ -33,13 +35,8 @@ struct Message {
 };
 
 /// Tells the user something and waits for the answer.
-class MessageSink {
+class MessageSink : public Interface {
   public:
-    MessageSink() = default;
-    MessageSink(const MessageSink&) = delete;
-    MessageSink& operator=(const MessageSink&) = delete;
-    virtual ~MessageSink() = default;
-
     /// Returns Ok for a message with an OK button, Yes or No for a question. Closing a question
     /// without an answer counts as No.
     virtual MessageAnswer Show(const Message& message) = 0;

@@ -4,16 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "base/interface.h"
+
 namespace brelex {
 
 /// The temporary folder and how a file is made in it. Paths are UTF-8.
-class TemporaryFiles {
+class TemporaryFiles : public Interface {
   public:
-    TemporaryFiles() = default;
-    TemporaryFiles(const TemporaryFiles&) = delete;
-    TemporaryFiles& operator=(const TemporaryFiles&) = delete;
-    virtual ~TemporaryFiles() = default;
-
     /// The user's temporary folder, ending in the separator, as the system names it; it need not
     /// exist. Empty if the system names none.
     [[nodiscard]] virtual std::string GetTempFolder() const = 0;
