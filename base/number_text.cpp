@@ -7,19 +7,13 @@
 #include <cmath>
 #include <cstddef>
 #include <system_error>
+#include <utility>
+
+#include "base/text.h"
 
 namespace brelex {
 
 namespace {
-
-std::string_view TrimWhitespace(std::string_view text) {
-    constexpr std::string_view kWhitespace = " \t\r\n";
-    const auto first = text.find_first_not_of(kWhitespace);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kWhitespace) - first + 1);
-}
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -60,6 +54,19 @@ std::string Grouped(std::string_view digits, std::string_view separator) {
         text.push_back(digits[i]);
     }
     return text;
+}
+
+// A whole number in decimal digits, plus 1.
+std::string Incremented(std::string digits) {
+    std::size_t at = digits.size();
+    while (at > 0 && digits[at - 1] == '9') {
+        digits[--at] = '0';
+    }
+    if (at == 0) {
+        return "1" + digits;
+    }
+    ++digits[at - 1];
+    return digits;
 }
 
 }  // namespace
@@ -127,17 +134,13 @@ std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
     if (!std::isfinite(number)) {
         return digits;
     }
+    // The number of tenths, in digits: the number itself may be too large for any integer type.
     const std::size_t point = std::min(digits.find('.'), digits.size());
-    const bool roundUp = digits.size() > point + 2 && digits[point + 2] >= '5';
-    // Tenths as a whole number in text, counted up by one if need be.
     std::string tenths =
         digits.substr(0, point) + (digits.size() > point ? digits[point + 1] : '0');
-    if (roundUp) {
-        std::size_t at = tenths.size();
-        while (at > 0 && tenths[at - 1] == '9') {
-            tenths[--at] = '0';
-        }
-        at == 0 ? static_cast<void>(tenths.insert(0, 1, '1')) : static_cast<void>(++tenths[at - 1]);
+    const bool roundsUp = digits.size() > point + 2 && digits[point + 2] >= '5';
+    if (roundsUp) {
+        tenths = Incremented(std::move(tenths));
     }
     const std::string whole = tenths.substr(0, tenths.size() - 1);
     const bool negative = number < 0 && tenths.find_first_not_of('0') != std::string::npos;

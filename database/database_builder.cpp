@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/calendar_day.h"
+#include "base/text.h"
 #include "database/modCRC32.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
@@ -20,16 +21,8 @@ std::int32_t Int32(std::size_t number) {
     return static_cast<std::int32_t>(number);
 }
 
-std::size_t Letters(std::string_view text) {
-    return text.size() - static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
-}
-
 std::int32_t NearestAverage(std::size_t sum, std::size_t count) {
     return count == 0 ? 0 : Int32((2 * sum + count) / (2 * count));
-}
-
-char FoldToCapital(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
 void ComputeLengths(const std::vector<std::string_view>& records, DatabaseHeader& header) {
@@ -44,12 +37,14 @@ void ComputeLengths(const std::vector<std::string_view>& records, DatabaseHeader
         expansionSum += expansion.size();
         header.MaxAbbrvLength = std::max(header.MaxAbbrvLength, Int32(abbreviation.size()));
         header.MaxExpansionLength = std::max(header.MaxExpansionLength, Int32(expansion.size()));
-        if (Letters(abbreviation) > mostAbbreviationLetters) {
-            mostAbbreviationLetters = Letters(abbreviation);
+        const std::size_t abbreviationLetters = LetterCount(abbreviation);
+        const std::size_t expansionLetters = LetterCount(expansion);
+        if (abbreviationLetters > mostAbbreviationLetters) {
+            mostAbbreviationLetters = abbreviationLetters;
             header.LongestAbbrvIndex = Int32(i);
         }
-        if (Letters(expansion) > mostExpansionLetters) {
-            mostExpansionLetters = Letters(expansion);
+        if (expansionLetters > mostExpansionLetters) {
+            mostExpansionLetters = expansionLetters;
             header.LongestExpansionIndex = Int32(i);
         }
     }
@@ -62,13 +57,13 @@ void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHea
     for (const std::string_view record : records) {
         const std::string_view abbreviation = GetAbbreviation(record);
         if (!abbreviation.empty()) {
-            ++counts[static_cast<unsigned char>(FoldToCapital(abbreviation.front()))];
+            ++counts[static_cast<unsigned char>(AsciiCapital(abbreviation.front()))];
         }
     }
     // A second pass, so that of equally frequent letters the first in the file wins.
     for (const std::string_view record : records) {
         const std::string_view abbreviation = GetAbbreviation(record);
-        const char letter = abbreviation.empty() ? ' ' : FoldToCapital(abbreviation.front());
+        const char letter = abbreviation.empty() ? ' ' : AsciiCapital(abbreviation.front());
         const std::int32_t count = counts[static_cast<unsigned char>(letter)];
         if (count > header.CommonFirstLetterCount) {
             header.CommonFirstLetter = letter;

@@ -1,15 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "search/search_list.h"
 
-namespace brelex {
+#include "base/text.h"
 
-std::string_view TrimBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
+namespace brelex {
 
 std::vector<std::string> SearchListItems(std::string_view searchList) {
     std::vector<std::string> items;

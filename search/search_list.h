@@ -7,9 +7,6 @@
 
 namespace brelex {
 
-/// The text without blanks at its ends.
-[[nodiscard]] std::string_view TrimBlanks(std::string_view text);
-
 /// The suggested search texts of a database: its search list, trimmed, cut at every digit "1". An
 /// empty list has none.
 [[nodiscard]] std::vector<std::string> SearchListItems(std::string_view searchList);

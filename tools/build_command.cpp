@@ -9,13 +9,13 @@
 
 #include "base/calendar_day.h"
 #include "base/file_io.h"
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "database/database_builder.h"
 #include "database/database_check.h"
 #include "database/database_file.h"
 #include "database/szdd.h"
 #include "lookup/prefix_search.h"
-#include "search/search_list.h"
 #include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
 #include "tools/open_database.h"
@@ -94,9 +94,7 @@ std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
     std::string list;
     std::string_view rest = commaSeparated;
     while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(','), rest.size());
-        const std::string_view item = TrimBlanks(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const std::string_view item = TrimBlanks(TakePart(rest, ','));
         if (item.find('1') != std::string_view::npos) {
             reason =
                 "search-list items must not contain the digit 1, which separates them in "

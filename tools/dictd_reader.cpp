@@ -9,7 +9,7 @@
 #include <zlib.h>
 
 #include "base/file_io.h"
-#include "search/search_list.h"
+#include "base/text.h"
 
 namespace brelex {
 
@@ -20,9 +20,7 @@ namespace fs = std::filesystem;
 std::vector<std::string_view> SplitLines(std::string_view text) {
     std::vector<std::string_view> lines;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+        lines.push_back(TakePart(text, '\n'));
     }
     return lines;
 }
@@ -31,10 +29,9 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
 std::string HeadwordForm(std::string_view spelling) {
     std::string form;
     for (const char c : spelling) {
-        if (c >= 'a' && c <= 'z') {
-            form.push_back(static_cast<char>(c - 'a' + 'A'));
-        } else if ((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')) {
-            form.push_back(c);
+        const char capital = AsciiCapital(c);
+        if ((capital >= 'A' && capital <= 'Z') || (c >= '0' && c <= '9')) {
+            form.push_back(capital);
         }
     }
     return form;

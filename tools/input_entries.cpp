@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/file_io.h"
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "database/string_order.h"
 
@@ -73,9 +74,7 @@ void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& re
         rest.remove_prefix(kByteOrderMark.size());
     }
     for (std::size_t line = 1; !rest.empty(); ++line) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size());
-        std::string_view text = rest.substr(0, end);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        std::string_view text = TakePart(rest, '\n');
         if (text.ends_with('\r')) {
             text.remove_suffix(1);
         }

@@ -20,6 +20,7 @@
 #include <wx/utils.h>
 
 #include "base/scope.h"
+#include "base/text.h"
 #include "platform/list/text_columns.h"
 #include "platform/system/fine_timer.h"
 #include "platform/window/accessible_name.h"

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+namespace brelex {
+
+/// `text` without the blanks at its ends.
+[[nodiscard]] std::string_view TrimBlanks(std::string_view text);
+
+/// `text` without the blanks, TABs and line ends at its ends.
+[[nodiscard]] std::string_view TrimWhitespace(std::string_view text);
+
+/// Removes the part before the first `separator`, and the separator itself, from the front of
+/// `rest`. Returns that part. Without a separator, it is all of `rest`.
+[[nodiscard]] std::string_view TakePart(std::string_view& rest, char separator);
+
+/// The capital of an ASCII letter. Any other character is returned unchanged.
+[[nodiscard]] constexpr char AsciiCapital(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+}  // namespace brelex
