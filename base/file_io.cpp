@@ -7,19 +7,17 @@
 #include <fstream>
 #include <system_error>
 
+#include "base/text.h"
+
 namespace brelex {
 
 namespace fs = std::filesystem;
 
 namespace {
 
-char FoldAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool SameIgnoringCase(std::string_view one, std::string_view other) {
     return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](char a, char b) { return FoldAscii(a) == FoldAscii(b); });
+                      [](char a, char b) { return AsciiCapital(a) == AsciiCapital(b); });
 }
 
 bool IsFile(const fs::path& path) {
@@ -85,25 +83,27 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
                                                                : std::nullopt;
 }
 
-std::optional<std::string> ReplaceFile(const fs::path& path, std::string_view bytes) {
+bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why) {
     fs::path unfinished = path;
     unfinished += ".part";
-    std::error_code ignored;
-    fs::remove(unfinished, ignored);
+    const auto fail = [&](const std::string& reason) {
+        std::error_code ignored;
+        fs::remove(unfinished, ignored);
+        if (why != nullptr) {
+            *why = reason;
+        }
+        return false;
+    };
+    std::error_code error;
+    fs::remove(unfinished, error);
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
-    std::error_code error;
     if (file.fail()) {
-        fs::remove(unfinished, ignored);
-        return "cannot write " + Utf8OfPath(unfinished);
+        return fail("cannot write " + Utf8OfPath(unfinished));
     }
     fs::rename(unfinished, path, error);
-    if (error) {
-        fs::remove(unfinished, ignored);
-        return "cannot replace " + Utf8OfPath(path) + ": " + error.message();
-    }
-    return std::nullopt;
+    return !error || fail("cannot replace " + Utf8OfPath(path) + ": " + error.message());
 }
 
 }  // namespace brelex

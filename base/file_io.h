@@ -27,10 +27,10 @@ namespace brelex {
 /// does not fit into memory.
 [[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);
 
-/// Replaces the file at `path` by one with `bytes`, in one step: whoever reads it meanwhile gets
-/// the old content or the new. On failure returns the reason (for people) and leaves the old file
-/// as it was.
-[[nodiscard]] std::optional<std::string> ReplaceFile(const std::filesystem::path& path,
-                                                     std::string_view bytes);
+/// Replaces the file at `path` with one that contains `bytes`, in one step: a program that reads it
+/// meanwhile gets either the old content or the new. On failure, leaves the old file as it was,
+/// describes the reason in `why` (may be null) and returns false.
+[[nodiscard]] bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes,
+                               std::string* why = nullptr);
 
 }  // namespace brelex

@@ -180,8 +180,9 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
     for (const std::string& warning : report.warnings) {
         err << "brelex: warning: " << warning << "\n";
     }
-    if (const auto fault = ReplaceFile(PathOfUtf8(request.output), file)) {
-        return Refuse(err, *fault);
+    std::string why;
+    if (!ReplaceFile(PathOfUtf8(request.output), file, &why)) {
+        return Refuse(err, why);
     }
     out << request.output << ": " << built.header.RecordCount << " records, "
         << built.duplicatesDropped << " duplicates dropped, " << file.size() << " bytes ("

@@ -22,7 +22,7 @@ std::string FileOf(std::int64_t count) {
     if (path.empty()) {
         const auto file = std::filesystem::temp_directory_path() /
                           ("brelex-bench-" + std::to_string(count) + ".dat");
-        if (ReplaceFile(file, GeneratedDatabase(count))) {
+        if (!ReplaceFile(file, GeneratedDatabase(count))) {
             std::abort();
         }
         path = Utf8OfPath(file);

@@ -36,7 +36,7 @@ std::filesystem::path MimeTypePath(const std::filesystem::path& data) {
 bool Write(const std::filesystem::path& path, const std::string& text) {
     std::error_code error;
     std::filesystem::create_directories(path.parent_path(), error);
-    return !error && !ReplaceFile(path, text);
+    return !error && ReplaceFile(path, text);
 }
 
 bool UpdateMimeDatabase(const std::filesystem::path& data) {

@@ -46,7 +46,7 @@ bool SetRunAtStartup(const std::string& appFolder, const std::string& programNam
     const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
                               "\nExec=\"" + EscapedForExecLine(appFolder + programName) +
                               "\" /minimize\n";
-    return !error && !ReplaceFile(*file, entry);
+    return !error && ReplaceFile(*file, entry);
 }
 
 }  // namespace brelex

@@ -11,24 +11,30 @@ namespace {
 TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOne) {
     const TestFolder folder;
     const auto path = folder.Path() / "file";
-    EXPECT_EQ(ReplaceFile(path, "old"), std::nullopt);
-    EXPECT_EQ(ReplaceFile(path, "new"), std::nullopt);
+    EXPECT_TRUE(ReplaceFile(path, "old"));
+    EXPECT_TRUE(ReplaceFile(path, "new"));
     EXPECT_EQ(ReadText(path), "new");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
-TEST(ReplaceFile, AFailureLeavesTheOldContent) {
+TEST(ReplaceFile, AFailureLeavesTheOldContentAndSaysWhy) {
     const TestFolder folder;
     const auto path = folder.Path() / "file";
     std::filesystem::create_directory(path);  // cannot be replaced by a file
-    EXPECT_NE(ReplaceFile(path, "new"), std::nullopt);
+    std::string why;
+    EXPECT_FALSE(ReplaceFile(path, "new", &why));
+    EXPECT_TRUE(why.starts_with("cannot replace " + Utf8OfPath(path) + ": ")) << why;
     EXPECT_TRUE(std::filesystem::is_directory(path));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
 TEST(ReplaceFile, AMissingFolderIsAFailure) {
     const TestFolder folder;
-    EXPECT_NE(ReplaceFile(folder.Path() / "no" / "file", "new"), std::nullopt);
+    const auto path = folder.Path() / "no" / "file";
+    EXPECT_FALSE(ReplaceFile(path, "new"));
+    std::string why;
+    EXPECT_FALSE(ReplaceFile(path, "new", &why));
+    EXPECT_EQ(why, "cannot write " + Utf8OfPath(path) + ".part");
 }
 
 TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
@@ -38,6 +44,15 @@ TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
     EXPECT_EQ(ReadWholeFile(folder.Path() / "file")->View(), bytes);
     EXPECT_FALSE(ReadWholeFile(folder.Path() / "missing").has_value());
     EXPECT_FALSE(ReadWholeFile(folder.Path()).has_value());
+}
+
+TEST(WithTrailingSeparator, AFolderGetsOneSeparatorAndARootNoSecond) {
+    const std::string separator = WithTrailingSeparator("");
+    ASSERT_EQ(separator.size(), 1U);
+    EXPECT_EQ(WithTrailingSeparator("folder"), "folder" + separator);
+    EXPECT_EQ(WithTrailingSeparator("folder" + separator), "folder" + separator);
+    EXPECT_EQ(WithTrailingSeparator(separator), separator);
+    EXPECT_EQ(WithTrailingSeparator("C:" + separator), "C:" + separator);
 }
 
 TEST(PathOfUtf8, NamesWithAccentsSurvive) {

@@ -123,14 +123,5 @@ TEST_F(LocateDatabaseTest, AMissingProgramFolderIsLikeAMissingFile) {
     ExpectMessage(0, kQuestion, MessageIcon::Question, MessageButtons::YesNo);
 }
 
-TEST(WithTrailingSeparator, AFolderGetsOneSeparatorAndARootNoSecond) {
-    const std::string separator = WithTrailingSeparator("");
-    ASSERT_EQ(separator.size(), 1U);
-    EXPECT_EQ(WithTrailingSeparator("folder"), "folder" + separator);
-    EXPECT_EQ(WithTrailingSeparator("folder" + separator), "folder" + separator);
-    EXPECT_EQ(WithTrailingSeparator(separator), separator);
-    EXPECT_EQ(WithTrailingSeparator("C:" + separator), "C:" + separator);
-}
-
 }  // namespace
 }  // namespace brelex
