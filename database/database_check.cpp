@@ -9,6 +9,7 @@
 #include "base/windows1252.h"
 #include "database/database_builder.h"
 #include "database/modCRC32.h"
+#include "database/record_number.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
 
@@ -47,7 +48,7 @@ class Findings {
 };
 
 std::string RecordName(std::int32_t row) {
-    return "record " + std::to_string(row + 1);
+    return "record " + std::to_string(static_cast<std::int32_t>(RecordNumberOf(row)));
 }
 
 void CheckBlock(const DatabaseHeader& header, const RecordStore& store,
@@ -77,6 +78,19 @@ void CheckRecords(const RecordStore& store, std::vector<std::string>& lines) {
     }
 }
 
+template <typename Number>
+std::string ValueText(Number value) {
+    return std::to_string(value);
+}
+
+std::string ValueText(char letter) {
+    return "'" + Utf8OfBytes({&letter, 1}) + "'";
+}
+
+std::string ValueText(const std::string& text) {
+    return Utf8OfBytes(text);
+}
+
 void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
                      std::vector<std::string>& lines) {
     std::vector<std::string_view> records;
@@ -85,27 +99,12 @@ void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
         records.push_back(store.RowText(row));
     }
     const DatabaseHeader counted = ComputeStatistics(records);
-    const auto compare = [&](const char* name, std::int32_t DatabaseHeader::*field) {
-        if (header.*field != counted.*field) {
-            lines.push_back(std::string(name) + " is " + std::to_string(header.*field) +
-                            ", the records give " + std::to_string(counted.*field));
+    VisitFields([&](const char* name, auto member, FieldSource source) {
+        if (source == FieldSource::Records && header.*member != counted.*member) {
+            lines.push_back(std::string(name) + " is " + ValueText(header.*member) +
+                            ", the records give " + ValueText(counted.*member));
         }
-    };
-    compare("RecordCount", &DatabaseHeader::RecordCount);
-    compare("MaxAbbrvLength", &DatabaseHeader::MaxAbbrvLength);
-    compare("MaxExpansionLength", &DatabaseHeader::MaxExpansionLength);
-    compare("AvgAbbrvLength", &DatabaseHeader::AvgAbbrvLength);
-    compare("AvgExpansionLength", &DatabaseHeader::AvgExpansionLength);
-    compare("LongestAbbrvIndex", &DatabaseHeader::LongestAbbrvIndex);
-    compare("LongestExpansionIndex", &DatabaseHeader::LongestExpansionIndex);
-    compare("CommonFirstLetterCount", &DatabaseHeader::CommonFirstLetterCount);
-    compare("MostExpansionsIndex", &DatabaseHeader::MostExpansionsIndex);
-    compare("MostExpansionsCount", &DatabaseHeader::MostExpansionsCount);
-    if (header.CommonFirstLetter != counted.CommonFirstLetter) {
-        lines.push_back("CommonFirstLetter is '" + Utf8OfBytes({&header.CommonFirstLetter, 1}) +
-                        "', the records give '" + Utf8OfBytes({&counted.CommonFirstLetter, 1}) +
-                        "'");
-    }
+    });
 }
 
 // A beginning that the record before shares leads to the same row, so each is looked up once per

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_header.h"
 
+#include <algorithm>
 #include <bit>
 #include <cassert>
 
@@ -8,41 +9,19 @@ namespace brelex {
 
 namespace {
 
-// The one list of the fields in file order: reading and writing both walk it.
-template <typename Header, typename Codec>
-void VisitFields(Header& header, Codec& codec) {
-    codec.Float(header.Version);
-    codec.Double(header.ReleaseDate);
-    codec.Int(header.MaxAbbrvLength);
-    codec.Int(header.MaxExpansionLength);
-    codec.Int(header.RecordCount);
-    codec.Int(header.DataSize);
-    codec.Int(header.Reserved);
-    codec.Int(header.DataCRC);
-    codec.Int(header.AvgAbbrvLength);
-    codec.Int(header.AvgExpansionLength);
-    codec.Int(header.LongestAbbrvIndex);
-    codec.Int(header.LongestExpansionIndex);
-    codec.Char(header.CommonFirstLetter);
-    codec.Int(header.CommonFirstLetterCount);
-    codec.Int(header.MostExpansionsIndex);
-    codec.Int(header.MostExpansionsCount);
-    codec.Text(header.SearchListText);
-}
-
 class Reader {
   public:
     explicit Reader(std::string_view bytes) : bytes_(bytes) {}
 
-    void Float(float& value) { value = std::bit_cast<float>(Take<std::uint32_t>()); }
+    void Read(float& value) { value = std::bit_cast<float>(Take<std::uint32_t>()); }
 
-    void Double(double& value) { value = std::bit_cast<double>(Take<std::uint64_t>()); }
+    void Read(double& value) { value = std::bit_cast<double>(Take<std::uint64_t>()); }
 
-    void Int(std::int32_t& value) { value = std::bit_cast<std::int32_t>(Take<std::uint32_t>()); }
+    void Read(std::int32_t& value) { value = std::bit_cast<std::int32_t>(Take<std::uint32_t>()); }
 
-    void Char(char& value) { value = std::bit_cast<char>(Take<std::uint8_t>()); }
+    void Read(char& value) { value = std::bit_cast<char>(Take<std::uint8_t>()); }
 
-    void Text(std::string& value) {
+    void Read(std::string& value) {
         value = bytes_.substr(0, kSearchListLength);
         bytes_.remove_prefix(kSearchListLength);
     }
@@ -64,15 +43,15 @@ class Reader {
 
 class Writer {
   public:
-    void Float(float value) { Put(std::bit_cast<std::uint32_t>(value)); }
+    void Write(float value) { Put(std::bit_cast<std::uint32_t>(value)); }
 
-    void Double(double value) { Put(std::bit_cast<std::uint64_t>(value)); }
+    void Write(double value) { Put(std::bit_cast<std::uint64_t>(value)); }
 
-    void Int(std::int32_t value) { Put(std::bit_cast<std::uint32_t>(value)); }
+    void Write(std::int32_t value) { Put(std::bit_cast<std::uint32_t>(value)); }
 
-    void Char(char value) { bytes_.push_back(value); }
+    void Write(char value) { bytes_.push_back(value); }
 
-    void Text(std::string value) {
+    void Write(std::string value) {
         value.resize(kSearchListLength, ' ');
         bytes_ += value;
     }
@@ -92,17 +71,25 @@ class Writer {
 
 }  // namespace
 
+std::size_t DatabaseHeader::AbbreviationLimit() const {
+    return static_cast<std::size_t>(std::max(MaxAbbrvLength, 0));
+}
+
 DatabaseHeader DecodeHeader(std::string_view bytes) {
     assert(bytes.size() >= kHeaderBytes);
     DatabaseHeader header;
     Reader reader(bytes);
-    VisitFields(header, reader);
+    VisitFields([&](const char* /*name*/, auto member, FieldSource /*source*/) {
+        reader.Read(header.*member);
+    });
     return header;
 }
 
 std::string EncodeHeader(const DatabaseHeader& header) {
     Writer writer;
-    VisitFields(header, writer);
+    VisitFields([&](const char* /*name*/, auto member, FieldSource /*source*/) {
+        writer.Write(header.*member);
+    });
     assert(writer.Bytes().size() == kHeaderBytes);
     return writer.Bytes();
 }

@@ -27,17 +27,6 @@ std::string PlainNumber(Number number) {
     return {digits.data(), end};
 }
 
-std::string VersionText(float version) {
-    const std::string text = PlainNumber(version);
-    const bool whole = text.find_first_not_of("-0123456789") == std::string::npos;
-    return whole ? text + ".0" : text;
-}
-
-std::string ReleaseDateText(double count) {
-    const auto day = DayOfCount(count);
-    return day ? FormatIsoDay(*day) : "not a date (" + PlainNumber(count) + ")";
-}
-
 std::string HexDigits(std::int32_t number) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text;
@@ -47,10 +36,31 @@ std::string HexDigits(std::int32_t number) {
     return text;
 }
 
-std::string SearchListText(std::string_view list) {
+// The values of the header's fields as text: a version, a day, a number, a letter, a list.
+
+std::string FieldText(float version, FieldSource /*source*/) {
+    const std::string text = PlainNumber(version);
+    const bool whole = text.find_first_not_of("-0123456789") == std::string::npos;
+    return whole ? text + ".0" : text;
+}
+
+std::string FieldText(double dayCount, FieldSource /*source*/) {
+    const auto day = DayOfCount(dayCount);
+    return day ? FormatIsoDay(*day) : "not a date (" + PlainNumber(dayCount) + ")";
+}
+
+std::string FieldText(std::int32_t number, FieldSource source) {
+    return source == FieldSource::Checksum ? HexDigits(number) : PlainNumber(number);
+}
+
+std::string FieldText(char letter, FieldSource /*source*/) {
+    return Utf8OfBytes({&letter, 1});
+}
+
+std::string FieldText(const std::string& searchList, FieldSource /*source*/) {
     std::string text;
     const char* separator = "";
-    for (const std::string& item : SearchListItems(list)) {
+    for (const std::string& item : SearchListItems(searchList)) {
         text += separator + Utf8OfBytes(item);
         separator = ", ";
     }
@@ -92,23 +102,10 @@ int RunInfo(const std::string& database, std::ostream& out, std::ostream& err) {
         return failure;
     }
     const DatabaseHeader& header = opened.header;
-    out << "Version: " << VersionText(header.Version) << "\n"
-        << "ReleaseDate: " << ReleaseDateText(header.ReleaseDate) << "\n"
-        << "MaxAbbrvLength: " << header.MaxAbbrvLength << "\n"
-        << "MaxExpansionLength: " << header.MaxExpansionLength << "\n"
-        << "RecordCount: " << header.RecordCount << "\n"
-        << "DataSize: " << header.DataSize << "\n"
-        << "Reserved: " << header.Reserved << "\n"
-        << "DataCRC: " << HexDigits(header.DataCRC) << "\n"
-        << "AvgAbbrvLength: " << header.AvgAbbrvLength << "\n"
-        << "AvgExpansionLength: " << header.AvgExpansionLength << "\n"
-        << "LongestAbbrvIndex: " << header.LongestAbbrvIndex << "\n"
-        << "LongestExpansionIndex: " << header.LongestExpansionIndex << "\n"
-        << "CommonFirstLetter: " << Utf8OfBytes({&header.CommonFirstLetter, 1}) << "\n"
-        << "CommonFirstLetterCount: " << header.CommonFirstLetterCount << "\n"
-        << "MostExpansionsIndex: " << header.MostExpansionsIndex << "\n"
-        << "MostExpansionsCount: " << header.MostExpansionsCount << "\n"
-        << "SearchListText: " << SearchListText(header.SearchListText) << "\n\n";
+    VisitFields([&](const char* name, auto member, FieldSource source) {
+        out << name << ": " << FieldText(header.*member, source) << "\n";
+    });
+    out << "\n";
     PrintStatistics(opened, out);
     return kFound;
 }

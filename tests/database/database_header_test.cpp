@@ -4,6 +4,8 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +91,25 @@ TEST(DatabaseHeader, ASearchListIsPaddedOrCutToItsRoom) {
     EXPECT_EQ(DecodeHeader(EncodeHeader(header)).SearchListText.size(), kSearchListLength);
     header.SearchListText = std::string(3000, 'x');
     EXPECT_EQ(EncodeHeader(header).size(), kHeaderBytes);
+}
+
+TEST(VisitFields, NamesEachFieldOnce) {
+    std::set<std::string> names;
+    std::size_t fields = 0;
+    VisitFields([&](const char* name, auto /*member*/, FieldSource /*source*/) {
+        names.insert(name);
+        ++fields;
+    });
+    EXPECT_EQ(fields, 17U);
+    EXPECT_EQ(names.size(), fields);
+}
+
+TEST(AbbreviationLimit, IsTheGreatestLengthAndZeroForADamagedOne) {
+    DatabaseHeader header;
+    header.MaxAbbrvLength = 12;
+    EXPECT_EQ(header.AbbreviationLimit(), 12U);
+    header.MaxAbbrvLength = -1;
+    EXPECT_EQ(header.AbbreviationLimit(), 0U);
 }
 
 TEST(RowOfHeaderIndex, TheLowSixteenBitsCountAsASignedNumber) {
