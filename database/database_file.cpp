@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_file.h"
 
-#include <optional>
 #include <utility>
 
 namespace brelex {
@@ -20,37 +19,46 @@ std::string_view ReasonText(LoadFailure failure) {
     return {};
 }
 
-LoadFailure CheckExpandedFile(std::size_t fileLength, std::string_view expanded,
-                              DatabaseHeader& header) {
-    if (fileLength == expanded.size()) {
-        return LoadFailure::CannotDecode;
+std::optional<ExpandedDatabase> ExpandDatabase(std::string_view file) {
+    auto content = ExpandSzdd(file);
+    if (!content) {
+        return std::nullopt;
     }
-    if (expanded.size() <= kHeaderBytes) {
-        return LoadFailure::CorruptHeader;
-    }
-    header = DecodeHeader(expanded);
-    const auto blockBytes = static_cast<std::int64_t>(expanded.size() - kHeaderBytes);
-    return header.DataSize == blockBytes ? LoadFailure::None : LoadFailure::BadHeader;
+    return ExpandedDatabase{std::move(*content), file.size()};
 }
 
 std::int32_t ProgressStepOf(std::int32_t recordCount) {
     return recordCount > 0 ? recordCount / 100 + 1 : 1;
 }
 
-LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordStore& store) {
-    std::optional<ExpandedFile> expanded = ExpandSzdd(file);
-    if (!expanded) {
+LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& header,
+                                 RecordStore& store, ProgressSink& progress,
+                                 const std::function<void()>& onHeader) {
+    const std::string_view expanded = database.content.View();
+    if (expanded.size() == database.fileLength) {
         return LoadFailure::CannotDecode;
     }
-    const LoadFailure failure = CheckExpandedFile(file.size(), expanded->View(), header);
-    if (failure != LoadFailure::None) {
-        return failure;
+    if (expanded.size() <= kHeaderBytes) {
+        return LoadFailure::CorruptHeader;
     }
-    NoProgress progress;
-    return store.Fill(std::move(*expanded), kHeaderBytes, header.RecordCount,
+    header = DecodeHeader(expanded);
+    if (header.DataSize != static_cast<std::int64_t>(expanded.size() - kHeaderBytes)) {
+        return LoadFailure::BadHeader;
+    }
+    onHeader();
+    return store.Fill(std::move(database.content), kHeaderBytes, header.RecordCount,
                       ProgressStepOf(header.RecordCount), progress)
                ? LoadFailure::None
                : LoadFailure::BadHeader;
+}
+
+LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordStore& store) {
+    auto database = ExpandDatabase(file);
+    if (!database) {
+        return LoadFailure::CannotDecode;
+    }
+    NoProgress progress;
+    return ReadExpandedDatabase(std::move(*database), header, store, progress, [] {});
 }
 
 }  // namespace brelex

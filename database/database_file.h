@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string_view>
 
 #include "base/progress_sink.h"
@@ -15,21 +18,34 @@ namespace brelex {
 enum class LoadFailure {
     None,
     CannotDecode,   ///< it cannot be read or expanded, or expanding did not change its length
-    CorruptHeader,  ///< expanded, it has no room for a header and data
+    CorruptHeader,  ///< the expanded file is too short for a header and data
     BadHeader       ///< the header contradicts the record block
 };
 
-/// What the user is told of a failure; empty for None.
+/// What the user is told about a failure. Empty for None.
 [[nodiscard]] std::string_view ReasonText(LoadFailure failure);
 
-/// Checks what `fileLength` bytes of database file expanded to, and reads the header.
-[[nodiscard]] LoadFailure CheckExpandedFile(std::size_t fileLength, std::string_view expanded,
-                                            DatabaseHeader& header);
+/// What a database file expands to: its header, then its record block. Not checked yet.
+struct ExpandedDatabase {
+    ExpandedFile content;
+    std::size_t fileLength = 0;  ///< bytes of the database file itself
+};
 
-/// Records between two progress reports, so that a load makes about 100 of them at most.
+/// Expands a whole database file that was read into memory. Nothing if ExpandSzdd refuses it.
+[[nodiscard]] std::optional<ExpandedDatabase> ExpandDatabase(std::string_view file);
+
+/// The number of records between two progress reports. With it, a load makes about 100 reports at
+/// most.
 [[nodiscard]] std::int32_t ProgressStepOf(std::int32_t recordCount);
 
-/// Reads a whole database file from memory into `header` and `store`.
+/// Checks an expanded database, then reads it into `header` and `store`, and reports the progress
+/// of the latter. Calls `onHeader` in between: the header is accepted and the store still to be
+/// filled. If that fails, an empty store stays empty.
+[[nodiscard]] LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& header,
+                                               RecordStore& store, ProgressSink& progress,
+                                               const std::function<void()>& onHeader);
+
+/// Expands a whole database file that was read into memory, and reads it into `header` and `store`.
 [[nodiscard]] LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header,
                                        RecordStore& store);
 

@@ -37,9 +37,8 @@ bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, CrcWatcher
     const std::filesystem::path temporary = PathOfUtf8(values.TempFilePath);
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);  // one that was left behind proves nothing
-    std::size_t fileLength = 0;
     // Where this fails, the CRC will tell.
-    (void)ExpandIntoTemporaryFile(values, files, fileLength);
+    (void)ExpandIntoTemporaryFile(values, files);
     const auto file = ReadWholeFile(temporary);
     std::filesystem::remove(temporary, ignored);
     ByteBuffer filledUp;

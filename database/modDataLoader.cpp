@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "database/modDataLoader.h"
 
+#include <algorithm>
+#include <cassert>
 #include <cmath>
+#include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <system_error>
 #include <utility>
 
 #include "base/file_io.h"
 #include "base/number_text.h"
-#include "database/database_file.h"
 
 namespace brelex {
 
@@ -23,19 +24,17 @@ bool ReportFailure(LoadFailure failure, MessageSink& messages) {
 
 }  // namespace
 
-std::optional<ExpandedFile> ExpandIntoTemporaryFile(const ProgramValues& values,
-                                                    TemporaryFiles& files,
-                                                    std::size_t& fileLength) {
+std::optional<ExpandedDatabase> ExpandIntoTemporaryFile(const ProgramValues& values,
+                                                        TemporaryFiles& files) {
     const auto file = ReadWholeFile(PathOfUtf8(values.DatabasePath));
     if (!file) {
         return std::nullopt;
     }
-    fileLength = file->Size();
-    auto expanded = ExpandSzdd(file->View());
-    if (!expanded || !files.WriteNewFile(values.TempFilePath, expanded->View())) {
+    auto database = ExpandDatabase(file->View());
+    if (!database || !files.WriteNewFile(values.TempFilePath, database->content.View())) {
         return std::nullopt;
     }
-    return expanded;
+    return database;
 }
 
 bool LoadDatabase(ProgramValues& values, RecordStore& store,
@@ -46,29 +45,26 @@ bool LoadDatabase(ProgramValues& values, RecordStore& store,
     }
     values.TempFilePath = values.TempFolder + kTempFileName;
 
-    std::size_t fileLength = 0;
-    auto expanded = ExpandIntoTemporaryFile(values, surroundings.files, fileLength);
-    if (!expanded) {
+    auto database = ExpandIntoTemporaryFile(values, surroundings.files);
+    if (!database) {
         return ReportFailure(LoadFailure::CannotDecode, surroundings.messages);
     }
-    const LoadFailure failure = CheckExpandedFile(fileLength, expanded->View(), values.Header);
+    const auto onHeader = [&values, &surroundings] {
+        const std::int32_t recordCount = values.Header.RecordCount;
+        values.RecordCount = std::max(recordCount, 0);  // only a damaged header has less than none
+        values.ProgressStep = ProgressStepOf(recordCount);
+        std::error_code ignored;
+        std::filesystem::remove(PathOfUtf8(values.TempFilePath), ignored);
+        surroundings.progress.SetStatusText("Loading database (" +
+                                            FormatGrouped(recordCount, values.groupSeparator) +
+                                            " records). Please, wait...");
+    };
+    const LoadFailure failure = ReadExpandedDatabase(std::move(*database), values.Header, store,
+                                                     surroundings.progress, onHeader);
     if (failure != LoadFailure::None) {
         return ReportFailure(failure, surroundings.messages);
     }
-    values.RecordCount = values.Header.RecordCount;
-    values.ProgressStep = ProgressStepOf(values.RecordCount);
-    std::error_code ignored;
-    std::filesystem::remove(PathOfUtf8(values.TempFilePath), ignored);
-
-    surroundings.progress.SetStatusText("Loading database (" +
-                                        FormatGrouped(values.RecordCount, values.groupSeparator) +
-                                        " records). Please, wait...");
-    if (!store.Fill(std::move(*expanded), kHeaderBytes, values.RecordCount, values.ProgressStep,
-                    surroundings.progress)) {
-        return ReportFailure(LoadFailure::BadHeader, surroundings.messages);
-    }
-    // A count below zero is a damaged header's: there are no entries then.
-    values.RecordCount = store.RowCount();
+    assert(values.RecordCount == store.RowCount());
     surroundings.progress.SetProgress(100);
     return true;
 }

@@ -10,11 +10,11 @@
 
 namespace brelex {
 
-/// The values that the whole program shares. app/ owns the one instance. Paths are UTF-8; folders
+/// The values that the whole program shares. app/ owns the only instance. Paths are UTF-8; folders
 /// end in the system's separator.
 struct ProgramValues {
     const RowList* AcronymList = nullptr;  ///< the entries; set before loading begins
-    std::int32_t RecordCount = 0;          ///< number of entries
+    std::int32_t RecordCount = 0;          ///< number of entries, as AcronymList->RowCount()
     std::string AppFolder;                 ///< the program's own folder
     std::string TempFolder;                ///< the user's temporary folder
     std::string DatabasePath;              ///< the database file
