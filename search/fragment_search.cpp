@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstring>
 #include <utility>
 
@@ -25,7 +26,7 @@ FragmentSearch::Probe FragmentSearch::ProbeOf(const WildcardPattern::ByteSet& se
             highest = std::max(highest, byte | ignored);
         }
     }
-    if (highest < 0) {  // a character that the code page lacks: nothing can match
+    if (highest < 0) {  // a character outside the code page: nothing can match
         return {place, 0xFF, 0, 0};
     }
     return {place, ignored, static_cast<unsigned char>(lowest),
@@ -34,6 +35,7 @@ FragmentSearch::Probe FragmentSearch::ProbeOf(const WildcardPattern::ByteSet& se
 
 FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_view sample)
     : fragment_(std::move(fragment)) {
+    assert(!fragment_.empty());
     std::array<double, kBytes> shares{};
     const double all = static_cast<double>(sample.size()) + kBytes;
     shares.fill(1 / all);  // no byte is impossible
@@ -82,18 +84,18 @@ FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_vi
 void FragmentSearch::MarkCandidates(const unsigned char* text, Marks& marks) const {
     const unsigned char* const a = text + first_.place;
     const unsigned char* const b = text + second_.place;
-    // Copies, or else the compiler would have to take them for parts of `marks`.
+    // Local copies, as the compiler must assume that writing `marks` changes the members.
     const Probe first = first_;
     const Probe second = second_;
     const auto markAll = [&](auto passesFirst, auto passesSecond) {
         for (std::size_t i = 0; i < kStride; ++i) {
-            // No short cut, which would be a branch.
+            // "&&" would be a branch.
             const int passes =
                 static_cast<int>(passesFirst(a[i])) & static_cast<int>(passesSecond(b[i]));
             marks[i] = static_cast<unsigned char>(-passes);
         }
     };
-    // Most fragments have two plain letters, and these take half the instructions.
+    // Most fragments have two plain letters, which need half the instructions.
     if (first.span == 0 && second.span == 0) {
         markAll([&](unsigned char byte) { return (byte | first.ignored) == first.lowest; },
                 [&](unsigned char byte) { return (byte | second.ignored) == second.lowest; });

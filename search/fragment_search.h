@@ -9,28 +9,27 @@
 
 namespace brelex {
 
-/// Looks for a run of bytes, each out of a set, in a long text. Of all pairs of places in the
-/// fragment it takes the one that is met least often, and passes over all positions that do not
-/// have these two bytes, a few hundred at a time, in a loop that the compiler turns into vector
-/// instructions.
+/// Finds a fragment in a long text: successive bytes, each from a set. It picks the two places of
+/// the fragment whose bytes are rarest and skips every position that lacks either, a few hundred at
+/// a time, in a loop that the compiler turns into vector instructions.
 class FragmentSearch {
   public:
-    /// `fragment` is not empty. `sample` is text like the one to be searched: from it the search
-    /// learns which bytes are rare.
+    /// Requires a fragment that is not empty. `sample` is text like the one to be searched. It
+    /// tells which bytes are rare.
     FragmentSearch(WildcardPattern::Segment fragment, std::string_view sample);
 
-    /// How many positions in a byte of text are expected to be looked at more closely, 0 to 1.
+    /// The expected share of positions that need a closer look, 0 to 1.
     [[nodiscard]] double ExpectedCandidates() const { return expectedCandidates_; }
 
-    /// The first position at or behind `from` where the fragment stands; npos if there is none.
+    /// The first position of the fragment in `text`, from `from` on. npos if there is none.
     [[nodiscard]] std::size_t Find(std::string_view text, std::size_t from) const;
 
   private:
-    /// A test that every byte of a set passes, and few others: with the bits of `ignored` set, it
-    /// is one of a run of numbers.
+    /// A test that every byte of a set passes and few others do: with the bits of `ignored` set,
+    /// the byte is in a range.
     struct Probe {
         std::size_t place = 0;      // in the fragment
-        unsigned char ignored = 0;  // 20 hex makes the case of most letters no matter
+        unsigned char ignored = 0;  // 20 hex ignores the case of most letters
         unsigned char lowest = 0;
         unsigned char span = 0;  // highest minus lowest
 
@@ -46,7 +45,7 @@ class FragmentSearch {
     static constexpr int kMark = 0xFF;
     using Marks = std::array<unsigned char, kStride>;
 
-    /// Marks those of the next kStride positions that pass both probes.
+    /// Marks each of the next kStride positions that passes both probes.
     void MarkCandidates(const unsigned char* text, Marks& marks) const;
 
     WildcardPattern::Segment fragment_;

@@ -2,6 +2,7 @@
 #include "search/record_finder.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "base/letter_case.h"
@@ -32,7 +33,7 @@ std::string SmallLettersOfBytes(std::string_view bytes) {
     return small;
 }
 
-// Pieces from all over the rows.
+// Pieces from throughout the rows.
 std::string Sample(const RowList& rows) {
     constexpr std::size_t kPieces = 16;
     constexpr std::size_t kPieceBytes = 128;
@@ -68,7 +69,7 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
     if (rows.RowCount() == 0) {
         return;
     }
-    // What is next to either part of a record: the TAB between them or the NUL behind them.
+    // The neighbors of a field: the TAB between abbreviation and expansion, or the NUL at the end.
     const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
     const std::string sample = Sample(rows);
     const auto& segments = pattern_.Segments();
@@ -104,7 +105,7 @@ bool RecordFinder::IsHit(std::string_view recordText) const {
                                  *word_, ComparisonMode::Binary);
 }
 
-// Whether the pattern is one fragment between stars and this place of the record is in the field.
+// Whether the pattern is one fragment between stars, found within the field of this record.
 bool RecordFinder::HasOnlyFragment(std::string_view recordText, const char* found) const {
     const std::string_view field = FieldOf(recordText);
     return onlyFragment_ > 0 && found >= field.data() &&
@@ -112,13 +113,14 @@ bool RecordFinder::HasOnlyFragment(std::string_view recordText, const char* foun
 }
 
 std::int32_t RecordFinder::FindNext(std::int32_t first, std::int32_t last) const {
+    assert(first >= 0 && last <= rows_.RowCount());
     if (!rarest_) {
         while (first < last && !IsHit(rows_.RowText(first))) {
             ++first;
         }
         return first;
     }
-    // The very first record by itself: there is no edge in front of it.
+    // The very first record is a case of its own, as nothing precedes it.
     if (first >= last || (first == 0 && IsHit(rows_.RowText(0)))) {
         return first;
     }

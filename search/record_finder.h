@@ -13,20 +13,20 @@
 
 namespace brelex {
 
-/// Finds the records that a request asks for.
+/// Finds the records that match a search request.
 class RecordFinder {
   public:
-    /// Compiles a request. Nothing if its text is malformed as a pattern. `rows` must outlive the
+    /// Compiles a request. Nothing if its text is not a valid pattern. `rows` must outlive the
     /// finder.
     [[nodiscard]] static std::optional<RecordFinder> Compile(const SearchRequest& request,
                                                              const RowList& rows);
 
-    /// Whether a record is one of them: the definition, record by record.
+    /// Whether a record matches: the definition, one record at a time.
     [[nodiscard]] bool IsHit(std::string_view recordText) const;
 
-    /// The first of the rows from `first` to before `last` that is one, else `last`. Looks for the
-    /// rarest part of the pattern in all the text at once and then only at the records that have
-    /// it.
+    /// The first matching row of those from `first` up to but not including `last`, or `last` if
+    /// there is none. Requires 0 <= first, and last <= RowCount(). Searches the text of all rows at
+    /// once for the rarest part of the pattern, and looks only at the records that contain it.
     [[nodiscard]] std::int32_t FindNext(std::int32_t first, std::int32_t last) const;
 
   private:
@@ -40,10 +40,10 @@ class RecordFinder {
     bool matchCase_;
     WildcardPattern pattern_;
     std::optional<std::string>
-        word_;  // what must stand alone, in small letters if case is no matter
-    std::optional<FragmentSearch> rarest_;  // nothing if the pattern is stars only
-    std::size_t edge_ = 0;  // bytes in front of the field that are part of the rarest fragment
-    std::size_t onlyFragment_ = 0;  // its length if a record that has it in the field is a hit
+        word_;  // the whole word to find, in small letters if case does not matter
+    std::optional<FragmentSearch> rarest_;  // nothing if the pattern consists of stars
+    std::size_t edge_ = 0;          // bytes before the field that belong to the rarest fragment
+    std::size_t onlyFragment_ = 0;  // its length if any field that contains it matches
 };
 
 }  // namespace brelex

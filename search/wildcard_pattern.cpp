@@ -2,6 +2,7 @@
 #include "search/wildcard_pattern.h"
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <string>
 
@@ -16,17 +17,24 @@ using ByteSet = WildcardPattern::ByteSet;
 
 constexpr std::size_t kBytes = 256;
 
-// The bytes whose character, made small if case does not matter, is in a range.
-class RangeReader {
+// What a list in brackets matches.
+struct ListResult {
+    bool isValid = false;
+    bool matchesEmptyText = false;  // "[]"
+    ByteSet bytes;                  // one of these, if not the empty text
+};
+
+// Knows which bytes stand for which characters. Without `matchCase`, all of them are small letters.
+class CharacterTable {
   public:
-    explicit RangeReader(bool matchCase) {
+    explicit CharacterTable(bool matchCase) {
         for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
             const char32_t plain = CharacterOfByte(static_cast<unsigned char>(byte));
             characters_.at(byte) = matchCase ? plain : SmallLetterOf(plain);
         }
     }
 
-    [[nodiscard]] ByteSet Range(char32_t first, char32_t last) const {
+    [[nodiscard]] ByteSet BytesOfRange(char32_t first, char32_t last) const {
         ByteSet set;
         for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
             if (characters_.at(byte) >= first && characters_.at(byte) <= last) {
@@ -36,72 +44,79 @@ class RangeReader {
         return set;
     }
 
-    // The list that begins behind the "[" at the front of `rest`, which is moved behind its "]".
-    // Nothing if it is malformed; an empty optional inside if it matches the empty text.
-    [[nodiscard]] std::optional<std::optional<ByteSet>> List(std::u32string_view& rest) const {
-        rest.remove_prefix(1);
-        const bool negated = rest.starts_with(U'!');
-        if (negated) {
-            rest.remove_prefix(1);
-        }
-        const bool empty = rest.starts_with(U']');
-        ByteSet set;
-        while (!rest.empty() && rest.front() != U']') {
-            const char32_t first = rest.front();
-            char32_t last = first;
-            rest.remove_prefix(1);
-            if (rest.size() >= 2 && rest[0] == U'-' && rest[1] != U']') {
-                last = rest[1];
-                rest.remove_prefix(2);
-            }
-            if (last < first) {
-                return std::nullopt;
-            }
-            set |= Range(first, last);
-        }
-        if (rest.empty()) {
-            return std::nullopt;
-        }
-        rest.remove_prefix(1);
-        if (empty && !negated) {
-            return std::optional<ByteSet>();
-        }
-        return negated ? ~set : set;
-    }
-
   private:
     std::array<char32_t, kBytes> characters_{};  // of each byte
 };
+
+// Takes the list that begins with the "[" at the front of `rest`, up to its "]".
+ListResult TakeList(std::u32string_view& rest, const CharacterTable& characters) {
+    rest.remove_prefix(1);
+    const bool negated = rest.starts_with(U'!');
+    if (negated) {
+        rest.remove_prefix(1);
+    }
+    ListResult list;
+    list.matchesEmptyText = rest.starts_with(U']') && !negated;
+    while (!rest.empty() && rest.front() != U']') {
+        const char32_t first = rest.front();
+        char32_t last = first;
+        rest.remove_prefix(1);
+        if (rest.size() >= 2 && rest[0] == U'-' && rest[1] != U']') {
+            last = rest[1];
+            rest.remove_prefix(2);
+        }
+        if (last < first) {
+            return list;
+        }
+        list.bytes |= characters.BytesOfRange(first, last);
+    }
+    if (rest.empty()) {
+        return list;
+    }
+    rest.remove_prefix(1);
+    list.isValid = true;
+    if (negated) {
+        list.bytes.flip();
+    }
+    return list;
+}
 
 }  // namespace
 
 std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view pattern,
                                                         bool matchCase) {
     const std::u32string folded = matchCase ? std::u32string(pattern) : SmallLetters(pattern);
-    const RangeReader reader(matchCase);
+    const CharacterTable characters(matchCase);
     WildcardPattern compiled;
+    const auto matchOneOf = [&compiled](const ByteSet& bytes) {
+        compiled.segments_.back().push_back(bytes);
+    };
     std::u32string_view rest = folded;
     while (!rest.empty()) {
         const char32_t character = rest.front();
         if (character == U'[') {
-            const auto list = reader.List(rest);
-            if (!list) {
+            const ListResult list = TakeList(rest, characters);
+            if (!list.isValid) {
                 return std::nullopt;
             }
-            if (*list) {
-                compiled.segments_.back().push_back(**list);
+            if (!list.matchesEmptyText) {
+                matchOneOf(list.bytes);
             }
             continue;
         }
         rest.remove_prefix(1);
-        if (character == U'*') {
-            compiled.segments_.emplace_back();
-        } else if (character == U'?') {
-            compiled.segments_.back().push_back(ByteSet().set());
-        } else {
-            const bool digit = character == U'#';
-            compiled.segments_.back().push_back(
-                reader.Range(digit ? U'0' : character, digit ? U'9' : character));
+        switch (character) {
+            case U'*':
+                compiled.segments_.emplace_back();
+                break;
+            case U'?':
+                matchOneOf(ByteSet().set());
+                break;
+            case U'#':
+                matchOneOf(characters.BytesOfRange(U'0', U'9'));
+                break;
+            default:
+                matchOneOf(characters.BytesOfRange(character, character));
         }
     }
     return compiled;
@@ -109,6 +124,7 @@ std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view patt
 
 bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
                      std::size_t position) {
+    assert(position + segment.size() <= text.size());
     for (std::size_t i = 0; i < segment.size(); ++i) {
         if (!segment[i][static_cast<unsigned char>(text[position + i])]) {
             return false;
@@ -117,9 +133,9 @@ bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view t
     return true;
 }
 
-// The first segment stands at the beginning, the last at the end, and each of the others where it
-// first fits behind the one before: if that does not leave enough for the rest, no other place
-// does.
+// The first segment must be at the beginning and the last at the end. Each of the others takes the
+// first place after its predecessor where it fits: if that leaves too little for the rest, every
+// later place does, too.
 bool WildcardPattern::Matches(std::string_view text) const {
     const Segment& first = segments_.front();
     const Segment& last = segments_.back();

@@ -9,24 +9,23 @@
 namespace brelex {
 
 /// A pattern with wildcards, ready to be matched against texts of Windows-1252 bytes. Matching
-/// converts, allocates and recurses nothing; it takes at most the product of the two lengths.
+/// neither converts, allocates nor recurses. Its cost is at most the product of the two lengths.
 ///
 ///     ?        any one character
 ///     #        any one digit
-///     *        any run of characters, also none
-///     [list]   any one character of the list
-///     [!list]  any one character that is not in the list
+///     *        any number of characters, or none
+///     [list]   any one character in the list
+///     [!list]  any one character not in the list
 ///
-/// A list has characters and ranges such as a-n, by Unicode code, bounds included. A "-" that
-/// bounds no range, "*", "?", "#" and "[" stand for themselves in it, and so does "!" but at its
-/// start.
-/// "[]" matches the empty text, "[!]" any one character. Everything else stands for itself.
+/// A list consists of characters and ranges such as a-n. Ranges go by Unicode value and include
+/// both ends. In a list, "*", "?", "#", "[", a "-" that does not form a range, and a "!" that is
+/// not at the start are ordinary characters.
+/// "[]" matches the empty text, "[!]" any one character. Everything else matches itself.
 class WildcardPattern {
   public:
-    /// Compiles a pattern, given as characters. One that Windows-1252 lacks matches nothing, but
-    /// may bound a range. Without `matchCase` letters of either case match each other, ranges
-    /// being those of the small letters. Returns nothing for a "[" that is not closed and for a
-    /// range from a higher to a lower character.
+    /// Compiles a pattern. A character outside Windows-1252 matches nothing, but may be the end of
+    /// a range. Without `matchCase`, upper and lower case match each other, and a range is taken
+    /// between small letters. Nothing if a "[" is not closed or a range runs backwards.
     [[nodiscard]] static std::optional<WildcardPattern> Compile(std::u32string_view pattern,
                                                                 bool matchCase);
 
@@ -36,19 +35,19 @@ class WildcardPattern {
     /// The bytes that match at one place of a text.
     using ByteSet = std::bitset<256>;
 
-    /// What stands between two stars: one set for each byte of the text.
+    /// The part between two stars: one set for each byte of the text.
     using Segment = std::vector<ByteSet>;
 
-    /// The first stands at the beginning of a text that matches, the last at its end, the others in
-    /// their order between them. There is one more than the pattern has stars; any may be empty.
+    /// The parts between the stars, one more than there are stars. Any of them may be empty. A text
+    /// that matches begins with the first, ends with the last, and has the others in order between
+    /// them.
     [[nodiscard]] const std::vector<Segment>& Segments() const { return segments_; }
 
   private:
     std::vector<Segment> segments_ = {{}};
 };
 
-/// Whether each byte of `text` from `position` on is in the set of its place; the text must be long
-/// enough.
+/// Whether the segment matches `text` at `position`. Requires a text that is long enough.
 [[nodiscard]] bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
                                    std::size_t position);
 
