@@ -2,6 +2,7 @@
 #include "base/calendar_day.h"
 
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -47,16 +48,19 @@ std::optional<year_month_day> DayOfCount(double count) {
 }
 
 double CountOfDay(year_month_day day) {
+    assert(day.ok());
     return static_cast<double>((sys_days(day) - kDayZero).count());
 }
 
 std::string FormatIsoDay(year_month_day day) {
+    assert(day.ok());
     return Digits(static_cast<unsigned>(static_cast<int>(day.year())), 4) + "-" +
            Digits(static_cast<unsigned>(day.month()), 2) + "-" +
            Digits(static_cast<unsigned>(day.day()), 2);
 }
 
 std::string FormatShortDay(year_month_day day) {
+    assert(day.ok());
     constexpr std::array kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                     "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     return std::to_string(static_cast<unsigned>(day.day())) + " " +

@@ -2,6 +2,7 @@
 #include "base/file_io.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
@@ -45,6 +46,7 @@ std::string WithTrailingSeparator(std::string folder) {
 }
 
 std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::string_view name) {
+    assert(folder.ends_with(static_cast<char>(fs::path::preferred_separator)));
     std::string usual = folder;
     usual += name;
     if (IsFile(PathOfUtf8(usual))) {

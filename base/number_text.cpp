@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -19,7 +20,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// `text` without its group separators; nothing if it is not digits, or not rightly grouped.
+// `text` without its group separators. Nothing if it is not digits or the groups are wrong.
 std::optional<std::string> UngroupedDigits(std::string_view text, std::string_view separator) {
     std::string digits;
     std::size_t inGroup = 0;
@@ -72,18 +73,20 @@ std::string Incremented(std::string digits) {
 }  // namespace
 
 std::string FormatGrouped(std::int32_t number, std::string_view separator) {
+    assert(!separator.empty());
     const std::string digits = std::to_string(number < 0 ? -std::int64_t{number} : number);
     return (number < 0 ? "-" : "") + Grouped(digits, separator);
 }
 
 std::string FormatGrouped(double number, std::string_view separator) {
+    assert(number >= 0 && std::isfinite(number));
     constexpr std::size_t kExactDigits = 15;  // of every double
     std::array<char, 320> buffer{};           // the largest double has 309 digits
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                        std::chars_format::fixed, 0);
     std::string digits(buffer.data(), written.ptr);
     if (digits.size() > kExactDigits) {
-        // Once more, rounded where the exact digits end.
+        // Once more, rounded after the exact digits.
         const std::size_t length = digits.size();
         double scale = 1;
         for (std::size_t i = kExactDigits; i < length; ++i) {
@@ -115,6 +118,7 @@ std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_
 }
 
 std::string FormatPlain(float number, std::string_view decimalSeparator) {
+    assert(std::isfinite(number));
     std::array<char, 160> buffer{};
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                       std::chars_format::fixed);
@@ -152,6 +156,7 @@ std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
 }
 
 int PercentOf(std::int32_t done, std::int32_t total) {
+    assert(total > 0);
     const std::int64_t hundredfold = std::int64_t{done} * 100;
     const auto whole = static_cast<int>(hundredfold / total);
     const std::int64_t twiceRest = 2 * (hundredfold % total);

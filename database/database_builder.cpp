@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -125,6 +126,7 @@ BuiltDatabase BuildDatabase(DatabaseContent content) {
 
     std::string block;
     for (const std::string& record : records) {
+        assert(!record.empty() && record.find('\0') == std::string::npos);
         block += record;
         block.push_back('\0');
     }

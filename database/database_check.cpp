@@ -48,7 +48,7 @@ class Findings {
 };
 
 std::string RecordName(std::int32_t row) {
-    return "record " + std::to_string(static_cast<std::int32_t>(RecordNumberOf(row)));
+    return "record " + TextOf(RecordNumberOf(row));
 }
 
 void CheckBlock(const DatabaseHeader& header, const RecordStore& store,

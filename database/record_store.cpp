@@ -2,6 +2,7 @@
 #include "database/record_store.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <utility>
 
@@ -33,6 +34,8 @@ std::size_t AscendingBytes(std::string_view row, std::string_view next, std::siz
 
 bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
                        std::int32_t progressStep, ProgressSink& progress) {
+    assert(progressStep > 0);
+    assert(blockAt <= file.View().size());
     file_ = std::move(file);
     block_ = file_.View().substr(blockAt);
     offsets_.clear();

@@ -2,6 +2,7 @@
 #include "database/record_text.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace brelex {
 
@@ -20,6 +21,7 @@ std::size_t LetterCount(std::string_view text) {
 }
 
 std::string_view ColumnText(std::string_view recordText, int column) {
+    assert(column == 0 || column == 1);
     const auto tab = recordText.find('\t');
     if (column == 0) {
         return recordText.substr(0, tab);

@@ -2,10 +2,13 @@
 #include "database/row_list.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace brelex {
 
 std::int32_t RowList::RowHolding(const char* byte, std::int32_t first) const {
+    assert(first >= 0 && first < rowCount_);
+    assert(byte >= block_ + offsets_[first] && byte < block_ + offsets_[rowCount_]);
     const auto offset = static_cast<std::uint32_t>(byte - block_);
     // Ever longer steps until the row is passed, then halving within the last one.
     std::int32_t step = 1;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -21,6 +22,7 @@ class RowList {
     /// The record text (abbreviation, TAB, expansion; Windows-1252 bytes) of `row`, 0-based and
     /// below RowCount(). Valid as long as the rows are.
     [[nodiscard]] std::string_view RowText(std::int32_t row) const {
+        assert(row >= 0 && row < rowCount_);
         const std::uint32_t* const offset = offsets_ + row;
         return {block_ + offset[0], offset[1] - offset[0] - 1};
     }
@@ -28,6 +30,7 @@ class RowList {
     /// All rows' texts as they lie in memory, from row `first` to before `last` (0 <= first <= last
     /// <= RowCount()), each with a byte behind it.
     [[nodiscard]] std::string_view TextOfRows(std::int32_t first, std::int32_t last) const {
+        assert(0 <= first && first <= last && last <= rowCount_);
         return {block_ + offsets_[first], offsets_[last] - offsets_[first]};
     }
 
@@ -47,6 +50,7 @@ class RowList {
     /// offset more than there are rows says where the next would begin. Both stay the owner's.
     void SetRows(const char* block, const std::uint32_t* offsets, std::int32_t rowCount,
                  std::size_t ascendingPrefixBytes) {
+        assert(rowCount >= 0);
         block_ = block;
         offsets_ = offsets;
         rowCount_ = rowCount;
