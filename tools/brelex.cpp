@@ -2,10 +2,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdint>
-#include <functional>
 #include <iostream>
 #include <limits>
 #include <map>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -25,17 +25,30 @@ std::string DatabaseBesideProgram() {
     return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
 }
 
-// The exit code of a command, once all that it printed has got out.
-int Finished(int code) {
-    std::cout.flush();
-    if (!std::cout) {
-        std::cerr << "brelex: cannot write the output\n";
-        return brelex::kFailed;
-    }
-    return code;
+// What the command line asks for.
+struct CommandLine {
+    std::string database;  // given by -d, or empty
+    brelex::BuildRequest build;
+    std::vector<std::string> texts;  // to be looked up
+    brelex::SearchOptions search;
+    std::string letters;  // of an anagram
+    bool anagramsAsJson = false;
+    int code = brelex::kFailed;  // the exit code of the command, once it has run
+};
+
+std::string DatabaseOf(const CommandLine& line) {
+    return line.database.empty() ? DatabaseBesideProgram() : line.database;
 }
 
-// An option whose value is one of a few words.
+int RunBuild(const CommandLine& line) {
+    if (!line.database.empty()) {
+        std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
+        return brelex::kFailed;
+    }
+    return brelex::RunBuild(line.build, std::cout, std::cerr);
+}
+
+// Adds an option whose value is one of a few words.
 template <typename Value>
 void AddChoice(CLI::App& command, const char* name, const char* typeName, const char* description,
                Value& value, const std::map<std::string, Value>& words) {
@@ -46,8 +59,11 @@ void AddChoice(CLI::App& command, const char* name, const char* typeName, const 
         ->type_name(typeName);
 }
 
-// A subcommand: its options are written into `request` when it is parsed.
-void AddBuild(CLI::App& app, brelex::BuildRequest& request) {
+// Each of the functions below adds a command. The parser writes its options to `line` and, when the
+// whole command line is read, runs it.
+
+void AddBuild(CLI::App& app, CommandLine& line) {
+    brelex::BuildRequest& request = line.build;
     request.date = BRELEX_DATA_DATE;
     request.output = brelex::kDatabaseName;
     CLI::App* const command = app.add_subcommand("build", "Build a database file");
@@ -67,11 +83,33 @@ void AddBuild(CLI::App& app, brelex::BuildRequest& request) {
                      "dictionaries (NAME.index next to NAME.dict.dz)")
         ->required()
         ->type_name("");
+    command->callback([&line] { line.code = RunBuild(line); });
 }
 
-void AddSearch(CLI::App& app, brelex::SearchOptions& options) {
+// Adds a command that reads the database and has no options of its own.
+void AddReport(CLI::App& app, CommandLine& line, const char* name, const char* description,
+               int (*run)(const std::string&, std::ostream&, std::ostream&)) {
+    app.add_subcommand(name, description)->callback([&line, run] {
+        line.code = run(DatabaseOf(line), std::cout, std::cerr);
+    });
+}
+
+void AddLookup(CLI::App& app, CommandLine& line) {
+    CLI::App* const command =
+        app.add_subcommand("lookup", "Look up abbreviations by their first letters");
+    command
+        ->add_option("TEXT", line.texts, "First letters of an abbreviation; - reads standard input")
+        ->required()
+        ->type_name("");
+    command->callback([&line] {
+        line.code = brelex::RunLookup(DatabaseOf(line), line.texts, std::cin, std::cout, std::cerr);
+    });
+}
+
+void AddSearch(CLI::App& app, CommandLine& line) {
     using brelex::SearchIn;
     using brelex::SearchPosition;
+    brelex::SearchOptions& options = line.search;
     CLI::App* const command = app.add_subcommand("search", "Find the entries that match a text");
     command
         ->add_option("TEXT", options.request.text,
@@ -95,20 +133,27 @@ void AddSearch(CLI::App& app, brelex::SearchOptions& options) {
         ->type_name("N");
     command->add_flag("--all", options.all, "Print every match, not just the first 500");
     command->add_flag("--json", options.json, "Print a JSON array");
+    command->callback([&line] {
+        line.code = brelex::RunSearch(DatabaseOf(line), line.search, std::cout, std::cerr);
+    });
 }
 
-void AddAnagram(CLI::App& app, std::string& letters, bool& json) {
+void AddAnagram(CLI::App& app, CommandLine& line) {
     CLI::App* const command =
         app.add_subcommand("anagram", "Find abbreviations made of these letters");
-    command->add_option("LETTERS", letters, "Letters of an abbreviation, in any order")
+    command->add_option("LETTERS", line.letters, "Letters of an abbreviation, in any order")
         ->required()
         ->type_name("");
-    command->add_flag("--json", json, "Print a JSON array");
+    command->add_flag("--json", line.anagramsAsJson, "Print a JSON array");
+    command->callback([&line] {
+        line.code = brelex::RunAnagram(DatabaseOf(line), line.letters, line.anagramsAsJson,
+                                       std::cout, std::cerr);
+    });
 }
 
 }  // namespace
 
-// What is thrown here beyond the parser's errors is "out of memory".
+// Apart from the parser's errors, only "out of memory" can be thrown here.
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
     const brelex::Utf8Terminal terminal;
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
@@ -117,28 +162,19 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     app.allow_windows_style_options(false);
     app.require_subcommand(1);
     app.fallthrough();
-    std::string database;
-    app.add_option("-d,--database", database,
+    CommandLine line;
+    app.add_option("-d,--database", line.database,
                    "Database file to read (default: Acronyms.dat in this program's folder)")
         ->type_name("FILE");
-    brelex::BuildRequest build;
-    AddBuild(app, build);
-    app.add_subcommand("info", "Show facts about the database");
-    app.add_subcommand("dump", "Print all entries as UTF-8 TSV");
-    app.add_subcommand("check", "Check the database for errors");
-    auto* lookupCommand =
-        app.add_subcommand("lookup", "Look up abbreviations by their first letters");
-    std::vector<std::string> texts;
-    lookupCommand
-        ->add_option("TEXT", texts, "First letters of an abbreviation; - reads standard input")
-        ->required()
-        ->type_name("");
-    brelex::SearchOptions search;
-    AddSearch(app, search);
-    std::string letters;
-    bool anagramsAsJson = false;
-    AddAnagram(app, letters, anagramsAsJson);
+    AddBuild(app, line);
+    AddReport(app, line, "info", "Show facts about the database", brelex::RunInfo);
+    AddReport(app, line, "dump", "Print all entries as UTF-8 TSV", brelex::RunDump);
+    AddReport(app, line, "check", "Check the database for errors", brelex::RunCheck);
+    AddLookup(app, line);
+    AddSearch(app, line);
+    AddAnagram(app, line);
 
+    std::ios::sync_with_stdio(false);
     try {
         std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
@@ -147,27 +183,10 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         return app.exit(error) == 0 ? 0 : brelex::kFailed;
     }
 
-    std::ios::sync_with_stdio(false);
-    if (app.got_subcommand("build")) {
-        if (!database.empty()) {
-            std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
-            return brelex::kFailed;
-        }
-        return Finished(brelex::RunBuild(build, std::cout, std::cerr));
+    std::cout.flush();
+    if (!std::cout) {
+        std::cerr << "brelex: cannot write the output\n";
+        return brelex::kFailed;
     }
-    if (database.empty()) {
-        database = DatabaseBesideProgram();
-    }
-    const std::map<std::string, std::function<int()>> commands = {
-        {"info", [&] { return brelex::RunInfo(database, std::cout, std::cerr); }},
-        {"dump", [&] { return brelex::RunDump(database, std::cout, std::cerr); }},
-        {"check", [&] { return brelex::RunCheck(database, std::cout, std::cerr); }},
-        {"lookup",
-         [&] { return brelex::RunLookup(database, texts, std::cin, std::cout, std::cerr); }},
-        {"anagram",
-         [&] {
-             return brelex::RunAnagram(database, letters, anagramsAsJson, std::cout, std::cerr);
-         }},
-        {"search", [&] { return brelex::RunSearch(database, search, std::cout, std::cerr); }}};
-    return Finished(commands.at(app.get_subcommands().front()->get_name())());
+    return line.code;
 }

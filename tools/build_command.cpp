@@ -4,8 +4,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
-#include <string_view>
+#include <cstdint>
+#include <filesystem>
+#include <limits>
 #include <system_error>
+#include <utility>
 
 #include "base/calendar_day.h"
 #include "base/file_io.h"
@@ -48,9 +51,48 @@ void ReadInput(const std::string& input, std::vector<std::string>& records, Inpu
     }
 }
 
+// Sets the parts of the content that are given by options. Returns what is wrong with them, or an
+// empty text.
+std::string ReadRequest(const BuildRequest& request, DatabaseContent& content) {
+    const auto version = ParseVersion(request.version);
+    if (!version) {
+        return "the version is not of the form N.N: " + request.version;
+    }
+    const auto day = ParseIsoDay(request.date);
+    if (!day) {
+        return "the date is not a day of the form YYYY-MM-DD: " + request.date;
+    }
+    EncodedSearchList encoded = EncodeSearchList(request.searchList);
+    content.version = *version;
+    content.releaseDate = *day;
+    content.searchList = std::move(encoded.list);
+    return encoded.reason;
+}
+
+// Reads the entries of all inputs. Reports an error also if no database can be made of them.
+InputReport ReadInputs(const std::vector<std::string>& inputs, std::vector<std::string>& records) {
+    InputReport report;
+    for (const std::string& input : inputs) {
+        ReadInput(input, records, report);
+    }
+    std::size_t blockBytes = 0;
+    for (const std::string& record : records) {
+        blockBytes += record.size() + 1;
+    }
+    if (blockBytes > kMaxExpandedBytes - kHeaderBytes) {
+        report.errors.emplace_back(
+            "the entries take up more than the 1 GiB that the program can read");
+    }
+    if (report.errors.empty() && records.empty()) {
+        report.errors.emplace_back("the inputs contain no entries");
+    }
+    return report;
+}
+
 void WarnOfHighIndexes(const DatabaseHeader& header, std::vector<std::string>& warnings) {
+    constexpr std::int32_t kHighestIndex = std::numeric_limits<std::int16_t>::max();
     const auto warn = [&](const char* name, std::int32_t index) {
-        if (index > 32767) {
+        if (index > kHighestIndex) {
             warnings.push_back(std::string(name) + " is " + std::to_string(index) +
                                ", above 32767: the program will show another record");
         }
@@ -60,18 +102,30 @@ void WarnOfHighIndexes(const DatabaseHeader& header, std::vector<std::string>& w
     warn("MostExpansionsIndex", header.MostExpansionsIndex);
 }
 
-// What the program itself would find wrong with the finished file.
-std::optional<std::string> Verify(std::string_view file, std::vector<std::string>& warnings) {
+// Reads the finished file back as the program will. Returns why the program would refuse it, or an
+// empty text. Adds a warning for anything else that looks wrong.
+std::string Verify(const BuiltDatabase& built, std::string_view file,
+                   std::vector<std::string>& warnings) {
+    if (file.size() == built.expanded.size()) {
+        return "the compressed file would be as long as the expanded one (" +
+               std::to_string(file.size()) +
+               " bytes), which the program takes for damage; add an entry";
+    }
+    WarnOfHighIndexes(built.header, warnings);
     DatabaseHeader header;
     RecordStore store;
     const LoadFailure failure = ReadDatabase(file, header, store);
     if (failure != LoadFailure::None) {
-        return std::string(ReasonText(failure));
+        return "the program would refuse the file: " + std::string(ReasonText(failure));
     }
     for (std::string& finding : CheckDatabase(header, store, FindFirstByPrefix)) {
         warnings.push_back(std::move(finding));
     }
-    return std::nullopt;
+    return {};
+}
+
+EncodedSearchList Unstorable(std::string reason) {
+    return {"", std::move(reason)};
 }
 
 }  // namespace
@@ -88,94 +142,52 @@ std::optional<float> ParseVersion(const std::string& text) {
     return error == std::errc() ? std::optional(version) : std::nullopt;
 }
 
-std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
-                                            std::string& reason) {
-    constexpr std::size_t kMostCharacters = 1024;
+EncodedSearchList EncodeSearchList(std::string_view commaSeparated) {
     std::string list;
-    std::string_view rest = commaSeparated;
-    while (!rest.empty()) {
-        const std::string_view item = TrimBlanks(TakePart(rest, ','));
+    while (!commaSeparated.empty()) {
+        const std::string_view item = TrimBlanks(TakePart(commaSeparated, ','));
         if (item.find('1') != std::string_view::npos) {
-            reason =
+            return Unstorable(
                 "search-list items must not contain the digit 1, which separates them in "
                 "the file: " +
-                std::string(item);
-            return std::nullopt;
+                std::string(item));
         }
         if (std::any_of(item.begin(), item.end(),
                         [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; })) {
-            reason = "the search list contains a control character";
-            return std::nullopt;
+            return Unstorable("the search list contains a control character");
         }
         const EncodedText encoded = BytesOfUtf8(item);
         if (!encoded.complete) {
-            reason =
-                "the search list contains a character outside Windows-1252: " + std::string(item);
-            return std::nullopt;
+            return Unstorable("the search list contains a character outside Windows-1252: " +
+                              std::string(item));
         }
         if (!item.empty()) {
             list += (list.empty() ? "" : "1") + encoded.bytes;
         }
     }
-    if (list.size() > kMostCharacters) {
-        reason =
-            "the search list has " + std::to_string(list.size()) + " characters, but only 1024 fit";
-        return std::nullopt;
+    if (list.size() > kSearchListLength) {
+        return Unstorable("the search list has " + std::to_string(list.size()) +
+                          " characters, but only 1024 fit");
     }
-    return list;
+    return {list, ""};
 }
 
 int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) {
     DatabaseContent content;
-    const auto version = ParseVersion(request.version);
-    if (!version) {
-        return Refuse(err, "the version is not of the form N.N: " + request.version);
+    if (const std::string fault = ReadRequest(request, content); !fault.empty()) {
+        return Refuse(err, fault);
     }
-    const auto day = ParseIsoDay(request.date);
-    if (!day) {
-        return Refuse(err, "the date is not a day of the form YYYY-MM-DD: " + request.date);
-    }
-    std::string reason;
-    auto searchList = EncodeSearchList(request.searchList, reason);
-    if (!searchList) {
-        return Refuse(err, reason);
-    }
-    content.version = *version;
-    content.releaseDate = *day;
-    content.searchList = std::move(*searchList);
-
-    InputReport report;
-    for (const std::string& input : request.inputs) {
-        ReadInput(input, content.records, report);
-    }
-    std::size_t blockBytes = 0;
-    for (const std::string& record : content.records) {
-        blockBytes += record.size() + 1;
-    }
-    if (blockBytes > kMaxExpandedBytes - kHeaderBytes) {
-        report.errors.emplace_back(
-            "the entries take up more than the 1 GiB that the program can read");
-    }
-    if (report.errors.empty() && content.records.empty()) {
-        report.errors.emplace_back("the inputs contain no entries");
-    }
+    InputReport report = ReadInputs(request.inputs, content.records);
     if (!report.errors.empty()) {
         for (const std::string& error : report.errors) {
             err << "brelex: " << error << "\n";
         }
         return kFailed;
     }
-
     const BuiltDatabase built = BuildDatabase(std::move(content));
     const std::string file = CompressSzdd(built.expanded);
-    if (file.size() == built.expanded.size()) {
-        return Refuse(err, "the compressed file would be as long as the expanded one (" +
-                               std::to_string(file.size()) +
-                               " bytes), which the program takes for damage; add an entry");
-    }
-    WarnOfHighIndexes(built.header, report.warnings);
-    if (const auto fault = Verify(file, report.warnings)) {
-        return Refuse(err, "the program would refuse the file: " + *fault);
+    if (const std::string fault = Verify(built, file, report.warnings); !fault.empty()) {
+        return Refuse(err, fault);
     }
     for (const std::string& warning : report.warnings) {
         err << "brelex: warning: " << warning << "\n";
@@ -187,7 +199,7 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
     out << request.output << ": " << built.header.RecordCount << " records, "
         << built.duplicatesDropped << " duplicates dropped, " << file.size() << " bytes ("
         << built.expanded.size() << " expanded)\n";
-    return 0;
+    return kFound;
 }
 
 }  // namespace brelex

@@ -4,6 +4,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brelex {
@@ -12,22 +13,27 @@ namespace brelex {
 struct BuildRequest {
     std::string version = "1.0";
     std::string date;        ///< YYYY-MM-DD
-    std::string searchList;  ///< items parted by commas
+    std::string searchList;  ///< items separated by commas
     std::string output;      ///< the file to write
     std::vector<std::string> inputs;
 };
 
-/// A database version "N.N" as a number; nothing if `text` has another form.
+/// A database version "N.N" as a number. Nothing if `text` has any other form.
 [[nodiscard]] std::optional<float> ParseVersion(const std::string& text);
 
-/// The stored form of a search list: the items of `commaSeparated` (UTF-8) without blanks around
-/// them, parted by the digit 1, as Windows-1252. Nothing, with the reason in `reason`, if an item
-/// holds that digit or a character that cannot be stored, or the whole is too long.
-[[nodiscard]] std::optional<std::string> EncodeSearchList(const std::string& commaSeparated,
-                                                          std::string& reason);
+/// A search list as the header stores it, or the reason why it cannot be stored.
+struct EncodedSearchList {
+    std::string list;    ///< Windows-1252
+    std::string reason;  ///< empty on success
+};
 
-/// Builds a database file from the inputs. Says on `out` what was made and on `err` what is wrong.
-/// Returns the exit code: 0, or 2 if nothing was written.
+/// Encodes a search list: trims the items of `commaSeparated` (UTF-8) and separates them by the
+/// digit 1. Fails if an item contains that digit or a character that cannot be stored, or if the
+/// list is too long.
+[[nodiscard]] EncodedSearchList EncodeSearchList(std::string_view commaSeparated);
+
+/// Builds a database file from the inputs. Reports the result on `out`, errors and warnings on
+/// `err`. Returns the exit code: kFound, or kFailed if nothing was written.
 int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err);
 
 }  // namespace brelex

@@ -170,10 +170,9 @@ TEST(SearchWords, FitTheHeaderAndFindSomething) {
         });
         EXPECT_GE(hits, 1) << word;
     }
-    std::string reason;
-    const auto stored = EncodeSearchList(commaSeparated, reason);
-    ASSERT_TRUE(stored) << reason;
-    EXPECT_EQ(SearchListItems(*stored).size(), words.size());
+    const EncodedSearchList stored = EncodeSearchList(commaSeparated);
+    ASSERT_EQ(stored.reason, "");
+    EXPECT_EQ(SearchListItems(stored.list).size(), words.size());
 }
 
 }  // namespace
