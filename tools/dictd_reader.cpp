@@ -25,7 +25,7 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
     return lines;
 }
 
-// Letters and digits in capitals: what a headword of the dictionary keeps of a spelling.
+// The letters and digits of a spelling, in capitals. The dictionary's headwords have no others.
 std::string HeadwordForm(std::string_view spelling) {
     std::string form;
     for (const char c : spelling) {
@@ -37,7 +37,7 @@ std::string HeadwordForm(std::string_view spelling) {
     return form;
 }
 
-// Takes a last part in quotes, with the comma before it, off the end of `text`.
+// Removes a final part in quotes, and the comma before it, from `text`. Returns what was quoted.
 std::optional<std::string> TakeLastQuoted(std::string_view& text) {
     if (!text.ends_with('"') || text.size() < 2) {
         return std::nullopt;
@@ -79,8 +79,8 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
     }
 }
 
-// A further entry on one line of an article: its abbreviation, a wide gap, its expansion. Only such
-// lines are both indented and parted in two.
+// Reads a further entry from one line of an article: its abbreviation, a wide gap, its expansion.
+// Only such lines are both indented and divided by a gap.
 std::optional<DictdEntry> EntryOnLine(std::string_view line) {
     constexpr std::string_view kGap = "    ";
     const std::string_view text = TrimBlanks(line);
@@ -114,8 +114,7 @@ std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
     return number;
 }
 
-// The content of a gzip file, of which a dictzip file is a kind; what is not compressed as it
-// stands.
+// The content of a gzip file, which a dictzip file also is. Any other file is returned unchanged.
 std::optional<std::string> InflateFile(const fs::path& path) {
     const std::optional<ByteBuffer> file = ReadWholeFile(path);
     if (!file) {
@@ -155,7 +154,7 @@ fs::path DictionaryBeside(const fs::path& indexPath) {
     return fs::path(indexPath).replace_extension(".dict");
 }
 
-// The article that a line of the index (headword, offset, length, parted by TABs) points at.
+// The article that a line of the index (headword, offset, length, separated by TABs) points to.
 std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
                                                    std::string_view dictionary) {
     const auto first = line.find('\t');

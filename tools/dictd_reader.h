@@ -18,17 +18,18 @@ struct DictdEntry {
     bool operator==(const DictdEntry&) const = default;
 };
 
-/// The entries in one article of a dictd dictionary of acronyms: usually one, with the headword in
-/// the first line and the expansion, wrapped, below. Several if the article gives more than one
-/// spelling or has further entries in it. A spelling in quotes at the end ("3D DDI") replaces the
-/// headword if it has the same letters. An entry without an expansion is left out.
+/// The entries in one article of a dictd dictionary of acronyms. Usually there is one, with the
+/// headword on the first line and the wrapped expansion below. There are several if the article
+/// gives more than one spelling or contains further entries. A spelling in quotes at the end
+/// ("3D DDI") replaces the headword if it has the same letters. Leaves out an entry without an
+/// expansion.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfArticle(std::string_view article);
 
-/// The entries that stand in a header article of the dictionary, behind its text.
+/// The entries in a header article of the dictionary, which follow its text.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article);
 
-/// Reads the dictionary whose index is at `indexPath` (name.index, beside name.dict.dz or
-/// name.dict).
+/// Reads the dictionary whose index is at `indexPath` (name.index, in the same folder as
+/// name.dict.dz or name.dict).
 void ReadDictdPair(const std::filesystem::path& indexPath, std::vector<std::string>& records,
                    InputReport& report);
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/windows1252.h"
+#include "database/record_number.h"
 #include "database/record_text.h"
 
 namespace brelex {
@@ -36,8 +37,8 @@ void PrintJsonRecords(const RowList& rows, const std::vector<std::int32_t>& hits
     const char* before = "\n";
     for (const std::int32_t row : hits) {
         const std::string_view record = rows.RowText(row);
-        out << before << R"({"recordNumber":)" << row + 1 << R"(,"abbreviation":)"
-            << JsonString(GetAbbreviation(record)) << R"(,"expansion":)"
+        out << before << R"({"recordNumber":)" << TextOf(RecordNumberOf(row))
+            << R"(,"abbreviation":)" << JsonString(GetAbbreviation(record)) << R"(,"expansion":)"
             << JsonString(GetExpansion(record)) << "}";
         before = ",\n";
     }

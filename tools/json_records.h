@@ -9,8 +9,8 @@
 
 namespace brelex {
 
-/// Prints records as an array of JSON, one on each line, with "recordNumber" (1-based),
-/// "abbreviation" and "expansion".
+/// Prints records as a JSON array of objects, one on each line, with the members "recordNumber"
+/// (1-based), "abbreviation" and "expansion".
 void PrintJsonRecords(const RowList& rows, const std::vector<std::int32_t>& hits,
                       std::ostream& out);
 

@@ -14,14 +14,14 @@ inline constexpr int kFound = 0;
 inline constexpr int kNothingFound = 1;
 inline constexpr int kFailed = 2;
 
-/// A database that a command works on.
+/// The database that a command reads.
 struct OpenDatabase {
     DatabaseHeader header;
     RecordStore store;
 };
 
-/// Loads the database at `path` (UTF-8). If that fails it says why on `err` and returns kFailed, or
-/// `unloadable` for a file that was read but cannot be used; else kFound.
+/// Loads the database at `path` (UTF-8). Returns kFound. On failure, says why on `err` and returns
+/// kFailed, or `unloadable` if the file was read but cannot be used.
 [[nodiscard]] int Load(const std::string& path, OpenDatabase& database, std::ostream& err,
                        int unloadable = kFailed);
 

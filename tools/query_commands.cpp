@@ -11,6 +11,7 @@
 #include "base/windows1252.h"
 #include "database/database_check.h"
 #include "database/database_statistics.h"
+#include "database/record_number.h"
 #include "database/string_order.h"
 #include "lookup/prefix_search.h"
 #include "search/search_list.h"
@@ -67,17 +68,17 @@ std::string FieldText(const std::string& searchList, FieldSource /*source*/) {
     return text;
 }
 
-// Prints the line for one text; whether any beginning of it was found.
+// Prints the line for one text. Returns whether any entry starts with its first character.
 bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out) {
     const std::string bytes = BytesOfUtf8(text).bytes;
     const std::int32_t row = FindFirstByPrefix(rows, bytes);
     const std::string_view record = rows.RowText(row);
-    out << row + 1 << "\t" << Utf8OfBytes(record) << "\n";
+    out << TextOf(RecordNumberOf(row)) << "\t" << Utf8OfBytes(record) << "\n";
     return text.empty() ||
            (!bytes.empty() && EqualIgnoringCase(record.substr(0, 1), bytes.substr(0, 1)));
 }
 
-// The facts that the program's window shows, but for those about its own run.
+// Prints the facts that the program's window shows, except those about its own run.
 void PrintStatistics(const OpenDatabase& opened, std::ostream& out) {
     ProgramValues values;
     values.AcronymList = &opened.store;

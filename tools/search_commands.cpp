@@ -32,7 +32,8 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
         return kFailed;
     }
     const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
-    const SearchOutcome outcome = SearchDatabase(*finder, store, options.from - 1, limit, nullptr);
+    const SearchOutcome outcome =
+        SearchDatabase(*finder, store, RowOf(options.from), limit, nullptr);
     if (options.json) {
         PrintJsonRecords(store, outcome.hits, out);
     } else {
@@ -45,8 +46,9 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
     }
     err << NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size())) << "\n";
     if (outcome.limitReached) {
-        err << "There are more hits: continue with --from " << outcome.nextPosition + 1
-            << ", or use --all.\n";
+        err << "There are more hits: continue with --from "
+            << TextOf(RecordNumberOf(outcome.nextPosition)) << ", or use --all.
+";
     }
     return outcome.hits.empty() ? kNothingFound : kFound;
 }
@@ -68,7 +70,7 @@ int RunAnagram(const std::string& database, const std::string& letters, bool jso
         PrintJsonRecords(store, hits, out);
     } else {
         for (const std::int32_t row : hits) {
-            out << row + 1 << "\t" << Utf8OfBytes(store.RowText(row)) << "\n";
+            out << TextOf(RecordNumberOf(row)) << "\t" << Utf8OfBytes(store.RowText(row)) << "\n";
         }
     }
     err << "Number of possible rearrangements: " << RearrangementsText(typed, ",") << "\n";

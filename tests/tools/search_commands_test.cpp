@@ -58,7 +58,7 @@ TEST_F(SearchCommandTest, TakesEveryOption) {
     EXPECT_EQ(out_.str(), "RAS\tremote access\n");
     options = For("ra");
     options.request.in = SearchIn::Abbreviations;
-    options.from = 3;
+    options.from = RecordNumber{3};
     EXPECT_EQ(Search(options), 0);
     EXPECT_EQ(out_.str(), "RAS\tremote access\n");
     options = For("acc");
@@ -75,7 +75,7 @@ TEST_F(SearchCommandTest, SaysThatNothingIsFound) {
 TEST_F(SearchCommandTest, PrintsJson) {
     SearchOptions options = For("c");
     options.json = true;
-    options.from = 1;
+    options.from = RecordNumber{1};
     EXPECT_EQ(Search(options), 0);
     EXPECT_EQ(out_.str(),
               "[\n"
@@ -113,10 +113,10 @@ TEST_F(SearchCommandTest, AtTheLimitItSaysWhereToGoOn) {
         err_.str(),
         "Number of Hits: 500\nThere are more hits: continue with --from 501, or use --all.\n");
     SearchOptions rest = For("?");
-    rest.from = 501;
+    rest.from = RecordNumber{501};
     EXPECT_EQ(Search(rest), 0);
     EXPECT_EQ(err_.str(), "Number of Hits: 100\n");
-    rest.from = 601;
+    rest.from = RecordNumber{601};
     EXPECT_EQ(Search(rest), 1);
     SearchOptions all = For("?");
     all.all = true;
