@@ -167,19 +167,22 @@ class MatchFinder {
         if (limit < kMinMatch) {
             return best;
         }
+        const char* const here = bytes_.data() + position;
         std::uint32_t candidate = newest_[Bucket(position)];
         for (int tries = 0; tries < kMaxTries && candidate != kNone; ++tries) {
             if (position - candidate > kMaxDistance) {
                 break;
             }
-            std::size_t length = 0;
-            while (length < limit && bytes_[candidate + length] == bytes_[position + length]) {
-                ++length;
-            }
-            if (length > best.length) {
-                best = {candidate, length};
+            const char* const there = bytes_.data() + candidate;
+            // A run can be longer than the best one only if it has the next byte, too.
+            if (there[best.length] == here[best.length]) {
+                const char* const end = std::mismatch(here, here + limit, there).first;
+                const auto length = static_cast<std::size_t>(end - here);
                 if (length == limit) {
-                    break;
+                    return {candidate, length};
+                }
+                if (length > best.length) {
+                    best = {candidate, length};
                 }
             }
             candidate = older_[candidate % kRingBytes];
