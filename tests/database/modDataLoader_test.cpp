@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include "base/file_io.h"
-#include "base/number_text.h"
 #include "database/szdd.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
@@ -107,15 +106,9 @@ TEST_F(LoadDatabaseTest, AFolderInPlaceOfTheFileIsRefused) {
 }
 
 TEST_F(LoadDatabaseTest, AFileThatExpandsToItsOwnLengthIsRefused) {
-    // Eight incompressible characters take nine bytes, so the two lengths meet somewhere.
-    std::string file;
-    std::size_t expandedLength = 0;
-    for (std::size_t length = 4000; file.size() != expandedLength || file.empty(); length += 4) {
-        ASSERT_LT(length, 12000U);
-        const std::string expanded = ExpandedBytes({"A\t" + Incompressible(length)});
-        file = CompressSzdd(expanded);
-        expandedLength = expanded.size();
-    }
+    const std::vector<std::string> records = {RecordOfEqualLengths()};
+    const std::string file = DatabaseBytes(records);
+    ASSERT_EQ(file.size(), ExpandedBytes(records).size());
     EXPECT_FALSE(Load(file));
     ExpectFailure(kCannotDecode);
 }
@@ -228,7 +221,7 @@ TEST_F(LoadDatabaseTest, With250RecordsEveryThirdIsReported) {
     EXPECT_EQ(values_.ProgressStep, 3);
     std::vector<int> expected;
     for (int i = 0; i < 250; i += 3) {
-        expected.push_back(PercentOf(i, 250));
+        expected.push_back((2 * i + 2) / 5);  // 0.4 percent for each record, to the nearest
     }
     expected.push_back(100);
     EXPECT_EQ(progress_.percents, expected);
@@ -245,9 +238,19 @@ TEST_F(LoadDatabaseTest, With99RecordsEachIsReported) {
 }
 
 TEST_F(LoadDatabaseTest, ManyRecordsMakeAboutAHundredReports) {
-    ASSERT_TRUE(Load(DatabaseBytes(NumberedRecords(12345))));
-    EXPECT_LE(progress_.percents.size(), 101U);
-    EXPECT_GE(progress_.percents.size(), 99U);
+    ASSERT_TRUE(Load(DatabaseBytes(NumberedRecords(1234))));
+    EXPECT_EQ(values_.ProgressStep, 13);
+    EXPECT_EQ(progress_.percents.size(), 96U);
+}
+
+TEST(ProgressStepOf, MakesAHundredReportsAtMost) {
+    EXPECT_EQ(ProgressStepOf(12345), 124);
+    for (const std::int64_t records : {1, 99, 100, 101, 12345, 1000000, 2147483647}) {
+        const std::int64_t step = ProgressStepOf(static_cast<std::int32_t>(records));
+        EXPECT_LE((records + step - 1) / step, 100) << records;
+    }
+    EXPECT_EQ(ProgressStepOf(0), 1);
+    EXPECT_EQ(ProgressStepOf(-5), 1);
 }
 
 struct ClockCase {

@@ -87,7 +87,6 @@ TEST(ExpandSzdd, MoreThanTheLimitIsRefused) {
     EXPECT_FALSE(ExpandSzdd(file, 100).has_value());
     EXPECT_TRUE(ExpandSzdd("plain bytes", 11).has_value());
     EXPECT_FALSE(ExpandSzdd("plain bytes", 10).has_value());
-    EXPECT_EQ(kMaxExpandedBytes, 1073741824U);
 }
 
 std::string RandomText(std::mt19937& random, std::size_t length, unsigned letters) {
@@ -100,8 +99,7 @@ std::string RandomText(std::mt19937& random, std::size_t length, unsigned letter
 
 TEST(CompressSzdd, WhatItCompressesExpandsAgain) {
     std::mt19937 random(7);
-    for (std::size_t length :
-         {0U, 1U, 2U, 3U, 17U, 18U, 19U, 4095U, 4096U, 4097U, 9000U, 100000U}) {
+    for (std::size_t length : {0U, 1U, 2U, 3U, 17U, 18U, 19U, 4095U, 4096U, 4097U, 9000U, 66000U}) {
         for (const unsigned letters : {1U, 2U, 5U, 26U}) {
             const std::string text = RandomText(random, length, letters);
             EXPECT_EQ(Expanded(CompressSzdd(text)), text) << length << " " << letters;
@@ -120,7 +118,7 @@ TEST(CompressSzdd, ExpandsToAllByteValues) {
 
 TEST(CompressSzdd, TheSameBytesGiveTheSameFile) {
     std::mt19937 random(9);
-    const std::string text = RandomText(random, 50000, 4);
+    const std::string text = RandomText(random, 10000, 4);
     EXPECT_EQ(CompressSzdd(text), CompressSzdd(text));
 }
 

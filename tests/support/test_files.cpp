@@ -74,6 +74,21 @@ std::string Incompressible(std::size_t length) {
     return text;
 }
 
+std::string RecordOfEqualLengths() {
+    // Eight incompressible characters take nine bytes. So each eight bring the two lengths closer
+    // by a byte, and the two are equal for eight successive lengths.
+    std::size_t length = 1;
+    while (true) {
+        const std::string record = "A\t" + Incompressible(length);
+        const std::string expanded = ExpandedBytes({record});
+        const std::size_t gap = expanded.size() - CompressSzdd(expanded).size();
+        if (gap == 0) {
+            return record;
+        }
+        length += gap > 1 ? 8 * (gap - 1) : 1;
+    }
+}
+
 std::vector<std::string> NumberedRecords(int count) {
     std::vector<std::string> records;
     records.reserve(static_cast<std::size_t>(count));

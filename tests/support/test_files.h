@@ -49,4 +49,7 @@ class TestFolder {
 /// `length` visible characters in which hardly any three occur twice.
 [[nodiscard]] std::string Incompressible(std::size_t length);
 
+/// A record that compresses so badly that DatabaseBytes of it is as long as ExpandedBytes of it.
+[[nodiscard]] std::string RecordOfEqualLengths();
+
 }  // namespace brelex
