@@ -2,7 +2,6 @@
 #include "platform/window/accessible_name.h"
 
 #include <wx/dataview.h>
-#include <wx/window.h>
 
 #include <gtk/gtk.h>
 
@@ -26,8 +25,7 @@ GtkWidget* FocusableWidget(wxWindow& window) {
 
 }  // namespace
 
-void SetNames(wxWindow& window, const wxString& name, const wxString& spokenName) {
-    window.SetName(name);
+void SetSpokenName(wxWindow& window, const wxString& spokenName) {
     // The toolkit does not pass its name on to the accessibility layer (seen with 3.2.2).
     atk_object_set_name(gtk_widget_get_accessible(FocusableWidget(window)), spokenName.utf8_str());
 }

@@ -2,7 +2,6 @@
 #include "platform/window/accessible_name.h"
 
 #include <wx/access.h>
-#include <wx/window.h>
 
 namespace brelex {
 
@@ -27,8 +26,7 @@ class NamedAccessible final : public wxAccessible {
 
 }  // namespace
 
-void SetNames(wxWindow& window, const wxString& name, const wxString& spokenName) {
-    window.SetName(name);
+void SetSpokenName(wxWindow& window, const wxString& spokenName) {
     window.SetAccessible(new NamedAccessible(&window, spokenName));
 }
 
