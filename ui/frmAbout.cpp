@@ -8,7 +8,6 @@
 #include "base/number_text.h"
 #include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/link.h"
@@ -16,7 +15,6 @@
 #include "ui/controls/surface.h"
 #include "ui/controls/title_image.h"
 #include "ui/frmCredit.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -33,62 +31,51 @@ constexpr int kFirstTickMs = 500;
 
 frmAbout::frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
                    const std::function<void(const std::string&)>& openAddress)
-    : wxDialog(main, wxID_ANY, wxString("About ") + kAppTitle),
+    : SideWindow(*main, "frmAbout", wxString("About ") + kAppTitle),
       values_(values),
       openAddress_(openAddress),
-      units_(*this),
       slidingText_(kDonateText),
       tmrAnimateText(this) {
-    SetName("frmAbout");
-    SetIcons(AppIcons());
     CreateControls();
-    NameControls();
     PlaceControls();
     picAppTitle->Bind(wxEVT_LEFT_DOWN, &frmAbout::OnTitlePressed, this);
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { AnimateText(); });
+    StopWithWindow(tmrAnimateText);
     tmrAnimateText.StartOnce(kFirstTickMs);
-    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 void frmAbout::CreateControls() {
-    surface_ = new Surface(this);
-    auto* const title = new TitleImage(surface_);
-    title->FitInto({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
-    picAppTitle = title;
-    lblDescription =
-        new wxStaticText(surface_, wxID_ANY, "The best offline database of computer acronyms");
-    lblVersion = new wxStaticText(
-        surface_, wxID_ANY,
+    picAppTitle = Named(new TitleImage(surface_), "picAppTitle", kAppTitle);
+    picAppTitle->FitInto({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
+    lblDescription = NewLabel("lblDescription", "The best offline database of computer acronyms");
+    lblVersion = NewLabel(
+        "lblVersion",
         WxText("version " + FormatOneDecimal(values_.AppVersion, values_.decimalSeparator)));
-    lblCopyRight = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
-    lblCopyRight->SetLabelText(WxText(values_.info.copyright + ". All Rights Reserved."));
-    lblDBVersion = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
+    lblCopyRight =
+        NewLabel("lblCopyRight", WxText(values_.info.copyright + ". All Rights Reserved."));
+    lblDBVersion = NewLabel("lblDBVersion", wxEmptyString);
     lblDBVersion->Hide();  // or it would take the room of a line, as empty as it is
-    lblHyperLink[0] = new Link(surface_, WxText(values_.info.homePage),
-                               [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); });
-    lblHyperLink[1] = new Link(surface_, WxText(values_.info.supportAddress), [this] {
-        openAddress_("mailto:" + Utf8Text(lblHyperLink[1]->Text()));
-    });
-    picPayPal = new PaintedText(surface_);
-    imgPayPalDonate = new Link(surface_, DonateButtonPicture(),
-                               [this] { openAddress_(values_.info.donationPage); });
-    cmdOK = new wxButton(surface_, wxID_OK, "OK");
+    lblHyperLink[0] = Named(new Link(surface_, WxText(values_.info.homePage),
+                                     [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); }),
+                            "lblHyperLink0", "Home page");
+    lblHyperLink[1] =
+        Named(new Link(surface_, WxText(values_.info.supportAddress),
+                       [this] { openAddress_("mailto:" + Utf8Text(lblHyperLink[1]->Text())); }),
+              "lblHyperLink1", "Support by e-mail");
+    picPayPal = Named(new PaintedText(surface_), "picPayPal");
+    imgPayPalDonate = Named(new Link(surface_, DonateButtonPicture(),
+                                     [this] { openAddress_(values_.info.donationPage); }),
+                            "imgPayPalDonate", kDonateText);
+    cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
 }
 
-void frmAbout::NameControls() {
-    SetNames(*picAppTitle, "picAppTitle", kAppTitle);
-    lblDescription->SetName("lblDescription");
-    lblVersion->SetName("lblVersion");
-    lblCopyRight->SetName("lblCopyRight");
-    lblDBVersion->SetName("lblDBVersion");
-    SetNames(*lblHyperLink[0], "lblHyperLink0", "Home page");
-    SetNames(*lblHyperLink[1], "lblHyperLink1", "Support by e-mail");
-    picPayPal->SetName("picPayPal");
-    SetNames(*imgPayPalDonate, "imgPayPalDonate", kDonateText);
-    cmdOK->SetName("cmdOK");
+wxStaticText* frmAbout::NewLabel(const char* name, const wxString& text) const {
+    auto* label = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), name);
+    label->SetLabelText(text);
+    return label;
 }
 
 wxSizer* frmAbout::LayoutOfTexts() {
@@ -117,17 +104,12 @@ void frmAbout::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(LayoutOfTexts(), 0, wxEXPAND | wxALL, gap);
     all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*surface_, all);
+    FillWindow(all);
 }
 
 void frmAbout::AnimateText() {
     picPayPal->SetText(slidingText_.Next());
     tmrAnimateText.StartOnce(slidingText_.IntervalMs());
-}
-
-void frmAbout::EndModal(int result) {
-    tmrAnimateText.Stop();
-    wxDialog::EndModal(result);
 }
 
 void frmAbout::OnTitlePressed(wxMouseEvent& event) {

@@ -5,12 +5,11 @@
 #include <functional>
 #include <string>
 
-#include <wx/dialog.h>
 #include <wx/timer.h>
 
 #include "database/program_values.h"
 #include "presentation/moving_text.h"
-#include "ui/controls/layout_units.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxSizer;
@@ -18,22 +17,20 @@ class wxStaticText;
 
 namespace brelex {
 
-class Surface;
 class Link;
 class PaintedText;
+class TitleImage;
 
 /// The About box. It is made for one use.
-class frmAbout final : public wxDialog {
+class frmAbout final : public SideWindow {
   public:
     /// `openAddress` opens a web or e-mail address. `values` and it must outlive the window.
     frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
              const std::function<void(const std::string&)>& openAddress);
 
-    void EndModal(int result) override;
-
   private:
     void CreateControls();
-    void NameControls();
+    [[nodiscard]] wxStaticText* NewLabel(const char* name, const wxString& text) const;
     [[nodiscard]] wxSizer* LayoutOfTexts();
     void PlaceControls();
     void AnimateText();
@@ -41,11 +38,9 @@ class frmAbout final : public wxDialog {
 
     const ProgramValues& values_;
     const std::function<void(const std::string&)>& openAddress_;
-    LayoutUnits units_;
     SlidingText slidingText_;
 
-    Surface* surface_ = nullptr;
-    wxWindow* picAppTitle = nullptr;
+    TitleImage* picAppTitle = nullptr;
     wxStaticText* lblDescription = nullptr;
     wxStaticText* lblVersion = nullptr;
     wxStaticText* lblCopyRight = nullptr;

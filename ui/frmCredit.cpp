@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <vector>
 
+#include <wx/sizer.h>
+
 #include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
-#include "ui/controls/layout_units.h"
 #include "ui/controls/scroll_area.h"
-#include "ui/modGeneral.h"
+#include "ui/controls/surface.h"
 
 namespace brelex {
 
@@ -39,21 +39,16 @@ std::vector<ScrollLine> LinesOf(const std::vector<CreditRecord>& records, const 
 }  // namespace
 
 frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
-    : wxDialog(about, wxID_ANY, "Credits") {
-    SetName("frmCredit");
-    SetIcons(AppIcons());
-    const LayoutUnits units(*this);
-    picAbout = new ScrollArea(this, LinesOf(Credits(info), GetFont()));
-    SetNames(*picAbout, "picAbout", "Credits");
-    SetClientSize(std::max(units.Pixels(kWidth), picAbout->LinesWidth()), units.Pixels(kHeight));
-    picAbout->SetSize(GetClientSize());
+    : SideWindow(*about, "frmCredit", "Credits") {
+    picAbout =
+        Named(new ScrollArea(surface_, LinesOf(Credits(info), GetFont())), "picAbout", "Credits");
+    StopWithWindow(picAbout->tmrScrollText);
+    picAbout->SetMinSize(
+        {std::max(units_.Pixels(kWidth), picAbout->LinesWidth()), units_.Pixels(kHeight)});
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(picAbout, 1, wxEXPAND);
+    FillWindow(all);
     Bind(wxEVT_CHAR_HOOK, &frmCredit::OnKey, this);
-    KeepCentered(*this, *about);
-}
-
-void frmCredit::EndModal(int result) {
-    picAbout->Stop();
-    wxDialog::EndModal(result);
 }
 
 // The toolkit's own answer to the key needs a button.

@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/dialog.h>
-
-#include "database/program_values.h"
+#include "base/app_info.h"
+#include "ui/side_window.h"
 
 namespace brelex {
 
 class ScrollArea;
 
 /// The window with the credits. It is made for one use; the ESC key closes it.
-class frmCredit final : public wxDialog {
+class frmCredit final : public SideWindow {
   public:
     frmCredit(wxTopLevelWindow* about, const AppInfo& info);
-
-    void EndModal(int result) override;
 
   private:
     void OnKey(wxKeyEvent& event);

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include <wx/button.h>
-#include <wx/dcclient.h>
 #include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
@@ -17,7 +16,6 @@
 #include "toolkit/wx_text.h"
 #include "ui/controls/surface.h"
 #include "ui/controls/wrapped_text.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -41,26 +39,19 @@ std::size_t LengthOfNote(const wxString& fact) {
 }  // namespace
 
 frmDataInfo::frmDataInfo(wxTopLevelWindow* main, const ProgramValues& values)
-    : wxDialog(main, wxID_ANY, "Database Info"),
-      units_(*this) {
-    SetName("frmDataInfo");
-    SetIcons(AppIcons());
+    : SideWindow(*main, "frmDataInfo", "Database Info") {
     CreateControls(StatisticsOf(values));
     PlaceControls();
-    surface_->Bind(wxEVT_PAINT, &frmDataInfo::OnPaint, this);
-    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
-    surface_ = new Surface(this);
-    imgAppIcon = new wxStaticBitmap(surface_, wxID_ANY, AppIcon(kIconSize));
-    SetNames(*imgAppIcon, "imgAppIcon", kAppTitle);
-    lblTitle = new wxStaticText(surface_, wxID_ANY, "Database Info");
-    lblTitle->SetName("lblTitle");
+    imgAppIcon =
+        Named(new wxStaticBitmap(surface_, wxID_ANY, AppIcon(kIconSize)), "imgAppIcon", kAppTitle);
+    lblTitle = Named(new wxStaticText(surface_, wxID_ANY, "Database Info"), "lblTitle");
     lblTitle->SetFont(GetFont().Bold().Scaled(1.5F));
-    lblVersion = new wxStaticText(surface_, wxID_ANY, WxText(statistics.version));
-    lblVersion->SetName("lblVersion");
+    lblVersion =
+        Named(new wxStaticText(surface_, wxID_ANY, WxText(statistics.version)), "lblVersion");
 
     for (const Statistic* statistic :
          {&statistics.dbVersion, &statistics.acronymCount, &statistics.loadingTime,
@@ -106,10 +97,8 @@ void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
         AddStatistic(*group, "lblAvgLenOfExpansions", statistics.avgLenOfExpansions, kFewLines);
     addGroup(group, true);
 
-    lblFootnote_ = new wxStaticText(surface_, wxID_ANY, kStatisticsFootnote);
-    lblFootnote_->SetName("lblFootnote");
-    cmdOK = new wxButton(surface_, wxID_OK, "OK");
-    cmdOK->SetName("cmdOK");
+    lblFootnote_ = Named(new wxStaticText(surface_, wxID_ANY, kStatisticsFootnote), "lblFootnote");
+    cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
 }
@@ -124,11 +113,11 @@ wxStaticText* frmDataInfo::AddStatistic(wxFlexGridSizer& group, const char* name
                                         const Statistic& statistic, int mostLines) {
     auto* caption = new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
                                      wxDefaultPosition, {captionWidth_, -1});
-    auto* value = new wxStaticText(surface_, wxID_ANY, wxEmptyString);
     const wxString fact = WxText(statistic.text);
+    // Spoken is also what may be left out in the window.
+    auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), name, fact);
     const int width = units_.Pixels(kValueWidth);
     value->SetLabelText(WrappedText(*value, fact, {width, mostLines}, LengthOfNote(fact)));
-    SetNames(*value, name, fact);  // also what may be left out in the window
     // Measured text is a little wider when drawn.
     value->SetMinSize({std::max(width, value->GetBestSize().x), -1});
     group.Add(caption);
@@ -155,12 +144,9 @@ void frmDataInfo::PlaceControls() {
     all->Add(LayoutOfTitle(), 0, wxEXPAND | wxALL, gap);
     all->Add(figures_, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(end, 0, wxEXPAND | wxALL, gap);
-    FillWindow(*surface_, all);
-}
-
-void frmDataInfo::OnPaint(wxPaintEvent& /*event*/) {
-    wxPaintDC dc(surface_);
-    DrawFrameRound(dc, {figures_->GetPosition(), figures_->GetSize()});
+    FillWindow(all);
+    surface_->FrameArea(
+        {figures_->GetPosition() - wxPoint(1, 1), figures_->GetSize() + wxSize(1, 1)});
 }
 
 }  // namespace brelex

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/dialog.h>
-
 #include "database/program_values.h"
-#include "ui/controls/layout_units.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxFlexGridSizer;
@@ -14,12 +12,11 @@ class wxStaticText;
 
 namespace brelex {
 
-class Surface;
 struct DatabaseStatistics;
 struct Statistic;
 
 /// The window "Database Info". It is made for one use.
-class frmDataInfo final : public wxDialog {
+class frmDataInfo final : public SideWindow {
   public:
     /// The database of `values` is loaded.
     frmDataInfo(wxTopLevelWindow* main, const ProgramValues& values);
@@ -31,12 +28,9 @@ class frmDataInfo final : public wxDialog {
     [[nodiscard]] wxFlexGridSizer* NewGroup() const;
     [[nodiscard]] wxSizer* LayoutOfTitle();
     void PlaceControls();
-    void OnPaint(wxPaintEvent& event);
 
-    LayoutUnits units_;
     int captionWidth_ = 0;
 
-    Surface* surface_ = nullptr;
     wxSizer* figures_ = nullptr;
     wxStaticBitmap* imgAppIcon = nullptr;
     wxStaticText* lblTitle = nullptr;

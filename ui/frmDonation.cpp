@@ -8,12 +8,11 @@
 
 #include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/link.h"
 #include "ui/controls/scroll_area.h"
-#include "ui/modGeneral.h"
+#include "ui/controls/surface.h"
 
 namespace brelex {
 
@@ -35,28 +34,23 @@ std::vector<ScrollLine> Lines(const wxFont& font) {
 
 frmDonation::frmDonation(wxTopLevelWindow* main, const AppInfo& info,
                          const std::function<void(const std::string&)>& openAddress)
-    : wxDialog(main, wxID_ANY, "Donate via PayPal"),
+    : SideWindow(*main, "frmDonation", "Donate via PayPal"),
       info_(info),
-      openAddress_(openAddress),
-      units_(*this) {
-    SetName("frmDonation");
-    SetIcons(AppIcons());
+      openAddress_(openAddress) {
     CreateControls();
     PlaceControls();
     cmdDonate->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OpenDonationPage(); });
-    KeepCentered(*this, *main);
     cmdDonate->SetFocus();
 }
 
 void frmDonation::CreateControls() {
-    picCredit = new ScrollArea(this, Lines(GetFont()));
-    imgPayPalDonate = new Link(this, DonateButtonPicture(), [this] { OpenDonationPage(); });
-    cmdDonate = new wxButton(this, wxID_ANY, "&Donate...");
-    cmdCancel = new wxButton(this, wxID_CANCEL, "Cancel");
-    SetNames(*picCredit, "picCredit", "Behind the scenes");
-    SetNames(*imgPayPalDonate, "imgPayPalDonate", kDonateText);
-    cmdDonate->SetName("cmdDonate");
-    cmdCancel->SetName("cmdCancel");
+    picCredit = Named(new ScrollArea(surface_, Lines(GetFont())), "picCredit", "Behind the scenes");
+    StopWithWindow(picCredit->tmrScrollText);
+    imgPayPalDonate =
+        Named(new Link(surface_, DonateButtonPicture(), [this] { OpenDonationPage(); }),
+              "imgPayPalDonate", kDonateText);
+    cmdDonate = Named(new wxButton(surface_, wxID_ANY, "&Donate..."), "cmdDonate");
+    cmdCancel = Named(new wxButton(surface_, wxID_CANCEL, "Cancel"), "cmdCancel");
     cmdDonate->SetDefault();
 }
 
@@ -71,12 +65,7 @@ void frmDonation::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(picCredit, 1, wxEXPAND | wxALL, gap);
     all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    SetSizerAndFit(all);
-}
-
-void frmDonation::EndModal(int result) {
-    picCredit->Stop();
-    wxDialog::EndModal(result);
+    FillWindow(all);
 }
 
 void frmDonation::OpenDonationPage() {

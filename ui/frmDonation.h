@@ -4,10 +4,8 @@
 #include <functional>
 #include <string>
 
-#include <wx/dialog.h>
-
-#include "database/program_values.h"
-#include "ui/controls/layout_units.h"
+#include "base/app_info.h"
+#include "ui/side_window.h"
 
 class wxButton;
 
@@ -17,13 +15,11 @@ class Link;
 class ScrollArea;
 
 /// The window that asks for a donation. It is made for one use.
-class frmDonation final : public wxDialog {
+class frmDonation final : public SideWindow {
   public:
     /// `openAddress` opens a web address. `info` and it must outlive the window.
     frmDonation(wxTopLevelWindow* main, const AppInfo& info,
                 const std::function<void(const std::string&)>& openAddress);
-
-    void EndModal(int result) override;
 
   private:
     void CreateControls();
@@ -32,7 +28,6 @@ class frmDonation final : public wxDialog {
 
     const AppInfo& info_;
     const std::function<void(const std::string&)>& openAddress_;
-    LayoutUnits units_;
     ScrollArea* picCredit = nullptr;
     Link* imgPayPalDonate = nullptr;
     wxButton* cmdDonate = nullptr;

@@ -606,7 +606,7 @@ void frmMain::OnMenu(wxCommandEvent& event) {
             OpenEntryViewer();
             break;
         case kListboxRClickItem + 2:
-            CopyEntryToClipboard(*this, SelectedEntry());
+            CopyEntryToClipboard(SelectedEntry(), messages_);
             break;
         default:
             event.Skip();

@@ -12,10 +12,8 @@
 #include "platform/list/text_columns.h"
 #include "platform/window/accessible_name.h"
 #include "presentation/program_texts.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/surface.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -62,17 +60,13 @@ int TabStopFor(const wxWindow& window, const wxString& text) {
 }  // namespace
 
 frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
-    : wxDialog(main, wxID_ANY, "The Smiley Dictionary"),
-      units_(*this) {
-    SetName("frmSmiley");
-    SetIcons(AppIcons());
-    txtReadme = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                               wxTE_MULTILINE | wxTE_READONLY);
+    : SideWindow(*main, "frmSmiley", "The Smiley Dictionary") {
+    txtReadme = Named(new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                     wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY),
+                      "txtReadme", "Smileys and their meanings");
     // Where there is no Verdana the system takes what comes near it.
     txtReadme->SetFont(wxFontInfo(GetFont().GetFractionalPointSize()).FaceName("Verdana"));
-    cmdClose = new wxButton(this, wxID_CLOSE, "Close");
-    SetNames(*txtReadme, "txtReadme", "Smileys and their meanings");
-    cmdClose->SetName("cmdClose");
+    cmdClose = Named(new wxButton(surface_, wxID_CLOSE, "Close"), "cmdClose");
     cmdClose->SetDefault();
     SetEscapeId(wxID_CLOSE);
     const wxString text = WxLines(WxText(SmileyDictionaryText()));
@@ -85,7 +79,6 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     ShowAppInfoOnMenuRequest(*txtReadme, info);
     Bind(wxEVT_CHAR_HOOK, &frmSmiley::OnKey, this);
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
-    KeepCentered(*this, *main);
     txtReadme->SetFocus();  // the keys that scroll it and Shift+F10 work at once
 }
 
@@ -97,11 +90,10 @@ void frmSmiley::PlaceControls(int textWidth) {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(txtReadme, 1, wxEXPAND | wxALL, gap);
     all->Add(cmdClose, 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    SetSizer(all);
+    surface_->SetSizer(all);
     wxSize inside(boxWidth + 2 * gap, units_.Pixels(kHeight));
     inside.DecTo(LargestInside(*this));  // the text scrolls, and wraps
-    SetClientSize(inside);
-    Layout();
+    surface_->FillWindow(inside);
 }
 
 void frmSmiley::OnKey(wxKeyEvent& event) {

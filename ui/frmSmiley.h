@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <wx/dialog.h>
-
-#include "database/program_values.h"
-#include "ui/controls/layout_units.h"
+#include "base/app_info.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxTextCtrl;
@@ -12,7 +10,7 @@ class wxTextCtrl;
 namespace brelex {
 
 /// The window "The Smiley Dictionary". It is made for one use.
-class frmSmiley final : public wxDialog {
+class frmSmiley final : public SideWindow {
   public:
     /// `info` must outlive the window.
     frmSmiley(wxTopLevelWindow* main, const AppInfo& info);
@@ -21,7 +19,6 @@ class frmSmiley final : public wxDialog {
     void PlaceControls(int textWidth);
     void OnKey(wxKeyEvent& event);
 
-    LayoutUnits units_;
     wxTextCtrl* txtReadme = nullptr;
     wxButton* cmdClose = nullptr;
 };

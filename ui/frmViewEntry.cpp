@@ -12,12 +12,11 @@
 #include "database/record_text.h"
 #include "platform/list/text_columns.h"
 #include "platform/window/accessible_name.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
 #include "ui/controls/artwork.h"
+#include "ui/controls/modGeneral.h"
 #include "ui/controls/surface.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -45,53 +44,43 @@ class ReadOnlyLine final : public wxTextCtrl {
 
 frmViewEntry::frmViewEntry(wxTopLevelWindow* main, std::function<std::string_view()> selectedEntry,
                            const AppInfo& info)
-    : wxDialog(main, wxID_ANY, "Current Selection (Read Only)"),
-      selectedEntry_(std::move(selectedEntry)),
-      units_(*this) {
-    SetName("frmViewEntry");
-    SetIcons(AppIcons());
+    : SideWindow(*main, "frmViewEntry", "Current Selection (Read Only)"),
+      selectedEntry_(std::move(selectedEntry)) {
     CreateControls();
-    NameControls();
     PlaceControls();
     BindEvents(info);
     ShowEntry();
-    KeepCentered(*this, *main);
     cmdOK->SetFocus();
 }
 
 // In the order in which the TAB key visits them.
 void frmViewEntry::CreateControls() {
-    surface_ = new Surface(this);
     lblAbbreviation_ = new wxStaticText(surface_, wxID_ANY, "&Abbreviation:");
-    txtAbbrv = new ReadOnlyLine(surface_);
+    txtAbbrv = Named(new ReadOnlyLine(surface_), "txtAbbrv", "Abbreviation");
     lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
-    txtExpn = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                             wxTE_READONLY | wxTE_MULTILINE | ScrollStyle());
-    for (wxStaticText** label : {&lblAbbrLen, &lblExpnLen}) {
-        *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                  wxDefaultSize, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
-        (*label)->SetMinSize({GetTextExtent("99999").x, -1});
-    }
-    cmdCopy = new wxBitmapButton(surface_, wxID_ANY, CopyPicture());
+    txtExpn = Named(new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                   wxDefaultSize, wxTE_READONLY | wxTE_MULTILINE | ScrollStyle()),
+                    "txtExpn", "Expansion");
+    lblAbbrLen = Named(NewCount(), "lblAbbrLen");
+    lblExpnLen = Named(NewCount(), "lblExpnLen");
+    cmdCopy = Named(new wxBitmapButton(surface_, wxID_ANY, CopyPicture()), "cmdCopy", "Copy");
     cmdCopy->SetToolTip("Shortcut Ctrl+C");
-    cmdOK = new wxButton(surface_, wxID_OK, "OK");
+    cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
+}
+
+wxStaticText* frmViewEntry::NewCount() const {
+    auto* count = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                   wxDefaultSize, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
+    count->SetMinSize({GetTextExtent("99999").x, -1});
+    return count;
 }
 
 // Windows shows a scroll bar whether it is needed or not.
 long frmViewEntry::ScrollStyle() const {
     const int width = GetTextExtent(WxTextOfBytes(GetExpansion(selectedEntry_()))).x;
     return width < units_.Pixels(kWidthWithoutScrolling) ? wxTE_NO_VSCROLL : 0;
-}
-
-void frmViewEntry::NameControls() {
-    SetNames(*txtAbbrv, "txtAbbrv", "Abbreviation");
-    SetNames(*txtExpn, "txtExpn", "Expansion");
-    lblAbbrLen->SetName("lblAbbrLen");
-    lblExpnLen->SetName("lblExpnLen");
-    SetNames(*cmdCopy, "cmdCopy", "Copy");
-    cmdOK->SetName("cmdOK");
 }
 
 wxSizer* frmViewEntry::LayoutOfCount(wxStaticText* count) {
@@ -121,7 +110,7 @@ void frmViewEntry::PlaceControls() {
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(entry, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*surface_, all, units_.Pixels(kInnerWidth));
+    FillWindow(all, units_.Pixels(kInnerWidth));
 }
 
 void frmViewEntry::BindEvents(const AppInfo& info) {
@@ -146,7 +135,7 @@ void frmViewEntry::ShowEntry() {
 }
 
 void frmViewEntry::CopyEntry() {
-    CopyEntryToClipboard(*this, selectedEntry_());
+    CopyEntryToClipboard(selectedEntry_(), messages_);
 }
 
 // Before the controls: whichever has the focus, the whole entry is copied.

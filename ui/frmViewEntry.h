@@ -4,10 +4,8 @@
 #include <functional>
 #include <string_view>
 
-#include <wx/dialog.h>
-
-#include "database/program_values.h"
-#include "ui/controls/layout_units.h"
+#include "base/app_info.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxSizer;
@@ -16,10 +14,8 @@ class wxTextCtrl;
 
 namespace brelex {
 
-class Surface;
-
 /// The window "Current Selection (Read Only)", which shows one entry. It is made for one use.
-class frmViewEntry final : public wxDialog {
+class frmViewEntry final : public SideWindow {
   public:
     /// `selectedEntry` gives the record text of the entry that is selected in the main window's
     /// list. `info` must outlive the window.
@@ -29,7 +25,7 @@ class frmViewEntry final : public wxDialog {
   private:
     void CreateControls();
     [[nodiscard]] long ScrollStyle() const;
-    void NameControls();
+    [[nodiscard]] wxStaticText* NewCount() const;
     [[nodiscard]] wxSizer* LayoutOfCount(wxStaticText* count);
     void PlaceControls();
     void BindEvents(const AppInfo& info);
@@ -38,9 +34,6 @@ class frmViewEntry final : public wxDialog {
     void OnKey(wxKeyEvent& event);
 
     std::function<std::string_view()> selectedEntry_;
-    LayoutUnits units_;
-
-    Surface* surface_ = nullptr;
     wxStaticText* lblAbbreviation_ = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
     wxStaticText* lblAbbrLen = nullptr;

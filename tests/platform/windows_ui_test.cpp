@@ -20,6 +20,7 @@
 #include "base/file_io.h"
 #include "platform/desktop/command_line.h"
 #include "platform/desktop/modBrowseFolder.h"
+#include "platform/desktop/wx_message_sink.h"
 #include "platform/list/text_columns.h"
 #include "platform/system/wide_text.h"
 #include "tests/platform/system_window.h"
@@ -27,7 +28,7 @@
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"
-#include "ui/modGeneral.h"
+#include "ui/controls/modGeneral.h"
 
 namespace brelex {
 namespace {
@@ -363,7 +364,8 @@ TEST_F(MainWindowTest, CopyingWaitsForAProgramThatHoldsTheClipboard) {
     {
         const ClipboardHolder holder(80);
         ASSERT_TRUE(holder.Holds());
-        CopyEntryToClipboard(*window_, "RAM\tRandom Access Memory");
+        WxMessageSink messages(window_);
+        CopyEntryToClipboard("RAM\tRandom Access Memory", messages);
     }
     EXPECT_TRUE(boxes.texts.empty());
     EXPECT_EQ(ClipboardText(), "RAM = Random Access Memory");
@@ -375,7 +377,8 @@ TEST_F(MainWindowTest, CopyingGivesUpWithAMessageIfTheClipboardStaysHeld) {
     {
         const ClipboardHolder holder(1000);
         ASSERT_TRUE(holder.Holds());
-        CopyEntryToClipboard(*window_, "RAM\tRandom Access Memory");
+        WxMessageSink messages(window_);
+        CopyEntryToClipboard("RAM\tRandom Access Memory", messages);
     }
     ASSERT_EQ(boxes.texts.size(), 1U);
     EXPECT_EQ(boxes.texts[0],

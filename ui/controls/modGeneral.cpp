@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/modGeneral.h"
+#include "ui/controls/modGeneral.h"
 
 #include <algorithm>
 
@@ -15,8 +15,8 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include "base/message_sink.h"
 #include "database/record_text.h"
-#include "platform/desktop/wx_message_sink.h"
 #include "platform/window/window_place.h"
 #include "toolkit/wx_text.h"
 
@@ -48,10 +48,6 @@ void Draw3DFrame(wxDC& dc, const wxRect& area) {
     dc.DrawLine(left, bottom, right, bottom);
 }
 
-void DrawFrameRound(wxDC& dc, const wxRect& area, int above) {
-    Draw3DFrame(dc, {area.x - 1, area.y - above, area.width + 1, area.height + above});
-}
-
 void SetTopMost(wxTopLevelWindow& window, bool topMost) {
     const long style = window.GetWindowStyleFlag();
     // Afresh also if it should be there: where hiding takes a window out of the band the toolkit
@@ -62,7 +58,7 @@ void SetTopMost(wxTopLevelWindow& window, bool topMost) {
     }
 }
 
-void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText) {
+void CopyEntryToClipboard(std::string_view recordText, MessageSink& messages) {
     constexpr int kAttempts = 10;
     constexpr int kPauseMs = 20;
     const wxString text = WxTextOfBytes(GetAbbreviation(recordText)) + " = " +
@@ -74,9 +70,8 @@ void CopyEntryToClipboard(wxWindow& owner, std::string_view recordText) {
         done = PutOnClipboard(text);
     }
     if (!done) {
-        WxMessageSink(&owner).Show(
-            {"The entry could not be copied: another program is using the "
-             "clipboard. Try again.",
+        messages.Show(
+            {"The entry could not be copied: another program is using the clipboard. Try again.",
              kAppTitle, MessageIcon::Exclamation, MessageButtons::Ok});
     }
 }
@@ -113,39 +108,16 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     MoveFrame(window, place.GetTopLeft());
 }
 
-void KeepCentered(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
-    CenterWindow(window, main);
-    OnEachShowing(window, [&window, &main] { CenterWindow(window, main); });
-}
-
-void ShowAppInfo(wxTextCtrl& box, const AppInfo& info) {
+void ShowAppInfo(wxTextCtrl& box, const AppInfo& info, MessageSink& messages) {
     // Without a selection the box would only scroll to the caret.
     if (box.HasSelection()) {
         const long caret = box.GetInsertionPoint();
         box.SetSelection(caret, caret);
     }
-    WxMessageSink(&box).Show({std::string(kAppTitle) + " version " +
-                                  std::to_string(info.majorVersion) + "." +
-                                  std::to_string(info.minorVersion) + "\n\n" + info.copyright +
-                                  "\n" + info.supportAddress,
-                              kAppTitle, MessageIcon::Information, MessageButtons::Ok});
-}
-
-void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info) {
-    box.Bind(wxEVT_RIGHT_DOWN, [&box, &info](wxMouseEvent&) { ShowAppInfo(box, info); });
-    box.Bind(wxEVT_CONTEXT_MENU, [](wxContextMenuEvent&) {});  // not the toolkit's own
-    box.Bind(wxEVT_KEY_DOWN, [&box, &info](wxKeyEvent& event) {
-        // GTK and Windows give the same key different codes.
-        const bool menuKey =
-            (event.GetKeyCode() == WXK_MENU || event.GetKeyCode() == WXK_WINDOWS_MENU) &&
-            event.GetModifiers() == wxMOD_NONE;
-        const bool shiftF10 = event.GetKeyCode() == WXK_F10 && event.GetModifiers() == wxMOD_SHIFT;
-        if (menuKey || shiftF10) {
-            ShowAppInfo(box, info);
-        } else {
-            event.Skip();
-        }
-    });
+    messages.Show({std::string(kAppTitle) + " version " + std::to_string(info.majorVersion) + "." +
+                       std::to_string(info.minorVersion) + "\n\n" + info.copyright + "\n" +
+                       info.supportAddress,
+                   kAppTitle, MessageIcon::Information, MessageButtons::Ok});
 }
 
 }  // namespace brelex

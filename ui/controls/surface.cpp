@@ -2,12 +2,16 @@
 #include "ui/controls/surface.h"
 
 #include <algorithm>
+#include <cassert>
 
+#include <wx/dc.h>
 #include <wx/display.h>
 #include <wx/frame.h>
 #include <wx/menu.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
+
+#include "ui/controls/modGeneral.h"
 
 namespace brelex {
 
@@ -61,6 +65,29 @@ void Surface::FillWindow(const wxSize& size) {
     SetVirtualSize(size);
     if (GetSizer() != nullptr) {
         GetSizer()->SetDimension(CalcScrolledPosition(wxPoint(0, 0)), size);
+    }
+}
+
+void Surface::FrameChild(const wxWindow& child, int above) {
+    assert(child.GetParent() == this);
+    framedChildren_.push_back({&child, above});
+}
+
+void Surface::FrameArea(const wxRect& area) {
+    framedAreas_.push_back(area);
+}
+
+// The toolkit calls this with what scrolls already moved.
+void Surface::OnDraw(wxDC& dc) {
+    for (const wxRect& area : framedAreas_) {
+        Draw3DFrame(dc, area);
+    }
+    for (const auto& [child, above] : framedChildren_) {
+        if (child->IsShown()) {
+            const wxPoint corner = CalcUnscrolledPosition(child->GetPosition());
+            const wxSize size = child->GetSize();
+            Draw3DFrame(dc, {corner.x - 1, corner.y - above, size.x + 1, size.y + above});
+        }
     }
 }
 
