@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "presentation/toolbar_state.h"
 
+#include <cassert>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -17,55 +18,59 @@ std::int16_t Rounded(double number) {
 
 }  // namespace
 
-EdgeRectangle EdgeOf(const IconBounds& icon) {
+EdgeRectangle EdgeRectangleOf(const IconBounds& icon) {
     return {Rounded(icon.left), Rounded(icon.top), Rounded(icon.left + icon.width),
             Rounded(icon.top + icon.height)};
 }
 
-ToolbarState::ToolbarState(std::vector<IconBounds> icons, double width, double height,
-                           ToolbarView& view)
-    : icons_(std::move(icons)),
-      width_(width),
-      height_(height),
-      view_(view) {}
+void ToolbarState::SetSize(double width, double height) {
+    width_ = width;
+    height_ = height;
+}
 
-void ToolbarState::OnMouseMove(int buttons, double x, double y) {
-    view_.SetCapture();
+void ToolbarState::OnMouseMove(MouseButtons down, double x, double y) {
     if (x < 0 || y < 0 || x > width_ || y > height_) {
-        CoolDown();
-        view_.ReleaseCapture();
+        OnMouseLeave();
         return;
+    }
+    if (down.Any()) {
+        view_.HoldMouse();
     }
     const int icon = IconAt(x, y);
     if (icon == kNone) {
         CoolDown();
-        return;
-    }
-    if (buttons == buttons_ && icon == hotIcon_) {
-        return;
-    }
-    view_.LetPendingPaintingRun();
-    if (hotIcon_ != kNone) {
-        view_.DrawIcon(hotIcon_, kFlat);
-    }
-    hotIcon_ = icon;
-    view_.DrawIcon(icon, buttons == kLeftButton ? kSunken : kRaised);
-    view_.Describe(icon);
-    buttons_ = buttons;
-}
-
-void ToolbarState::OnMouseDown(int button) {
-    if (button == kLeftButton && hotIcon_ != kNone) {
-        buttons_ = kLeftButton;
-        view_.DrawIcon(hotIcon_, kSunken);
+        view_.Describe(kNone);
+    } else if (icon != hotIcon_ || down != shownButtons_) {
+        view_.LetPendingPaintingRun();
+        CoolDown();
+        HeatUp(icon, down.LeftAlone() ? Edge::Sunken : Edge::Raised);
+        view_.Describe(icon);
+        shownButtons_ = down;
     }
 }
 
-void ToolbarState::OnMouseUp(int button) {
-    if (button == kLeftButton && hotIcon_ != kNone) {
-        const int icon = std::exchange(hotIcon_, kNone);
-        buttons_ = 0;
-        view_.DrawIcon(icon, kFlat);
+void ToolbarState::OnMouseLeave() {
+    CoolDown();
+    view_.Describe(kNone);
+    view_.LetMouseGo();
+}
+
+void ToolbarState::OnMouseDown(MouseButton button) {
+    view_.HoldMouse();
+    if (button == MouseButton::Left && hotIcon_ != kNone) {
+        shownButtons_ = {.left = true};
+        HeatUp(hotIcon_, Edge::Sunken);
+    }
+}
+
+void ToolbarState::OnMouseUp(MouseButton button, MouseButtons stillDown) {
+    if (!stillDown.Any()) {
+        view_.LetMouseGo();
+    }
+    if (button == MouseButton::Left && hotIcon_ != kNone) {
+        const int icon = hotIcon_;
+        shownButtons_ = {};
+        CoolDown();
         view_.RunAction(icon);
     }
 }
@@ -73,31 +78,42 @@ void ToolbarState::OnMouseUp(int button) {
 void ToolbarState::OnCaptureLost() {
     if (hotIcon_ != kNone) {
         CoolDown();
+        view_.Describe(kNone);
     }
 }
 
-void ToolbarState::OnResize(double width, double height) {
-    width_ = width;
-    height_ = height;
+const IconBounds& ToolbarState::BoundsOf(int icon) const {
+    assert(icon >= 0 && icon < IconCount());
+    return icons_[static_cast<std::size_t>(icon)];
+}
+
+Edge ToolbarState::EdgeOf(int icon) const {
+    assert(icon >= 0 && icon < IconCount());
+    return icon == hotIcon_ ? hotEdge_ : Edge::Flat;
 }
 
 int ToolbarState::IconAt(double x, double y) const {
     int found = kNone;
-    for (std::size_t i = 0; i < icons_.size(); ++i) {
-        const IconBounds& icon = icons_[i];
+    for (int i = 0; i < IconCount(); ++i) {
+        const IconBounds& icon = BoundsOf(i);
         if (x >= icon.left && x <= icon.left + icon.width && y >= icon.top &&
             y <= icon.top + icon.height) {
-            found = static_cast<int>(i);
+            found = i;
         }
     }
     return found;
 }
 
+void ToolbarState::HeatUp(int icon, Edge edge) {
+    hotIcon_ = icon;
+    hotEdge_ = edge;
+    view_.DrawIcon(icon);
+}
+
 void ToolbarState::CoolDown() {
     if (hotIcon_ != kNone) {
-        view_.DrawIcon(std::exchange(hotIcon_, kNone), kFlat);
+        view_.DrawIcon(std::exchange(hotIcon_, kNone));
     }
-    view_.Describe(kNone);
 }
 
 }  // namespace brelex

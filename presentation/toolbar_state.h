@@ -53,17 +53,33 @@ struct EdgeRectangle {
 };
 
 /// The edge of an icon whose pixels are below 32768.
-[[nodiscard]] EdgeRectangle EdgeOf(const IconBounds& icon);
+[[nodiscard]] EdgeRectangle EdgeRectangleOf(const IconBounds& icon);
 
-/// How an icon is drawn.
-inline constexpr int kFlat = 0;    ///< without an edge
-inline constexpr int kRaised = 1;  ///< the mouse is over it
-inline constexpr int kSunken = 2;  ///< the left button is held on it
+/// How the edge of an icon is drawn.
+enum class Edge {
+    Flat,    ///< not at all
+    Raised,  ///< the mouse is over the icon
+    Sunken   ///< the left button is held on it
+};
 
-/// The mouse buttons that are down, as bits.
-inline constexpr int kLeftButton = 1;
-inline constexpr int kRightButton = 2;
-inline constexpr int kMiddleButton = 4;
+enum class MouseButton {
+    Left,
+    Right,
+    Middle
+};
+
+/// The mouse buttons that are down.
+struct MouseButtons {
+    bool left = false;
+    bool right = false;
+    bool middle = false;
+
+    [[nodiscard]] bool Any() const { return left || right || middle; }
+
+    [[nodiscard]] bool LeftAlone() const { return left && !right && !middle; }
+
+    bool operator==(const MouseButtons&) const = default;
+};
 
 /// What the toolbar shows and does. Icons are numbered from 0.
 class ToolbarView {
@@ -73,16 +89,21 @@ class ToolbarView {
     ToolbarView& operator=(const ToolbarView&) = delete;
     virtual ~ToolbarView() = default;
 
-    /// Has all movements of the mouse come to the toolbar, also those outside it, or no longer.
-    virtual void SetCapture() = 0;
-    virtual void ReleaseCapture() = 0;
+    /// Makes all movements of the mouse come to the toolbar, also those outside it. Called only
+    /// while a button is held, and also if the mouse is held already. Without a button the mouse
+    /// stays free: the toolkit says when it leaves, and Windows has no menu keys while a window
+    /// holds it.
+    virtual void HoldMouse() = 0;
+
+    /// Ends that. Called also if the mouse is not held.
+    virtual void LetMouseGo() = 0;
 
     /// Lets the window show what it has to before an icon changes. Must not lead to another
     /// call of the state.
     virtual void LetPendingPaintingRun() = 0;
 
-    /// Shows an icon in one of the states above.
-    virtual void DrawIcon(int icon, int state) = 0;
+    /// Draws an icon again, whose edge has changed.
+    virtual void DrawIcon(int icon) = 0;
 
     /// The icon under the mouse, -1 if there is none.
     virtual void Describe(int icon) = 0;
@@ -91,42 +112,58 @@ class ToolbarView {
     virtual void RunAction(int icon) = 0;
 };
 
-/// The behaviour of flat buttons: an icon rises under the mouse, sinks while the left button is
-/// held on it, and acts when the button is released. An action can still be abandoned by leaving
-/// the toolbar, or exchanged by sliding to another icon.
+/// The behavior of flat buttons. An icon rises under the mouse, sinks while the left button is held
+/// on it, and acts when the button is released. Leaving the toolbar abandons the action; sliding to
+/// another icon exchanges it.
 class ToolbarState {
   public:
-    /// A toolbar of this size, in pixels, with icons on it. Where icons overlap, the later is
-    /// meant. `view` must outlive the state.
-    ToolbarState(std::vector<IconBounds> icons, double width, double height, ToolbarView& view);
+    /// A toolbar without icons. `view` must outlive the state.
+    explicit ToolbarState(ToolbarView& view) : view_(view) {}
 
-    /// The mouse is at a place, in pixels from the upper left corner, with these buttons down
-    /// (bits). The boundaries of icons and toolbar belong to them, right and bottom, too.
-    void OnMouseMove(int buttons, double x, double y);
+    /// Adds the icon with the next number. Where icons overlap, the mouse is over the later one.
+    void AddIcon(const IconBounds& bounds) { icons_.push_back(bounds); }
 
-    /// A button (one bit) goes down or up.
-    void OnMouseDown(int button);
-    void OnMouseUp(int button);
+    /// Gives the toolbar a size in pixels.
+    void SetSize(double width, double height);
 
-    /// The mouse is somebody else's now. What is said of other things stays.
+    /// The mouse is at a place, in pixels from the upper left corner, with these buttons down. The
+    /// right and bottom boundaries of icons and toolbar belong to them, too.
+    void OnMouseMove(MouseButtons down, double x, double y);
+
+    /// The mouse has left the toolbar.
+    void OnMouseLeave();
+
+    /// A button goes down.
+    void OnMouseDown(MouseButton button);
+
+    /// A button goes up, and these are still down.
+    void OnMouseUp(MouseButton button, MouseButtons stillDown);
+
+    /// Another window has taken the mouse. The description of something else stays.
     void OnCaptureLost();
 
-    /// The toolbar has another size, in pixels.
-    void OnResize(double width, double height);
+    [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
 
-    /// The icon whose edge is drawn, -1 if there is none.
+    [[nodiscard]] const IconBounds& BoundsOf(int icon) const;
+
+    /// How the edge of an icon is to be drawn.
+    [[nodiscard]] Edge EdgeOf(int icon) const;
+
+    /// The icon whose edge is not flat, -1 if there is none.
     [[nodiscard]] int HotIcon() const { return hotIcon_; }
 
   private:
     [[nodiscard]] int IconAt(double x, double y) const;
+    void HeatUp(int icon, Edge edge);
     void CoolDown();
 
-    std::vector<IconBounds> icons_;
-    double width_;
-    double height_;
     ToolbarView& view_;
+    std::vector<IconBounds> icons_;
+    double width_ = 0;
+    double height_ = 0;
     int hotIcon_ = -1;
-    int buttons_ = 0;  // remembered: what the last redrawing was for
+    Edge hotEdge_ = Edge::Raised;
+    MouseButtons shownButtons_;  // those that the hot icon was drawn for last
 };
 
 }  // namespace brelex

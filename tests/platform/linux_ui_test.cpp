@@ -82,9 +82,9 @@ TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {
     const auto& bar = dynamic_cast<Toolbar&>(*Control("picToolbar"));
     user_.MouseMove(bar.ClientToScreen(wxPoint(18, 18)));
     user_.MouseMove(bar.ClientToScreen(wxPoint(20, 20)));
-    ASSERT_TRUE(WaitFor([&] { return bar.StateOf(0) == kRaised; }));
+    ASSERT_TRUE(WaitFor([&] { return bar.EdgeOf(0) == Edge::Raised; }));
     user_.Char('F', wxMOD_ALT);
-    EXPECT_TRUE(WaitFor([&] { return bar.StateOf(0) == kFlat; }));
+    EXPECT_TRUE(WaitFor([&] { return bar.EdgeOf(0) == Edge::Flat; }));
     Settle(150);
     user_.Char(WXK_ESCAPE);
     Settle(150);

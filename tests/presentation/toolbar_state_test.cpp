@@ -15,16 +15,17 @@ namespace {
 // Writes down what the toolbar does.
 class RecordingView final : public ToolbarView {
   public:
-    void SetCapture() override { log.emplace_back("capture"); }
+    void HoldMouse() override { log.emplace_back("hold"); }
 
-    void ReleaseCapture() override { log.emplace_back("release"); }
+    void LetMouseGo() override { log.emplace_back("let go"); }
 
     void LetPendingPaintingRun() override { log.emplace_back("paint"); }
 
-    void DrawIcon(int icon, int state) override {
-        log.push_back(std::to_string(icon) + (state == kFlat     ? " flat"
-                                              : state == kRaised ? " raised"
-                                                                 : " sunken"));
+    void DrawIcon(int icon) override {
+        const Edge edge = state->EdgeOf(icon);
+        log.push_back(std::to_string(icon) + (edge == Edge::Flat     ? " flat"
+                                              : edge == Edge::Raised ? " raised"
+                                                                     : " sunken"));
     }
 
     void Describe(int icon) override {
@@ -33,6 +34,7 @@ class RecordingView final : public ToolbarView {
 
     void RunAction(int icon) override { log.push_back("run " + std::to_string(icon)); }
 
+    const ToolbarState* state = nullptr;
     std::vector<std::string> log;
 };
 
@@ -40,7 +42,13 @@ class RecordingView final : public ToolbarView {
 // second by a corner.
 class Toolbar {
   public:
-    Toolbar() : state({{10, 4, 32, 32}, {50, 4, 32, 32}, {80, 4, 32, 32}}, 200, 40, view) {}
+    Toolbar() : state(view) {
+        view.state = &state;
+        for (const double left : {10, 50, 80}) {
+            state.AddIcon({left, 4, 32, 32});
+        }
+        state.SetSize(200, 40);
+    }
 
     // What the toolbar does when `act` happens.
     std::vector<std::string> Log(const std::function<void(ToolbarState&)>& act) {
@@ -55,6 +63,10 @@ class Toolbar {
 
 using Strings = std::vector<std::string>;
 
+constexpr MouseButtons kLeft = {.left = true};
+constexpr MouseButtons kRight = {.right = true};
+constexpr MouseButtons kBoth = {.left = true, .right = true};
+
 struct PlaceCase {
     const char* name;
     double x;
@@ -66,7 +78,7 @@ class ToolbarPlace : public testing::TestWithParam<PlaceCase> {};
 
 TEST_P(ToolbarPlace, IsOverItsIcon) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, GetParam().x, GetParam().y);
+    toolbar.state.OnMouseMove({}, GetParam().x, GetParam().y);
     EXPECT_EQ(toolbar.state.HotIcon(), GetParam().hot);
 }
 
@@ -83,24 +95,24 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ToolbarState, EnteringAnIconRaisesAndDescribesIt) {
     Toolbar toolbar;
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 20, 20); }),
-              (Strings{"capture", "paint", "0 raised", "describe 0"}));
-    // Nothing is redrawn while it stays there, but the mouse is held on every move.
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 22, 22); }), (Strings{"capture"}));
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove({}, 20, 20); }),
+              (Strings{"paint", "0 raised", "describe 0"}));
+    // Nothing is redrawn while it stays there.
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove({}, 22, 22); }), Strings());
 }
 
 TEST(ToolbarState, EnteringTheNextIconFlattensTheLast) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 60, 20); }),
-              (Strings{"capture", "paint", "0 flat", "1 raised", "describe 1"}));
+    toolbar.state.OnMouseMove({}, 20, 20);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove({}, 60, 20); }),
+              (Strings{"paint", "0 flat", "1 raised", "describe 1"}));
 }
 
 TEST(ToolbarState, BetweenTheIconsNothingIsHot) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 46, 20); }),
-              (Strings{"capture", "0 flat", "describe nothing"}));
+    toolbar.state.OnMouseMove({}, 20, 20);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove({}, 46, 20); }),
+              (Strings{"0 flat", "describe nothing"}));
     EXPECT_EQ(toolbar.state.HotIcon(), -1);
 }
 
@@ -114,9 +126,10 @@ class ToolbarOutside : public testing::TestWithParam<OutsideCase> {};
 
 TEST_P(ToolbarOutside, FlattensAndLetsGoOfTheMouse) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, GetParam().x, GetParam().y); }),
-              (Strings{"capture", "0 flat", "describe nothing", "release"}));
+    toolbar.state.OnMouseMove(kLeft, 20, 20);
+    EXPECT_EQ(
+        toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeft, GetParam().x, GetParam().y); }),
+        (Strings{"0 flat", "describe nothing", "let go"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, ToolbarOutside,
@@ -125,75 +138,91 @@ INSTANTIATE_TEST_SUITE_P(Table, ToolbarOutside,
                                          OutsideCase{"Below", 20, 41}),
                          CaseName());
 
+TEST(ToolbarState, AMouseThatLeavesFlattens) {
+    Toolbar toolbar;
+    toolbar.state.OnMouseMove({}, 20, 20);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseLeave(); }),
+              (Strings{"0 flat", "describe nothing", "let go"}));
+}
+
 TEST(ToolbarState, APressSinksAndAReleaseRuns) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseDown(kLeftButton); }),
-              (Strings{"0 sunken"}));
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeftButton, 21, 21); }),
-              (Strings{"capture"}));
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(kLeftButton); }),
-              (Strings{"0 flat", "run 0"}));
+    toolbar.state.OnMouseMove({}, 20, 20);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseDown(MouseButton::Left); }),
+              (Strings{"hold", "0 sunken"}));
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeft, 21, 21); }),
+              (Strings{"hold"}));
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(MouseButton::Left, {}); }),
+              (Strings{"let go", "0 flat", "run 0"}));
     EXPECT_EQ(toolbar.state.HotIcon(), -1);
 }
 
 TEST(ToolbarState, APressIsAbandonedByLeaving) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    toolbar.state.OnMouseDown(kLeftButton);
-    toolbar.state.OnMouseMove(kLeftButton, 20, 50);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(kLeftButton); }), Strings());
+    toolbar.state.OnMouseMove({}, 20, 20);
+    toolbar.state.OnMouseDown(MouseButton::Left);
+    toolbar.state.OnMouseMove(kLeft, 20, 50);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(MouseButton::Left, {}); }),
+              (Strings{"let go"}));
 }
 
 TEST(ToolbarState, SlidingToAnotherIconRunsThatOnesAction) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    toolbar.state.OnMouseDown(kLeftButton);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeftButton, 60, 20); }),
-              (Strings{"capture", "paint", "0 flat", "1 sunken", "describe 1"}));
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(kLeftButton); }),
-              (Strings{"1 flat", "run 1"}));
+    toolbar.state.OnMouseMove({}, 20, 20);
+    toolbar.state.OnMouseDown(MouseButton::Left);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeft, 60, 20); }),
+              (Strings{"hold", "paint", "0 flat", "1 sunken", "describe 1"}));
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(MouseButton::Left, {}); }),
+              (Strings{"let go", "1 flat", "run 1"}));
 }
 
 TEST(ToolbarState, AfterAReleaseTheIconUnderTheMouseRisesAgain) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    toolbar.state.OnMouseDown(kLeftButton);
-    toolbar.state.OnMouseUp(kLeftButton);
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(0, 20, 20); }),
-              (Strings{"capture", "paint", "0 raised", "describe 0"}));
+    toolbar.state.OnMouseMove({}, 20, 20);
+    toolbar.state.OnMouseDown(MouseButton::Left);
+    toolbar.state.OnMouseUp(MouseButton::Left, {});
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove({}, 20, 20); }),
+              (Strings{"paint", "0 raised", "describe 0"}));
 }
 
 TEST(ToolbarState, OtherButtonsNeitherSinkNorRun) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
-    for (const int button : {kRightButton, kMiddleButton}) {
+    toolbar.state.OnMouseMove({}, 20, 20);
+    for (const MouseButton button : {MouseButton::Right, MouseButton::Middle}) {
         EXPECT_EQ(toolbar.Log([&](ToolbarState& s) {
             s.OnMouseDown(button);
-            s.OnMouseUp(button);
+            s.OnMouseUp(button, {});
         }),
-                  Strings());
+                  (Strings{"hold", "let go"}));
     }
     // With the right button held the edge is a raised one; with both, too.
-    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kRightButton, 20, 20); }),
-              (Strings{"capture", "paint", "0 flat", "0 raised", "describe 0"}));
-    EXPECT_EQ(
-        toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeftButton | kRightButton, 20, 20); }),
-        (Strings{"capture", "paint", "0 flat", "0 raised", "describe 0"}));
+    for (const MouseButtons down : {kRight, kBoth}) {
+        EXPECT_EQ(toolbar.Log([&](ToolbarState& s) { s.OnMouseMove(down, 20, 20); }),
+                  (Strings{"hold", "paint", "0 flat", "0 raised", "describe 0"}));
+    }
 }
 
-TEST(ToolbarState, WithoutAHotIconButtonsDoNothing) {
+TEST(ToolbarState, HoldsTheMouseUntilTheLastButtonIsUp) {
+    Toolbar toolbar;
+    toolbar.state.OnMouseMove(kBoth, 20, 20);
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(MouseButton::Right, kLeft); }),
+              Strings());
+    EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnMouseUp(MouseButton::Left, {}); }),
+              (Strings{"let go", "0 flat", "run 0"}));
+}
+
+TEST(ToolbarState, WithoutAHotIconButtonsRunNothing) {
     Toolbar toolbar;
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) {
-        s.OnMouseDown(kLeftButton);
-        s.OnMouseUp(kLeftButton);
+        s.OnMouseDown(MouseButton::Left);
+        s.OnMouseUp(MouseButton::Left, {});
     }),
-              Strings());
+              (Strings{"hold", "let go"}));
 }
 
 TEST(ToolbarState, LosingTheMouseFlattens) {
     Toolbar toolbar;
-    toolbar.state.OnMouseMove(0, 20, 20);
+    toolbar.state.OnMouseMove({}, 20, 20);
     EXPECT_EQ(toolbar.Log([](ToolbarState& s) { s.OnCaptureLost(); }),
               (Strings{"0 flat", "describe nothing"}));
     // What another control says in the meantime stays.
@@ -202,39 +231,18 @@ TEST(ToolbarState, LosingTheMouseFlattens) {
 
 TEST(ToolbarState, AWiderToolbarIsStillInsideBehindTheIcons) {
     Toolbar toolbar;
-    const auto moveFarRight = [](ToolbarState& s) { s.OnMouseMove(0, 5000, 20); };
+    const auto moveFarRight = [](ToolbarState& s) { s.OnMouseMove(kLeft, 5000, 20); };
     const Strings outside = toolbar.Log(moveFarRight);
-    toolbar.state.OnResize(6000, 40);
+    toolbar.state.SetSize(6000, 40);
     const Strings inside = toolbar.Log(moveFarRight);
-    EXPECT_EQ(outside, (Strings{"capture", "describe nothing", "release"}));
-    EXPECT_EQ(inside, (Strings{"capture", "describe nothing"}));
+    EXPECT_EQ(outside, (Strings{"describe nothing", "let go"}));
+    EXPECT_EQ(inside, (Strings{"hold", "describe nothing"}));
 }
 
-TEST(EdgeOf, LiesOnTheBoundaryRoundedToEven) {
-    EXPECT_EQ(EdgeOf({10, 4, 32, 32}), (EdgeRectangle{10, 4, 42, 36}));
-    EXPECT_EQ(EdgeOf({10.5, 11.5, 32, 32}), (EdgeRectangle{10, 12, 42, 44}));
-    EXPECT_EQ(EdgeOf({10.6, 11.4, 32.2, 32.2}), (EdgeRectangle{11, 11, 43, 44}));
-}
-
-TEST(ToolbarIcons, SayWhatTheyAreFor) {
-    struct Icon {
-        const char* description;
-        const char* toolTip;
-    };
-
-    const std::vector<Icon> icons = {
-        {"Search Database", "Searches the database based on criteria"},
-        {"Anagrammatic Search", "Searches the database anagrammatically for acronyms"},
-        {"Smiley Dictionary", "Displays a dictionary of smileys"},
-        {"Help Contents", "Opens the Help Contents window"},
-        {"About", "Displays information about the program"},
-        {"Exit", "Donate any amount you wish via PayPal"},
-        {"Exit", "Quits the application"}};
-    ASSERT_EQ(icons.size(), kToolbarIcons.size());
-    for (std::size_t i = 0; i < icons.size(); ++i) {
-        EXPECT_STREQ(kToolbarIcons.at(i).description, icons[i].description);
-        EXPECT_STREQ(kToolbarIcons.at(i).toolTip, icons[i].toolTip);
-    }
+TEST(EdgeRectangleOf, LiesOnTheBoundaryRoundedToEven) {
+    EXPECT_EQ(EdgeRectangleOf({10, 4, 32, 32}), (EdgeRectangle{10, 4, 42, 36}));
+    EXPECT_EQ(EdgeRectangleOf({10.5, 11.5, 32, 32}), (EdgeRectangle{10, 12, 42, 44}));
+    EXPECT_EQ(EdgeRectangleOf({10.6, 11.4, 32.2, 32.2}), (EdgeRectangle{11, 11, 43, 44}));
 }
 
 }  // namespace

@@ -6,30 +6,36 @@
 
 namespace brelex {
 
-void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, int state) {
-    wxSystemColour leftAndTop = wxSYS_COLOUR_BTNFACE;
-    wxSystemColour rightAndBottom = wxSYS_COLOUR_BTNFACE;
-    switch (state) {
-        case kFlat:
+namespace {
+
+struct EdgeColours {
+    wxSystemColour leftAndTop;
+    wxSystemColour rightAndBottom;
+};
+
+EdgeColours ColoursOf(Edge edge) {
+    switch (edge) {
+        case Edge::Raised:
+            return {wxSYS_COLOUR_BTNHIGHLIGHT, wxSYS_COLOUR_BTNSHADOW};
+        case Edge::Sunken:
+            return {wxSYS_COLOUR_BTNSHADOW, wxSYS_COLOUR_BTNHIGHLIGHT};
+        case Edge::Flat:
             break;
-        case kRaised:
-            leftAndTop = wxSYS_COLOUR_BTNHIGHLIGHT;
-            rightAndBottom = wxSYS_COLOUR_BTNSHADOW;
-            break;
-        case kSunken:
-            leftAndTop = wxSYS_COLOUR_BTNSHADOW;
-            rightAndBottom = wxSYS_COLOUR_BTNHIGHLIGHT;
-            break;
-        default:
-            return;
     }
-    const EdgeRectangle edge = EdgeOf(icon);
-    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(leftAndTop)));
-    toolbar.DrawLine(edge.left, edge.top, edge.left, edge.bottom);
-    toolbar.DrawLine(edge.left, edge.top, edge.right, edge.top);
-    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(rightAndBottom)));
-    toolbar.DrawLine(edge.right, edge.bottom, edge.right, edge.top);
-    toolbar.DrawLine(edge.right, edge.bottom, edge.left, edge.bottom);
+    return {wxSYS_COLOUR_BTNFACE, wxSYS_COLOUR_BTNFACE};
+}
+
+}  // namespace
+
+void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, Edge edge) {
+    const EdgeColours colours = ColoursOf(edge);
+    const EdgeRectangle lines = EdgeRectangleOf(icon);
+    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(colours.leftAndTop)));
+    toolbar.DrawLine(lines.left, lines.top, lines.left, lines.bottom);
+    toolbar.DrawLine(lines.left, lines.top, lines.right, lines.top);
+    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(colours.rightAndBottom)));
+    toolbar.DrawLine(lines.right, lines.bottom, lines.right, lines.top);
+    toolbar.DrawLine(lines.right, lines.bottom, lines.left, lines.bottom);
 }
 
 }  // namespace brelex

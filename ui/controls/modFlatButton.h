@@ -7,9 +7,9 @@ class wxDC;
 
 namespace brelex {
 
-/// Draws the edge of a flat button on its own boundary, in the system's colours: kFlat in the
-/// colour of the surface, which erases it; kRaised light from the left and above; kSunken light
-/// from the right and below. Any other state draws nothing.
-void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, int state);
+/// Draws the edge of a flat button on its own boundary, in the system's colors: a flat one in the
+/// color of buttons, which erases it; a raised one light from the left and above; a sunken one
+/// light from the right and below.
+void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, Edge edge);
 
 }  // namespace brelex

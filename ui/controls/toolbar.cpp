@@ -27,21 +27,24 @@ bool HasSeparatorBehind(std::size_t icon) {
            icon == kDonationIcon;
 }
 
-int ButtonsOf(const wxMouseEvent& event) {
-    return (event.LeftIsDown() ? kLeftButton : 0) | (event.RightIsDown() ? kRightButton : 0) |
-           (event.MiddleIsDown() ? kMiddleButton : 0);
-}
-
 // The one that went down or up.
-int ButtonOf(const wxMouseEvent& event) {
+MouseButton ButtonOf(const wxMouseEvent& event) {
     switch (event.GetButton()) {
         case wxMOUSE_BTN_LEFT:
-            return kLeftButton;
+            return MouseButton::Left;
         case wxMOUSE_BTN_RIGHT:
-            return kRightButton;
+            return MouseButton::Right;
         default:
-            return kMiddleButton;
+            return MouseButton::Middle;
     }
+}
+
+// Those that are down, besides the one that goes down or up.
+MouseButtons OtherButtonsOf(const wxMouseEvent& event) {
+    const int changing = event.GetButton();
+    return {.left = event.LeftIsDown() && changing != wxMOUSE_BTN_LEFT,
+            .right = event.RightIsDown() && changing != wxMOUSE_BTN_RIGHT,
+            .middle = event.MiddleIsDown() && changing != wxMOUSE_BTN_MIDDLE};
 }
 
 }  // namespace
@@ -50,7 +53,8 @@ Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents event
     : Backdrop(parent),
       units_(units),
       events_(std::move(events)),
-      imgToolbarIcon(ToolbarPictures()) {
+      imgToolbarIcon(ToolbarPictures()),
+      state_(*this) {
     SetNames(*this, "picToolbar", "Toolbar");
     SetDoubleBuffered(true);
     PlaceIcons();
@@ -70,10 +74,10 @@ void Toolbar::PlaceIcons() {
     const int margin = px(kMargin);
     int x = margin;
     for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
-        bounds_.push_back({.left = static_cast<double>(x),
-                           .top = static_cast<double>(margin),
-                           .width = static_cast<double>(size),
-                           .height = static_cast<double>(size)});
+        state_.AddIcon({.left = static_cast<double>(x),
+                        .top = static_cast<double>(margin),
+                        .width = static_cast<double>(size),
+                        .height = static_cast<double>(size)});
         x += size + px(kGap);
         if (HasSeparatorBehind(i)) {
             separators_.push_back(x + px(kSeparatorWidth - kGap) / 2 - 1);
@@ -82,14 +86,14 @@ void Toolbar::PlaceIcons() {
     }
     const wxSize whole(x, size + 2 * margin);
     SetInitialSize(whole);
-    state_.emplace(bounds_, whole.x, whole.y, static_cast<ToolbarView&>(*this));
+    state_.SetSize(whole.x, whole.y);
 }
 
 void Toolbar::BindEvents() {
     Bind(wxEVT_PAINT, &Toolbar::OnPaint, this);
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         const wxSize size = GetClientSize();
-        state_->OnResize(size.x, size.y);
+        state_.SetSize(size.x, size.y);
         event.Skip();
     });
     // Entering is a movement, too: a window that covered the toolbar may have closed.
@@ -107,37 +111,25 @@ void Toolbar::BindEvents() {
     Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
         event.Skip();
         if (!HasCapture()) {
-            buttonsDown_ = 0;
-            state_->OnMouseMove(0, -1, -1);
+            state_.OnMouseLeave();
         }
     });
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { LetGo(); });
 }
 
 void Toolbar::OnMove(wxMouseEvent& event) {
-    const wxPoint mouse = event.GetPosition();
     event.Skip();
-    buttonsDown_ = ButtonsOf(event);
-    state_->OnMouseMove(buttonsDown_, mouse.x, mouse.y);
+    state_.OnMouseMove(OtherButtonsOf(event), event.GetX(), event.GetY());
 }
 
-// The mouse may not have moved since something else was here: then this is where it came.
+// The mouse may not have moved since another window was here: then this is where it came.
 void Toolbar::OnButtonDown(wxMouseEvent& event) {
-    const int button = ButtonOf(event);
-    buttonsDown_ = ButtonsOf(event) & ~button;
-    state_->OnMouseMove(buttonsDown_, event.GetX(), event.GetY());
-    buttonsDown_ |= button;
-    SetCapture();
-    state_->OnMouseDown(button);
+    state_.OnMouseMove(OtherButtonsOf(event), event.GetX(), event.GetY());
+    state_.OnMouseDown(ButtonOf(event));
 }
 
 void Toolbar::OnButtonUp(wxMouseEvent& event) {
-    const int button = ButtonOf(event);
-    buttonsDown_ = ButtonsOf(event) & ~button;
-    if (buttonsDown_ == 0) {
-        ReleaseCapture();
-    }
-    state_->OnMouseUp(button);
+    state_.OnMouseUp(ButtonOf(event), OtherButtonsOf(event));
 }
 
 void Toolbar::OnPaint(wxPaintEvent& /*event*/) {
@@ -154,34 +146,32 @@ void Toolbar::Draw(wxDC& dc) const {
         dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
         dc.DrawLine(x + 1, margin, x + 1, height - margin);
     }
-    for (std::size_t i = 0; i < bounds_.size(); ++i) {
-        const IconBounds& icon = bounds_[i];
+    for (int i = 0; i < state_.IconCount(); ++i) {
+        const IconBounds& icon = state_.BoundsOf(i);
         const wxSize size(static_cast<int>(icon.width), static_cast<int>(icon.height));
-        wxBitmap picture = imgToolbarIcon.at(i).GetBitmap(size * GetContentScaleFactor());
+        wxBitmap picture = imgToolbarIcon.at(static_cast<std::size_t>(i))
+                               .GetBitmap(size * GetContentScaleFactor());
         picture.SetScaleFactor(GetContentScaleFactor());
         dc.DrawBitmap(picture, static_cast<int>(icon.left), static_cast<int>(icon.top));
-        // A flat edge is in the colour of buttons, which need not be that of the window behind it.
-        if (states_.at(i) != kFlat) {
-            DrawFlatButton(icon, dc, states_.at(i));
+        // A flat edge is in the color of buttons, which need not be that of the window behind it.
+        if (state_.EdgeOf(i) != Edge::Flat) {
+            DrawFlatButton(icon, dc, state_.EdgeOf(i));
         }
     }
 }
 
 void Toolbar::LetGo() {
-    buttonsDown_ = 0;
-    ReleaseCapture();
-    state_->OnCaptureLost();
+    LetMouseGo();
+    state_.OnCaptureLost();
 }
 
-// Only while a button is held: without one the toolkit tells when the mouse leaves, and Windows
-// has no menu keys while the mouse is captured.
-void Toolbar::SetCapture() {
-    if (buttonsDown_ != 0 && !HasCapture()) {
+void Toolbar::HoldMouse() {
+    if (!HasCapture()) {
         CaptureMouse();
     }
 }
 
-void Toolbar::ReleaseCapture() {
+void Toolbar::LetMouseGo() {
     if (HasCapture()) {
         ReleaseMouse();
     }
@@ -193,8 +183,7 @@ void Toolbar::LetPendingPaintingRun() {
     wxGetTopLevelParent(this)->Update();
 }
 
-void Toolbar::DrawIcon(int icon, int state) {
-    states_.at(static_cast<std::size_t>(icon)) = state;
+void Toolbar::DrawIcon(int /*icon*/) {
     Refresh();
     Update();
 }
@@ -203,12 +192,11 @@ void Toolbar::Describe(int icon) {
     if (icon < 0) {
         SetAreaToolTip(*this, {}, wxEmptyString);
     } else {
-        const auto index = static_cast<std::size_t>(icon);
-        const IconBounds& bounds = bounds_.at(index);
+        const IconBounds& bounds = state_.BoundsOf(icon);
         SetAreaToolTip(*this,
                        {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
                         static_cast<int>(bounds.width), static_cast<int>(bounds.height)},
-                       kToolbarIcons.at(index).toolTip);
+                       kToolbarIcons.at(static_cast<std::size_t>(icon)).toolTip);
     }
     events_.onHot(icon);
 }

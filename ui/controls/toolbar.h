@@ -3,7 +3,6 @@
 
 #include <array>
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include <wx/bmpbndl.h>
@@ -28,13 +27,13 @@ class Toolbar final : public Backdrop, private ToolbarView {
     Toolbar& operator=(const Toolbar&) = delete;
     ~Toolbar() override;
 
-    /// Flattens the icon under the mouse and lets go of the mouse: another window wants it.
+    /// Flattens the icon under the mouse and lets the mouse go, because another window wants it.
     void LetGo();
 
     /// Where an icon is, in the toolbar's pixels, and how it is drawn.
-    [[nodiscard]] const IconBounds& BoundsOf(std::size_t icon) const { return bounds_.at(icon); }
+    [[nodiscard]] const IconBounds& BoundsOf(int icon) const { return state_.BoundsOf(icon); }
 
-    [[nodiscard]] int StateOf(std::size_t icon) const { return states_.at(icon); }
+    [[nodiscard]] Edge EdgeOf(int icon) const { return state_.EdgeOf(icon); }
 
     /// Draws the pictures, the edge of the hot icon and the separators, without the background.
     void Draw(wxDC& dc) const;
@@ -47,21 +46,18 @@ class Toolbar final : public Backdrop, private ToolbarView {
     void OnButtonDown(wxMouseEvent& event);
     void OnButtonUp(wxMouseEvent& event);
 
-    void SetCapture() override;
-    void ReleaseCapture() override;
+    void HoldMouse() override;
+    void LetMouseGo() override;
     void LetPendingPaintingRun() override;
-    void DrawIcon(int icon, int state) override;
+    void DrawIcon(int icon) override;
     void Describe(int icon) override;
     void RunAction(int icon) override;
 
     const LayoutUnits& units_;
     ToolbarEvents events_;
     std::array<wxBitmapBundle, kToolbarIcons.size()> imgToolbarIcon;
-    std::vector<IconBounds> bounds_;
-    std::array<int, kToolbarIcons.size()> states_ = {};
     std::vector<int> separators_;  // x of each
-    std::optional<ToolbarState> state_;
-    int buttonsDown_ = 0;  // as bits, while the mouse is here
+    ToolbarState state_;
 };
 
 }  // namespace brelex
