@@ -51,30 +51,37 @@ DatabaseStatistics StatisticsOf(const ProgramValues& values) {
     const RowList& rows = *values.AcronymList;
     const std::string_view longest = GetAbbreviation(RecordAt(rows, header.LongestAbbrvIndex));
     const std::string_view richest = GetAbbreviation(RecordAt(rows, header.MostExpansionsIndex));
-    return {
-        .version =
-            "Application version " + FormatOneDecimal(values.AppVersion, values.decimalSeparator),
-        .dbVersion = {"Database version:",
-                      VersionText(header, values.AppVersion, values.decimalSeparator)},
-        .acronymCount = {"Total number of entries:",
-                         FormatGrouped(header.RecordCount, values.groupSeparator)},
-        .loadingTime = {"Loading time (current session):",
-                        FormatPlain(values.LoadingTime, values.decimalSeparator) + " seconds"},
-        .firstLetterOfMostAcronyms = {"Most abbreviations start with:",
-                                      "'" + LetterText(header.CommonFirstLetter) + "' (" +
-                                          std::to_string(header.CommonFirstLetterCount) +
-                                          " occurrences)"},
-        .acronymWithHighestExpn = {"Abbreviation with highest no. of expansions*:",
-                                   Utf8OfBytes(richest) + " (" +
-                                       std::to_string(header.MostExpansionsCount) + " expansions)"},
-        .longestAcronym = {"Longest abbreviation*:",
-                           Utf8OfBytes(longest) + " (" + LetterCountText(longest) + ")"},
-        .longestExpansion = {"Longest expansion including parenthetical note*:",
-                             LongestExpansionText(RecordAt(rows, header.LongestExpansionIndex))},
-        .avgLenOfAcronyms = {"Average length of abbreviations:",
+    DatabaseStatistics statistics;
+    statistics.version =
+        "Application version " + FormatOneDecimal(values.AppVersion, values.decimalSeparator);
+    statistics.groups[0] = {
+        {"lblDBVersion",
+         "Database version:", VersionText(header, values.AppVersion, values.decimalSeparator)},
+        {"lblAcronymCount",
+         "Total number of entries:", FormatGrouped(header.RecordCount, values.groupSeparator)},
+        {.name = "lblLoadingTime",
+         .caption = "Loading time (current session):",
+         .text = FormatPlain(values.LoadingTime, values.decimalSeparator) + " seconds",
+         .isOfThisRun = true}};
+    statistics.groups[1] = {
+        {"lblFirstLetterOfMostAcronyms", "Most abbreviations start with:",
+         "'" + LetterText(header.CommonFirstLetter) + "' (" +
+             std::to_string(header.CommonFirstLetterCount) + " occurrences)"},
+        {"lblAcronymWithHighestExpn", "Abbreviation with highest no. of expansions*:",
+         Utf8OfBytes(richest) + " (" + std::to_string(header.MostExpansionsCount) +
+             " expansions)"}};
+    statistics.groups[2] = {
+        {"lblLongestAcronym",
+         "Longest abbreviation*:", Utf8OfBytes(longest) + " (" + LetterCountText(longest) + ")"},
+        {.name = "lblLongestExpansion",
+         .caption = "Longest expansion including parenthetical note*:",
+         .text = LongestExpansionText(RecordAt(rows, header.LongestExpansionIndex)),
+         .mayNeedLines = true}};
+    statistics.groups[3] = {{"lblAvgLenOfAcronyms", "Average length of abbreviations:",
                              std::to_string(header.AvgAbbrvLength) + " characters"},
-        .avgLenOfExpansions = {"Average length of expansions:",
-                               std::to_string(header.AvgExpansionLength) + " characters"}};
+                            {"lblAvgLenOfExpansions", "Average length of expansions:",
+                             std::to_string(header.AvgExpansionLength) + " characters"}};
+    return statistics;
 }
 
 }  // namespace brelex

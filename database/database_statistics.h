@@ -1,39 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
+#include <vector>
 
 #include "database/program_values.h"
 
 namespace brelex {
 
-/// A fact about the database as the user is shown it: what it is, and its value (UTF-8).
+/// A fact about the database as the user sees it.
 struct Statistic {
+    const char* name;  ///< of the label that shows the text
     const char* caption;
-    std::string text;
+    std::string text;           ///< UTF-8
+    bool isOfThisRun = false;   ///< depends on the run of the program, not on the database alone
+    bool mayNeedLines = false;  ///< is as long as an expansion can be
 };
 
-/// The facts about the loaded database that the user is shown. All but the loading time and the
-/// application's version stand in the header.
+/// The facts about the loaded database. All but the loading time and the application's version come
+/// from the header.
 struct DatabaseStatistics {
     std::string version;  ///< the application's
-    Statistic dbVersion;
-    Statistic acronymCount;
-    Statistic loadingTime;
-    Statistic firstLetterOfMostAcronyms;
-    Statistic acronymWithHighestExpn;
-    Statistic longestAcronym;
-    Statistic longestExpansion;
-    Statistic avgLenOfAcronyms;
-    Statistic avgLenOfExpansions;
+    std::array<std::vector<Statistic>, 4> groups;
 };
 
-/// What is said of the captions with an asterisk.
+/// Explains the asterisk of some captions.
 inline constexpr const char* kStatisticsFootnote = "* The first such occurrence in the database";
 
-/// The facts from `values`, whose database is loaded. Nothing of the header is trusted: an entry
-/// that it names and that is not there has empty texts, and a version or day that is none is
-/// "unknown".
+/// The facts from `values`, whose database is loaded. The header is not trusted: an entry that it
+/// names but that does not exist has empty texts, and an impossible version or day is "unknown".
 [[nodiscard]] DatabaseStatistics StatisticsOf(const ProgramValues& values);
 
 }  // namespace brelex

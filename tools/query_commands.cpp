@@ -84,13 +84,12 @@ void PrintStatistics(const OpenDatabase& opened, std::ostream& out) {
     values.AcronymList = &opened.store;
     values.Header = opened.header;
     values.AppVersion = opened.header.Version;
-    const DatabaseStatistics statistics = StatisticsOf(values);
-    for (const Statistic* statistic :
-         {&statistics.dbVersion, &statistics.acronymCount, &statistics.firstLetterOfMostAcronyms,
-          &statistics.acronymWithHighestExpn, &statistics.longestAcronym,
-          &statistics.longestExpansion, &statistics.avgLenOfAcronyms,
-          &statistics.avgLenOfExpansions}) {
-        out << statistic->caption << " " << statistic->text << "\n";
+    for (const std::vector<Statistic>& group : StatisticsOf(values).groups) {
+        for (const Statistic& statistic : group) {
+            if (!statistic.isOfThisRun) {
+                out << statistic.caption << " " << statistic.text << "\n";
+            }
+        }
     }
     out << kStatisticsFootnote << "\n";
 }

@@ -53,75 +53,51 @@ void frmDataInfo::CreateControls(const DatabaseStatistics& statistics) {
     lblVersion =
         Named(new wxStaticText(surface_, wxID_ANY, WxText(statistics.version)), "lblVersion");
 
-    for (const Statistic* statistic :
-         {&statistics.dbVersion, &statistics.acronymCount, &statistics.loadingTime,
-          &statistics.firstLetterOfMostAcronyms, &statistics.acronymWithHighestExpn,
-          &statistics.longestAcronym, &statistics.longestExpansion, &statistics.avgLenOfAcronyms,
-          &statistics.avgLenOfExpansions}) {
-        captionWidth_ = std::max(captionWidth_, GetTextExtent(statistic->caption).x);
-    }
-    captionWidth_ += units_.Pixels(4);  // measured text is a little wider when drawn (with Wine)
-
-    // With a large font on a small screen fewer.
-    const int linesOfExpansion =
-        std::clamp(wxDisplay(this).GetClientArea().height / 4 / GetCharHeight(), 1, kManyLines);
-    const int gap = units_.Pixels(kMargin);
-    figures_ = new wxBoxSizer(wxVERTICAL);
-    const auto addGroup = [&](wxFlexGridSizer* group, bool last) {
-        figures_->Add(group, 0, wxEXPAND | wxALL, gap);
-        if (!last) {
-            figures_->Add(new wxStaticLine(surface_), 0, wxEXPAND);
-        }
-    };
-    wxFlexGridSizer* group = NewGroup();
-    lblDBVersion = AddStatistic(*group, "lblDBVersion", statistics.dbVersion, kFewLines);
-    lblAcronymCount = AddStatistic(*group, "lblAcronymCount", statistics.acronymCount, kFewLines);
-    lblLoadingTime = AddStatistic(*group, "lblLoadingTime", statistics.loadingTime, kFewLines);
-    addGroup(group, false);
-    group = NewGroup();
-    lblFirstLetterOfMostAcronyms = AddStatistic(*group, "lblFirstLetterOfMostAcronyms",
-                                                statistics.firstLetterOfMostAcronyms, kFewLines);
-    lblAcronymWithHighestExpn = AddStatistic(*group, "lblAcronymWithHighestExpn",
-                                             statistics.acronymWithHighestExpn, kFewLines);
-    addGroup(group, false);
-    group = NewGroup();
-    lblLongestAcronym =
-        AddStatistic(*group, "lblLongestAcronym", statistics.longestAcronym, kFewLines);
-    lblLongestExpansion =
-        AddStatistic(*group, "lblLongestExpansion", statistics.longestExpansion, linesOfExpansion);
-    addGroup(group, false);
-    group = NewGroup();
-    lblAvgLenOfAcronyms =
-        AddStatistic(*group, "lblAvgLenOfAcronyms", statistics.avgLenOfAcronyms, kFewLines);
-    lblAvgLenOfExpansions =
-        AddStatistic(*group, "lblAvgLenOfExpansions", statistics.avgLenOfExpansions, kFewLines);
-    addGroup(group, true);
-
+    CreateFigures(statistics);
     lblFootnote_ = Named(new wxStaticText(surface_, wxID_ANY, kStatisticsFootnote), "lblFootnote");
     cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);
 }
 
-wxFlexGridSizer* frmDataInfo::NewGroup() const {
-    auto* group = new wxFlexGridSizer(2, wxSize(units_.Pixels(kMargin), units_.Pixels(4)));
-    group->AddGrowableCol(1);
-    return group;
+void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
+    int captionWidth = 0;
+    for (const auto& group : statistics.groups) {
+        for (const Statistic& statistic : group) {
+            captionWidth = std::max(captionWidth, GetTextExtent(statistic.caption).x);
+        }
+    }
+    captionWidth += units_.Pixels(4);  // measured text is a little wider when drawn (with Wine)
+    const int gap = units_.Pixels(kMargin);
+    figures_ = new wxBoxSizer(wxVERTICAL);
+    for (const auto& group : statistics.groups) {
+        if (!figures_->IsEmpty()) {
+            figures_->Add(new wxStaticLine(surface_), 0, wxEXPAND);
+        }
+        auto* lines = new wxFlexGridSizer(2, wxSize(gap, units_.Pixels(4)));
+        lines->AddGrowableCol(1);
+        for (const Statistic& statistic : group) {
+            lines->Add(new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
+                                        wxDefaultPosition, {captionWidth, -1}));
+            lines->Add(NewValue(statistic), 0, wxEXPAND);
+        }
+        figures_->Add(lines, 0, wxEXPAND | wxALL, gap);
+    }
 }
 
-wxStaticText* frmDataInfo::AddStatistic(wxFlexGridSizer& group, const char* name,
-                                        const Statistic& statistic, int mostLines) {
-    auto* caption = new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
-                                     wxDefaultPosition, {captionWidth_, -1});
+wxStaticText* frmDataInfo::NewValue(const Statistic& statistic) const {
     const wxString fact = WxText(statistic.text);
-    // Spoken is also what may be left out in the window.
-    auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), name, fact);
+    // What the window leaves out for want of room is spoken.
+    auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), statistic.name, fact);
     const int width = units_.Pixels(kValueWidth);
-    value->SetLabelText(WrappedText(*value, fact, {width, mostLines}, LengthOfNote(fact)));
+    // A large font on a small screen leaves fewer lines.
+    const int lines = statistic.mayNeedLines
+                          ? std::clamp(wxDisplay(this).GetClientArea().height / 4 / GetCharHeight(),
+                                       1, kManyLines)
+                          : kFewLines;
+    value->SetLabelText(WrappedText(*value, fact, {width, lines}, LengthOfNote(fact)));
     // Measured text is a little wider when drawn.
     value->SetMinSize({std::max(width, value->GetBestSize().x), -1});
-    group.Add(caption);
-    group.Add(value, 0, wxEXPAND);
     return value;
 }
 

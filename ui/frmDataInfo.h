@@ -5,7 +5,6 @@
 #include "ui/side_window.h"
 
 class wxButton;
-class wxFlexGridSizer;
 class wxSizer;
 class wxStaticBitmap;
 class wxStaticText;
@@ -23,27 +22,15 @@ class frmDataInfo final : public SideWindow {
 
   private:
     void CreateControls(const DatabaseStatistics& statistics);
-    [[nodiscard]] wxStaticText* AddStatistic(wxFlexGridSizer& group, const char* name,
-                                             const Statistic& statistic, int mostLines);
-    [[nodiscard]] wxFlexGridSizer* NewGroup() const;
+    void CreateFigures(const DatabaseStatistics& statistics);
+    [[nodiscard]] wxStaticText* NewValue(const Statistic& statistic) const;
     [[nodiscard]] wxSizer* LayoutOfTitle();
     void PlaceControls();
-
-    int captionWidth_ = 0;
 
     wxSizer* figures_ = nullptr;
     wxStaticBitmap* imgAppIcon = nullptr;
     wxStaticText* lblTitle = nullptr;
     wxStaticText* lblVersion = nullptr;
-    wxStaticText* lblDBVersion = nullptr;
-    wxStaticText* lblAcronymCount = nullptr;
-    wxStaticText* lblLoadingTime = nullptr;
-    wxStaticText* lblFirstLetterOfMostAcronyms = nullptr;
-    wxStaticText* lblAcronymWithHighestExpn = nullptr;
-    wxStaticText* lblLongestAcronym = nullptr;
-    wxStaticText* lblLongestExpansion = nullptr;
-    wxStaticText* lblAvgLenOfAcronyms = nullptr;
-    wxStaticText* lblAvgLenOfExpansions = nullptr;
     wxStaticText* lblFootnote_ = nullptr;
     wxButton* cmdOK = nullptr;
 };
