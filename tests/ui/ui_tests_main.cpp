@@ -67,6 +67,10 @@ void FailIfUnfinished() {
 int main(int argc, char** argv) {
     std::atexit(&FailIfUnfinished);
     testing::InitGoogleTest(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests)) {  // needs no display
+        finished = true;
+        return RUN_ALL_TESTS();
+    }
     constexpr int kSkipped = 77;  // how ctest is told that there is no display
     if (!wxEntryStart(argc, argv)) {
         finished = true;
