@@ -47,8 +47,7 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
     err << NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size())) << "\n";
     if (outcome.limitReached) {
         err << "There are more hits: continue with --from "
-            << TextOf(RecordNumberOf(outcome.nextPosition)) << ", or use --all.
-";
+            << TextOf(RecordNumberOf(outcome.nextPosition)) << ", or use --all.\n";
     }
     return outcome.hits.empty() ? kNothingFound : kFound;
 }
