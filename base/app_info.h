@@ -8,10 +8,10 @@ namespace brelex {
 /// The application title, in captions and messages.
 inline constexpr const char* kAppTitle = "Brevilexicon";
 
-/// What the program says of itself. Texts are UTF-8.
+/// What the program says about itself. Texts are UTF-8.
 struct AppInfo {
     int majorVersion = 0;
-    int minorVersion = 0;      ///< below 10, so that both parts joined by a point order as numbers
+    int minorVersion = 0;      ///< below 10, so that "major.minor" as a number sorts correctly
     std::string copyright;     ///< the legal-rights text
     std::string homePage;      ///< a web address
     std::string donationPage;  ///< a web address

@@ -8,12 +8,12 @@
 
 namespace brelex {
 
-/// Bytes of one owner that are not cleared when they are allocated.
+/// A block of bytes with one owner. They are not cleared when allocated.
 class ByteBuffer {
   public:
     ByteBuffer() = default;
 
-    /// A buffer of `size` bytes, or one that IsNull if there is not so much memory in one piece.
+    /// Allocates `size` bytes. The buffer IsNull if there is no free block of that size.
     explicit ByteBuffer(std::size_t size)
         : bytes_(new (std::nothrow) char[size]),
           size_(bytes_ == nullptr ? 0 : size) {}

@@ -57,7 +57,7 @@ std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::
     for (fs::directory_iterator entry(PathOfUtf8(folder), error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string spelling = Utf8OfPath(entry->path().filename());
-        // The system lists the spellings in any order.
+        // The system lists them in any order.
         if (SameIgnoringCase(spelling, name) && IsFile(entry->path()) &&
             (!found || folder + spelling < *found)) {
             found = folder + spelling;
@@ -70,7 +70,7 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
     std::error_code error;
     const auto size = fs::file_size(path, error);
     std::ifstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0);  // one read goes straight to its place
+    file.rdbuf()->pubsetbuf(nullptr, 0);  // reads straight into our buffer
     file.open(path, std::ios::binary);
     constexpr std::uintmax_t kMostBytes = std::uintmax_t{1} << 31U;
     if (error || !file || size > kMostBytes) {

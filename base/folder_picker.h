@@ -7,11 +7,11 @@
 
 namespace brelex {
 
-/// Lets the user choose a folder of the file system.
+/// Lets the user choose a folder.
 class FolderPicker : public Interface {
   public:
-    /// The chosen folder, ending in the separator; empty if the user cancelled. `title` says what
-    /// the folder is wanted for.
+    /// The chosen folder, ending in the separator. Empty if the user canceled. `title` says what
+    /// the folder is for.
     virtual std::string BrowseForFolder(const std::string& title) = 0;
 };
 

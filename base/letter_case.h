@@ -6,13 +6,14 @@
 
 namespace brelex {
 
-/// The small letter of a letter that Windows-1252 has in both cases; any other character as it is.
+/// The small letter of a letter that Windows-1252 has in both cases. Any other character is
+/// returned unchanged.
 [[nodiscard]] char32_t SmallLetterOf(char32_t character);
 
 /// The same for a Windows-1252 byte.
 [[nodiscard]] unsigned char SmallLetterOfByte(unsigned char byte);
 
-/// A text with its letters made small.
+/// A text with all its letters made small.
 [[nodiscard]] std::u32string SmallLetters(std::u32string_view text);
 
 }  // namespace brelex

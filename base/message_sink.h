@@ -26,7 +26,7 @@ enum class MessageAnswer {
     No
 };
 
-/// One message to the user. Texts are UTF-8, lines end with "\n".
+/// A message to the user. Texts are UTF-8; lines end in "\n".
 struct Message {
     std::string text;
     std::string title;
@@ -37,8 +37,8 @@ struct Message {
 /// Tells the user something and waits for the answer.
 class MessageSink : public Interface {
   public:
-    /// Returns Ok for a message with an OK button, Yes or No for a question. Closing a question
-    /// without an answer counts as No.
+    /// Returns Ok for a message with an OK button, Yes or No for a question. No also if the user
+    /// closes a question without answering it.
     virtual MessageAnswer Show(const Message& message) = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// Sets a flag for as long as it lives.
+/// Sets a flag until the scope is left.
 class Busy {
   public:
     explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
@@ -19,7 +19,7 @@ class Busy {
     bool& flag_;
 };
 
-/// Does something at its end, however that is reached. What it does must not throw.
+/// Runs an action when the scope is left, however that happens. The action must not throw.
 template <typename Action>
 class OnLeaving {
   public:

@@ -11,7 +11,7 @@ namespace brelex {
 
 namespace {
 
-// Bytes 80 to 9F; all others stand for the character of their own number.
+// Bytes 80 to 9F. Every other byte is the character of its own number.
 constexpr std::array<char16_t, 32> kUpperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -22,7 +22,7 @@ constexpr char32_t kReplacement = 0xFFFD;
 struct Utf8Lead {
     std::size_t following;
     char32_t bits;
-    char32_t smallest;  // below this the form is overlong
+    char32_t smallest;  // anything below is an overlong form
 };
 
 std::optional<Utf8Lead> ReadLead(unsigned char byte) {
@@ -41,7 +41,7 @@ std::optional<Utf8Lead> ReadLead(unsigned char byte) {
     return std::nullopt;
 }
 
-// Reads the character at the front of `rest` (not empty) and removes its bytes.
+// Removes the bytes of the first character from `rest`, which is not empty, and returns it.
 char32_t TakeCharacter(std::string_view& rest) {
     const auto lead = ReadLead(static_cast<unsigned char>(rest.front()));
     if (!lead || rest.size() <= lead->following) {
@@ -73,7 +73,7 @@ void AppendUtf8(std::string& utf8, char32_t character) {
     } else if (character < 0x800) {
         append(0xC0U | (character >> 6U));
         append(0x80U | (character & 0x3FU));
-    } else {  // Windows-1252 holds nothing above FFFF
+    } else {  // Windows-1252 has nothing above FFFF
         append(0xE0U | (character >> 12U));
         append(0x80U | ((character >> 6U) & 0x3FU));
         append(0x80U | (character & 0x3FU));

@@ -8,14 +8,14 @@
 namespace brelex {
 
 /// The character of Windows-1252 byte `byte`. The five unassigned bytes (81, 8D, 8F, 90, 9D hex)
-/// map to the control characters of the same number, as the system's own conversion does.
+/// become the control characters of the same number, as in Windows.
 [[nodiscard]] char32_t CharacterOfByte(unsigned char byte);
 
-/// The Windows-1252 byte of `character`, or nothing if the code page lacks it.
+/// The Windows-1252 byte of `character`. Nothing if the code page lacks it.
 [[nodiscard]] std::optional<unsigned char> ByteOfCharacter(char32_t character);
 
-/// Decodes UTF-8. Every byte that belongs to no valid sequence (overlong forms, surrogates and
-/// values above 10FFFF included) becomes U+FFFD.
+/// Decodes UTF-8. Every byte outside a valid sequence becomes U+FFFD. Overlong forms, surrogates
+/// and values above 10FFFF are not valid.
 [[nodiscard]] std::u32string DecodeUtf8(std::string_view utf8);
 
 /// Windows-1252 bytes as UTF-8.

@@ -61,7 +61,7 @@ void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHea
             ++counts[static_cast<unsigned char>(AsciiCapital(abbreviation.front()))];
         }
     }
-    // A second pass, so that of equally frequent letters the first in the file wins.
+    // A second pass, so that the first in the file wins among equally frequent letters.
     for (const std::string_view record : records) {
         const std::string_view abbreviation = GetAbbreviation(record);
         const char letter = abbreviation.empty() ? ' ' : AsciiCapital(abbreviation.front());
@@ -73,8 +73,8 @@ void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHea
     }
 }
 
-// Counts by exact spelling. Records whose abbreviations differ only in case may stand mixed, so
-// equal ones need not be neighbours.
+// Counts by exact spelling. Records whose abbreviations differ only in case may be interleaved, so
+// equal ones are not always adjacent.
 void CountExpansions(const std::vector<std::string_view>& records, DatabaseHeader& header) {
     std::vector<std::pair<std::string_view, std::size_t>> byAbbreviation;
     byAbbreviation.reserve(records.size());

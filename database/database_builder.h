@@ -22,17 +22,18 @@ struct DatabaseContent {
 struct BuiltDatabase {
     DatabaseHeader header;
     std::string expanded;               ///< the header's bytes and the record block
-    std::size_t duplicatesDropped = 0;  ///< records left out because they stood there already
+    std::size_t duplicatesDropped = 0;  ///< records left out because they occurred twice
 };
 
-/// Sorts the records, drops exact duplicates and computes the header. Records with the same text
-/// but for case keep a fixed order, so the same content always gives the same bytes. Requires
-/// records that are not empty and hold no NUL.
+/// Sorts the records, drops exact duplicates and computes the header. Records that differ only in
+/// case have a fixed order, so the same content always gives the same bytes. Requires records that
+/// are not empty and contain no NUL.
 [[nodiscard]] BuiltDatabase BuildDatabase(DatabaseContent content);
 
-/// The header's statistics over `records` in their final order; the other fields keep their
-/// defaults. Averages are over all records, to the nearest; the longest are those with the most
-/// characters other than blanks; of several the first counts.
+/// The header fields that are counted over `records`, which are in their final order. All other
+/// fields keep their defaults. Averages are over all records and rounded to the nearest number. The
+/// longest text is the one with the most characters other than blanks; if there are several, the
+/// first.
 [[nodiscard]] DatabaseHeader ComputeStatistics(const std::vector<std::string_view>& records);
 
 }  // namespace brelex

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kMostOfAKind = 10;
 
-// Collects findings of one kind and says how many more there were.
+// Collects the findings of one kind. At the end, says how many more there were.
 class Findings {
   public:
     Findings(std::vector<std::string>& lines, std::string kind)
@@ -107,8 +107,8 @@ void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
     });
 }
 
-// A beginning that the record before shares leads to the same row, so each is looked up once per
-// run of records.
+// A prefix that the previous record shares leads to the same row, so each is looked up only once in
+// a run of records.
 void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                        std::vector<std::string>& lines) {
     Findings unreachable(lines, "unreachable beginnings");

@@ -13,9 +13,10 @@ namespace brelex {
 /// Finds the row (0-based) that typing a text would select.
 using PrefixFinder = std::function<std::int32_t(const RowList& rows, std::string_view text)>;
 
-/// What is wrong with a loaded database, a line (UTF-8) for each finding: the CRC, NULs against the
-/// record count, records without TAB, the order, the header's statistics, and beginnings of
-/// abbreviations that `find` does not find. At most ten lines of one kind.
+/// What is wrong with a loaded database, a line (UTF-8) for each finding. Checks the CRC, the
+/// number of NULs against the record count, the TABs and the order of the records, the header's
+/// statistics, and that `find` finds every abbreviation by each of its prefixes. At most ten lines
+/// of a kind.
 [[nodiscard]] std::vector<std::string> CheckDatabase(const DatabaseHeader& header,
                                                      const RecordStore& store,
                                                      const PrefixFinder& find);

@@ -16,9 +16,9 @@ inline constexpr const char* kDatabaseName = "Acronyms.dat";
 /// The path of the database file in `folder`, as FindFileIgnoringCase finds it.
 [[nodiscard]] std::optional<std::string> FindDatabaseIn(const std::string& folder);
 
-/// Settles `values.AppFolder` (from `programFolder`) and `values.DatabasePath`. If the file is
-/// not in the program's folder, asks the user for its folder, again and again if need be. Returns
-/// false when the user gives up.
+/// Sets `values.AppFolder` (from `programFolder`) and `values.DatabasePath`. If the file is not in
+/// the program's folder, asks the user where it is, until it is found. Returns false if the user
+/// gives up.
 [[nodiscard]] bool LocateDatabase(ProgramValues& values, const std::string& programFolder,
                                   FolderPicker& picker, MessageSink& messages);
 

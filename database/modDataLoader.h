@@ -16,7 +16,7 @@ namespace brelex {
 /// The name of the temporary file in `TempFolder`.
 inline constexpr const char* kTempFileName = "~bx6120.tmp";
 
-/// What loading needs from outside.
+/// What the loader needs from the outside.
 struct LoaderSurroundings {
     TemporaryFiles& files;
     ProgressSink& progress;

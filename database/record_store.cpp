@@ -13,8 +13,9 @@ namespace brelex {
 
 namespace {
 
-// How many bytes `next` may be cut to and still surely not stand before `row`, at most `limit`.
-// Gives up at a byte that is not plain: accents make cut texts fall out of order.
+// The greatest length, up to `limit`, to which both texts can be cut so that `next` still does not
+// sort before `row`. Gives up at a byte that is not plain: with accents, cut texts can be out of
+// order.
 std::size_t AscendingBytes(std::string_view row, std::string_view next, std::size_t limit) {
     const std::size_t common = std::min({row.size(), next.size(), limit});
     for (std::size_t i = 0; i < common; ++i) {
@@ -44,8 +45,8 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
         return true;
     }
     const auto wanted = static_cast<std::size_t>(recordCount);
-    // A record takes one byte at least, so a count beyond the block's size is a lie; nothing is
-    // set aside for it.
+    // A record takes at least one byte. So a count beyond the block's size is wrong, and no memory
+    // is reserved for it.
     if (wanted > block_.size()) {
         return false;
     }

@@ -12,14 +12,14 @@
 
 namespace brelex {
 
-/// The only copy of the entries in memory: the expanded file as it was read and, for each record,
-/// the 32-bit offset of its first byte. Never changes once it is filled.
+/// The only copy of the entries in memory: the expanded file and, for each record, the 32-bit
+/// offset of its first byte. Never changes once it is filled.
 class RecordStore final : public RowList {
   public:
-    /// Takes `file`, whose record block begins at byte `blockAt`, and indexes `recordCount`
-    /// NUL-terminated records, none if the number is negative. Returns false, leaving the store
-    /// empty, if the block holds fewer. Reports to `progress` each time `progressStep` (1 or
-    /// more) records are done.
+    /// Takes over `file`, whose record block begins at byte `blockAt`, and indexes `recordCount`
+    /// NUL-terminated records, or none if the number is negative. Returns false and leaves the
+    /// store empty if the block has fewer. Reports to `progress` after every `progressStep` (1 or
+    /// more) records.
     [[nodiscard]] bool Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
                             std::int32_t progressStep, ProgressSink& progress);
 
@@ -29,7 +29,8 @@ class RecordStore final : public RowList {
   private:
     ExpandedFile file_;
     std::string_view block_;
-    std::vector<std::uint32_t> offsets_;  // one more than records: where the next would begin
+    std::vector<std::uint32_t>
+        offsets_;  // one more than there are records: where the next would begin
 };
 
 }  // namespace brelex

@@ -6,19 +6,19 @@
 
 namespace brelex {
 
-/// The abbreviation of a record: its text before the first TAB; empty if the record has no TAB.
+/// The abbreviation of a record: its text before the first TAB. Empty if there is no TAB.
 [[nodiscard]] std::string_view GetAbbreviation(std::string_view recordText);
 
-/// The expansion of a record: its text after the first TAB, further TABs included; the whole
-/// record if it has no TAB.
+/// The expansion of a record: its text after the first TAB, including further TABs. The whole
+/// record if there is no TAB.
 [[nodiscard]] std::string_view GetExpansion(std::string_view recordText);
 
-/// How many characters of a text (Windows-1252 bytes) are no blanks: its "letters", as the user is
-/// told.
+/// The number of characters in a text (Windows-1252 bytes) that are not blanks. The user is told
+/// that they are its "letters".
 [[nodiscard]] std::size_t LetterCount(std::string_view text);
 
-/// What a list of two columns shows of a record in each (0 and 1): abbreviation and expansion; of a
-/// record without TAB the whole text in the first.
+/// What a list shows of a record in column 0 or 1: the abbreviation and the expansion. Without a
+/// TAB, the first column has the whole text and the second is empty.
 [[nodiscard]] std::string_view ColumnText(std::string_view recordText, int column);
 
 }  // namespace brelex

@@ -10,7 +10,7 @@ std::int32_t RowList::RowHolding(const char* byte, std::int32_t first) const {
     assert(first >= 0 && first < rowCount_);
     assert(byte >= block_ + offsets_[first] && byte < block_ + offsets_[rowCount_]);
     const auto offset = static_cast<std::uint32_t>(byte - block_);
-    // Ever longer steps until the row is passed, then halving within the last one.
+    // Doubles the step until it passes the row, then bisects the last step.
     std::int32_t step = 1;
     std::int32_t low = first;
     while (step <= rowCount_ - low && offsets_[low + step] <= offset) {

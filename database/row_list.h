@@ -8,9 +8,9 @@
 
 namespace brelex {
 
-/// The entries in display order, as everything outside the loader sees them: text in one block and
-/// where each row begins in it. Whoever owns the block derives from this. Reading a row is no
-/// virtual call, as look-ups and searches read millions.
+/// The entries in display order, as everything except the loader sees them: one block of text, and
+/// where each row begins in it. The class that owns the block derives from this one. Reading a row
+/// is not a virtual call, because look-ups and searches read millions of them.
 class RowList {
   public:
     RowList(const RowList&) = delete;
@@ -27,27 +27,27 @@ class RowList {
         return {block_ + offset[0], offset[1] - offset[0] - 1};
     }
 
-    /// All rows' texts as they lie in memory, from row `first` to before `last` (0 <= first <= last
-    /// <= RowCount()), each with a byte behind it.
+    /// The texts as they are in memory, from row `first` up to but not including row `last`, each
+    /// followed by one more byte. Requires 0 <= first <= last <= RowCount().
     [[nodiscard]] std::string_view TextOfRows(std::int32_t first, std::int32_t last) const {
         assert(0 <= first && first <= last && last <= rowCount_);
         return {block_ + offsets_[first], offsets_[last] - offsets_[first]};
     }
 
-    /// The row that `byte` belongs to, which lies in the texts of row `first` or a later one. The
-    /// sooner it comes, the cheaper.
+    /// The row that contains `byte` in its text or directly after it. Requires a byte in row
+    /// `first` or a later one. The nearer it is, the less it costs to find.
     [[nodiscard]] std::int32_t RowHolding(const char* byte, std::int32_t first) const;
 
-    /// A length in bytes: cut to any length up to it, the rows are in ascending order and two of
-    /// them are equal only if all rows between them are. 0 promises nothing.
+    /// A number of bytes. When all rows are cut to that length, or to any shorter one, they are in
+    /// ascending order, and equal rows are adjacent. 0 promises nothing.
     [[nodiscard]] std::size_t AscendingPrefixBytes() const { return ascendingPrefixBytes_; }
 
   protected:
     RowList() = default;
     ~RowList() = default;
 
-    /// Makes the NUL-terminated texts at `block` the rows; row i begins at `offsets[i]`, and one
-    /// offset more than there are rows says where the next would begin. Both stay the owner's.
+    /// Makes the NUL-terminated texts at `block` the rows. Row i begins at `offsets[i]`, and a last
+    /// offset says where the next row would begin. The caller keeps owning both.
     void SetRows(const char* block, const std::uint32_t* offsets, std::int32_t rowCount,
                  std::size_t ascendingPrefixBytes) {
         assert(rowCount >= 0);

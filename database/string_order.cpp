@@ -8,7 +8,7 @@
 
 namespace brelex {
 
-// One line holds eight bytes, the first of which its comment names.
+// Each line has eight bytes. Its comment names the first of them.
 // clang-format off
 constexpr std::array<ByteWeight, 256> kByteWeights = {{
     {0, 0, 0, 0}, {1, 0, 0, 0}, {2, 0, 0, 0}, {3, 0, 0, 0}, {4, 0, 0, 0}, {5, 0, 0, 0}, {6, 0, 0, 0}, {7, 0, 0, 0},  // 00
@@ -125,7 +125,7 @@ std::weak_ordering CompareTexts(std::string_view left, std::string_view right) {
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t i = 0; i < common; ++i) {
         if (left[i] == right[i]) {
-            continue;  // the same elements on both sides decide nothing
+            continue;  // the same elements in both texts
         }
         const std::uint8_t a = PlainWeightOf(left[i]);
         const std::uint8_t b = PlainWeightOf(right[i]);

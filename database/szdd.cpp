@@ -25,8 +25,8 @@ constexpr std::size_t kMaxMatch = 18;
 constexpr std::size_t kMaxGroupInput = 1 + 8 * 2;
 constexpr std::size_t kMaxGroupOutput = 8 * kMaxMatch;
 
-// Expands into one growing buffer that begins with the ring's first content, 4096 blanks. So a
-// match is always a copy from within the buffer and the ring itself is not needed.
+// Expands into one growing buffer that begins with the ring's first content, 4096 blanks. So every
+// match is a copy within the buffer, and no ring is needed.
 class Expander {
   public:
     Expander(std::string_view data, std::size_t mostBytes)
@@ -60,7 +60,7 @@ class Expander {
     }
 
   private:
-    // Makes room for `bytes` of output and a group more; false if there is not the memory.
+    // Makes room for `bytes` of output and one more group. Returns false if memory is short.
     [[nodiscard]] bool Grow(std::size_t bytes) {
         ByteBuffer larger(kRingBytes + bytes + kMaxGroupOutput);
         if (larger.IsNull()) {
@@ -73,7 +73,7 @@ class Expander {
         return true;
     }
 
-    // Eight items, all of which the input holds.
+    // Expands eight items, all of which are in the input.
     void ExpandWholeGroup() {
         auto flags = static_cast<unsigned char>(*next_++);
         for (int item = 0; item < 8; ++item, flags = static_cast<unsigned char>(flags >> 1U)) {
@@ -87,7 +87,7 @@ class Expander {
         }
     }
 
-    // The same near the end of the input, which may stop anywhere.
+    // The same near the end of the input, which may end anywhere.
     void ExpandLastGroup() {
         auto flags = static_cast<unsigned char>(*next_++);
         for (int item = 0; item < 8; ++item, flags = static_cast<unsigned char>(flags >> 1U)) {
@@ -110,12 +110,12 @@ class Expander {
         const std::size_t ringPosition = first | ((second & 0xF0U) << 4U);
         const std::size_t length = (second & 0x0FU) + kMinMatch;
         const std::size_t ringNext = used_ + kRingStart;  // modulo the ring's size
-        // 1 to 4096: the position being written next still holds its byte of a round ago.
+        // 1 to 4096: the next position to be written still has the byte from one round ago.
         const std::size_t distance = ((ringNext - ringPosition - 1) % kRingBytes) + 1;
         char* const to = buffer_.Data() + used_;
         const char* const from = to - distance;
         if (distance >= kMaxMatch) {
-            std::memcpy(to, from, kMaxMatch);  // a fixed size; what is too much is overwritten
+            std::memcpy(to, from, kMaxMatch);  // a fixed size is fast; any excess is overwritten
         } else {
             for (std::size_t i = 0; i < length; ++i) {  // repeats what it has just written
                 to[i] = from[i];
@@ -139,8 +139,8 @@ std::size_t DeclaredLength(std::string_view file) {
     return length;
 }
 
-// Finds for each position the longest earlier run of the same bytes. Positions with the same three
-// bytes are chained from the newest to the oldest.
+// Finds the longest earlier run of the bytes at a position. Positions with the same three bytes are
+// chained from the newest to the oldest.
 class MatchFinder {
   public:
     explicit MatchFinder(std::string_view bytes)
@@ -194,8 +194,8 @@ class MatchFinder {
     static constexpr std::size_t kBuckets = std::size_t{1} << 15U;
     static constexpr std::uint32_t kNone = 0xFFFFFFFF;
     static constexpr int kMaxTries = 256;
-    // A classic encoder keeps the 18 bytes it looks ahead at in the same ring, so no file of one
-    // reaches further back than this. Neither do ours.
+    // A classic encoder keeps the next 18 bytes in the same ring, so its files never reach further
+    // back than this. Neither do ours.
     static constexpr std::size_t kMaxDistance = kRingBytes - kMaxMatch;
 
     [[nodiscard]] std::size_t Bucket(std::size_t position) const {
@@ -210,7 +210,7 @@ class MatchFinder {
     std::vector<std::uint32_t> older_;
 };
 
-// Collects items into groups of eight under their byte of flags.
+// Writes items in groups of eight, each after its byte of flags.
 class GroupWriter {
   public:
     explicit GroupWriter(std::string& file) : file_(file) {}
@@ -260,7 +260,7 @@ std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBy
         return ExpandedFile(std::move(copy), 0, file.size());
     }
     const std::string_view data = file.substr(kFileHeaderBytes);
-    // However lying the declared length, no more is set aside than the data could give.
+    // Whatever length is declared, reserves no more than the data can expand to.
     const std::size_t most = (data.size() / kMaxGroupInput + 1) * kMaxGroupOutput;
     return Expander(data, mostBytes).Run(std::min({DeclaredLength(file), most, mostBytes}));
 }
@@ -268,7 +268,7 @@ std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBy
 std::string CompressSzdd(std::string_view bytes) {
     assert(bytes.size() <= kMaxExpandedBytes);
     std::string file(kSignature);
-    file.push_back(0);  // the missing character of a file name that ends in "_"; ours does not
+    file.push_back(0);  // the missing character of a name that ends in "_", which ours does not
     for (std::size_t i = 0; i < 4; ++i) {
         file.push_back(static_cast<char>((bytes.size() >> (8 * i)) & 0xFFU));
     }
@@ -278,7 +278,7 @@ std::string CompressSzdd(std::string_view bytes) {
     while (position < bytes.size()) {
         const auto match = finder.Longest(position);
         finder.Insert(position);
-        // A longer match one byte on is worth a literal now.
+        // A longer match at the next byte is worth a literal now.
         const bool wait = match.length >= kMinMatch && position + 1 < bytes.size() &&
                           finder.Longest(position + 1).length > match.length;
         if (match.length < kMinMatch || wait) {

@@ -16,8 +16,8 @@ namespace brelex {
 /// Expanded files longer than this (1 GiB) are refused.
 inline constexpr std::size_t kMaxExpandedBytes = std::size_t{1} << 30U;
 
-/// What a compressed file expands to. The bytes stand in one buffer behind room for the ring's
-/// first content.
+/// What a compressed file expands to. The bytes are in one buffer, after room for the ring's first
+/// content.
 class ExpandedFile {
   public:
     ExpandedFile() = default;
@@ -37,15 +37,15 @@ class ExpandedFile {
     std::size_t size_ = 0;
 };
 
-/// Expands `file`. As the Windows function LZCopy does: bytes without the signature are copied as
-/// they stand; the length that the header declares is only a hint; a stream that ends early gives
-/// what came out so far. Returns nothing if the result would be longer than `mostBytes` or does
-/// not fit into memory.
+/// Expands `file` like the Windows function LZCopy: copies bytes without the signature unchanged,
+/// takes the length that the header declares as a hint only, and returns what came out so far if
+/// the stream ends early. Nothing if the result would be longer than `mostBytes` or does not fit
+/// into memory.
 [[nodiscard]] std::optional<ExpandedFile> ExpandSzdd(std::string_view file,
                                                      std::size_t mostBytes = kMaxExpandedBytes);
 
-/// Compresses `bytes` into a file that ExpandSzdd and LZCopy expand again. The same bytes always
-/// give the same file. Requires at most kMaxExpandedBytes.
+/// Compresses `bytes` into a file that ExpandSzdd and LZCopy can expand. The same bytes always give
+/// the same file. Requires at most kMaxExpandedBytes.
 [[nodiscard]] std::string CompressSzdd(std::string_view bytes);
 
 }  // namespace brelex
