@@ -13,11 +13,11 @@ namespace brelex {
 namespace {
 
 struct Comparison {
-    std::weak_ordering order;  // of the row, cut to the length of the text, to the text
-    std::size_t same;          // so many first bytes of both are plain and equal
+    std::weak_ordering order;  // of the row, cut to the length of the text, relative to the text
+    std::size_t same;          // how many bytes at the start of both are plain and equal
 };
 
-// Compares a row with a text whose first `from` bytes it is known to begin with.
+// Compares a row with a text. The row is known to begin with the first `from` bytes of the text.
 Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view text,
                       std::size_t from) {
     const std::string_view cut = rows.RowText(row).substr(0, text.size());
@@ -37,15 +37,15 @@ Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view te
             i};
 }
 
-// The first row that begins with the text, among rows whose beginnings of its length ascend. What
-// both ends of the range being searched have in common with the text, all rows between have too,
-// and it is not compared again.
+// The first row that begins with the text, if the rows cut to its length are in ascending order.
+// What both ends of the current range have in common with the text, all rows between them have,
+// too. So it is not compared again.
 std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view text) {
     std::int32_t low = 0;
     std::int32_t count = rows.RowCount();
     std::size_t sameAtLow = 0;
     std::size_t sameAtEnd = 0;
-    bool endBegins = false;  // whether the row behind the range begins with the text
+    bool endBegins = false;  // whether the row after the range begins with the text
     while (count > 0) {
         const std::int32_t half = count / 2;
         const auto [order, same] =
@@ -63,8 +63,8 @@ std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view te
     return endBegins ? std::optional(low) : std::nullopt;
 }
 
-// The row that halving and then stepping back one by one gives. Rows with accents in their
-// beginnings can be out of order there, so that the way taken decides which row is found.
+// The row found by bisecting and then stepping back row by row. Rows with accents can be out of
+// order when they are cut, so the exact procedure decides which row is found.
 std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view text) {
     std::int32_t low = 0;
     std::int32_t high = rows.RowCount() - 1;
@@ -91,8 +91,8 @@ std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text) {
     const std::size_t ascending = rows.AscendingPrefixBytes();
     std::string_view probe = text.substr(0, text.find('\0'));
     for (; !probe.empty(); probe.remove_suffix(1)) {
-        // In order, both ways give the same row; this one takes no step for each row of a run,
-        // which at a million entries can be tens of thousands long.
+        // If the rows are in order, both give the same row. But the first takes no step for each
+        // row of a run, which can be tens of thousands long in a million entries.
         const auto row =
             probe.size() <= ascending ? FindInOrder(rows, probe) : FindStepByStep(rows, probe);
         if (row) {

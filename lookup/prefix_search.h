@@ -9,12 +9,12 @@
 namespace brelex {
 
 /// The row (0-based) of the first entry that begins with `text` (Windows-1252 bytes up to a NUL),
-/// ignoring case, or else with the longest beginning of it that any entry has. 0 if none has any,
-/// also for an empty list. Takes a number of steps logarithmic in the rows, and as many again for
-/// each byte dropped from the end of the text.
+/// ignoring case. If there is none, the first entry that begins with the longest possible prefix of
+/// `text`. 0 if no entry begins with any, or the list is empty. The number of steps is logarithmic
+/// in the rows, and the same again for each byte dropped from the end of the text.
 ///
-/// Relies on rows sorted by CompareTexts. Accents can put rows out of the order of their cut
-/// beginnings; such rows may be missed.
+/// Requires rows sorted by CompareTexts. Because of accents, rows cut to a prefix can be out of
+/// order. Such rows may be missed.
 [[nodiscard]] std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text);
 
 }  // namespace brelex

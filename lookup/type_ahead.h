@@ -10,23 +10,23 @@
 
 namespace brelex {
 
-/// What letters typed into a list of entries select, as list boxes have it: letters that follow
-/// each other quickly make one text, and the first row that begins with it is meant; one letter
-/// again and again goes from row to row of those that begin with it.
+/// What typing in a list of entries selects, as in any list box: letters typed in quick succession
+/// form a text, which selects the first row that begins with it. The same letter typed repeatedly
+/// goes through the rows that begin with it.
 class TypeAhead {
   public:
-    /// The time after which a letter begins a new text, in milliseconds.
+    /// The time in milliseconds after which a letter starts a new text.
     static constexpr std::int64_t kPauseMs = 1000;
 
-    /// The row (0-based) that is meant when `character` (one character, in Windows-1252) is typed
-    /// at `nowMs`, a time that never goes back, while `selected` is the selected row (-1: none).
-    /// None if no row begins with the text. A blank begins no text, as list boxes use it otherwise.
+    /// The row (0-based) to select when `character` (a Windows-1252 byte) is typed at `nowMs`, a
+    /// time that never goes back. `selected` is the selected row (-1: none). Nothing if no row
+    /// begins with the text. A blank never starts a text, because list boxes use it otherwise.
     ///
-    /// Relies on rows sorted by CompareTexts, as FindFirstByPrefix does.
+    /// Like FindFirstByPrefix, requires rows sorted by CompareTexts.
     [[nodiscard]] std::optional<std::int32_t> RowAfter(const RowList& rows, std::int32_t selected,
                                                        char character, std::int64_t nowMs);
 
-    /// Whether a letter typed at `nowMs` goes on with a text that has begun.
+    /// Whether a letter typed at `nowMs` continues a text.
     [[nodiscard]] bool IsTyping(std::int64_t nowMs) const;
 
   private:

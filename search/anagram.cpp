@@ -79,14 +79,14 @@ const Message* AnagramRefusalOf(std::u32string_view letters) {
 }
 
 AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.size()) {
-    // A letter that the code page lacks has its place in the length, but no byte: no candidate has
-    // both, then.
+    // A letter outside the code page counts for the length but has no byte, so no candidate
+    // matches.
     for (std::size_t byte = 0; byte < occurrences_.size(); ++byte) {
         const char32_t character = CharacterOfByte(static_cast<unsigned char>(byte));
         occurrences_.at(byte) = static_cast<std::uint32_t>(GetNumOccr(character, letters));
         mayOccur_.at(byte) = occurrences_.at(byte) > 0 || character == U'-';
     }
-    mayOccur_.at('\t') = false;  // it ends the abbreviation, whatever was typed
+    mayOccur_.at('\t') = false;  // it ends the abbreviation even if it was typed
 }
 
 bool AnagramLetters::IsAnagram(std::string_view candidate) const {
@@ -104,7 +104,7 @@ bool AnagramLetters::IsHit(std::string_view recordText) const {
     while (end < recordText.size() && mayOccur_[static_cast<unsigned char>(recordText[end])]) {
         ++end;
     }
-    // Shorter ones need no look, and longer ones only for their hyphens.
+    // A shorter one cannot match, and a longer one only if it has hyphens.
     if (end == recordText.size() || recordText[end] != '\t' || end < length_) {
         return false;
     }

@@ -22,28 +22,27 @@ namespace brelex {
 /// n! in double precision; 1 for an n below 1, infinity from 171 on.
 [[nodiscard]] double Factorial(std::int32_t n);
 
-/// In how many different orders the characters of a text can stand, those in either case being the
-/// same: the factorial of its length by that of each character's occurrences, in double precision.
-/// 0 for an empty text. Not finite for 171 characters or more.
+/// The number of different orders of the characters in a text, ignoring case: the factorial of its
+/// length, divided by the factorial of each character's occurrences, in double precision. 0 for an
+/// empty text. Not finite for 171 characters or more.
 [[nodiscard]] double CountRearrangements(std::u32string_view text);
 
-/// The same as text, in groups of three digits; says so if there are too many to be counted.
+/// The same as text, in groups of three digits. Says so if there are too many to count.
 [[nodiscard]] std::string RearrangementsText(std::u32string_view text, std::string_view separator);
 
 /// The message that refuses letters to search for, if there are less than 2 distinct ones.
 [[nodiscard]] const Message* AnagramRefusalOf(std::u32string_view letters);
 
-/// Tells the rearrangements of some letters.
+/// Recognizes anagrams of a set of letters.
 class AnagramLetters {
   public:
     explicit AnagramLetters(std::u32string_view letters);
 
-    /// Whether a text (Windows-1252 bytes) has as many characters as there are letters, and each
-    /// letter as often, in either case.
+    /// Whether a text (Windows-1252 bytes) consists of exactly the same letters, ignoring case.
     [[nodiscard]] bool IsAnagram(std::string_view candidate) const;
 
-    /// Whether the abbreviation of a record is one, its hyphens left out. Most records are done
-    /// with at their first character.
+    /// Whether the abbreviation of a record, without its hyphens, is an anagram. Most records are
+    /// rejected at their first character.
     [[nodiscard]] bool IsHit(std::string_view recordText) const;
 
   private:

@@ -10,12 +10,12 @@
 
 namespace brelex {
 
-/// A few rows of one's own, such as what a search has found.
+/// Rows with copies of their texts, such as the hits of a search.
 class CopiedRows final : public RowList {
   public:
     void Clear();
 
-    /// Adds a row at the end (Windows-1252 bytes, without NUL).
+    /// Appends a row: Windows-1252 bytes without a NUL.
     void Add(std::string_view text);
 
   private:

@@ -16,7 +16,7 @@ std::vector<std::string> SearchListItems(std::string_view searchList) {
         }
         rest.remove_prefix(end + 1);
         if (rest.empty()) {
-            items.emplace_back();  // behind a "1" at the end
+            items.emplace_back();  // after a "1" at the end
         }
     }
     return items;

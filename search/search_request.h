@@ -8,20 +8,20 @@
 
 namespace brelex {
 
-/// The part of an entry that is searched.
+/// The part of an entry to search.
 enum class SearchIn {
     Abbreviations,
     Expansions
 };
 
-/// Where in that part the search text has to stand.
+/// Where in that part the search text has to be.
 enum class SearchPosition {
     Anywhere,
     Beginning,
     Ending
 };
 
-/// What the user asks for.
+/// What the user searches for.
 struct SearchRequest {
     std::string text;  ///< UTF-8, may have wildcards (see WildcardPattern)
     SearchIn in = SearchIn::Expansions;

@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// The rules of wildcards, for those who search.
+/// The message that explains the wildcards.
 [[nodiscard]] Message WildcardHelp();
 
 }  // namespace brelex
