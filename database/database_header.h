@@ -44,7 +44,7 @@ struct DatabaseHeader {
 
 /// Where the value of a header field comes from.
 enum class FieldSource {
-    Maker,    ///< chosen by whoever makes the database, or a matter of the file format
+    Maker,    ///< from the maker of the database, or a matter of the file format
     Records,  ///< counted over the records (see ComputeStatistics)
     Checksum  ///< a checksum of the record block
 };

@@ -11,7 +11,7 @@
 #include "lookup/prefix_search.h"
 #include "tests/support/test_files.h"
 
-// These tests find reads outside a buffer when the checks for them are compiled in.
+// In a build with sanitizers, these tests find reads outside a buffer.
 
 namespace brelex {
 namespace {
@@ -106,7 +106,7 @@ TEST(DamagedFile, DamageInTheExpandedFileIsSurvived) {
         std::string expanded = good;
         Damage(expanded, random);
         if (expanded.size() > kHeaderBytes && random() % 2 == 0) {
-            // So that the damage gets past the first checks.
+            // Lets the damage get past the first checks.
             DatabaseHeader header = DecodeHeader(expanded);
             header.DataSize = static_cast<std::int32_t>(expanded.size() - kHeaderBytes);
             expanded.replace(0, kHeaderBytes, EncodeHeader(header));

@@ -72,7 +72,7 @@ TEST(CheckDatabase, EachWrongStatisticIsNamed) {
 }
 
 TEST(CheckDatabase, BeginningsThatAccentsHideAreNamed) {
-    // In order as wholes, but cut to one byte E-acute stands before E.
+    // These are in order, but cut to one byte, E-acute sorts before E.
     std::vector<std::string> records = {"A\tx",
                                         "\xC9"
                                         "a\tx"};

@@ -17,7 +17,7 @@
 
 namespace brelex {
 
-/// Keeps the messages it is given and answers questions from a list, No when that is used up.
+/// Keeps the messages it is given. Answers questions from a list, then with No.
 class FakeMessageSink final : public MessageSink {
   public:
     MessageAnswer Show(const Message& message) override;
@@ -86,7 +86,7 @@ class FakeDesktop final : public Desktop {
     std::vector<std::string> openedToRead;
 };
 
-/// Rows from a list of texts. They promise nothing of their order.
+/// Rows from a list of texts. They promise nothing about their order.
 class FakeRows final : public RowList {
   public:
     explicit FakeRows(const std::vector<std::string>& rows);

@@ -11,7 +11,7 @@
 
 namespace brelex {
 
-/// A folder of a test's own, removed with all that is in it at the end.
+/// A folder for one test. Removed at the end, with everything in it.
 class TestFolder {
   public:
     TestFolder();
@@ -40,7 +40,7 @@ class TestFolder {
 [[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records,
                                         const std::function<void(DatabaseHeader&)>& change);
 
-/// The bytes of the first before they are compressed.
+/// The bytes of DatabaseBytes(records) before they are compressed.
 [[nodiscard]] std::string ExpandedBytes(const std::vector<std::string>& records);
 
 /// `count` different records in ascending order, all beginning with the letter A.
