@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// brelex-help FILE PAGE: shows the help book in FILE, or the one beside this program, at PAGE, or
-// at its first page. "brelex-help --register" has it open the help of this user's programs,
-// "--unregister" no longer.
+// brelex-help FILE PAGE: shows the help book in FILE, or the one beside this program, at PAGE or at
+// its first page. "brelex-help --register" makes it this user's program for help books;
+// "--unregister" undoes that.
 #include <wx/app.h>
 #include <wx/filename.h>
 #include <wx/filesys.h>
@@ -32,7 +32,7 @@ class HelpApp final : public wxApp {
         return ShowBook(argument.empty() ? BookBesideProgram() : argument, Argument(2));
     }
 
-    // Without a window there is nothing to run.
+    // Without a window no event would end the loop.
     int OnRun() override {
         if (GetTopWindow() != nullptr) {
             return wxApp::OnRun();
@@ -61,7 +61,7 @@ class HelpApp final : public wxApp {
     }
 
     HelpViewer viewer_;
-    bool done_ = false;  // what was asked for instead of a window
+    bool done_ = false;  // the registration that was asked for instead of a window
 };
 
 }  // namespace brelex

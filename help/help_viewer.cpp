@@ -2,6 +2,7 @@
 #include "help/help_viewer.h"
 
 #include <algorithm>
+#include <cassert>
 #include <memory>
 
 #include <wx/dialog.h>
@@ -49,8 +50,11 @@ bool IsBook(const wxString& url) {
     return project != nullptr;
 }
 
+// The tabs beside the pages, of which the contents are one (toolkit 3.2).
 wxNotebook& NotebookOf(const wxHtmlHelpWindow& help) {
-    return dynamic_cast<wxNotebook&>(*help.GetTreeCtrl()->GetGrandParent());
+    auto* const notebook = wxDynamicCast(help.GetTreeCtrl()->GetGrandParent(), wxNotebook);
+    assert(notebook != nullptr);
+    return *notebook;
 }
 
 // How wide the contents are with all branches open, and the tabs above them side by side.
@@ -88,6 +92,14 @@ void LayOut(wxHtmlHelpFrame& frame, int column) {
     }
 }
 
+// Shows a page of the book, or a place on it ("page.html#place"). A page comes from outside: what
+// is no page of the book is ignored, and files outside of the book are not asked for.
+void TurnTo(wxHtmlHelpWindow& help, const wxString& page) {
+    if (!page.empty() && page.find_first_of(":/\\") == wxString::npos) {
+        help.Display(page);
+    }
+}
+
 // A modal window of the viewer, such as that for the letters' size; null if there is none.
 wxDialog* OpenDialog() {
     for (wxWindow* const window : wxTopLevelWindows) {
@@ -99,19 +111,18 @@ wxDialog* OpenDialog() {
     return nullptr;
 }
 
-// In place of what the toolkit does (3.2): it takes the book away from the window at once, while
-// keys and clicks still arrive until the window is deleted, and the contents crash on them.
-void OnClose(wxCloseEvent& event) {
-    auto& frame = dynamic_cast<wxHtmlHelpFrame&>(*event.GetEventObject());
+// The toolkit (3.2) takes the book away from the window at once, while keys and clicks still arrive
+// until the window is deleted, and the contents crash on them. So the book stays here.
+void CloseFrame(wxHtmlHelpFrame& frame) {
     if (wxDialog* const dialog = OpenDialog()) {
         dialog->EndModal(wxID_CANCEL);
-        frame.CallAfter([&frame] { frame.Close(); });  // when whoever opened it has gone on
-        return;
+        frame.CallAfter([&frame] { frame.Close(); });  // when the code that opened it has gone on
+    } else {
+        frame.Destroy();
     }
-    frame.Destroy();
 }
 
-// From the page to what stands beside it, or back; the toolkit has no key for that.
+// Moves from the page to what stands beside it, or back; the toolkit has no key for that.
 void ChangeSides(const wxHtmlHelpWindow& help) {
     wxWindow* const beside = NotebookOf(help).GetCurrentPage();
     if (beside != nullptr && beside->IsShownOnScreen() && help.GetHtmlWindow()->HasFocus()) {
@@ -121,26 +132,36 @@ void ChangeSides(const wxHtmlHelpWindow& help) {
     }
 }
 
-void OnKey(wxKeyEvent& event) {
-    auto* const window = dynamic_cast<wxWindow*>(event.GetEventObject());
-    auto* const frame = dynamic_cast<wxHtmlHelpFrame*>(wxGetTopLevelParent(window));
-    const bool isPlain = frame != nullptr && event.GetModifiers() == wxMOD_NONE;
+void OnKey(wxHtmlHelpFrame& frame, wxKeyEvent& event) {
+    // The frame also hears the keys of the windows that it owns.
+    auto* const window = wxDynamicCast(event.GetEventObject(), wxWindow);
+    const bool isPlain =
+        wxGetTopLevelParent(window) == &frame && event.GetModifiers() == wxMOD_NONE;
     if (isPlain && event.GetKeyCode() == WXK_ESCAPE) {
-        frame->Close();
+        frame.Close();
     } else if (isPlain && event.GetKeyCode() == WXK_F6) {
-        ChangeSides(*frame->GetHelpWindow());
+        ChangeSides(*frame.GetHelpWindow());
     } else {
         event.Skip();
     }
 }
 
 // With Ctrl+C, which the toolkit knows, the whole page can be copied.
-void OnPageKey(wxKeyEvent& event) {
+void OnPageKey(wxHtmlWindow& page, wxKeyEvent& event) {
     if (event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL) {
-        dynamic_cast<wxHtmlWindow&>(*event.GetEventObject()).SelectAll();
+        page.SelectAll();
     } else {
         event.Skip();
     }
+}
+
+void BindEvents(wxHtmlHelpFrame& frame) {
+    wxHtmlHelpWindow& help = *frame.GetHelpWindow();
+    wxHtmlWindow& page = *help.GetHtmlWindow();
+    frame.Bind(wxEVT_CLOSE_WINDOW, [&frame](wxCloseEvent&) { CloseFrame(frame); });
+    frame.Bind(wxEVT_CHAR_HOOK, [&frame](wxKeyEvent& event) { OnKey(frame, event); });
+    page.Bind(wxEVT_KEY_DOWN, [&page](wxKeyEvent& event) { OnPageKey(page, event); });
+    HearHelpPages(frame, [&help](const std::string& name) { TurnTo(help, WxText(name)); });
 }
 
 }  // namespace
@@ -158,30 +179,18 @@ bool HelpViewer::Show(const wxString& bookPath, const wxString& page) {
         return false;
     }
     DisplayContents();
-    TurnTo(page);
+    TurnTo(*GetHelpWindow(), page);
     GetHelpWindow()->GetHtmlWindow()->SetFocus();  // keys scroll the page
     return true;
 }
 
-void HelpViewer::TurnTo(const wxString& page) {
-    // Files outside of the book are not asked for.
-    if (!page.empty() && page.find_first_of(":/\\") == wxString::npos &&
-        GetHelpWindow() != nullptr) {
-        GetHelpWindow()->Display(page);
-    }
-}
-
 wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {
     wxHtmlHelpFrame* const frame = wxHtmlHelpController::CreateHelpFrame(data);
-    wxHtmlHelpWindow& help = *frame->GetHelpWindow();
     frame->SetName("frmHelp");
     frame->SetIcons(AppIcons());
-    frame->Bind(wxEVT_CLOSE_WINDOW, &OnClose);
-    frame->Bind(wxEVT_CHAR_HOOK, &OnKey);
-    help.GetHtmlWindow()->Bind(wxEVT_KEY_DOWN, &OnPageKey);
-    HearHelpPages(*frame, [this](const std::string& page) { TurnTo(WxText(page)); });
+    BindEvents(*frame);
 
-    const int column = ColumnWidth(help);
+    const int column = ColumnWidth(*frame->GetHelpWindow());
     // The size of its inside, as a window of a given outer size is laid out once at a size of next
     // to nothing under X11 (toolkit 3.2).
     const wxSize screen = wxDisplay(frame).GetClientArea().GetSize();

@@ -5,18 +5,16 @@
 
 namespace brelex {
 
-/// Shows a book of help in a window: contents, index and search beside its pages. Must live until
-/// the window is gone.
+/// Shows a help book in a window, with contents, index and search beside its pages. Must outlive
+/// the window.
 class HelpViewer final : public wxHtmlHelpController {
   public:
     HelpViewer();
 
-    /// Opens the window with the book in a file at one of its pages, the first one unless it has
-    /// `page`. Returns false if the file is no book.
+    /// Opens the window with the book in a file, at the page `page` if the book has it, or else at
+    /// the first one. `page` may name a place ("page.html#place"). Returns false if the file is not
+    /// a book.
     [[nodiscard]] bool Show(const wxString& bookPath, const wxString& page);
-
-    /// Shows a page, or a place on it ("page.html#place"). What is no page of the book is ignored.
-    void TurnTo(const wxString& page);
 
   protected:
     wxHtmlHelpFrame* CreateHelpFrame(wxHtmlHelpData* data) override;

@@ -94,8 +94,8 @@ wxSizer* frmAbout::LayoutOfTexts() {
 
 void frmAbout::PlaceControls() {
     const int gap = units_.Pixels(kMargin);
-    const wxSize text = GetTextExtent(kDonateText);
-    picPayPal->SetMinSize({text.x + units_.Pixels(4), text.y + units_.Pixels(2)});
+    picPayPal->SetMinSize(
+        {units_.TextWidth(kDonateText), GetTextExtent(kDonateText).y + units_.Pixels(2)});
     auto* end = new wxBoxSizer(wxHORIZONTAL);
     end->Add(imgPayPalDonate, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
     end->Add(picPayPal, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);

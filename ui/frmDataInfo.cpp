@@ -64,10 +64,9 @@ void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
     int captionWidth = 0;
     for (const auto& group : statistics.groups) {
         for (const Statistic& statistic : group) {
-            captionWidth = std::max(captionWidth, GetTextExtent(statistic.caption).x);
+            captionWidth = std::max(captionWidth, units_.TextWidth(statistic.caption));
         }
     }
-    captionWidth += units_.Pixels(4);  // measured text is a little wider when drawn (with Wine)
     const int gap = units_.Pixels(kMargin);
     figures_ = new wxBoxSizer(wxVERTICAL);
     for (const auto& group : statistics.groups) {
@@ -96,7 +95,6 @@ wxStaticText* frmDataInfo::NewValue(const Statistic& statistic) const {
                                        1, kManyLines)
                           : kFewLines;
     value->SetLabelText(WrappedText(*value, fact, {width, lines}, LengthOfNote(fact)));
-    // Measured text is a little wider when drawn.
     value->SetMinSize({std::max(width, value->GetBestSize().x), -1});
     return value;
 }

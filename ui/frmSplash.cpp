@@ -6,7 +6,6 @@
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
-#include <wx/time.h>
 
 #include "platform/window/accessible_name.h"
 #include "platform/window/paint_now.h"
@@ -25,15 +24,15 @@ frmSplash::frmSplash(const AppInfo& info)
 
     constexpr int kIconSize = 72;
     auto* icon = new wxStaticBitmap(this, wxID_ANY, AppIcon(kIconSize));
-    auto* lblTitle = AddLabel("lblTitle", kAppTitle);
+    auto* lblTitle = NewLabel("lblTitle", kAppTitle);
     lblTitle->SetFont(GetFont().Bold().Scaled(2.0F));
-    auto* lblVersion = AddLabel(
+    auto* lblVersion = NewLabel(
         "lblVersion", wxString::Format("version %d.%d", info.majorVersion, info.minorVersion));
-    auto* lblPunchLine = AddLabel("lblPunchLine", "The best offline database of computer acronyms");
-    auto* lblCopyRight = AddLabel("lblCopyRight", WxText(info.copyright) + "\nAll Rights Reserved");
-    auto* lblEmail = AddLabel("lblEmail", WxText(info.homePage));
-    lblMessage = AddLabel("lblMessage", "Decoding database. Please, wait...");
-    lblPercent = AddLabel("lblPercent", wxEmptyString);
+    auto* lblPunchLine = NewLabel("lblPunchLine", "The best offline database of computer acronyms");
+    auto* lblCopyRight = NewLabel("lblCopyRight", WxText(info.copyright) + "\nAll Rights Reserved");
+    auto* lblEmail = NewLabel("lblEmail", WxText(info.homePage));
+    lblMessage = NewLabel("lblMessage", "Decoding database. Please, wait...");
+    lblPercent = NewLabel("lblPercent", wxEmptyString);
 
     const int gap = FromDIP(6);
     auto* texts = new wxBoxSizer(wxVERTICAL);
@@ -58,18 +57,17 @@ frmSplash::frmSplash(const AppInfo& info)
     PlacePercent();
     CentreOnScreen();
     Bind(wxEVT_PAINT, &frmSplash::OnPaint, this);
-    // Whoever loads still needs the window; it goes by Destroy() when that is done.
+    // The loading code still needs the window, and destroys it when it is done.
     Bind(wxEVT_CLOSE_WINDOW, [](wxCloseEvent& event) { event.Veto(); });
 }
 
-wxStaticText* frmSplash::AddLabel(const wxString& name, const wxString& text) {
-    auto* label = new wxStaticText(this, wxID_ANY, wxEmptyString);
+wxStaticText* frmSplash::NewLabel(const wxString& name, const wxString& text) {
+    auto* label = Named(new wxStaticText(this, wxID_ANY, wxEmptyString), name);
     label->SetLabelText(text);
-    label->SetName(name);
     return label;
 }
 
-// An outline: without a title bar the window would melt into what is behind it.
+// Without a title bar only an outline sets the window off from what is behind it.
 void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
@@ -79,12 +77,12 @@ void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
 
 void frmSplash::WaitUntilSeen() {
     PaintFirst(*this);
-    lastPaintMs_ = wxGetUTCTimeMillis();
+    lastPaint_ = std::chrono::steady_clock::now();
 }
 
 void frmSplash::PaintAtOnce() {
     PaintNow(*this);
-    lastPaintMs_ = wxGetUTCTimeMillis();
+    lastPaint_ = std::chrono::steady_clock::now();
 }
 
 void frmSplash::SetStatusText(std::string_view text) {
@@ -93,12 +91,12 @@ void frmSplash::SetStatusText(std::string_view text) {
     PaintAtOnce();
 }
 
-// Setting a label and painting it cost more than loading a hundredth of the entries does. More
-// pictures a second than a screen shows would only make people wait.
+// Setting a label and painting it takes longer than loading a hundredth of the entries. Painting
+// more often than the screen shows would only make people wait.
 void frmSplash::SetProgress(int percent) {
-    constexpr long kFrameMs = 16;
+    constexpr std::chrono::milliseconds kFrame(16);
     constexpr int kDone = 100;
-    if (percent == kDone || wxGetUTCTimeMillis() - lastPaintMs_ >= kFrameMs) {
+    if (percent == kDone || std::chrono::steady_clock::now() - lastPaint_ >= kFrame) {
         lblPercent->SetLabelText(wxString::Format("%d%%", percent));
         PaintAtOnce();
     }

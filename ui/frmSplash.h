@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
+
 #include <wx/frame.h>
 
 #include "base/progress_sink.h"
@@ -11,7 +13,7 @@ class wxStaticText;
 namespace brelex {
 
 /// The window that is up while the database is loaded. It shows what the program is and how far
-/// the loading is.
+/// loading has come.
 class frmSplash final : public wxFrame, public ProgressSink {
   public:
     explicit frmSplash(const AppInfo& info);
@@ -23,16 +25,16 @@ class frmSplash final : public wxFrame, public ProgressSink {
     void SetProgress(int percent) override;
 
   private:
-    using wxFrame::SetStatusText;  // the frame's own is about a status bar, which this has not
+    using wxFrame::SetStatusText;  // the frame's own writes into a status bar
 
-    wxStaticText* AddLabel(const wxString& name, const wxString& text);
+    [[nodiscard]] wxStaticText* NewLabel(const wxString& name, const wxString& text);
     void OnPaint(wxPaintEvent& event);
     void PlacePercent();
     void PaintAtOnce();
 
     wxStaticText* lblMessage = nullptr;
     wxStaticText* lblPercent = nullptr;
-    wxLongLong lastPaintMs_ = 0;
+    std::chrono::steady_clock::time_point lastPaint_;
 };
 
 }  // namespace brelex

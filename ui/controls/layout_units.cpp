@@ -21,7 +21,7 @@ int TextHeight(const wxWindow& window, const wxFont& font) {
 
 }  // namespace
 
-LayoutUnits::LayoutUnits(const wxWindow& window) : stripFont_(window.GetFont()) {
+LayoutUnits::LayoutUnits(const wxWindow& window) : window_(window), stripFont_(window.GetFont()) {
     const int room = window.FromDIP(kStripTextUnits);
     if (TextHeight(window, stripFont_) > room) {
         stripFont_.MakeSmaller();
@@ -33,6 +33,11 @@ LayoutUnits::LayoutUnits(const wxWindow& window) : stripFont_(window.GetFont()) 
 
 int LayoutUnits::Pixels(double units) const {
     return static_cast<int>(std::lround(units * pixelsPerUnit_));
+}
+
+int LayoutUnits::TextWidth(const wxString& text) const {
+    constexpr double kWider = 4;
+    return window_.GetTextExtent(text).x + Pixels(kWider);
 }
 
 }  // namespace brelex
