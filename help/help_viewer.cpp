@@ -2,7 +2,6 @@
 #include "help/help_viewer.h"
 
 #include <algorithm>
-#include <cassert>
 #include <memory>
 
 #include <wx/dialog.h>
@@ -50,29 +49,34 @@ bool IsBook(const wxString& url) {
     return project != nullptr;
 }
 
-// The tabs beside the pages, of which the contents are one (toolkit 3.2).
-wxNotebook& NotebookOf(const wxHtmlHelpWindow& help) {
-    auto* const notebook = wxDynamicCast(help.GetTreeCtrl()->GetGrandParent(), wxNotebook);
-    assert(notebook != nullptr);
-    return *notebook;
+// The tabs beside the pages, of which the contents are one; null if a version of the toolkit should
+// have none (3.2 has).
+wxNotebook* NotebookOf(const wxHtmlHelpWindow& help) {
+    return wxDynamicCast(help.GetTreeCtrl()->GetGrandParent(), wxNotebook);
 }
 
-// How wide the contents are with all branches open, and the tabs above them side by side.
+// How wide the tabs are side by side.
+int WidthOfTabs(const wxNotebook& notebook) {
+    int tabs = 0;
+    for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
+        // The toolkit does not tell how much room the theme leaves around a title.
+        constexpr int kTabMargins = 36;
+        tabs += notebook.GetTextExtent(notebook.GetPageText(i)).x + notebook.FromDIP(kTabMargins);
+    }
+    return tabs;
+}
+
+// How wide the contents are with all branches open, and the tabs above them.
 int ColumnWidth(const wxHtmlHelpWindow& help) {
     wxTreeCtrl& contents = *help.GetTreeCtrl();
     contents.ExpandAll();
     contents.SetQuickBestSize(false);  // or else it would look at the last titles only
     contents.InvalidateBestSize();
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &contents);
-    int tabs = 0;
-    const wxNotebook& notebook = NotebookOf(help);
-    for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
-        // The toolkit does not tell how much room the theme leaves around a title.
-        constexpr int kTabMargins = 36;
-        tabs += notebook.GetTextExtent(notebook.GetPageText(i)).x + notebook.FromDIP(kTabMargins);
-    }
+    const wxNotebook* const notebook = NotebookOf(help);
+    const int tabs = notebook == nullptr ? 0 : WidthOfTabs(*notebook);
     constexpr int kEdges = 24;  // of the notebook, the page in it and the tree
-    return std::max(contents.GetBestSize().x + scrollBar, tabs) + notebook.FromDIP(kEdges);
+    return std::max(contents.GetBestSize().x + scrollBar, tabs) + contents.FromDIP(kEdges);
 }
 
 // Gives all parts of the window their sizes before it is shown. On GTK (toolkit 3.2) most would
@@ -84,11 +88,14 @@ void LayOut(wxHtmlHelpFrame& frame, int column) {
     help.SetSize(frame.GetClientSize());
     help.Layout();
     help.GetSplitterWindow()->SetSashPosition(column);
-    wxNotebook& notebook = NotebookOf(help);
-    notebook.GetParent()->Layout();
-    for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
-        notebook.GetPage(i)->SetSize(notebook.GetClientSize());
-        notebook.GetPage(i)->Layout();
+    wxNotebook* const notebook = NotebookOf(help);
+    if (notebook == nullptr) {
+        return;
+    }
+    notebook->GetParent()->Layout();
+    for (std::size_t i = 0; i < notebook->GetPageCount(); ++i) {
+        notebook->GetPage(i)->SetSize(notebook->GetClientSize());
+        notebook->GetPage(i)->Layout();
     }
 }
 
@@ -124,7 +131,8 @@ void CloseFrame(wxHtmlHelpFrame& frame) {
 
 // Moves from the page to what stands beside it, or back; the toolkit has no key for that.
 void ChangeSides(const wxHtmlHelpWindow& help) {
-    wxWindow* const beside = NotebookOf(help).GetCurrentPage();
+    const wxNotebook* const notebook = NotebookOf(help);
+    wxWindow* const beside = notebook == nullptr ? nullptr : notebook->GetCurrentPage();
     if (beside != nullptr && beside->IsShownOnScreen() && help.GetHtmlWindow()->HasFocus()) {
         beside->SetFocus();
     } else {

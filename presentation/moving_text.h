@@ -11,10 +11,10 @@ class SlidingText {
   public:
     explicit SlidingText(std::string text) : text_(std::move(text)) {}
 
-    /// Goes on by one step and returns what is to be shown.
+    /// Takes the next step and returns the text to show.
     [[nodiscard]] std::string Next();
 
-    /// How long what was shown last is to stay, in milliseconds.
+    /// How long the last text is to stay, in milliseconds.
     [[nodiscard]] int IntervalMs() const;
 
   private:
@@ -26,11 +26,11 @@ class SlidingText {
 /// each that follows.
 [[nodiscard]] std::string SpreadText(std::string_view text, int spread);
 
-/// Where scrolling lines begin: below the visible area, which is `areaHeight` high.
+/// Where scrolling lines begin: just below the visible area, which is `areaHeight` high.
 [[nodiscard]] int FirstScrollPosition(int areaHeight);
 
-/// Where they are one `step` after `position`; below the area again when all `linesHeight` of them
-/// have left it at the top.
+/// Where they are one `step` after `position`. When all lines, which are `linesHeight` high, have
+/// left the area at the top, they begin again below it.
 [[nodiscard]] int NextScrollPosition(int position, int step, int linesHeight, int areaHeight);
 
 }  // namespace brelex

@@ -41,8 +41,8 @@ struct IconBounds {
     double height = 0;
 };
 
-/// The rectangle on whose lines the edge of an icon is drawn: its own boundary, so that right and
-/// bottom are one behind its last pixels. Rounded to the nearest, halves to even.
+/// The rectangle on whose lines the edge of an icon is drawn. It is the icon's own boundary, so
+/// right and bottom are one behind its last pixels. Rounded to the nearest, halves to even.
 struct EdgeRectangle {
     std::int16_t left = 0;
     std::int16_t top = 0;

@@ -26,11 +26,11 @@ constexpr double kMargin = 10;
 constexpr double kValueWidth = 260;
 constexpr int kIconSize = 48;
 
-// How many lines a fact takes at most, however long an entry is.
+// The most lines that a fact takes, however long an entry is.
 constexpr int kFewLines = 3;
 constexpr int kManyLines = 12;
 
-// Behind a long entry the note in brackets tells how long it is, and where to find it.
+// After a long entry a note in brackets says how long it is and where to find it.
 std::size_t LengthOfNote(const wxString& fact) {
     const std::size_t begin = fact.rfind(" (");
     return begin == wxString::npos ? 0 : fact.length() - begin;

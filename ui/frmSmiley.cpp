@@ -34,9 +34,10 @@ int WidestLine(const wxWindow& window, const wxString& text) {
     return widest;
 }
 
-// Smileys stand behind one tab, what they mean behind two more, or one more if the smiley is long.
-// The meanings form a column if the stops are wider apart than the short smileys and not wider than
-// the long ones. Which distance that is depends on the font. Returns it in dialog units.
+// A smiley comes after one tab, its meaning after two more, or after one more if the smiley is
+// long. The meanings form a column if the tab stops are farther apart than the short smileys are
+// wide, but not farther than the long ones. That distance depends on the font. Returns it in dialog
+// units.
 int TabStopFor(const wxWindow& window, const wxString& text) {
     int widestShort = 0;
     int narrowestLong = 0;
@@ -52,7 +53,7 @@ int TabStopFor(const wxWindow& window, const wxString& text) {
             narrowestLong = width;
         }
     }
-    // A font may be so odd that a long smiley is not: then it stands out, and no other row does.
+    // In an odd font a long smiley may be narrower than a short one. Then only its row stands out.
     const int stop = (widestShort + std::max(widestShort, narrowestLong)) / 2 + 1;
     return window.ConvertPixelsToDialog(wxPoint(stop, 0)).x;
 }
@@ -64,7 +65,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     txtReadme = Named(new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                      wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY),
                       "txtReadme", "Smileys and their meanings");
-    // Where there is no Verdana the system takes what comes near it.
+    // Without Verdana the system takes a similar font.
     txtReadme->SetFont(wxFontInfo(GetFont().GetFractionalPointSize()).FaceName("Verdana"));
     cmdClose = Named(new wxButton(surface_, wxID_CLOSE, "Close"), "cmdClose");
     cmdClose->SetDefault();
@@ -79,12 +80,12 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     ShowAppInfoOnMenuRequest(*txtReadme, info);
     Bind(wxEVT_CHAR_HOOK, &frmSmiley::OnKey, this);
     cmdClose->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_CLOSE); });
-    txtReadme->SetFocus();  // the keys that scroll it and Shift+F10 work at once
+    txtReadme->SetFocus();  // so that the scroll keys and Shift+F10 work at once
 }
 
 void frmSmiley::PlaceControls(int textWidth) {
     const int gap = units_.Pixels(kMargin);
-    // The rows are made for a box in which the widest line fits.
+    // The rows are made for a box that is as wide as the widest line.
     const int boxWidth = textWidth + 2 * (kTextMarginPixels + gap) +
                          wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, txtReadme);
     auto* all = new wxBoxSizer(wxVERTICAL);
@@ -99,7 +100,7 @@ void frmSmiley::PlaceControls(int textWidth) {
 void frmSmiley::OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && txtReadme->HasFocus()) {
-        EndModal(wxID_CLOSE);  // the box would keep the key to itself
+        EndModal(wxID_CLOSE);  // the box would swallow the key
     } else {
         event.Skip();
     }

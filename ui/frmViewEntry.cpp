@@ -29,8 +29,8 @@ constexpr double kWidthWithoutScrolling = 700;  // two lines and a half
 constexpr int kExpansionLines = 3;
 constexpr int kTextMarginPixels = 4;
 
-// A line that can be read and selected but not changed. On Windows the toolkit lets the TAB key
-// pass over such a line (seen with 3.2.2).
+// A line that can be read and selected but not changed. On Windows the TAB key would skip it (seen
+// with wxWidgets 3.2.2).
 class ReadOnlyLine final : public wxTextCtrl {
   public:
     explicit ReadOnlyLine(wxWindow* parent)
@@ -138,13 +138,13 @@ void frmViewEntry::CopyEntry() {
     CopyEntryToClipboard(selectedEntry_(), messages_);
 }
 
-// Before the controls: whichever has the focus, the whole entry is copied.
+// Comes before the controls, so the whole entry is copied whichever control has the focus.
 void frmViewEntry::OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (key == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
         CopyEntry();
     } else if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && txtExpn->HasFocus()) {
-        EndModal(wxID_OK);  // the box would keep the key to itself
+        EndModal(wxID_OK);  // the box would swallow the key
     } else {
         event.Skip();
     }

@@ -11,12 +11,11 @@ namespace brelex {
 /// program's name first. On Windows, where a command line is one text, that text is taken.
 [[nodiscard]] wxString ArgumentText(const wxArrayString& arguments);
 
-/// What stands in a Windows command line behind the program and the blanks after it. These are not
-/// part of the text, however many: they are the shell's. Explorer and PowerShell put one there, but
-/// cmd.exe sets its own before the one that was typed, so that `brevilexicon /minimize` arrives
-/// with two. Only a blank within quotes is certain to be meant, and it stays. The program may stand
-/// in quotes, or be the path `program` without any, blanks in it and all, as a command of the
-/// registry has it. Windows only.
+/// What follows the program and any blanks in a Windows command line. The blanks come from the
+/// shell: Explorer and PowerShell put one there, but cmd.exe adds its own to the one that was
+/// typed, so that `brevilexicon /minimize` arrives with two. Only a blank within quotes is certain
+/// to be intended, and it stays. The program may be in quotes, or be the path `program` without
+/// quotes, even with blanks in it, as in a command of the registry. Windows only.
 [[nodiscard]] std::wstring TextBehindProgram(const std::wstring& commandLine,
                                              const std::wstring& program);
 

@@ -9,7 +9,7 @@ namespace brelex {
 
 namespace {
 
-// A hook's procedure is given nothing of ours.
+// The system passes a hook's procedure no data of its owner, so the owner has to be known here.
 DialogHook*& Current() {
     static thread_local DialogHook* current = nullptr;
     return current;

@@ -5,8 +5,8 @@
 
 namespace brelex {
 
-/// Has the help files of this user opened with a program (UTF-8 path), or, with an empty path, with
-/// what it was before. Returns false if that fails.
+/// Makes a program (UTF-8 path) open the help files of this user, or, with an empty path, the
+/// program that did so before. Returns false if that fails.
 [[nodiscard]] bool OpenHelpFilesWith(const std::string& program);
 
 }  // namespace brelex

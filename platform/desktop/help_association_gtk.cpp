@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A MIME type of its own for the help book and a desktop entry of a program for it, in the user's
-// folder for data: what stands in packaging/linux/, whose names are repeated here.
+// Registers a MIME type for the help book and a desktop entry for its program in the user's data
+// folder. The names are those of the files in packaging/linux/.
 #include "platform/desktop/help_association.h"
 
 #include <filesystem>

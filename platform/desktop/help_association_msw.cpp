@@ -19,8 +19,8 @@ const wchar_t* const kExtension = L"Software\\Classes\\.hlp";
 const wchar_t* const kType = L"Software\\Classes\\Brevilexicon.Help";
 const wchar_t* const kCommand = L"Software\\Classes\\Brevilexicon.Help\\shell\\open\\command";
 
-// What the extension belonged to before stands beside our type; the unnamed value of a key is its
-// default one.
+// The type that the extension had before is kept in a value beside ours; the unnamed value of a key
+// is its default.
 const wchar_t* const kBefore = L"Before";
 const wchar_t* const kDefault = nullptr;
 
@@ -48,7 +48,7 @@ bool Register(const std::string& program) {
            SetValue(kExtension, kDefault, kTypeName);
 }
 
-// Another program may have taken the extension over, and may have more in its key.
+// Another program may have taken the extension over, and may keep more in its key.
 bool Unregister() {
     bool done = true;
     if (Value(kExtension, kDefault) == kTypeName) {

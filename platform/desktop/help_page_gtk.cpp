@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Under X11 the page is a property of the viewer's window, which the viewer takes off again.
-// Wayland knows nothing of the kind.
+// Under X11 the page is a property of the viewer's window, which the viewer removes. Wayland has
+// nothing like it.
 #include "platform/desktop/help_page.h"
 
 #include <utility>

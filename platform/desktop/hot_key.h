@@ -8,12 +8,12 @@ class wxFrame;
 
 namespace brelex {
 
-/// Has Ctrl+Shift+G, pressed anywhere on the desktop, bring a window forward as long as this lives.
-/// Where another program has the key, or the desktop gives none, nothing happens.
+/// Makes Ctrl+Shift+G, pressed anywhere on the desktop, bring a window forward as long as this
+/// lives. Nothing happens if another program has the key or the desktop offers none.
 class ActivationHotKey {
   public:
-    /// `window` must be there as long as this lives, or be destroyed with it. Where the system only
-    /// reports the key, `bringForward` is called; Windows brings the window forward itself.
+    /// `window` must live as long as this does. Where the system only reports the key,
+    /// `bringForward` is called; Windows brings the window forward itself.
     ActivationHotKey(wxFrame& window, const std::function<void()>& bringForward);
     ActivationHotKey(const ActivationHotKey&) = delete;
     ActivationHotKey& operator=(const ActivationHotKey&) = delete;

@@ -10,14 +10,14 @@ namespace {
 
 constexpr char kKey[] = "<Control><Shift>G";
 
-// Once for the process, as each time takes another connection to the display and keeps it.
+// Once for the process, because each time opens another connection to the display and keeps it.
 bool IsKeybinderReady() {
     static const bool ready = [] {
         if (keybinder_supported() == FALSE) {  // not an X11 display
             return false;
         }
         keybinder_init();
-        // Or else a key with Shift is bound but never fires (keybinder 3.0-0.3.2).
+        // Otherwise a key with Shift is bound but never fires (keybinder 3.0-0.3.2).
         keybinder_set_use_cooked_accelerators(FALSE);
         return true;
     }();

@@ -6,8 +6,8 @@
 namespace brelex {
 
 /// For a window of the system that is the program's only one: puts it into the task bar under the
-/// program's icon, and has the desktop point at it until it gets the keyboard, should it
-/// come up behind others.
+/// program's icon. If it comes up behind others, the desktop draws attention to it until it gets
+/// the keyboard.
 void MakeFindable(GtkWindow* window);
 
 }  // namespace brelex

@@ -5,10 +5,11 @@
 
 namespace brelex {
 
-/// A message box of the system with one of its standard icons, which the toolkit's own box lacks on
-/// GTK and shows in another kind of dialog on Windows. It belongs to the owner's window, or else to
-/// the window that is in front. While none of ours is up, as at the start, it can be found
-/// like any window: it carries the program's icon, is in the task bar, and stays above others.
+/// A message box of the system with one of its standard icons. The toolkit's own box lacks them on
+/// GTK and shows them in another kind of dialog on Windows. The box belongs to the owner's window,
+/// or else to the window in front. At the start, while the program has no window, the user can find
+/// the box like any window: it carries the program's icon, is in the task bar, and stays above
+/// others.
 class SystemMessageBox final : public wxMessageDialog {
   public:
     /// `owner` may be null. `style` is wxOK or wxYES_NO and one of wxICON_NONE, wxICON_INFORMATION,

@@ -39,7 +39,7 @@ void AddIcon(GtkMessageDialog* box, const char* iconName) {
     G_GNUC_END_IGNORE_DEPRECATIONS
 }
 
-// So that what the box says can be copied.
+// Lets the user copy what the box says.
 void MakeTextSelectable(GtkMessageDialog* box) {
     GList* const parts =
         gtk_container_get_children(GTK_CONTAINER(gtk_message_dialog_get_message_area(box)));
@@ -74,7 +74,7 @@ GtkWidget* NewBox(GtkWindow* owner, const wxMessageDialog& content) {
 }  // namespace
 
 int SystemMessageBox::ShowModal() {
-    // The toolkit shows, runs and destroys a box that is there already.
+    // The toolkit shows, runs and destroys a box that already exists.
     if (m_widget == nullptr) {
         m_parent = GetParentForModalDialog(m_parent, 0);
         m_widget = NewBox(m_parent != nullptr ? GTK_WINDOW(m_parent->GetHandle()) : nullptr, *this);

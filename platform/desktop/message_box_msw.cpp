@@ -30,7 +30,7 @@ UINT IconOf(long style) {
     }
 }
 
-// The system puts its boxes into the middle of the screen. On the screen the whole box is kept.
+// The system centers its boxes on the screen. The whole box stays on the screen.
 void CenterOn(HWND owner, HWND box) {
     RECT around{};
     RECT area{};
@@ -66,8 +66,8 @@ int IdOfAnswer(int answer) {
 
 }  // namespace
 
-// The toolkit would show a task dialog, which makes a bold heading of what stands before an empty
-// line.
+// The toolkit would show a task dialog, which turns the text before an empty line into a bold
+// heading.
 int SystemMessageBox::ShowModal() {
     WX_HOOK_MODAL_DIALOG();
     wxWindow* const parent = GetParentForModalDialog(m_parent, 0);
@@ -79,7 +79,7 @@ int SystemMessageBox::ShowModal() {
             CenterOn(owner, box);
         } else {
             GiveIcons(box, icons);
-            // Which MB_TOPMOST does on Windows, but not under Wine (seen with 8.0).
+            // MB_TOPMOST does this on Windows, but not under Wine (seen with 8.0).
             SetWindowPos(box, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         }
     });

@@ -9,7 +9,7 @@ namespace brelex {
 
 /// Lets the user choose a folder with the system's folder browser, which shows only folders of the
 /// file system. `title` is what it asks for. Returns the folder's path ending in the separator, or
-/// an empty text if the user cancels. `owner` may be null: the desktop owns it then.
+/// an empty text if the user cancels. Without an owner (null) the desktop owns it.
 [[nodiscard]] wxString BrowseForFolder(wxWindow* owner, const wxString& title);
 
 }  // namespace brelex

@@ -55,7 +55,7 @@ FoundWindow WindowTitled(const std::string& title) {
     }
     Display* const display = gdk_x11_display_get_xdisplay(gdk);
     Window found = None;
-    // Windows may go while they are asked.
+    // A window may go while it is asked.
     gdk_x11_display_error_trap_push(gdk);
     const Property list =
         PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW, 32);
@@ -96,14 +96,14 @@ struct UnrefObject {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
 
-// With it the window that opens may come to the front.
+// Allows the window that opens to come to the front.
 std::unique_ptr<GdkAppLaunchContext, UnrefObject> LaunchContext() {
     return std::unique_ptr<GdkAppLaunchContext, UnrefObject>(
         gdk_display_get_app_launch_context(gdk_display_get_default()));
 }
 
-// An argument as GLib takes command lines apart: quoted as for a shell, though none is started, and
-// with percent signs doubled.
+// An argument for a command line that GLib takes apart: quoted as for a shell, although none is
+// started, and with percent signs doubled.
 std::string Quoted(const std::string& argument) {
     char* const quoted = g_shell_quote(argument.c_str());
     std::string text;

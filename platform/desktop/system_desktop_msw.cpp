@@ -17,7 +17,7 @@ HWND WindowTitled(const std::string& title) {
     return FindWindowW(nullptr, WideOfUtf8(title).c_str());
 }
 
-// No verb is the default one.
+// No verb means the default one.
 bool RunVerb(const wchar_t* verb, const std::string& target) {
     HINSTANCE const result = ShellExecuteW(GetActiveWindow(), verb, WideOfUtf8(target).c_str(),
                                            nullptr, nullptr, SW_SHOWNORMAL);

@@ -10,7 +10,7 @@ namespace brelex {
 /// Shows messages as message boxes.
 class WxMessageSink final : public MessageSink {
   public:
-    /// `owner` is the window that the boxes belong to, null for whichever is in front.
+    /// `owner` is the window that the boxes belong to; null means the window in front.
     explicit WxMessageSink(wxWindow* owner) : owner_(owner) {}
 
     MessageAnswer Show(const Message& message) override;

@@ -8,8 +8,8 @@ class wxWindow;
 
 namespace brelex {
 
-/// Gives one part of a window a tool tip, which stands at that part and goes when the mouse leaves
-/// it. An empty text is none. A new one takes the place of the one before.
+/// Gives one part of a window a tool tip, which appears at that part and goes when the mouse leaves
+/// it. It replaces the window's last tool tip. An empty text means none.
 void SetAreaToolTip(wxWindow& window, const wxRect& area, const wxString& text);
 
 }  // namespace brelex

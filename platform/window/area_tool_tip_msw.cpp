@@ -5,8 +5,8 @@
 
 namespace brelex {
 
-// A tool tip appears where the mouse comes to rest. One that is shown already would only change its
-// text.
+// A tool tip appears where the mouse comes to rest. Without taking the old one away, only its text
+// would change.
 void SetAreaToolTip(wxWindow& window, const wxRect& /*area*/, const wxString& text) {
     window.UnsetToolTip();
     if (!text.empty()) {

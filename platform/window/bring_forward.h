@@ -5,12 +5,12 @@ class wxFrame;
 
 namespace brelex {
 
-/// Shows a window, whether it is hidden, minimised or covered, in front of the others and gives it
+/// Shows a window in front of the others, whether it is hidden, minimized or covered, and gives it
 /// the keyboard.
 void BringForward(wxFrame& window);
 
-/// Whether the window is up, not minimised. Windows is asked itself, as it may bring a window up
-/// without the toolkit's noticing; on GTK the toolkit knows.
+/// Whether the window is shown and not minimized. Windows may restore a window without the
+/// toolkit's notice, so the system itself is asked there.
 [[nodiscard]] bool SystemShows(const wxFrame& window);
 
 }  // namespace brelex

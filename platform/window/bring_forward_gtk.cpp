@@ -10,11 +10,11 @@
 namespace brelex {
 
 void BringForward(wxFrame& window) {
-    // Without asking whether it is minimised: hiding it makes the toolkit forget that it is, and it
-    // would come up minimised again (wxWidgets 3.2).
+    // Even if the toolkit does not say that it is minimized: it forgets that when a window is
+    // hidden, and the window would come up minimized again (wxWidgets 3.2).
     window.Iconize(false);
     window.Show();
-    // The time of the key press, if there was one, gets past rules against stealing the focus.
+    // The time of a key press satisfies window managers that prevent focus stealing.
     const guint32 keyTime = keybinder_get_current_event_time();
     gtk_window_present_with_time(GTK_WINDOW(window.GetHandle()),
                                  keyTime != 0 ? keyTime : gtk_get_current_event_time());

@@ -14,7 +14,7 @@ void BringForward(wxFrame& window) {
     if (IsIconic(handle) != 0) {
         ShowWindow(handle, SW_RESTORE);
     }
-    // A modal window over it gets the keyboard: the window itself takes no keys then.
+    // A modal window over it gets the keyboard, because the window itself takes no keys then.
     SetForegroundWindow(GetLastActivePopup(handle));
 }
 

@@ -5,8 +5,8 @@ class wxButton;
 
 namespace brelex {
 
-/// Has a button act at once when it is pressed with a key, its access key or as the default button.
-/// GTK shows it pressed for a quarter of a second first.
+/// Makes a button act at once when a key presses it: its access key, or Enter for the default
+/// button. GTK would first show it pressed for a quarter of a second.
 void ActAtOnceOnKeys(wxButton& button);
 
 }  // namespace brelex

@@ -3,7 +3,7 @@
 
 namespace brelex {
 
-// They do here.
+// On Windows all buttons do.
 void ActAtOnceOnKeys(wxButton& /*button*/) {}
 
 }  // namespace brelex

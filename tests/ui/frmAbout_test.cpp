@@ -424,7 +424,7 @@ TEST_F(AboutTest, TheLinesAreDrawnWhereTheyAre) {
         // Far enough up for the title and its rule.
         EXPECT_TRUE(
             WaitFor([&] { return area.Position() > 0 && area.Position() < size.y - 40; }, 9000));
-        area.Stop();
+        area.tmrScrollText.Stop();
         const wxImage picture = PictureOf(area);
         const int top = area.Position();
         EXPECT_EQ(InkIn(picture, background, {0, 0, size.x, top}), 0);

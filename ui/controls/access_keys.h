@@ -9,14 +9,14 @@ class wxWindow;
 
 namespace brelex {
 
-/// A label with an access key in its text, and where the key leads.
+/// A label with an access key in its text, and the control that the key leads to.
 struct LabelledControl {
     const wxStaticText* label;
     wxWindow* target;
 };
 
-/// Has the access keys of labels lead to the controls behind them. On GTK a label does so by
-/// itself; Windows promises it for dialogs only. Call once for each window.
+/// Makes the access keys of labels lead to their controls. On GTK labels do so by themselves;
+/// Windows promises it for dialogs only. Call once for each window.
 void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledControl>& controls);
 
 }  // namespace brelex

@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// A bare piece of window that other things stand on. It never takes the focus.
+/// A plain child window used as a background. It never takes the focus.
 class Backdrop : public wxWindow {
   public:
     explicit Backdrop(wxWindow* parent) : wxWindow(parent, wxID_ANY) {}

@@ -38,13 +38,13 @@ void BusyAnimation::Run(bool on) {
 void BusyAnimation::ShowFrame(int frame) {
     shownFrame_ = frame;
     Refresh();
-    Update();  // whoever is busy lets events run only now and then
+    Update();  // the busy code lets events run only now and then
 }
 
 void BusyAnimation::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     const wxBitmap strip = strip_.picture.GetBitmapFor(this);
-    // The window shows of the strip what is as high as one frame.
+    // The window is as high as one frame and cuts off the rest of the strip.
     dc.DrawBitmap(strip, 0, -wxRound(strip.GetLogicalHeight() * shownFrame_ / strip_.frames));
 }
 

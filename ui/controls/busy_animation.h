@@ -8,16 +8,16 @@
 
 namespace brelex {
 
-/// The animation `picAnim` that shows that a window is busy: the frames of a film strip, one after
-/// the other. Hidden while it does not run.
+/// The animation `picAnim`, which shows the frames of a film strip one after the other while a
+/// window is busy. It is hidden while it does not run.
 class BusyAnimation final : public Backdrop {
   public:
     BusyAnimation(wxWindow* parent, FilmStrip strip, int intervalMs);
 
-    /// Shows the first frame and begins to go on, or stops and hides.
+    /// Starts at the first frame, or stops and hides.
     void Run(bool on);
 
-    int AnimationFrame = 0;  ///< the frame that comes next, 0-based
+    int AnimationFrame = 0;  ///< the next frame, 0-based
 
     /// The frame on the screen, 0-based.
     [[nodiscard]] int ShownFrame() const { return shownFrame_; }

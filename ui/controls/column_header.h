@@ -8,8 +8,8 @@ namespace brelex {
 
 // In layout units.
 inline constexpr double kColumnHeaderHeight = 18;
-inline constexpr double kColumnHeaderFrameAbove = 3;  ///< how far a frame round it stands above it
-inline constexpr double kExpansionTextAt = 139.5;     ///< of lists under it, from their left
+inline constexpr double kColumnHeaderFrameAbove = 3;  ///< between it and the top of its frame
+inline constexpr double kExpansionTextAt = 139.5;     ///< from the left edge of the list below
 
 /// The drawn header of a list, `picColHeader`: the names of its two columns, a line under them,
 /// a sunken line between them and an arrow for the ascending order.
@@ -17,7 +17,7 @@ class ColumnHeader final : public Backdrop {
   public:
     ColumnHeader(wxWindow* parent, const LayoutUnits& units);
 
-    /// Has the second column begin `pixels` from the left.
+    /// Makes the second column begin `pixels` from the left.
     void SetSecondColumn(int pixels);
 
   private:

@@ -28,7 +28,7 @@ void ComboTextLimit::Set(std::size_t length) {
     Apply();
 }
 
-// The toolkit's limit cuts longer text on GTK; so it is never below what is there.
+// On GTK the toolkit cuts text that is longer than its limit, so the limit is never below the text.
 void ComboTextLimit::Apply() {
     const std::size_t length = std::max(limit_, combo_.GetValue().length());
     combo_.SetMaxLength(limit_ == 0 ? 0 : static_cast<unsigned long>(length));
@@ -40,7 +40,7 @@ void ComboTextLimit::RestorePickedText() {
         combo_.GetString(static_cast<unsigned>(picked)) != combo_.GetValue()) {
         const wxString text = combo_.GetString(static_cast<unsigned>(picked));
         combo_.SetMaxLength(0);
-        combo_.SetValue(text);  // and tell of it
+        combo_.SetValue(text);  // with an event
     }
     Apply();
 }

@@ -7,8 +7,8 @@ class wxComboBox;
 
 namespace brelex {
 
-/// Keeps what is typed into a combo box to a length in characters. Text that is there already, or
-/// is picked from the list, may be longer and is never cut.
+/// Limits what can be typed into a combo box to a number of characters. Text that is already there,
+/// or is picked from the list, may be longer and is never cut.
 class ComboTextLimit {
   public:
     explicit ComboTextLimit(wxComboBox& combo);

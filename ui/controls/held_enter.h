@@ -9,12 +9,12 @@ class wxWindow;
 
 namespace brelex {
 
-/// Keeps the Enter key that starts a search from stopping it, or from starting another: held, or
-/// pressed again at once, it does nothing. An Enter later on acts as any other.
+/// Keeps the Enter key that starts a search from stopping it or starting another. Enter does
+/// nothing while it is held, or when it is pressed again at once. Pressed later, it acts as usual.
 class HeldEnter {
   public:
-    /// Watches the keys of a window whose controls all exist, and which must be done with its
-    /// controls before this goes.
+    /// Watches the keys of a window whose controls all exist. The window must destroy its controls
+    /// before this goes.
     explicit HeldEnter(wxTopLevelWindow& window);
     HeldEnter(const HeldEnter&) = delete;
     HeldEnter& operator=(const HeldEnter&) = delete;
@@ -22,9 +22,9 @@ class HeldEnter {
     void SearchBegins();
     void SearchEnds();
 
-    /// Whether a button that is pressed now, while a search runs, is pressed with the Enter that
-    /// started it or the next one at once. Windows presses buttons without asking the window for
-    /// its keys.
+    /// Whether a button that is pressed now, while a search runs, is pressed by the Enter that
+    /// started the search, or by another one right after it. Windows presses buttons without
+    /// passing the key to the window.
     [[nodiscard]] bool PressesButton() const;
 
   private:

@@ -14,8 +14,8 @@ namespace {
 constexpr int kFocusMark = 2;
 constexpr int kFocusMargin = 4;
 
-// Not the system's colour for links: themes have some that cannot be read (seen with GTK 3.24 and
-// Wine 8).
+// Not the system's color for links, which some themes make illegible (seen with GTK 3.24 and Wine
+// 8).
 wxColour LinkColour() {
     return wxSystemSettings::GetAppearance().IsUsingDarkBackground() ? wxColour(120, 174, 237)
                                                                      : wxColour(0, 80, 180);
@@ -86,7 +86,7 @@ wxSize Link::DoGetBestClientSize() const {
 // While the mouse is captured, a button was pressed here and has not been released yet.
 void Link::OnMouse(wxMouseEvent& event) {
     event.Skip();
-    // Windows tells of a movement, too, when the mouse is only released.
+    // Windows reports a movement even when the mouse is only released.
     const wxPoint before = std::exchange(mouse_, event.GetPosition());
     if (event.GetEventType() == wxEVT_MOTION && mouse_ == before) {
         return;
@@ -126,7 +126,8 @@ void Link::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     Draw(dc);
     if (HasFocus()) {
-        // The system's own mark is a pale dotted line that hardly shows, least of all on a picture.
+        // The system's own mark is a pale dotted line, which is hard to see, above all on a
+        // picture.
         dc.SetPen(wxPen(LinkColour()));
         dc.SetBrush(*wxTRANSPARENT_BRUSH);
         for (int line = 0; line < FromDIP(kFocusMark); ++line) {

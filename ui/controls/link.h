@@ -8,8 +8,8 @@
 
 namespace brelex {
 
-/// A text or picture that opens something. It is underlined while the mouse is over it, and opens
-/// when the left button was pressed on it and is released over it; by keyboard with Space or Enter.
+/// A text or picture that opens something. It is underlined while the mouse is over it. It opens
+/// when the left button is pressed and released over it, and on Space or Enter.
 class Link final : public wxWindow {
   public:
     Link(wxWindow* parent, const wxString& text, std::function<void()> open);
@@ -23,7 +23,7 @@ class Link final : public wxWindow {
 
     [[nodiscard]] bool IsUnderlined() const { return isHot_; }
 
-    /// Draws text or picture, but not the mark of the focus.
+    /// Draws the text or picture, but not the mark of the focus.
     void Draw(wxDC& dc) const;
 
   protected:

@@ -17,7 +17,7 @@ ProgressBar::ProgressBar(wxWindow* parent) : Backdrop(parent) {
 void ProgressBar::SetPercent(int percent) {
     percent_ = percent;
     Refresh();
-    Update();  // whoever reports progress lets events run only now and then
+    Update();  // the busy code lets events run only now and then
 }
 
 void ProgressBar::Clear() {

@@ -10,16 +10,16 @@ class ProgressBar final : public Backdrop {
   public:
     explicit ProgressBar(wxWindow* parent);
 
-    /// Shows 0 to 100 percent, on the screen when this returns.
+    /// Shows 0 to 100 percent, which are on the screen when this returns.
     void SetPercent(int percent);
 
     /// Shows neither a bar nor a percentage.
     void Clear();
 
-    /// What is shown; -1 after Clear.
+    /// The percentage on show; -1 after Clear.
     [[nodiscard]] int Percent() const { return percent_; }
 
-    /// Draws what is shown, on the background too.
+    /// Draws background, bar and percentage.
     void Draw(wxDC& dc) const;
 
   private:

@@ -16,17 +16,17 @@ namespace brelex {
 struct ScrollLine {
     wxString text;
     wxFont font;
-    wxColour colour;
+    wxColour colour;  ///< none for the user's
 };
 
-/// An area in which lines of text scroll upwards, over and over, until it is destroyed.
+/// An area in which lines of text scroll upwards, over and over.
 class ScrollArea final : public Backdrop {
   public:
     ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines);
 
     [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
 
-    /// Where the first line is now, in pixels from the top.
+    /// The first line's distance from the top now, in pixels.
     [[nodiscard]] int Position() const { return position_; }
 
     /// The height of all lines, in pixels.
@@ -35,13 +35,10 @@ class ScrollArea final : public Backdrop {
     /// The width that all lines need, in pixels.
     [[nodiscard]] int LinesWidth() const { return linesWidth_; }
 
-    /// Draws the lines where they are now, on the background too.
+    /// Draws the background and the lines where they are now.
     void Draw(wxDC& dc) const;
 
-    /// Ends the scrolling. For use before the window is hidden.
-    void Stop() { tmrScrollText.Stop(); }
-
-    wxTimer tmrScrollText;
+    wxTimer tmrScrollText;  ///< to be stopped before the window is hidden
 
   private:
     void Measure();

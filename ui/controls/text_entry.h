@@ -8,17 +8,17 @@ class wxWindow;
 
 namespace brelex {
 
-/// Has Ctrl+A select all text of a control, which Windows' own does not do on every version of the
-/// system. `window` and `entry` are the same control.
+/// Makes Ctrl+A select all text of a control, which not every version of Windows does. `window` and
+/// `entry` are the same control.
 void SelectAllOnCtrlA(wxWindow& window, wxTextEntry& entry);
 
-/// Has small letters that are typed into a control become capitals. Other characters, and what is
-/// pasted, stay as they are. `window` and `entry` are the same control.
+/// Turns small letters into capitals as they are typed into a control. Other characters and pasted
+/// text stay as they are. `window` and `entry` are the same control.
 void TypeInCapitals(wxWindow& window, wxTextEntry& entry);
 
-/// Pastes the clipboard's text over the selection of a control, of its first line what fits within
-/// `maxLength` characters. GTK by itself would delete the selection and then refuse all of it.
-/// Returns false if the clipboard has no text.
+/// Pastes the first line of the clipboard's text over the selection of a control, as much of it as
+/// fits within `maxLength` characters. GTK would delete the selection and then refuse the whole
+/// text. Returns false if the clipboard has no text.
 [[nodiscard]] bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength);
 
 }  // namespace brelex

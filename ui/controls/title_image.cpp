@@ -20,7 +20,7 @@ wxSize ExtentOfName(const wxWindow& window, const wxFont& font) {
     return {width, height};
 }
 
-// A bold font in which the name fills `size` as far as it goes. Widths grow with the point size.
+// A bold font in which the name fills `size`. Widths grow with the point size.
 wxFont FittingFont(const wxWindow& window, const wxSize& size) {
     wxFont font = window.GetFont().Bold();
     const wxSize name = ExtentOfName(window, font);

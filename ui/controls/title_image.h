@@ -8,13 +8,13 @@
 
 namespace brelex {
 
-/// The program's icon and its name beside it, as large as they fit into a size. Drawn anew each
-/// time the window is painted, so that it is as sharp as the screen it stands on.
+/// The program's icon and its name beside it, as large as a given size allows. They are drawn at
+/// the resolution of the screen that they are on.
 class TitleImage final : public Backdrop {
   public:
     explicit TitleImage(wxWindow* parent);
 
-    /// Sizes the window, in pixels, to what it shows at most as large as `largest`.
+    /// Sizes the window, in pixels, to an image that is at most as large as `largest`.
     void FitInto(const wxSize& largest);
 
     void Draw(wxDC& dc) const;

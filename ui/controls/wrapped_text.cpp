@@ -36,7 +36,7 @@ class Wrapper {
         return mostInLine_ * static_cast<std::size_t>(std::max(room_.lines, 1));
     }
 
-    // Nothing if there are more lines than there is room for.
+    // Nothing if the text takes more lines than there is room for.
     [[nodiscard]] std::optional<wxString> Wrapped(const wxString& text) const {
         wxString wrapped;
         std::size_t begin = 0;
@@ -53,8 +53,7 @@ class Wrapper {
     }
 
   private:
-    // How many characters of `text`, which is not at its end, come into the next line; at least
-    // one.
+    // How many characters of `text`, which is not empty, go into the next line; at least one.
     [[nodiscard]] std::size_t CharactersOfLine(const wxString& text) const {
         const std::size_t fitting =
             LargestThat(std::min(text.length(), mostInLine_), [&](std::size_t count) {
@@ -76,7 +75,7 @@ class Wrapper {
 
 wxString WrappedText(const wxWindow& window, wxString text, TextRoom room, std::size_t keptEnd) {
     const Wrapper wrapper(window, room);
-    // Breaks of its own would be lines that nobody has counted.
+    // A line break in the text would make a line that is not counted.
     std::replace_if(
         text.begin(), text.end(), [](wxUniChar c) { return c < ' '; }, ' ');
     if (text.length() <= wrapper.MostCharacters()) {

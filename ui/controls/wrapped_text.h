@@ -9,16 +9,16 @@ class wxWindow;
 
 namespace brelex {
 
-/// The room there is for a text.
+/// The room for a text.
 struct TextRoom {
     int width = 0;  ///< in pixels
     int lines = 0;
 };
 
 /// `text` broken into lines that `window` draws within `room`: at blanks, and within words that are
-/// longer than a line. What does not fit is left out with an ellipsis in its place, before the last
-/// `keptEnd` characters if these fit, else at the end. Its cost does not grow with the text beyond
-/// what there is room for. Control characters become blanks.
+/// longer than a line. An ellipsis takes the place of what does not fit: before the last `keptEnd`
+/// characters if these fit, or else at the end. Control characters become blanks. The cost depends
+/// on the room, not on the length of the text.
 [[nodiscard]] wxString WrappedText(const wxWindow& window, wxString text, TextRoom room,
                                    std::size_t keptEnd);
 
