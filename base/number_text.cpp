@@ -157,11 +157,10 @@ std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
 
 int PercentOf(std::int32_t done, std::int32_t total) {
     assert(total > 0);
-    const std::int64_t hundredfold = std::int64_t{done} * 100;
-    const auto whole = static_cast<int>(hundredfold / total);
-    const std::int64_t twiceRest = 2 * (hundredfold % total);
-    const bool up = twiceRest > total || (twiceRest == total && whole % 2 != 0);
-    return up ? whole + 1 : whole;
+    // The 32-bit Windows program would carry more digits from one step to the next.
+    const volatile double share = static_cast<double>(done) / total;
+    const volatile double percent = share * 100;
+    return static_cast<int>(std::nearbyint(percent));
 }
 
 }  // namespace brelex

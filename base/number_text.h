@@ -30,8 +30,8 @@ namespace brelex {
 [[nodiscard]] std::optional<std::int32_t> ParseWholeNumber(std::string_view text,
                                                            std::string_view separator);
 
-/// How many percent of `total` are `done`, rounded to the nearest whole number, halves to even.
-/// Requires a total above 0.
+/// Whole percent of `done` in `total` (more than 0): done / total * 100 in double precision, to the
+/// nearest, halves to even. All progress is worked out here.
 [[nodiscard]] int PercentOf(std::int32_t done, std::int32_t total);
 
 }  // namespace brelex

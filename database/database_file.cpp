@@ -32,7 +32,7 @@ std::int32_t ProgressStepOf(std::int32_t recordCount) {
 }
 
 LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& header,
-                                 RecordStore& store, ProgressSink& progress,
+                                 RecordStore& store, WorkWatcher& progress,
                                  const std::function<void()>& onHeader) {
     const std::string_view expanded = database.content.View();
     if (expanded.size() == database.fileLength) {
@@ -57,8 +57,8 @@ LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordSt
     if (!database) {
         return LoadFailure::CannotDecode;
     }
-    NoProgress progress;
-    return ReadExpandedDatabase(std::move(*database), header, store, progress, [] {});
+    WorkWatcher nobody;
+    return ReadExpandedDatabase(std::move(*database), header, store, nobody, [] {});
 }
 
 }  // namespace brelex

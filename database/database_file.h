@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-#include "base/progress_sink.h"
+#include "base/long_work.h"
 #include "database/database_header.h"
 #include "database/record_store.h"
 #include "database/szdd.h"
@@ -42,7 +42,7 @@ struct ExpandedDatabase {
 /// of the latter. Calls `onHeader` in between: the header is accepted and the store still to be
 /// filled. If that fails, an empty store stays empty.
 [[nodiscard]] LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& header,
-                                               RecordStore& store, ProgressSink& progress,
+                                               RecordStore& store, WorkWatcher& progress,
                                                const std::function<void()>& onHeader);
 
 /// Expands a whole database file that was read into memory, and reads it into `header` and `store`.

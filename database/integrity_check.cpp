@@ -9,31 +9,37 @@
 
 #include "base/byte_buffer.h"
 #include "base/file_io.h"
+#include "database/modCRC32.h"
 #include "database/modDataLoader.h"
 
 namespace brelex {
 
 namespace {
 
-// The record block in an expanded file, as many bytes as the header says, filled up with zeros;
-// less if there is not the memory for that.
-std::string_view RecordBlock(std::string_view file, std::size_t bytes, ByteBuffer& filledUp) {
-    const std::string_view block = file.substr(std::min(kHeaderBytes, file.size()), bytes);
-    if (block.size() == bytes) {
+// The record block of an expanded file, as many bytes as the header says.
+struct RecordBlock {
+    std::string_view bytes;
+    ByteBuffer filledUp;  // has the bytes if the file has too few of them
+};
+
+// What is missing is filled up with zeros; it stays missing if there is not the memory for that.
+RecordBlock RecordBlockOf(std::string_view file, std::size_t length) {
+    RecordBlock block{file.substr(std::min(kHeaderBytes, file.size()), length), {}};
+    if (block.bytes.size() == length) {
         return block;
     }
-    filledUp = ByteBuffer(bytes);
-    if (filledUp.IsNull()) {
-        return block;
+    block.filledUp = ByteBuffer(length);
+    if (!block.filledUp.IsNull()) {
+        char* const rest = std::copy(block.bytes.begin(), block.bytes.end(), block.filledUp.Data());
+        std::fill(rest, block.filledUp.Data() + length, '\0');
+        block.bytes = block.filledUp.View();
     }
-    std::copy(block.begin(), block.end(), filledUp.Data());
-    std::fill(filledUp.Data() + block.size(), filledUp.Data() + bytes, '\0');
-    return filledUp.View();
+    return block;
 }
 
 }  // namespace
 
-bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, CrcWatcher& watcher) {
+bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, WorkWatcher& watcher) {
     const std::filesystem::path temporary = PathOfUtf8(values.TempFilePath);
     std::error_code ignored;
     std::filesystem::remove(temporary, ignored);  // one that was left behind proves nothing
@@ -41,11 +47,10 @@ bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, CrcWatcher
     (void)ExpandIntoTemporaryFile(values, files);
     const auto file = ReadWholeFile(temporary);
     std::filesystem::remove(temporary, ignored);
-    ByteBuffer filledUp;
-    const auto bytes = static_cast<std::size_t>(std::max(values.Header.DataSize, 0));
-    const std::string_view block =
-        RecordBlock(file ? file->View() : std::string_view(), bytes, filledUp);
-    return GetCRCFromByteArray(block, &watcher) == values.Header.DataCRC && block.size() == bytes;
+    const auto length = static_cast<std::size_t>(std::max(values.Header.DataSize, 0));
+    const RecordBlock block = RecordBlockOf(file ? file->View() : std::string_view(), length);
+    return GetCRCFromByteArray(block.bytes, &watcher) == values.Header.DataCRC &&
+           block.bytes.size() == length;
 }
 
 }  // namespace brelex

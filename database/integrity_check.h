@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/long_work.h"
 #include "base/temporary_files.h"
-#include "database/modCRC32.h"
 #include "database/program_values.h"
 
 namespace brelex {
@@ -12,6 +12,6 @@ namespace brelex {
 /// missing of it counts as zeros, which no records are but for what ends the last one. If `watcher`
 /// ends the check, the answer means nothing. The temporary file does not stay.
 [[nodiscard]] bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files,
-                                CrcWatcher& watcher);
+                                WorkWatcher& watcher);
 
 }  // namespace brelex

@@ -56,7 +56,7 @@ std::uint32_t Update(std::uint32_t crc, std::string_view bytes) {
 
 }  // namespace
 
-std::int32_t GetCRCFromByteArray(std::string_view bytes, CrcWatcher* watcher) {
+std::int32_t GetCRCFromByteArray(std::string_view bytes, WorkWatcher* watcher) {
     std::uint32_t crc = 0xFFFFFFFF;
     if (watcher == nullptr) {
         crc = Update(crc, bytes);
@@ -66,9 +66,9 @@ std::int32_t GetCRCFromByteArray(std::string_view bytes, CrcWatcher* watcher) {
         const std::size_t step = last / 100 + 1;
         for (std::size_t at = 0; at <= last; at += step) {
             crc = Update(crc, bytes.substr(at, 1));
-            watcher->DrawProgress(last == 0 ? 0
-                                            : PercentOf(static_cast<std::int32_t>(at),
-                                                        static_cast<std::int32_t>(last)));
+            watcher->SetProgress(last == 0 ? 0
+                                           : PercentOf(static_cast<std::int32_t>(at),
+                                                       static_cast<std::int32_t>(last)));
             if (!watcher->OnPause()) {
                 break;
             }
@@ -76,7 +76,7 @@ std::int32_t GetCRCFromByteArray(std::string_view bytes, CrcWatcher* watcher) {
         }
     }
     if (watcher != nullptr) {
-        watcher->DrawProgress(100);
+        watcher->SetProgress(100);
     }
     return std::bit_cast<std::int32_t>(crc ^ 0xFFFFFFFFU);
 }

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "base/long_work.h"
 #include "base/message_sink.h"
-#include "base/progress_sink.h"
 #include "base/temporary_files.h"
 #include "database/database_file.h"
 #include "database/program_values.h"
@@ -19,7 +19,7 @@ inline constexpr const char* kTempFileName = "~bx6120.tmp";
 /// What the loader needs from the outside.
 struct LoaderSurroundings {
     TemporaryFiles& files;
-    ProgressSink& progress;
+    WorkWatcher& progress;
     MessageSink& messages;
 };
 

@@ -34,7 +34,7 @@ std::size_t AscendingBytes(std::string_view row, std::string_view next, std::siz
 }  // namespace
 
 bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
-                       std::int32_t progressStep, ProgressSink& progress) {
+                       std::int32_t progressStep, WorkWatcher& progress) {
     assert(progressStep > 0);
     assert(blockAt <= file.View().size());
     file_ = std::move(file);

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/progress_sink.h"
+#include "base/long_work.h"
 #include "database/row_list.h"
 #include "database/szdd.h"
 
@@ -21,7 +21,7 @@ class RecordStore final : public RowList {
     /// store empty if the block has fewer. Reports to `progress` after every `progressStep` (1 or
     /// more) records.
     [[nodiscard]] bool Fill(ExpandedFile file, std::size_t blockAt, std::int32_t recordCount,
-                            std::int32_t progressStep, ProgressSink& progress);
+                            std::int32_t progressStep, WorkWatcher& progress);
 
     /// The bytes of the record block.
     [[nodiscard]] std::string_view Block() const { return block_; }

@@ -62,16 +62,9 @@ std::vector<CreditRecord> Credits(const AppInfo& info) {
 }
 
 std::string SmileyDictionaryText() {
-    std::string text;
-    for (const char c : std::string_view(kSmileyDictionary)) {
-        if (c == '\n') {
-            text.push_back('\r');
-        }
-        text.push_back(c);
-    }
-    // The source file ends in a line break, as text files do.
-    text.resize(text.size() - 2);
-    return text;
+    std::string_view text = kSmileyDictionary;
+    text.remove_suffix(1);  // the source file ends in a line end, as text files do
+    return std::string(text);
 }
 
 }  // namespace brelex

@@ -26,7 +26,7 @@ struct CreditRecord {
 /// The credits, in their order.
 [[nodiscard]] std::vector<CreditRecord> Credits(const AppInfo& info);
 
-/// The text of the smiley dictionary, in ASCII: lines parted by CR LF, columns by TABs.
+/// The text of the smiley dictionary, in ASCII: lines parted by line ends, columns by TABs.
 [[nodiscard]] std::string SmileyDictionaryText();
 
 }  // namespace brelex

@@ -13,16 +13,8 @@ namespace brelex {
 
 namespace {
 
-constexpr std::int32_t kRowsBetweenProgress = 100;
+constexpr std::int32_t kRowsBetweenPauses = 100;
 constexpr std::int32_t kFewestDistinctLetters = 2;
-
-// In double precision, to the nearest whole number, halves to the even one.
-int PercentDone(std::int32_t row, std::int32_t rowCount) {
-    // The 32-bit Windows program would carry more digits from one step to the next.
-    const volatile double share = static_cast<double>(row) / rowCount;
-    const volatile double percent = share * 100;
-    return static_cast<int>(std::nearbyint(percent));
-}
 
 }  // namespace
 
@@ -72,10 +64,12 @@ std::string RearrangementsText(std::u32string_view text, std::string_view separa
     return std::isfinite(count) ? FormatGrouped(count, separator) : "too many to count";
 }
 
-const Message* AnagramRefusalOf(std::u32string_view letters) {
-    static const Message kTooFew{"Type at least 2 distinct letters", kAppTitle,
-                                 MessageIcon::Exclamation, MessageButtons::Ok};
-    return CountDistinctLetters(letters) < kFewestDistinctLetters ? &kTooFew : nullptr;
+std::optional<Message> AnagramRefusalOf(std::u32string_view letters) {
+    if (CountDistinctLetters(letters) >= kFewestDistinctLetters) {
+        return std::nullopt;
+    }
+    return Message{"Type at least 2 distinct letters", kAppTitle, MessageIcon::Exclamation,
+                   MessageButtons::Ok};
 }
 
 AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.size()) {
@@ -114,18 +108,20 @@ bool AnagramLetters::IsHit(std::string_view recordText) const {
 }
 
 std::vector<std::int32_t> FindAnagrams(const RowList& rows, const AnagramLetters& letters,
-                                       AnagramWatcher* watcher) {
+                                       WorkWatcher* watcher) {
     std::vector<std::int32_t> hits;
     for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
         if (letters.IsHit(rows.RowText(row))) {
             hits.push_back(row);
-            if (watcher != nullptr) {
-                watcher->OnHit(row);
+            if (watcher != nullptr && !watcher->OnHit(row)) {
+                break;
             }
         }
-        if (watcher != nullptr && row % kRowsBetweenProgress == 0 &&
-            !watcher->OnProgress(PercentDone(row, rows.RowCount()))) {
-            break;
+        if (watcher != nullptr && row % kRowsBetweenPauses == 0) {
+            watcher->SetProgress(PercentOf(row, rows.RowCount()));
+            if (!watcher->OnPause()) {
+                break;
+            }
         }
     }
     return hits;

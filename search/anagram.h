@@ -4,10 +4,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/long_work.h"
 #include "base/message_sink.h"
 #include "database/row_list.h"
 
@@ -31,7 +33,7 @@ namespace brelex {
 [[nodiscard]] std::string RearrangementsText(std::u32string_view text, std::string_view separator);
 
 /// The message that refuses letters to search for, if there are less than 2 distinct ones.
-[[nodiscard]] const Message* AnagramRefusalOf(std::u32string_view letters);
+[[nodiscard]] std::optional<Message> AnagramRefusalOf(std::u32string_view letters);
 
 /// Recognizes anagrams of a set of letters.
 class AnagramLetters {
@@ -51,25 +53,11 @@ class AnagramLetters {
     std::array<bool, 256> mayOccur_{};  // in the abbreviation of a hit, as a letter or a hyphen
 };
 
-/// Who follows a search for anagrams.
-class AnagramWatcher {
-  public:
-    AnagramWatcher() = default;
-    AnagramWatcher(const AnagramWatcher&) = delete;
-    AnagramWatcher& operator=(const AnagramWatcher&) = delete;
-    virtual ~AnagramWatcher() = default;
-
-    /// The entry of a row (0-based) is a hit.
-    virtual void OnHit(std::int32_t row) = 0;
-
-    /// Row 0, 100, 200, ... is done: so many percent of all, to the nearest, halves to even,
-    /// which may be 100 before the last row is. The search ends if this returns false.
-    [[nodiscard]] virtual bool OnProgress(int percent) = 0;
-};
-
-/// The rows (0-based, ascending) whose abbreviations are anagrams. `watcher` may be null.
+/// The rows (0-based, ascending) whose abbreviations are anagrams. `watcher`, which may be null, is
+/// told of each; behind row 0, 100, 200, ... of the progress, which may be 100 percent before the
+/// last row is done, and of a pause.
 [[nodiscard]] std::vector<std::int32_t> FindAnagrams(const RowList& rows,
                                                      const AnagramLetters& letters,
-                                                     AnagramWatcher* watcher);
+                                                     WorkWatcher* watcher);
 
 }  // namespace brelex

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "base/app_info.h"
+
 namespace brelex {
 
 namespace {
@@ -19,10 +21,10 @@ std::int32_t EndOfStretch(std::int32_t row, std::int32_t rowCount) {
 }  // namespace
 
 SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, std::int32_t position,
-                             std::int32_t limit, SearchWatcher* watcher) {
+                             std::int32_t limit, WorkWatcher* watcher) {
     SearchOutcome outcome;
     std::int32_t row = std::max(position, 0);
-    while (row < rows.RowCount() && (watcher == nullptr || !watcher->IsAborted())) {
+    while (row < rows.RowCount()) {
         // Of the records until the next pause.
         const std::int32_t end =
             watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
@@ -35,15 +37,16 @@ SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, st
                 return outcome;
             }
             outcome.hits.push_back(hit);
-            if (watcher != nullptr) {
-                watcher->OnHit(hits + 1);
+            if (watcher != nullptr && !watcher->OnHit(hit)) {
+                return outcome;
             }
             row = hit + 1;
         } else {
             row = end;
         }
-        if (watcher != nullptr && row == end && (end - 1) % kRecordsBetweenPauses == 0) {
-            watcher->OnPause();
+        if (watcher != nullptr && row == end && (end - 1) % kRecordsBetweenPauses == 0 &&
+            !watcher->OnPause()) {
+            return outcome;
         }
     }
     return outcome;
@@ -53,7 +56,7 @@ std::string ResultText(const RowList& rows, const std::vector<std::int32_t>& hit
     std::string text;
     for (const std::int32_t row : hits) {
         text += rows.RowText(row);
-        text += "\r\n";
+        text.push_back('\n');
     }
     return text;
 }
@@ -64,6 +67,14 @@ std::string FoundText(std::int32_t hits) {
 
 std::string NumberOfHitsText(std::int32_t hits) {
     return "Number of Hits: " + std::to_string(hits);
+}
+
+Message HitLimitMessage() {
+    return {"Your search has returned the maximum number of hits. " + std::string(kAppTitle) +
+                " search result cannot exceed " + std::to_string(kMaxHits) +
+                " entries.\n\nCheck the 'Search from Next Position' box to continue searching from "
+                "the next position.",
+            "Search Aborted", MessageIcon::Information, MessageButtons::Ok};
 }
 
 }  // namespace brelex

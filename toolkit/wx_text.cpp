@@ -27,9 +27,4 @@ wxString WxTextOfBytes(std::string_view bytes) {
     return WxText(Utf8OfBytes(bytes));
 }
 
-wxString WxLines(wxString text) {
-    text.Replace("\r\n", "\n");
-    return text;
-}
-
 }  // namespace brelex

@@ -15,8 +15,4 @@ namespace brelex {
 /// Windows-1252 bytes as the toolkit's text.
 [[nodiscard]] wxString WxTextOfBytes(std::string_view bytes);
 
-/// Text whose lines part at CR LF as the toolkit's text boxes want it; they make of it what the
-/// system's boxes want.
-[[nodiscard]] wxString WxLines(wxString text);
-
 }  // namespace brelex

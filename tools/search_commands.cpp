@@ -2,10 +2,12 @@
 #include "tools/search_commands.h"
 
 #include <limits>
+#include <variant>
 
 #include "base/windows1252.h"
 #include "search/anagram.h"
 #include "search/database_search.h"
+#include "search/prepared_search.h"
 #include "tools/json_records.h"
 #include "tools/open_database.h"
 
@@ -17,23 +19,19 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
         err << "brelex: the search text is empty\n";
         return kFailed;
     }
-    if (const auto refusal = RefusalOf(options.request)) {
-        err << refusal->text << "\n";
-        return kFailed;
-    }
     OpenDatabase opened;
     if (const int failure = Load(database, opened, err); failure != kFound) {
         return failure;
     }
     const RecordStore& store = opened.store;
-    const auto finder = RecordFinder::Compile(options.request, store);
-    if (!finder) {
-        err << MalformedPatternMessage().text << "\n";
+    const PreparedSearch prepared = PrepareSearch(options.request, store);
+    if (const auto* const refusal = std::get_if<Message>(&prepared)) {
+        err << refusal->text << "\n";
         return kFailed;
     }
     const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
     const SearchOutcome outcome =
-        SearchDatabase(*finder, store, RowOf(options.from), limit, nullptr);
+        SearchDatabase(std::get<RecordFinder>(prepared), store, RowOf(options.from), limit, nullptr);
     if (options.json) {
         PrintJsonRecords(store, outcome.hits, out);
     } else {
@@ -55,7 +53,7 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
 int RunAnagram(const std::string& database, const std::string& letters, bool json,
                std::ostream& out, std::ostream& err) {
     const std::u32string typed = DecodeUtf8(letters);
-    if (const Message* const refusal = AnagramRefusalOf(typed)) {
+    if (const auto refusal = AnagramRefusalOf(typed)) {
         err << refusal->text << "\n";
         return kFailed;
     }

@@ -12,11 +12,8 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "base/scope.h"
-#include "base/windows1252.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/prompt_button.h"
-#include "search/anagram.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
@@ -39,7 +36,6 @@ constexpr double kListHeight = 190;
 constexpr double kMargin = 8;
 
 constexpr int kAnimationIntervalMs = 135;
-constexpr std::size_t kFewestLetters = 2;
 
 const char* const kOverview =
     "An anagram is a word or phrase derived by rearranging the letters of another word or phrase. "
@@ -49,39 +45,19 @@ const char* const kOverview =
 
 }  // namespace
 
-// Shows hits and progress and lets events run meanwhile.
-class frmAnagram::Watcher final : public AnagramWatcher {
-  public:
-    explicit Watcher(frmAnagram& window) : window_(window) {}
-
-    void OnHit(std::int32_t row) override { window_.AddHit(row); }
-
-    [[nodiscard]] bool OnProgress(int percent) override {
-        window_.ShowNewHits();
-        window_.ShowPercentDone(percent);
-        LetPendingEventsRun();
-        return window_.IsShown();
-    }
-
-  private:
-    frmAnagram& window_;
-};
-
 frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
                        std::function<void(std::int32_t)> goToRecord)
     : wxDialog(main, wxID_ANY, "Anagrammatic Search"),
       main_(*main),
-      values_(values),
-      goToRecord_(std::move(goToRecord)),
       messages_(this),
-      units_(*this) {
+      units_(*this),
+      session_(values, *this, messages_, std::move(goToRecord)) {
     SetName("frmAnagram");
     SetIcons(AppIcons());
     CreateControls();
     NameControls();
     BindEvents();
-    textLimit_->Set(static_cast<std::size_t>(std::max(values_.Header.MaxAbbrvLength, 0)));
-    ShowLetters();
+    textLimit_->Set(session_.LetterLimit());
     PlaceControls();
     DrawColumnHeader();
     KeepCentered(*this, main_);
@@ -96,9 +72,7 @@ frmAnagram::~frmAnagram() {
 void frmAnagram::CreateControls() {
     surface_ = new Surface(this);
     lblOverview = new wxStaticText(surface_, wxID_ANY, wxString::Format(kOverview, kAppTitle));
-    lblPrompt = new wxStaticText(surface_, wxID_ANY,
-                                 wxString::Format("&Type the letters (minimum 2 - maximum %d):",
-                                                  values_.Header.MaxAbbrvLength));
+    lblPrompt = new wxStaticText(surface_, wxID_ANY, WxText(session_.Prompt()));
     cboLetters = new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                                 0, nullptr, wxCB_DROPDOWN);
     textLimit_.emplace(*cboLetters);
@@ -113,7 +87,7 @@ void frmAnagram::CreateControls() {
     lblColHeaderBack = new Backdrop(surface_);
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
     lstAnagrams = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
-    lstAnagrams->SetRows(rows_);
+    lstAnagrams->SetRows(session_.Rows());
     cmdSearch->SetDefault();
     ActAtOnceOnKeys(*cmdSearch);
     SetEscapeId(cmdCancel->GetId());
@@ -197,13 +171,13 @@ void frmAnagram::BindEvents() {
     SelectAllOnCtrlA(*cboLetters, *cboLetters);
     for (const wxEventTypeTag<wxCommandEvent>& type : {wxEVT_TEXT, wxEVT_COMBOBOX}) {
         cboLetters->Bind(type, [this](wxCommandEvent& event) {
-            OnLettersChanged();
+            session_.OnLettersChanged(TypedLetters());
             event.Skip();
         });
     }
-    cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunSearch(); });
-    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { DismissAnagramWindow(); });
-    lstAnagrams->onEnter = [this] { GoToSelectedRecord(); };
+    cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.RunSearch(TypedLetters()); });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.DismissAnagramWindow(); });
+    lstAnagrams->onEnter = [this] { session_.ChooseRow(lstAnagrams->SelectedRow()); };
     picColHeader->Bind(wxEVT_LEFT_DOWN,
                        [this](wxMouseEvent&) { lstAnagrams->Window().SetFocus(); });
 }
@@ -219,159 +193,94 @@ void frmAnagram::OnPaint(wxPaintEvent& /*event*/) {
 
 void frmAnagram::ShowAnagramWindow() {
     CenterWindow(*this, main_);
-    cboLetters->SetFocus();
+    session_.Open();
     ShowModal();
+}
+
+// The user's closing hides the window. The end of the program lets go of it, and it goes with the
+// main window.
+void frmAnagram::OnClose(wxCloseEvent& event) {
+    if (event.CanVeto()) {
+        event.Veto();
+        session_.DismissAnagramWindow();
+    } else {
+        session_.Abandon();
+        HideWindow();
+    }
+}
+
+std::string frmAnagram::TypedLetters() const {
+    return Utf8Text(cboLetters->GetValue());
+}
+
+void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
+    const auto last = std::exchange(shown_, display);
+    const auto isNew = [&](auto part) { return !last || (*last).*part != display.*part; };
+    if (isNew(&AnagramDisplay::isBusy)) {
+        ShowBusy(display.isBusy);
+    }
+    cmdSearch->Enable(display.canSearch);
+    lblWordLen->SetLabelText(WxText(display.letterCount));
+    lblPossiblePerms->SetLabelText(WxText(display.rearrangements));
+    lblPercentDone->SetLabelText(WxText(display.percentDone));
+    if (display.isBusy) {
+        lblPercentDone->Update();
+    }
+    if (isNew(&AnagramDisplay::listIsWarning)) {
+        lstAnagrams->SetTextColour(display.listIsWarning
+                                       ? wxColour(255, 0, 0)
+                                       : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    }
+    if (isNew(&AnagramDisplay::listTip)) {
+        lstAnagrams->Window().SetToolTip(WxText(display.listTip));
+    }
+}
+
+void frmAnagram::ShowBusy(bool busy) {
+    busy ? heldEnter_->SearchBegins() : heldEnter_->SearchEnds();
+    for (wxWindow* control :
+         std::initializer_list<wxWindow*>{cboLetters, cmdCancel, &lstAnagrams->Window()}) {
+        control->Enable(!busy);
+    }
+    ShowBusyAnimation(busy);
 }
 
 void frmAnagram::ShowBusyAnimation(bool on) {
     picAnim->Run(on);
 }
 
+void frmAnagram::ShowRows() {
+    lstAnagrams->SetRows(session_.Rows());
+}
+
+void frmAnagram::MoveFocus(AnagramFocus focus) {
+    if (focus == AnagramFocus::FirstHit) {
+        lstAnagrams->SelectRow(0);
+        lstAnagrams->Window().SetFocus();
+        return;
+    }
+    if (focus == AnagramFocus::AllLetters) {
+        SelectAllText(*cboLetters);
+    }
+    cboLetters->SetFocus();
+}
+
+void frmAnagram::AddToHistory() {
+    AddToComboHistory(*cboLetters);
+}
+
+void frmAnagram::LetEventsRun() {
+    LetPendingEventsRun();
+}
+
+void frmAnagram::EmptyLetters() {
+    cboLetters->SetValue(wxEmptyString);
+    cboLetters->SetFocus();
+}
+
 void frmAnagram::HideWindow() {
     if (IsModal()) {
         EndModal(wxID_CANCEL);
-    }
-}
-
-void frmAnagram::DismissAnagramWindow() {
-    cboLetters->SetValue(wxEmptyString);
-    cboLetters->SetFocus();
-    HideWindow();
-}
-
-// The user's closing hides the window, but for a search, which cannot be stopped. The end of the
-// program lets go of the window, which goes with the main window.
-void frmAnagram::OnClose(wxCloseEvent& event) {
-    if (!event.CanVeto()) {
-        if (IsModal()) {
-            EndModal(wxID_CANCEL);
-        }
-        return;
-    }
-    event.Veto();
-    if (!isSearching_) {
-        DismissAnagramWindow();
-    }
-}
-
-std::u32string frmAnagram::TypedLetters() const {
-    return DecodeUtf8(Utf8Text(cboLetters->GetValue()));
-}
-
-void frmAnagram::OnLettersChanged() {
-    if (textChange_.IsNew(cboLetters->GetValue())) {
-        ShowLetters();
-    }
-}
-
-void frmAnagram::ShowLetters() {
-    const std::u32string letters = TypedLetters();
-    lblWordLen->SetLabelText(std::to_string(letters.size()));
-    cmdSearch->Enable(letters.size() >= kFewestLetters);
-    lblPossiblePerms->SetLabelText(WxText(RearrangementsText(letters, values_.groupSeparator)));
-    lblPercentDone->SetLabelText(wxEmptyString);
-    ClearHits();
-}
-
-void frmAnagram::ClearHits() {
-    rows_.Clear();
-    recordNumbers_.clear();
-    ShowHits();
-}
-
-void frmAnagram::ShowHits() {
-    lstAnagrams->SetRows(rows_);
-    shownHits_ = rows_.RowCount();
-}
-
-// Setting the rows anew takes a while, and mostly there are no new ones.
-void frmAnagram::ShowNewHits() {
-    if (rows_.RowCount() != shownHits_) {
-        ShowHits();
-    }
-}
-
-void frmAnagram::RunSearch() {
-    const std::u32string letters = TypedLetters();
-    if (const Message* const refusal = AnagramRefusalOf(letters)) {
-        messages_.Show(*refusal);
-        cboLetters->SetFocus();
-        return;
-    }
-    {
-        const OnLeaving idle([this] { ReturnToIdle(); });
-        PrepareForSearch();
-        LastSearchedLetters = letters;
-        LetPendingEventsRun();
-        Watcher watcher(*this);
-        (void)FindAnagrams(*values_.AcronymList, AnagramLetters(letters), &watcher);
-    }
-    PresentHits();
-}
-
-void frmAnagram::PrepareForSearch() {
-    heldEnter_->SearchBegins();
-    ClearHits();
-    lstAnagrams->SetTextColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
-    ShowPercentDone(0);
-    AddToComboHistory(*cboLetters);
-    (void)textChange_.IsNew(cboLetters->GetValue());
-    isSearching_ = true;
-    EnableInput(false);
-    ShowBusyAnimation(true);
-}
-
-void frmAnagram::ReturnToIdle() {
-    heldEnter_->SearchEnds();
-    EnableInput(true);
-    isSearching_ = false;
-    ShowBusyAnimation(false);
-}
-
-void frmAnagram::PresentHits() {
-    if (!IsShown()) {
-        return;  // the program ends
-    }
-    ShowNewHits();
-    lblPercentDone->SetLabelText("Found " + std::to_string(rows_.RowCount()));
-    wxWindow& list = lstAnagrams->Window();
-    if (rows_.RowCount() > 0) {
-        list.SetToolTip("Double-click an entry to go to the record");
-        lstAnagrams->SelectRow(0);
-        list.SetFocus();
-        return;
-    }
-    list.UnsetToolTip();
-    lstAnagrams->SetTextColour(wxColour(255, 0, 0));
-    rows_.Add(" None Found!");
-    recordNumbers_.push_back(0);
-    ShowHits();
-    SelectAllText(*cboLetters);
-    cboLetters->SetFocus();
-}
-
-void frmAnagram::AddHit(std::int32_t row) {
-    rows_.Add(values_.AcronymList->RowText(row));
-    recordNumbers_.push_back(row + 1);
-}
-
-void frmAnagram::ShowPercentDone(int percent) {
-    lblPercentDone->SetLabelText("Done " + std::to_string(percent) + "%");
-    lblPercentDone->Update();
-}
-
-void frmAnagram::EnableInput(bool enable) {
-    for (wxWindow* control : std::initializer_list<wxWindow*>{cboLetters, cmdSearch, cmdCancel,
-                                                              &lstAnagrams->Window()}) {
-        control->Enable(enable);
-    }
-}
-
-void frmAnagram::GoToSelectedRecord() {
-    const std::int32_t row = lstAnagrams->SelectedRow();
-    if (row >= 0) {
-        goToRecord_(recordNumbers_.at(static_cast<std::size_t>(row)));
-        HideWindow();
     }
 }
 

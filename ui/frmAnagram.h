@@ -5,18 +5,16 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include <wx/dialog.h>
 
 #include "database/program_values.h"
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/list/acronym_list.h"
-#include "search/copied_rows.h"
+#include "search/anagram_session.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/held_enter.h"
 #include "ui/controls/layout_units.h"
-#include "ui/controls/text_change.h"
 
 class wxButton;
 class wxComboBox;
@@ -30,7 +28,7 @@ class BusyAnimation;
 
 /// The window "Anagrammatic Search". It is hidden, never destroyed, while the program runs: its
 /// history survives.
-class frmAnagram final : public wxDialog {
+class frmAnagram final : public wxDialog, private AnagramView {
   public:
     /// `values` must outlive the window; the database is loaded. `goToRecord` selects an entry in
     /// the main window by its record number (1-based).
@@ -46,9 +44,11 @@ class frmAnagram final : public wxDialog {
     /// The hits, or the one row that says that there are none.
     [[nodiscard]] AcronymList& Hits() { return *lstAnagrams; }
 
-    [[nodiscard]] const RowList& HitRows() const { return rows_; }
+    [[nodiscard]] const RowList& HitRows() const { return session_.Rows(); }
 
-    std::u32string LastSearchedLetters;
+    [[nodiscard]] const std::u32string& LastSearchedLetters() const {
+        return session_.LastSearchedLetters();
+    }
 
   private:
     void CreateControls();
@@ -57,41 +57,27 @@ class frmAnagram final : public wxDialog {
     void PlaceControls();
     void BindEvents();
 
-    void ShowBusyAnimation(bool on);
-    void DismissAnagramWindow();
-    void DrawColumnHeader();
+    void ShowDisplay(const AnagramDisplay& display) override;
+    void ShowRows() override;
+    void MoveFocus(AnagramFocus focus) override;
+    void AddToHistory() override;
+    void LetEventsRun() override;
+    void EmptyLetters() override;
+    void HideWindow() override;
 
-    [[nodiscard]] std::u32string TypedLetters() const;
-    void OnLettersChanged();
-    void ShowLetters();
-    void RunSearch();
-    void PrepareForSearch();
-    void ReturnToIdle();
-    void PresentHits();
-    void AddHit(std::int32_t row);
-    void ShowPercentDone(int percent);
-    void ClearHits();
-    void ShowHits();
-    void ShowNewHits();
-    void EnableInput(bool enable);
-    void GoToSelectedRecord();
-    void HideWindow();
+    void ShowBusy(bool busy);
+    void ShowBusyAnimation(bool on);
+    void DrawColumnHeader();
+    [[nodiscard]] std::string TypedLetters() const;
     void OnClose(wxCloseEvent& event);
     void OnPaint(wxPaintEvent& event);
 
-    class Watcher;
-
     wxTopLevelWindow& main_;
-    ProgramValues& values_;
-    std::function<void(std::int32_t)> goToRecord_;
     WxMessageSink messages_;
     LayoutUnits units_;
-    CopiedRows rows_;
-    std::vector<std::int32_t> recordNumbers_;  // of the rows, 1-based; 0 for what is no record
-    std::int32_t shownHits_ = 0;
+    AnagramSession session_;
+    std::optional<AnagramDisplay> shown_;
     std::optional<HeldEnter> heldEnter_;
-    TextChange textChange_;
-    bool isSearching_ = false;
 
     Surface* surface_ = nullptr;
     wxStaticText* lblOverview = nullptr;

@@ -2,6 +2,7 @@
 #include "ui/frmCheckData.h"
 
 #include <string>
+#include <utility>
 
 #include <wx/button.h>
 #include <wx/dcclient.h>
@@ -11,13 +12,11 @@
 #include <wx/stattext.h>
 #include <wx/utils.h>
 
-#include "base/scope.h"
-#include "database/integrity_check.h"
-#include "platform/system/fine_timer.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/paint_now.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/pending_events.h"
+#include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/backdrop.h"
 #include "ui/controls/progress_bar.h"
@@ -33,50 +32,21 @@ constexpr double kInnerWidth = 440;
 constexpr double kMargin = 12;
 constexpr double kBarHeight = 24;
 
-constexpr int kPauseMs = 5;
 constexpr int kBlinkMs = 500;
 
 const char* const kExplanation =
     "Checks data integrity of the database. The integrity check will fail even if a single letter "
     "in the database has changed. It may be due to a corrupt installation file or a bad sector on "
     "your disk.";
-const char* const kIdle = "Progress";
 
 }  // namespace
-
-// Shows how far a check is and lets events run meanwhile, which may end it.
-class frmCheckData::Watcher final : public CrcWatcher {
-  public:
-    explicit Watcher(frmCheckData& window) : window_(window) {}
-
-    // The end of an aborted check is not one of the whole.
-    void DrawProgress(int percent) override {
-        if (!window_.Aborted) {
-            window_.DrawProgress(percent);
-        }
-    }
-
-    [[nodiscard]] bool OnPause() override {
-        if (window_.Aborted) {
-            return false;
-        }
-        LetPendingEventsRun();
-        wxMilliSleep(kPauseMs);
-        return true;
-    }
-
-  private:
-    frmCheckData& window_;
-    FineTimer fineTimer_;
-};
 
 frmCheckData::frmCheckData(wxTopLevelWindow* main, const ProgramValues& values,
                            TemporaryFiles& files)
     : wxDialog(main, wxID_ANY, "Check Data Integrity"),
-      values_(values),
-      files_(files),
       messages_(this),
       units_(*this),
+      session_(values, files, *this, messages_),
       tmrBlink(this) {
     SetName("frmCheckData");
     SetIcons(AppIcons());
@@ -85,14 +55,14 @@ frmCheckData::frmCheckData(wxTopLevelWindow* main, const ProgramValues& values,
     PlaceControls();
     BindEvents();
     KeepCentered(*this, *main);
-    cmdCheck->SetFocus();
+    session_.Open();
 }
 
 void frmCheckData::CreateControls() {
     surface_ = new Surface(this);
     lblExplanation_ = new wxStaticText(surface_, wxID_ANY, kExplanation);
-    lblMessage = new wxStaticText(surface_, wxID_ANY, kIdle, wxDefaultPosition, wxDefaultSize,
-                                  wxST_NO_AUTORESIZE);
+    lblMessage = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                  wxDefaultSize, wxST_NO_AUTORESIZE);
     picProgbar = new ProgressBar(surface_);
     resultArea_ = new Backdrop(surface_);
     imgResult = new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture());
@@ -115,7 +85,6 @@ void frmCheckData::NameControls() {
     lblExplanation_->SetName("lblExplanation");
     lblMessage->SetName("lblMessage");
     SetNames(*picProgbar, "picProgbar", "Progress");
-    SetNames(*imgResult, "imgResult", "Result");
     imgPassed->SetName("imgPassed");
     imgFailed->SetName("imgFailed");
     lblResult->SetName("lblResult");
@@ -151,10 +120,10 @@ void frmCheckData::PlaceControls() {
 
 void frmCheckData::BindEvents() {
     surface_->Bind(wxEVT_PAINT, &frmCheckData::OnPaint, this);
-    Bind(wxEVT_CLOSE_WINDOW, &frmCheckData::OnClose, this);
-    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { lblResult->Show(!lblResult->IsShown()); });
-    cmdCheck->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunCheck(); });
-    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnCancel(); });
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { session_.Close(); });
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { OnBlink(); });
+    cmdCheck->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.RunCheck(); });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.PressCancel(); });
 }
 
 void frmCheckData::OnPaint(wxPaintEvent& /*event*/) {
@@ -162,104 +131,88 @@ void frmCheckData::OnPaint(wxPaintEvent& /*event*/) {
     DrawFrameRound(dc, picProgbar->GetRect());
 }
 
-bool frmCheckData::IsChecking() const {
-    return !cmdCheck->IsEnabled();
+void frmCheckData::ShowDisplay(const CheckDisplay& display) {
+    const auto last = std::exchange(shown_, display);
+    const auto isNew = [&](auto part) { return !last || (*last).*part != display.*part; };
+    cmdCheck->Enable(!display.isChecking);
+    if (isNew(&CheckDisplay::message)) {
+        lblMessage->SetLabelText(WxText(display.message));
+    }
+    if (isNew(&CheckDisplay::percent)) {
+        DrawProgress(display.percent);
+    }
+    if (isNew(&CheckDisplay::result)) {
+        ShowResult(display);
+    }
+    if (isNew(&CheckDisplay::isChecking)) {
+        if (display.isChecking) {
+            fineTimer_.emplace();
+            PaintNow(*this);  // expanding a large file takes a moment
+        } else {
+            fineTimer_.reset();
+        }
+    }
 }
 
-void frmCheckData::DrawProgress(int percent) {
+void frmCheckData::DrawProgress(std::optional<int> percent) {
     constexpr int kSpokenStep = 10;
-    if (percent % kSpokenStep == 0) {
-        SetNames(*picProgbar, "picProgbar", "Progress " + std::to_string(percent) + "%");
+    if (!percent) {
+        SetNames(*picProgbar, "picProgbar", "Progress");
+        picProgbar->Clear();
+        return;
     }
-    picProgbar->SetPercent(percent);
+    if (*percent % kSpokenStep == 0) {
+        SetNames(*picProgbar, "picProgbar", "Progress " + std::to_string(*percent) + "%");
+    }
+    picProgbar->SetPercent(*percent);
 }
 
-void frmCheckData::ClearProgress() {
-    SetNames(*picProgbar, "picProgbar", "Progress");
-    picProgbar->Clear();
-}
-
-void frmCheckData::ClearResult() {
-    tmrBlink.Stop();
-    imgResult->Hide();
-    lblResult->SetLabelText(wxEmptyString);
-    lblResult->Show();
-    resultArea_->SetBackgroundColour(wxNullColour);
-    resultArea_->Refresh();
-}
-
-void frmCheckData::RunCheck() {
-    const OnLeaving idle([this] { ReturnToIdle(); });
-    cmdCancel->SetFocus();  // a disabled control would take the keyboard with it
-    cmdCheck->Disable();
-    Aborted = false;
-    saysAborted_ = false;
-    ClearResult();
-    ClearProgress();
-    lblMessage->SetLabelText("Checking data integrity...");
-    PaintNow(*this);  // expanding a large file takes a moment
-    bool passed = false;
-    {
-        Watcher watcher(*this);
-        passed = IsDataIntact(values_, files_, watcher);
-    }
-    if (!Aborted) {
-        ShowResult(passed);
-    } else if (saysAborted_ && IsShown()) {
-        messages_.Show(
-            {"Check was aborted by user", kAppTitle, MessageIcon::Information, MessageButtons::Ok});
-    }
-}
-
-void frmCheckData::ReturnToIdle() {
-    if (lblResult->GetLabel().empty()) {
-        ClearProgress();
-        lblMessage->SetLabelText(kIdle);
-    }
-    cmdCheck->Enable();
-    if (IsShown()) {
-        cmdCheck->SetFocus();  // a disabled control could not keep it
-    }
-}
-
-void frmCheckData::ShowResult(bool passed) {
+void frmCheckData::ShowResult(const CheckDisplay& display) {
+    const bool isThere = display.result != CheckResult::None;
+    const bool passed = display.result == CheckResult::Passed;
     // The colours are meant for a light background.
-    if (wxSystemSettings::GetAppearance().IsUsingDarkBackground()) {
-        resultArea_->SetBackgroundColour(*wxWHITE);
-    }
+    const bool needsWhite = isThere && wxSystemSettings::GetAppearance().IsUsingDarkBackground();
+    resultArea_->SetBackgroundColour(needsWhite ? *wxWHITE : wxNullColour);
     imgResult->SetBitmap((passed ? imgPassed : imgFailed)->GetBitmap());
-    imgResult->Show();
+    imgResult->Show(isThere);
+    // The text itself comes and goes.
+    SetNames(*imgResult, "imgResult", isThere ? display.resultText : "Result");
     lblResult->SetForegroundColour(passed ? wxColour(0, 0, 255) : wxColour(192, 0, 0));
-    const char* const text = passed ? "Data integrity check PASSED" : "Data integrity check FAILED";
-    lblResult->SetLabelText(text);
-    SetNames(*imgResult, "imgResult", text);  // the text itself comes and goes
+    lblResult->SetLabelText(WxText(display.resultText));
+    lblResult->Show();
+    isBlinkedOut_ = false;
     resultArea_->Layout();
     resultArea_->Refresh();
-    lblMessage->SetLabelText("Completed");
-    tmrBlink.Start(kBlinkMs);
+    if (isThere) {
+        tmrBlink.Start(kBlinkMs);
+    } else {
+        tmrBlink.Stop();
+    }
+}
+
+void frmCheckData::OnBlink() {
+    isBlinkedOut_ = !isBlinkedOut_;
+    lblResult->Show(!isBlinkedOut_);
+}
+
+void frmCheckData::MoveFocus(CheckFocus focus) {
+    (focus == CheckFocus::CheckButton ? cmdCheck : cmdCancel)->SetFocus();
+}
+
+void frmCheckData::LetEventsRun(int restMs) {
+    LetPendingEventsRun();
+    wxMilliSleep(static_cast<unsigned long>(restMs));
+}
+
+void frmCheckData::CloseWindow() {
+    if (IsModal()) {
+        EndModal(wxID_CANCEL);
+    }
 }
 
 void frmCheckData::EndModal(int result) {
     tmrBlink.Stop();
     wxDialog::EndModal(result);
-}
-
-// A check that runs says so when it has ended.
-void frmCheckData::OnCancel() {
-    Aborted = true;
-    if (IsChecking()) {
-        saysAborted_ = true;
-    } else if (IsModal()) {
-        EndModal(wxID_CANCEL);
-    }
-}
-
-// A check that runs ends with its next progress.
-void frmCheckData::OnClose(wxCloseEvent& /*event*/) {
-    Aborted = true;
-    if (IsModal()) {
-        EndModal(wxID_CANCEL);
-    }
 }
 
 }  // namespace brelex

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include <wx/dialog.h>
 #include <wx/timer.h>
 
-#include "base/temporary_files.h"
-#include "database/program_values.h"
+#include "database/check_session.h"
 #include "platform/desktop/wx_message_sink.h"
+#include "platform/system/fine_timer.h"
 #include "ui/controls/layout_units.h"
 
 class wxButton;
@@ -19,39 +21,38 @@ class Surface;
 class ProgressBar;
 
 /// The window "Check Data Integrity". It is made for one use.
-class frmCheckData final : public wxDialog {
+class frmCheckData final : public wxDialog, private CheckView {
   public:
     /// `values` and `files` must outlive the window; the database is loaded.
     frmCheckData(wxTopLevelWindow* main, const ProgramValues& values, TemporaryFiles& files);
 
     void EndModal(int result) override;
 
-    bool Aborted = false;  ///< the user has ended the check
+    /// Whether the user has ended the check.
+    [[nodiscard]] bool Aborted() const { return session_.Aborted(); }
 
   private:
-    class Watcher;
-
     void CreateControls();
     void NameControls();
     void PlaceControls();
     void BindEvents();
 
-    void RunCheck();
-    void DrawProgress(int percent);
-    void ClearProgress();
-    void ClearResult();
-    void ShowResult(bool passed);
-    void ReturnToIdle();
-    void OnCancel();
-    void OnClose(wxCloseEvent& event);
-    void OnPaint(wxPaintEvent& event);
-    [[nodiscard]] bool IsChecking() const;
+    void ShowDisplay(const CheckDisplay& display) override;
+    void MoveFocus(CheckFocus focus) override;
+    void LetEventsRun(int restMs) override;
+    void CloseWindow() override;
 
-    const ProgramValues& values_;
-    TemporaryFiles& files_;
+    void DrawProgress(std::optional<int> percent);
+    void ShowResult(const CheckDisplay& display);
+    void OnPaint(wxPaintEvent& event);
+    void OnBlink();
+
     WxMessageSink messages_;
     LayoutUnits units_;
-    bool saysAborted_ = false;  // when the check has ended
+    CheckSession session_;
+    std::optional<CheckDisplay> shown_;
+    std::optional<FineTimer> fineTimer_;  // while a check runs
+    bool isBlinkedOut_ = false;           // the result text, at the moment
 
     Surface* surface_ = nullptr;
     wxStaticText* lblExplanation_ = nullptr;

@@ -2,9 +2,8 @@
 #include "ui/frmSearch.h"
 
 #include <algorithm>
-#include <exception>
-#include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include <wx/bmpbuttn.h>
 #include <wx/button.h>
@@ -22,11 +21,9 @@
 #include "base/scope.h"
 #include "base/text.h"
 #include "platform/list/text_columns.h"
-#include "platform/system/fine_timer.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/paint_now.h"
 #include "platform/window/prompt_button.h"
-#include "search/database_search.h"
 #include "search/search_list.h"
 #include "search/wildcard_help.h"
 #include "toolkit/app_icon.h"
@@ -53,13 +50,8 @@ constexpr double kCountWidth = 190;
 constexpr double kShrunkMargin = 3;  // below the header's upper edge
 
 constexpr int kAnimationIntervalMs = 120;
-constexpr int kPauseMs = 5;
 constexpr int kTextMarginPixels = 5;
 constexpr int kTabStopDialogUnits = 88;
-
-const char* const kAbortedText = "Search was aborted by user";
-const char* const kReadyText = "Ready";
-const char* const kSearchingText = "Searching through database. Please, wait...";
 
 wxColour PureRed() {
     return {255, 0, 0};
@@ -69,49 +61,15 @@ wxColour DarkRed() {
     return {192, 0, 0};
 }
 
-std::size_t LimitOf(std::int32_t maxLength) {
-    return static_cast<std::size_t>(std::max(maxLength, 0));
-}
-
 }  // namespace
-
-void ShowSearchResult(wxTextCtrl& box, const std::function<void()>& assign) {
-    try {
-        assign();
-    } catch (const std::exception& failure) {
-        box.SetForegroundColour(PureRed());
-        box.ChangeValue("Unable to display search result\n" + wxString::FromUTF8(failure.what()));
-    }
-}
-
-// Shows how far a search is and lets events run meanwhile, which may hide the window.
-class frmSearch::Watcher final : public SearchWatcher {
-  public:
-    explicit Watcher(frmSearch& window) : window_(window) {}
-
-    void OnHit(std::int32_t hits) override {
-        window_.ShowHits(hits);
-        LetPendingEventsRun();
-    }
-
-    void OnPause() override {
-        LetPendingEventsRun();
-        wxMilliSleep(kPauseMs);
-    }
-
-    [[nodiscard]] bool IsAborted() const override { return window_.AbortRequested; }
-
-  private:
-    frmSearch& window_;
-    FineTimer fineTimer_;
-};
 
 frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     : wxDialog(main, wxID_ANY, "Search Database"),
       main_(*main),
       values_(values),
       messages_(this),
-      units_(*this) {
+      units_(*this),
+      session_(values, *this, messages_) {
     SetName("frmSearch");
     SetIcons(AppIcons());
     CreateControls();
@@ -119,12 +77,9 @@ frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     PlaceControls();
     BindEvents();
     FillHistory();
-    textLimit_->Set(LimitOf(values_.Header.MaxExpansionLength));
+    textLimit_->Set(session_.TextLimit(SearchIn::Expansions));
     SetSideMargins(*txtSearchResult, kTextMarginPixels);
-    SetCancelButton(false);
     DrawColumnHeader();
-    ResetStatus();
-    ShowResultArea(false);
     KeepCentered(*this, main_);
 }
 
@@ -281,39 +236,27 @@ void frmSearch::BindEvents() {
     surface_->Bind(wxEVT_PAINT, &frmSearch::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
     SelectAllOnCtrlA(*cboSearchWhat, *cboSearchWhat);
-    cboSearchWhat->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
-        OnSearchTextChanged();
-        event.Skip();
-    });
-    cboSearchWhat->Bind(wxEVT_COMBOBOX, [this](wxCommandEvent& event) {
-        OnSearchTextChanged();
-        event.Skip();
-    });
-    optSearchIn[0]->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
-        textLimit_->Set(LimitOf(values_.Header.MaxAbbrvLength));
-    });
-    optSearchIn[1]->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
-        textLimit_->Set(LimitOf(values_.Header.MaxExpansionLength));
-    });
+    for (const wxEventTypeTag<wxCommandEvent>& type : {wxEVT_TEXT, wxEVT_COMBOBOX}) {
+        cboSearchWhat->Bind(type, [this](wxCommandEvent& event) {
+            session_.OnTextChanged(Utf8Text(cboSearchWhat->GetValue()));
+            event.Skip();
+        });
+    }
+    for (wxRadioButton* button : optSearchIn) {
+        button->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
+            textLimit_->Set(session_.TextLimit(Request().in));
+        });
+    }
     cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunSearch(); });
-    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-        if (cancelStops_) {
-            AbortRequested = AbortRequested || !heldEnter_->PressesButton();
-        } else {
-            DismissSearchWindow();
-        }
-    });
+    cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnCancel(); });
     cmdHelp->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { messages_.Show(WildcardHelp()); });
-    cmdExpandShrink->Bind(wxEVT_BUTTON,
-                          [this](wxCommandEvent&) { ShowResultArea(!ResultAreaShown); });
+    cmdExpandShrink->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.ToggleResultArea(); });
     picColHeader->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { txtSearchResult->SetFocus(); });
     ShowAppInfoOnMenuRequest(*txtSearchResult, values_.info);
 }
 
 void frmSearch::FillHistory() {
-    std::string& list = values_.Header.SearchListText;
-    list = std::string(TrimBlanks(list));
-    for (const std::string& item : SearchListItems(list)) {
+    for (const std::string& item : SearchListItems(values_.Header.SearchListText)) {
         cboSearchWhat->Append(WxTextOfBytes(item));
     }
 }
@@ -326,76 +269,22 @@ void frmSearch::DrawColumnHeader() {
                                   SetTabStop(*txtSearchResult, kTabStopDialogUnits));
 }
 
-void frmSearch::ResetStatus() {
-    lblStatus->SetLabelText(kReadyText);
-    surface_->Refresh();  // the frames
-}
-
 void frmSearch::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(surface_);
     DrawFrameRound(dc, statusArea_->GetRect());
-    if (ResultAreaShown) {
+    if (ResultAreaShown()) {
         DrawFrameRound(dc, lblColHeaderBack->GetRect(), units_.Pixels(kColumnHeaderFrameAbove));
     }
 }
 
 void frmSearch::ShowSearchWindow() {
     CenterWindow(*this, main_);
-    lblCount->SetLabelText(wxEmptyString);  // of a search that was running when the window closed
-    cboSearchWhat->SetFocus();
+    session_.Open();
     ShowModal();
 }
 
-void frmSearch::ShowResultArea(bool show) {
-    ResultAreaShown = show;
-    cmdExpandShrink->SetBitmap(show ? ShrinkPicture() : ExpandPicture());
-    const char* const tip = show ? "Hide search result" : "Show search result";
-    cmdExpandShrink->SetToolTip(tip);
-    SetNames(*cmdExpandShrink, "cmdExpandShrink", tip);
-    // What is out of sight must not be reached with the TAB key either.
-    lblColHeaderBack->Show(show);
-    txtSearchResult->Show(show);
-    surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});
-    surface_->Refresh();
-    CenterWindow(*this, main_);
-}
-
-void frmSearch::ShowBusyAnimation(bool on) {
-    picAnim->Run(on);
-}
-
-void frmSearch::DismissSearchWindow() {
-    cboSearchWhat->Enable();
-    cboSearchWhat->SetValue(wxEmptyString);
-    ClearResults();
-    lblStatus->SetLabelText(kReadyText);
-    cboSearchWhat->SetFocus();
-    if (IsModal()) {
-        EndModal(wxID_CANCEL);
-    }
-    if (ResultAreaShown) {
-        ShowResultArea(false);
-    }
-}
-
-// The user's closing hides the window. The end of the program ends a search and lets go of the
-// window, which goes with the main window.
-void frmSearch::OnClose(wxCloseEvent& event) {
-    AbortRequested = true;
-    if (event.CanVeto()) {
-        event.Veto();
-        DismissSearchWindow();
-    } else if (IsModal()) {
-        EndModal(wxID_CANCEL);
-    }
-}
-
-void frmSearch::OnSearchTextChanged() {
-    if (!textChange_.IsNew(cboSearchWhat->GetValue())) {
-        return;
-    }
-    cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
-    chkNextSearch->Disable();
+void frmSearch::RunSearch() {
+    session_.RunSearch(Request(), chkNextSearch->GetValue());
 }
 
 SearchRequest frmSearch::Request() const {
@@ -412,141 +301,126 @@ SearchRequest frmSearch::Request() const {
     return request;
 }
 
-void frmSearch::RunSearch() {
-    const SearchRequest request = Request();
-    if (const auto refusal = RefusalOf(request)) {
-        messages_.Show(*refusal);
-        cboSearchWhat->SetFocus();
-        return;
-    }
-    if (!SearchAndPresent(request) && IsShown()) {
-        messages_.Show(MalformedPatternMessage());
-        cboSearchWhat->SetFocus();
+void frmSearch::OnCancel() {
+    if (!heldEnter_->PressesButton()) {
+        session_.PressCancel();
     }
 }
 
-// Returns false if the text is malformed as a pattern.
-bool frmSearch::SearchAndPresent(const SearchRequest& request) {
-    const OnLeaving idle([this] { ReturnToIdle(); });
-    PrepareForSearch();
-    LetPendingEventsRun();
-    const bool wellFormed = Scan(request).has_value();
-    ShowBusyAnimation(false);
-    if (AbortRequested) {
-        if (IsShown()) {
-            messages_.Show({kAbortedText, kAppTitle, MessageIcon::Information, MessageButtons::Ok});
+// The user's closing hides the window. The end of the program ends a search and lets go of the
+// window, which goes with the main window.
+void frmSearch::OnClose(wxCloseEvent& event) {
+    if (event.CanVeto()) {
+        event.Veto();
+        session_.DismissSearchWindow();
+    } else {
+        session_.Abandon();
+        if (IsModal()) {
+            EndModal(wxID_CANCEL);
         }
-        lblCount->SetForegroundColour(DarkRed());
-        lblCount->SetLabelText(kAbortedText);
     }
-    return wellFormed;
 }
 
-void frmSearch::PrepareForSearch() {
-    heldEnter_->SearchBegins();
-    EnableInput(false);
-    ClearResults();
-    lblStatus->SetLabelText(kSearchingText);
-    lblCount->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
-    lblCount->SetLabelText(WxText(FoundText(0)));
-    cmdCancel->SetFocus();
-    SetCancelButton(true);
-    AbortRequested = false;
-    FoundAnything = false;
-    if (!chkNextSearch->IsEnabled() || !chkNextSearch->GetValue()) {
-        NextPosition = 0;
+void frmSearch::ShowDisplay(const SearchDisplay& display) {
+    const auto last = std::exchange(shown_, display);
+    const auto isNew = [&](auto part) { return !last || (*last).*part != display.*part; };
+    if (isNew(&SearchDisplay::isBusy)) {
+        ShowBusy(display.isBusy);
     }
-    chkNextSearch->Disable();
-    AddToComboHistory(*cboSearchWhat);
-    LastSearchText = cboSearchWhat->GetValue();
-    (void)textChange_.IsNew(LastSearchText);
-    if (!ResultAreaShown) {
-        ShowResultArea(true);
+    cmdSearch->Enable(display.canSearch);
+    chkNextSearch->Enable(display.canGoOn);
+    if (isNew(&SearchDisplay::status)) {
+        lblStatus->SetLabelText(WxText(display.status));
     }
-    ShowBusyAnimation(true);
-    PaintNow(*this);
+    if (isNew(&SearchDisplay::count) || isNew(&SearchDisplay::countTone)) {
+        lblCount->SetForegroundColour(display.countTone == Tone::Warning
+                                          ? DarkRed()
+                                          : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
+        lblCount->SetLabelText(WxText(display.count));
+        lblCount->Update();
+    }
+    if (isNew(&SearchDisplay::resultAreaShown)) {
+        ShowResultArea(display.resultAreaShown);
+    }
+    if (isNew(&SearchDisplay::isAnimated)) {
+        ShowBusyAnimation(display.isAnimated);
+    }
+    if (display.isBusy && isNew(&SearchDisplay::isBusy)) {
+        PaintNow(*this);
+    }
 }
 
-// Nothing if the text is malformed as a pattern.
-std::optional<SearchOutcome> frmSearch::Scan(const SearchRequest& request) {
-    const RowList& rows = *values_.AcronymList;
-    const auto finder = RecordFinder::Compile(request, rows);
-    if (!finder) {
-        return std::nullopt;
-    }
-    Watcher watcher(*this);
-    const SearchOutcome outcome = SearchDatabase(*finder, rows, NextPosition, kMaxHits, &watcher);
-    if (outcome.limitReached && IsShown()) {
-        ShowBusyAnimation(false);
-        messages_.Show(HitLimitMessage());
-        NextPosition = outcome.nextPosition;
-        chkNextSearch->Enable();
-    }
-    if (IsShown()) {  // a dismissed window stays empty
-        Present(outcome);
-    }
-    return outcome;
-}
-
-void frmSearch::Present(const SearchOutcome& outcome) {
-    FoundAnything = !outcome.hits.empty();
-    if (FoundAnything) {
-        ShowSearchResult(*txtSearchResult, [&] {
-            txtSearchResult->ChangeValue(
-                WxLines(WxTextOfBytes(ResultText(*values_.AcronymList, outcome.hits))));
-        });
+void frmSearch::ShowBusy(bool busy) {
+    if (busy) {
+        heldEnter_->SearchBegins();
+        fineTimer_.emplace();
     } else {
-        txtSearchResult->SetForegroundColour(PureRed());
-        txtSearchResult->ChangeValue(kNothingFoundText);
+        heldEnter_->SearchEnds();
+        fineTimer_.reset();
     }
-    lblCount->SetLabelText(wxEmptyString);
-    lblStatus->SetLabelText(
-        WxText(NumberOfHitsText(static_cast<std::int32_t>(outcome.hits.size()))));
-}
-
-void frmSearch::ShowHits(std::int32_t hits) {
-    lblCount->SetLabelText(WxText(FoundText(hits)));
-    lblCount->Update();
-}
-
-void frmSearch::ReturnToIdle() {
-    heldEnter_->SearchEnds();
-    ShowBusyAnimation(false);
-    if (lblStatus->GetLabelText() == kSearchingText) {  // there is no result
-        lblStatus->SetLabelText(kReadyText);
-        lblCount->SetLabelText(wxEmptyString);
-    }
-    EnableInput(true);
-    cmdSearch->Enable(!cboSearchWhat->GetValue().empty());
-    SetCancelButton(false);
-    if (!IsShown()) {
-        return;  // a hidden window must not take the keyboard
-    }
-    if (FoundAnything) {
-        txtSearchResult->SetFocus();
-    } else {
-        cboSearchWhat->SetFocus();
-    }
-}
-
-void frmSearch::EnableInput(bool enable) {
     for (wxWindow* control : std::initializer_list<wxWindow*>{
-             cmdSearch, cmdHelp, cmdExpandShrink, cboSearchWhat, fraPosition, optPosition[0],
-             optPosition[1], optPosition[2], fraSearchIn, optSearchIn[0], optSearchIn[1],
-             chkMatchCase, chkWholeWord}) {
-        control->Enable(enable);
+             cmdHelp, cmdExpandShrink, cboSearchWhat, fraPosition, optPosition[0], optPosition[1],
+             optPosition[2], fraSearchIn, optSearchIn[0], optSearchIn[1], chkMatchCase,
+             chkWholeWord}) {
+        control->Enable(!busy);
+    }
+    cmdCancel->SetBitmap(busy ? StopPicture() : CancelPicture());
+    SetNames(*cmdCancel, "cmdCancel", busy ? "Stop" : "Cancel");
+}
+
+void frmSearch::ShowResult(const std::string& text, Tone tone) {
+    txtSearchResult->SetForegroundColour(
+        tone == Tone::Warning ? PureRed() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    txtSearchResult->ChangeValue(WxText(text));
+}
+
+void frmSearch::ShowResultArea(bool show) {
+    cmdExpandShrink->SetBitmap(show ? ShrinkPicture() : ExpandPicture());
+    const char* const tip = show ? "Hide search result" : "Show search result";
+    cmdExpandShrink->SetToolTip(tip);
+    SetNames(*cmdExpandShrink, "cmdExpandShrink", tip);
+    // What is out of sight must not be reached with the TAB key either.
+    lblColHeaderBack->Show(show);
+    txtSearchResult->Show(show);
+    surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});
+    surface_->Refresh();
+    CenterWindow(*this, main_);
+}
+
+void frmSearch::ShowBusyAnimation(bool on) {
+    picAnim->Run(on);
+}
+
+void frmSearch::MoveFocus(SearchFocus focus) {
+    switch (focus) {
+        case SearchFocus::SearchText:
+            cboSearchWhat->SetFocus();
+            break;
+        case SearchFocus::Result:
+            txtSearchResult->SetFocus();
+            break;
+        case SearchFocus::StopButton:
+            cmdCancel->SetFocus();
+            break;
     }
 }
 
-void frmSearch::SetCancelButton(bool stops) {
-    cancelStops_ = stops;
-    cmdCancel->SetBitmap(stops ? StopPicture() : CancelPicture());
-    SetNames(*cmdCancel, "cmdCancel", stops ? "Stop" : "Cancel");
+void frmSearch::AddToHistory() {
+    AddToComboHistory(*cboSearchWhat);
 }
 
-void frmSearch::ClearResults() {
-    txtSearchResult->ChangeValue(wxEmptyString);
-    txtSearchResult->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+void frmSearch::LetEventsRun(int restMs) {
+    LetPendingEventsRun();
+    wxMilliSleep(static_cast<unsigned long>(restMs));
+}
+
+void frmSearch::HideWindow() {
+    cboSearchWhat->Enable();
+    cboSearchWhat->SetValue(wxEmptyString);
+    cboSearchWhat->SetFocus();
+    if (IsModal()) {
+        EndModal(wxID_CANCEL);
+    }
 }
 
 }  // namespace brelex

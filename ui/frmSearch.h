@@ -3,18 +3,18 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
+#include <string>
 
 #include <wx/dialog.h>
 
 #include "database/program_values.h"
 #include "platform/desktop/wx_message_sink.h"
-#include "search/search_request.h"
+#include "platform/system/fine_timer.h"
+#include "search/search_session.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/held_enter.h"
 #include "ui/controls/layout_units.h"
-#include "ui/controls/text_change.h"
 
 class wxBitmapButton;
 class wxButton;
@@ -31,14 +31,10 @@ namespace brelex {
 class Surface;
 class BusyAnimation;
 class ColumnHeader;
-struct SearchOutcome;
-
-/// Has `assign` fill a box with the result of a search. If it throws, the box says so in red.
-void ShowSearchResult(wxTextCtrl& box, const std::function<void()>& assign);
 
 /// The window "Search Database". It is hidden, never destroyed, while the program runs: its
 /// history, its options and the position to go on from survive.
-class frmSearch final : public wxDialog {
+class frmSearch final : public wxDialog, private SearchView {
   public:
     /// `values` must outlive the window; the database is loaded.
     frmSearch(wxTopLevelWindow* main, ProgramValues& values);
@@ -49,13 +45,19 @@ class frmSearch final : public wxDialog {
     /// Shows the window over the main window until it is dismissed.
     void ShowSearchWindow();
 
-    bool ResultAreaShown = false;
     int ExpandedHeight = 0;  ///< of the inside, in pixels, with the result area
     int ShrunkHeight = 0;    ///< without it
-    wxString LastSearchText;
-    std::int32_t NextPosition = 0;  ///< the record (0-based) at which a search goes on
-    bool AbortRequested = false;
-    bool FoundAnything = false;
+
+    // The rest of the window's state, which the session keeps.
+    [[nodiscard]] bool ResultAreaShown() const { return session_.ResultAreaShown(); }
+
+    [[nodiscard]] const std::string& LastSearchText() const { return session_.LastSearchText(); }
+
+    [[nodiscard]] std::int32_t NextPosition() const { return session_.NextPosition(); }
+
+    [[nodiscard]] bool AbortRequested() const { return session_.AbortRequested(); }
+
+    [[nodiscard]] bool FoundAnything() const { return session_.FoundAnything(); }
 
   private:
     void CreateControls();
@@ -67,37 +69,32 @@ class frmSearch final : public wxDialog {
     void BindEvents();
     void FillHistory();
 
+    void ShowDisplay(const SearchDisplay& display) override;
+    void ShowResult(const std::string& text, Tone tone) override;
+    void MoveFocus(SearchFocus focus) override;
+    void AddToHistory() override;
+    void LetEventsRun(int restMs) override;
+    void HideWindow() override;
+
+    void ShowBusy(bool busy);
     void ShowResultArea(bool show);
     void ShowBusyAnimation(bool on);
-    void DismissSearchWindow();
     void DrawColumnHeader();
-    void ResetStatus();
     void RunSearch();
-
     [[nodiscard]] SearchRequest Request() const;
-    [[nodiscard]] std::optional<SearchOutcome> Scan(const SearchRequest& request);
-    void Present(const SearchOutcome& outcome);
-    [[nodiscard]] bool SearchAndPresent(const SearchRequest& request);
-    void PrepareForSearch();
-    void ReturnToIdle();
-    void EnableInput(bool enable);
-    void SetCancelButton(bool stops);
-    void ClearResults();
-    void ShowHits(std::int32_t hits);
+    void OnCancel();
     void OnClose(wxCloseEvent& event);
     void OnPaint(wxPaintEvent& event);
-    void OnSearchTextChanged();
-
-    class Watcher;
 
     wxTopLevelWindow& main_;
     ProgramValues& values_;
     WxMessageSink messages_;
     LayoutUnits units_;
+    SearchSession session_;
+    std::optional<SearchDisplay> shown_;
     std::optional<HeldEnter> heldEnter_;
-    TextChange textChange_;
-    int innerWidth_ = 0;        // in pixels
-    bool cancelStops_ = false;  // the tag of cmdCancel: "Stop", not "Cancel"
+    std::optional<FineTimer> fineTimer_;  // while a search runs
+    int innerWidth_ = 0;                  // in pixels
 
     Surface* surface_ = nullptr;
     wxWindow* statusArea_ = nullptr;

@@ -70,7 +70,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
     cmdClose = Named(new wxButton(surface_, wxID_CLOSE, "Close"), "cmdClose");
     cmdClose->SetDefault();
     SetEscapeId(wxID_CLOSE);
-    const wxString text = WxLines(WxText(SmileyDictionaryText()));
+    const wxString text = WxText(SmileyDictionaryText());
     PlaceControls(WidestLine(*txtReadme, text));
     SetSideMargins(*txtReadme, kTextMarginPixels);
     SetTopMargin(*txtReadme, kTextMarginPixels);

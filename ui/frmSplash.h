@@ -5,7 +5,7 @@
 
 #include <wx/frame.h>
 
-#include "base/progress_sink.h"
+#include "base/long_work.h"
 #include "database/program_values.h"
 
 class wxStaticText;
@@ -14,7 +14,7 @@ namespace brelex {
 
 /// The window that is up while the database is loaded. It shows what the program is and how far
 /// loading has come.
-class frmSplash final : public wxFrame, public ProgressSink {
+class frmSplash final : public wxFrame, public WorkWatcher {
   public:
     explicit frmSplash(const AppInfo& info);
 

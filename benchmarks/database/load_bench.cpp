@@ -40,7 +40,7 @@ void BM_LoadDatabase(benchmark::State& state) {
     ProgramValues values;
     values.DatabasePath = FileOf(state.range(0));
     SystemTemporaryFiles files;
-    NoProgress progress;
+    WorkWatcher progress;
     SilentMessages messages;
     for (auto _ : state) {
         RecordStore store;

@@ -17,13 +17,6 @@
 namespace brelex {
 namespace {
 
-class SilentCrcWatcher final : public CrcWatcher {
-  public:
-    void DrawProgress(int /*percent*/) override {}
-
-    bool OnPause() override { return true; }
-};
-
 const std::vector<std::string> kRecords = {"ABC\tAlpha Beta Charlie", "RAM\tMemory"};
 
 // A database that was loaded; then something may happen to its file.
@@ -36,8 +29,8 @@ class IntegrityCheckTest : public testing::Test {
     }
 
     bool IsIntact() {
-        SilentCrcWatcher watcher;
-        const bool intact = IsDataIntact(values_, files_, watcher);
+        WorkWatcher nobody;
+        const bool intact = IsDataIntact(values_, files_, nobody);
         EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(values_.TempFilePath)));
         return intact;
     }
@@ -51,7 +44,7 @@ class IntegrityCheckTest : public testing::Test {
     ProgramValues values_;
     RecordStore store_;
     FakeTemporaryFiles files_{temp_.Text()};
-    RecordingProgress progress_;
+    RecordingWatcher progress_;
     FakeMessageSink messages_;
 };
 

@@ -11,26 +11,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
 namespace {
-
-// Writes down the progress and ends the computing at a pause (1-based), at none for 0.
-class RecordingCrcWatcher final : public CrcWatcher {
-  public:
-    explicit RecordingCrcWatcher(int endsAtPause = 0) : endsAtPause_(endsAtPause) {}
-
-    void DrawProgress(int percent) override { percents.push_back(percent); }
-
-    bool OnPause() override { return ++pauses != endsAtPause_; }
-
-    std::vector<int> percents;
-    int pauses = 0;
-
-  private:
-    int endsAtPause_;
-};
 
 TEST(GetCRCFromByteArray, TheNineDigitsGiveTheStandardCheckValue) {
     EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray("123456789")), 0xCBF43926U);
@@ -46,7 +31,7 @@ TEST(GetCRCFromByteArray, AgreesWithZlibOnRandomBlocks) {
         const auto expected =
             crc32(0, reinterpret_cast<const Bytef*>(block.data()), static_cast<uInt>(block.size()));
         EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray(block)), expected);
-        RecordingCrcWatcher watcher;
+        RecordingWatcher watcher;
         EXPECT_EQ(std::bit_cast<std::uint32_t>(GetCRCFromByteArray(block, &watcher)), expected);
     }
 }
@@ -61,7 +46,7 @@ class CrcProgress : public testing::TestWithParam<ProgressCase> {};
 
 TEST_P(CrcProgress, IsDrawnAtEachStepAndAtTheEnd) {
     const std::string block(GetParam().bytes, 'x');
-    RecordingCrcWatcher watcher;
+    RecordingWatcher watcher;
     EXPECT_EQ(GetCRCFromByteArray(block, &watcher), GetCRCFromByteArray(block));
     EXPECT_EQ(watcher.percents, GetParam().percents);
     EXPECT_EQ(watcher.pauses, static_cast<int>(watcher.percents.size()) - 1);
@@ -76,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CrcProgress, ComesAboutAHundredTimes) {
     for (const std::size_t bytes : {100U, 101U, 200U, 201U, 12345U, 100001U}) {
-        RecordingCrcWatcher watcher;
+        RecordingWatcher watcher;
         (void)GetCRCFromByteArray(std::string(bytes, 'x'), &watcher);
         EXPECT_GE(watcher.percents.size(), 51U) << bytes;
         EXPECT_LE(watcher.percents.size(), 101U) << bytes;
@@ -86,7 +71,7 @@ TEST(CrcProgress, ComesAboutAHundredTimes) {
 }
 
 TEST(CrcProgress, OfManyBytesComesOncePerStep) {
-    RecordingCrcWatcher watcher;
+    RecordingWatcher watcher;
     (void)GetCRCFromByteArray(std::string(101, 'x'), &watcher);
     ASSERT_EQ(watcher.percents.size(), 52U);
     for (int i = 0; i <= 50; ++i) {
@@ -96,7 +81,8 @@ TEST(CrcProgress, OfManyBytesComesOncePerStep) {
 }
 
 TEST(CrcProgress, EndsWhereTheWatcherEndsIt) {
-    RecordingCrcWatcher watcher(3);
+    RecordingWatcher watcher;
+    watcher.endsAtPause = 3;
     (void)GetCRCFromByteArray(std::string(5, 'x'), &watcher);
     EXPECT_EQ(watcher.percents, (std::vector<int>{0, 25, 50, 100}));
 }

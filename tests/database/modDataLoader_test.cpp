@@ -50,7 +50,7 @@ class LoadDatabaseTest : public testing::Test {
     ProgramValues values_;
     RecordStore store_;
     FakeTemporaryFiles files_{temp_.Text()};
-    RecordingProgress progress_;
+    RecordingWatcher progress_;
     FakeMessageSink messages_;
 };
 

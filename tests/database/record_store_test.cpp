@@ -20,7 +20,7 @@ using namespace std::string_literals;
 
 TEST(RecordStore, KeepsTheRecordsInFileOrder) {
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf("B\tx\0A\ty\0A\tz\0"s), 0, 3, 1, progress));
     EXPECT_EQ(store.RowCount(), 3);
     EXPECT_EQ(store.RowText(0), "B\tx");
@@ -30,7 +30,7 @@ TEST(RecordStore, KeepsTheRecordsInFileOrder) {
 
 TEST(RecordStore, TheBlockBeginsBehindTheHeader) {
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf("head\0A\tx\0"s), 5, 1, 1, progress));
     EXPECT_EQ(store.RowText(0), "A\tx");
     EXPECT_EQ(store.Block(), "A\tx\0"s);
@@ -38,13 +38,13 @@ TEST(RecordStore, TheBlockBeginsBehindTheHeader) {
 
 TEST(RecordStore, RecordsBeyondTheCountAreNotRead) {
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf("A\tx\0B\ty\0"s), 0, 1, 1, progress));
     EXPECT_EQ(store.RowCount(), 1);
 }
 
 TEST(RecordStore, ACountThatTheBlockDoesNotHoldIsRefused) {
-    NoProgress progress;
+    WorkWatcher progress;
     for (const std::int32_t count : {3, 4, 100, std::numeric_limits<std::int32_t>::max()}) {
         RecordStore store;
         EXPECT_FALSE(store.Fill(FileOf("A\tx\0B\ty\0C\tz"s), 0, count, 1, progress)) << count;
@@ -53,7 +53,7 @@ TEST(RecordStore, ACountThatTheBlockDoesNotHoldIsRefused) {
 }
 
 TEST(RecordStore, ZeroOrFewerRecordsAreAnEmptyList) {
-    NoProgress progress;
+    WorkWatcher progress;
     for (const std::int32_t count : {0, -1, std::numeric_limits<std::int32_t>::min()}) {
         RecordStore store;
         EXPECT_TRUE(store.Fill(FileOf("A\tx\0"s), 0, count, 1, progress));
@@ -63,7 +63,7 @@ TEST(RecordStore, ZeroOrFewerRecordsAreAnEmptyList) {
 
 TEST(RecordStore, ARecordMayBeEmptyOrLackItsTab) {
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf("\0no tab\0"s), 0, 2, 1, progress));
     EXPECT_EQ(store.RowText(0), "");
     EXPECT_EQ(store.RowText(1), "no tab");
@@ -80,7 +80,7 @@ class AscendingPrefixTest : public testing::TestWithParam<PrefixCase> {};
 
 TEST_P(AscendingPrefixTest, IsFound) {
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf(GetParam().block), 0, GetParam().count, 1, progress));
     EXPECT_EQ(store.AscendingPrefixBytes(), GetParam().bytes);
 }

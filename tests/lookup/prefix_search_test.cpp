@@ -109,7 +109,7 @@ void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view let
         block += record;
         block.push_back('\0');
     }
-    NoProgress progress;
+    WorkWatcher progress;
     ASSERT_TRUE(store.Fill(*ExpandSzdd(block), 0, count, 100, progress));
 }
 

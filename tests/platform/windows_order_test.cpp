@@ -68,7 +68,7 @@ class SystemOrderTest : public testing::Test {
 
     TestFolder folder_;
     FakeTemporaryFiles files_{folder_.Text()};
-    NoProgress progress_;
+    WorkWatcher progress_;
     FakeMessageSink messages_;
     ProgramValues values_;
     RecordStore store_;

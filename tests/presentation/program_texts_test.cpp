@@ -20,12 +20,12 @@ std::vector<std::string> SmileyLines() {
     const std::string all = SmileyDictionaryText();
     text = all;
     for (;;) {
-        const std::size_t end = text.find("\r\n");
+        const std::size_t end = text.find('\n');
         lines.emplace_back(text.substr(0, end));
         if (end == std::string_view::npos) {
             return lines;
         }
-        text.remove_prefix(end + 2);
+        text.remove_prefix(end + 1);
     }
 }
 
@@ -57,10 +57,10 @@ bool IsSmileyRow(const std::string& line) {
 
 TEST(SmileyDictionary, HasItsSize) {
     const std::string text = SmileyDictionaryText();
-    EXPECT_EQ(text.size(), 6129U);
+    EXPECT_EQ(text.size() + SmileyLines().size() - 1, 6129U);  // with two characters to a line end
     EXPECT_EQ(SmileyLines().size(), 249U);
     EXPECT_TRUE(std::all_of(text.begin(), text.end(), [](char c) {
-        return c == '\r' || c == '\n' || c == '\t' || (c >= ' ' && c <= '~');
+        return c == '\n' || c == '\t' || (c >= ' ' && c <= '~');
     }));
 }
 

@@ -68,15 +68,15 @@ TEST(GetNumOccr, CountsInEitherCase) {
 
 TEST(AnagramRefusalOf, WantsTwoDistinctLetters) {
     for (const char32_t* letters : {U"", U"A", U"CC", U"AAA", U"A1", U"12", U"aA"}) {
-        const Message* const refusal = AnagramRefusalOf(letters);
-        ASSERT_NE(refusal, nullptr);
+        const auto refusal = AnagramRefusalOf(letters);
+        ASSERT_TRUE(refusal);
         EXPECT_EQ(refusal->text, "Type at least 2 distinct letters");
         EXPECT_EQ(refusal->title, "Brevilexicon");
         EXPECT_EQ(refusal->icon, MessageIcon::Exclamation);
         EXPECT_EQ(refusal->buttons, MessageButtons::Ok);
     }
-    EXPECT_EQ(AnagramRefusalOf(U"AB"), nullptr);
-    EXPECT_EQ(AnagramRefusalOf(U"A1B"), nullptr);
+    EXPECT_FALSE(AnagramRefusalOf(U"AB"));
+    EXPECT_FALSE(AnagramRefusalOf(U"A1B"));
 }
 
 struct AnagramCase {
@@ -184,19 +184,6 @@ TEST(FindAnagrams, AnyOrderOfAnAbbreviationFindsIt) {
     }
 }
 
-class RecordingAnagramWatcher final : public AnagramWatcher {
-  public:
-    void OnHit(std::int32_t row) override { events.push_back("hit " + std::to_string(row)); }
-
-    [[nodiscard]] bool OnProgress(int percent) override {
-        events.push_back(std::to_string(percent) + "%");
-        return --progressLeft > 0;
-    }
-
-    std::vector<std::string> events;
-    int progressLeft = 1000;
-};
-
 FakeRows CpuAmong(int count, int at) {
     std::vector<std::string> records(static_cast<std::size_t>(count), "X\ty");
     records.at(static_cast<std::size_t>(at)) = "CPU\tz";
@@ -204,33 +191,34 @@ FakeRows CpuAmong(int count, int at) {
 }
 
 TEST(FindAnagrams, ReportsEvery100thEntryOf250As0And40And80Percent) {
-    RecordingAnagramWatcher watcher;
+    RecordingWatcher watcher;
     (void)FindAnagrams(CpuAmong(250, 100), AnagramLetters(U"PUC"), &watcher);
-    EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "hit 100", "40%", "80%"}));
+    EXPECT_EQ(watcher.events,
+              (std::vector<std::string>{"0%", "pause", "hit 100", "40%", "pause", "80%", "pause"}));
 }
 
 TEST(FindAnagrams, RoundsHalvesToEven) {
-    RecordingAnagramWatcher watcher;
+    RecordingWatcher watcher;
     (void)FindAnagrams(CpuAmong(8000, 0), AnagramLetters(U"PUC"), &watcher);
     // 100 of 8000 are 1.25 %, 200 are 2.5 %, 600 are 7.5 %.
-    EXPECT_EQ(watcher.events[2], "1%");
-    EXPECT_EQ(watcher.events[3], "2%");
-    EXPECT_EQ(watcher.events[7], "8%");
+    EXPECT_EQ(watcher.percents[1], 1);
+    EXPECT_EQ(watcher.percents[2], 2);
+    EXPECT_EQ(watcher.percents[6], 8);
 }
 
 TEST(FindAnagrams, WorksThePercentageOutInDoublePrecision) {
-    RecordingAnagramWatcher watcher;
+    RecordingWatcher watcher;
     (void)FindAnagrams(CpuAmong(20000, 0), AnagramLetters(U"PUC"), &watcher);
     // 10900 of 20000 are a little more than 54.5 % then, 11500 a little less than 57.5 %.
-    EXPECT_EQ(watcher.events[1 + 109], "55%");
-    EXPECT_EQ(watcher.events[1 + 115], "57%");
+    EXPECT_EQ(watcher.percents[109], 55);
+    EXPECT_EQ(watcher.percents[115], 57);
 }
 
 TEST(FindAnagrams, EndsWhenItsWatcherSaysSo) {
-    RecordingAnagramWatcher watcher;
-    watcher.progressLeft = 2;
+    RecordingWatcher watcher;
+    watcher.endsAtPause = 2;
     EXPECT_TRUE(FindAnagrams(CpuAmong(500, 300), AnagramLetters(U"PUC"), &watcher).empty());
-    EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "20%"}));
+    EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "pause", "20%", "pause"}));
 }
 
 }  // namespace

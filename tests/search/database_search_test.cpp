@@ -11,30 +11,6 @@
 namespace brelex {
 namespace {
 
-// Writes down what it is told, and asks for the end at a given moment.
-class RecordingWatcher final : public SearchWatcher {
-  public:
-    void OnHit(std::int32_t hits) override {
-        events.push_back(FoundText(hits));
-        abort_ |= hits == abortAtHit;
-    }
-
-    void OnPause() override {
-        events.emplace_back("pause");
-        abort_ |= ++pauses == abortAtPause;
-    }
-
-    [[nodiscard]] bool IsAborted() const override { return abort_; }
-
-    std::vector<std::string> events;
-    int abortAtHit = -1;
-    int abortAtPause = -1;
-    int pauses = 0;
-
-  private:
-    bool abort_ = false;
-};
-
 // Records of which those at multiples of `step` have an "x" in their expansions.
 FakeRows RowsWithHits(int count, int step) {
     std::vector<std::string> records;
@@ -45,7 +21,7 @@ FakeRows RowsWithHits(int count, int step) {
     return FakeRows(records);
 }
 
-SearchOutcome SearchForX(const RowList& rows, std::int32_t position, SearchWatcher* watcher) {
+SearchOutcome SearchForX(const RowList& rows, std::int32_t position, WorkWatcher* watcher) {
     const auto finder = RecordFinder::Compile({"x", SearchIn::Expansions}, rows);
     return SearchDatabase(*finder, rows, position, kMaxHits, watcher);
 }
@@ -78,14 +54,14 @@ TEST(SearchDatabase, PausesBehindEvery150thRecordFromTheFirstOn) {
     RecordingWatcher watcher;
     (void)SearchForX(rows, 0, &watcher);
     EXPECT_EQ(watcher.events,
-              (std::vector<std::string>{"Found 1", "pause", "pause", "Found 2", "pause"}));
+              (std::vector<std::string>{"hit 0", "pause", "pause", "hit 151", "pause"}));
 }
 
 TEST(SearchDatabase, PausesBehindAHitAtSuchARecord) {
     const FakeRows rows = RowsWithHits(301, 150);
     RecordingWatcher watcher;
     (void)SearchForX(rows, 100, &watcher);
-    EXPECT_EQ(watcher.events, (std::vector<std::string>{"Found 1", "pause", "Found 2", "pause"}));
+    EXPECT_EQ(watcher.events, (std::vector<std::string>{"hit 150", "pause", "hit 300", "pause"}));
 }
 
 TEST(SearchDatabase, StopsAt500HitsIfThereIsAnother) {
@@ -109,17 +85,17 @@ TEST(SearchDatabase, With500HitsInAllEndsLikeAnyOther) {
     EXPECT_FALSE(outcome.limitReached);
 }
 
-TEST(SearchDatabase, EndsBehindTheHitAtWhichItIsAborted) {
+TEST(SearchDatabase, EndsBehindTheHitAtWhichItsWatcherEndsIt) {
     const FakeRows rows = RowsWithHits(1000, 10);
     RecordingWatcher watcher;
-    watcher.abortAtHit = 3;
+    watcher.endsAtHit = 3;
     EXPECT_EQ(SearchForX(rows, 0, &watcher).hits, (std::vector<std::int32_t>{0, 10, 20}));
 }
 
-TEST(SearchDatabase, EndsBehindThePauseAtWhichItIsAborted) {
+TEST(SearchDatabase, EndsBehindThePauseAtWhichItsWatcherEndsIt) {
     const FakeRows rows = RowsWithHits(1000, 10);
     RecordingWatcher watcher;
-    watcher.abortAtPause = 2;
+    watcher.endsAtPause = 2;
     const SearchOutcome outcome = SearchForX(rows, 0, &watcher);
     EXPECT_EQ(outcome.hits.back(), 150);
     EXPECT_EQ(watcher.pauses, 2);
@@ -128,7 +104,7 @@ TEST(SearchDatabase, EndsBehindThePauseAtWhichItIsAborted) {
 
 TEST(ResultText, HasEachWholeRecordInALine) {
     const FakeRows rows({"RAM\tRandom Access Memory", "A\tb", "ROM\tRead-Only Memory"});
-    EXPECT_EQ(ResultText(rows, {0, 2}), "RAM\tRandom Access Memory\r\nROM\tRead-Only Memory\r\n");
+    EXPECT_EQ(ResultText(rows, {0, 2}), "RAM\tRandom Access Memory\nROM\tRead-Only Memory\n");
     EXPECT_EQ(ResultText(rows, {}), "");
 }
 
@@ -136,6 +112,16 @@ TEST(HitTexts, CountInDecimal) {
     EXPECT_EQ(FoundText(0), "Found 0");
     EXPECT_EQ(NumberOfHitsText(0), "Number of Hits: 0");
     EXPECT_EQ(NumberOfHitsText(12345), "Number of Hits: 12345");
+}
+
+TEST(HitLimitMessage, SaysHowToGoOn) {
+    const Message message = HitLimitMessage();
+    EXPECT_EQ(message.title, "Search Aborted");
+    EXPECT_EQ(message.text,
+              "Your search has returned the maximum number of hits. Brevilexicon search result "
+              "cannot exceed 500 entries.\n\nCheck the 'Search from Next Position' box to continue "
+              "searching from the next position.");
+    EXPECT_EQ(message.icon, MessageIcon::Information);
 }
 
 }  // namespace

@@ -31,6 +31,21 @@ std::string FakeFolderPicker::BrowseForFolder(const std::string& title) {
     return folder;
 }
 
+void RecordingWatcher::SetProgress(int percent) {
+    percents.push_back(percent);
+    events.push_back(std::to_string(percent) + "%");
+}
+
+bool RecordingWatcher::OnHit(std::int32_t row) {
+    events.push_back("hit " + std::to_string(row));
+    return ++hits != endsAtHit;
+}
+
+bool RecordingWatcher::OnPause() {
+    events.emplace_back("pause");
+    return ++pauses != endsAtPause;
+}
+
 bool FakeTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
     if (memoryIsFull) {
         throw std::bad_alloc();

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "base/folder_picker.h"
+#include "base/long_work.h"
 #include "base/message_sink.h"
-#include "base/progress_sink.h"
 #include "base/temporary_files.h"
 #include "database/row_list.h"
 #include "platform/system/modShowHelp.h"
@@ -35,15 +35,22 @@ class FakeFolderPicker final : public FolderPicker {
     std::deque<std::string> folders;
 };
 
-/// Writes down what it is told.
-class RecordingProgress final : public ProgressSink {
+/// Writes down what it is told of long work, and may end it.
+class RecordingWatcher final : public WorkWatcher {
   public:
     void SetStatusText(std::string_view text) override { texts.emplace_back(text); }
 
-    void SetProgress(int percent) override { percents.push_back(percent); }
+    void SetProgress(int percent) override;
+    bool OnHit(std::int32_t row) override;
+    bool OnPause() override;
 
     std::vector<std::string> texts;
     std::vector<int> percents;
+    std::vector<std::string> events;  ///< "hit 3" (a row), "40%", "pause"
+    int hits = 0;
+    int pauses = 0;
+    int endsAtHit = 0;    ///< 1-based; 0 for at none
+    int endsAtPause = 0;  ///< 1-based; 0 for at none
 };
 
 /// A temporary folder of the test's choice; writing can be made to fail.

@@ -220,7 +220,7 @@ TEST_F(FrmSplashTest, ShowsWhatTheProgramIs) {
 }
 
 TEST_F(FrmSplashTest, ThePercentageStartsRightBehindTheMessage) {
-    ProgressSink& progress = *splash_;
+    WorkWatcher& progress = *splash_;
     progress.SetStatusText("Loading database (1,234 records). Please, wait...");
     wxMilliSleep(50);
     progress.SetProgress(42);

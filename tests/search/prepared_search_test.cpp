@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "search/search_request.h"
+#include "search/prepared_search.h"
 
 #include <string>
+#include <variant>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
@@ -21,6 +23,9 @@ constexpr const char* kRangeAnywhere =
 constexpr const char* kFreeAsterisk =
     "Free use of asterisk (*) in search text is not allowed. Enclose it in square brackets ([]) "
     "and then try again.\n\nRead Help for more information about search patterns.";
+constexpr const char* kMalformed =
+    "The pattern string is invalid. Modify your search text and try again.\n\nRead Help for more "
+    "information about search patterns.";
 constexpr const char* kAccepted = "";
 
 struct RequestCase {
@@ -32,16 +37,18 @@ struct RequestCase {
     std::string message;
 };
 
-class RefusalOfTest : public testing::TestWithParam<RequestCase> {};
+class PrepareSearchTest : public testing::TestWithParam<RequestCase> {};
 
-TEST_P(RefusalOfTest, SaysWhatIsWrong) {
+TEST_P(PrepareSearchTest, GivesAFinderOrSaysWhatIsWrong) {
     SearchRequest request;
     request.text = GetParam().text;
     request.position = GetParam().position;
     request.wholeWord = GetParam().wholeWord;
-    const auto refusal = RefusalOf(request);
-    ASSERT_EQ(refusal.has_value(), !GetParam().message.empty());
-    if (refusal) {
+    const FakeRows rows({"AB\tx"});
+    const PreparedSearch prepared = PrepareSearch(request, rows);
+    const auto* const refusal = std::get_if<Message>(&prepared);
+    ASSERT_EQ(refusal != nullptr, !GetParam().message.empty());
+    if (refusal != nullptr) {
         EXPECT_EQ(refusal->text, GetParam().message);
         EXPECT_EQ(refusal->title, GetParam().title);
         EXPECT_EQ(refusal->icon, MessageIcon::None);
@@ -56,7 +63,7 @@ constexpr const char* kOption = "Invalid Option";
 constexpr const char* kPattern = "Bad Pattern";
 
 INSTANTIATE_TEST_SUITE_P(
-    WholeWords, RefusalOfTest,
+    WholeWords, PrepareSearchTest,
     testing::Values(
         RequestCase{"PlainWord", "mail", kAnywhere, true, "", kAccepted},
         RequestCase{"Asterisk", "a*", kAnywhere, true, kOption, kWholeWordsOnly},
@@ -70,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
     CaseName());
 
 INSTANTIATE_TEST_SUITE_P(
-    Ranges, RefusalOfTest,
+    Ranges, PrepareSearchTest,
     testing::Values(
         RequestCase{"AnywhereARange", "[a-c]", kAnywhere, false, kOption, kRangeAnywhere},
         RequestCase{"AnywhereBracketsAtBothEnds", "[a]x[b]", kAnywhere, false, kOption,
@@ -78,40 +85,29 @@ INSTANTIATE_TEST_SUITE_P(
         RequestCase{"AnywhereEmptyBrackets", "[]", kAnywhere, false, kOption, kRangeAnywhere},
         RequestCase{"BeforeTheAsterisks", "[*]", kAnywhere, false, kOption, kRangeAnywhere},
         RequestCase{"AnywhereARangeInside", "x[a-c]y", kAnywhere, false, "", kAccepted},
-        RequestCase{"AnywhereABracketAlone", "[", kAnywhere, false, "", kAccepted},
         RequestCase{"BeginningWithARange", "[a-c]", kBeginning, false, "", kAccepted},
         RequestCase{"EndingWithARange", "[a-c]", kEnding, false, "", kAccepted}),
     CaseName());
 
 INSTANTIATE_TEST_SUITE_P(
-    Asterisks, RefusalOfTest,
+    Asterisks, PrepareSearchTest,
     testing::Values(
         RequestCase{"Free", "a*b", kAnywhere, false, kPattern, kFreeAsterisk},
         RequestCase{"FreeAtTheBeginning", "*b", kBeginning, false, kPattern, kFreeAsterisk},
         RequestCase{"InALongerList", "a[*b]", kEnding, false, kPattern, kFreeAsterisk},
         RequestCase{"InBrackets", "a[*]b", kAnywhere, false, "", kAccepted},
-        RequestCase{"FreeBesideOneInBrackets", "a*b[*]", kAnywhere, false, "", kAccepted},
-        RequestCase{"AMalformedTextIsNotLookedAt", "[abc", kBeginning, false, "", kAccepted}),
+        RequestCase{"FreeBesideOneInBrackets", "a*b[*]", kAnywhere, false, "", kAccepted}),
     CaseName());
 
-TEST(MalformedPatternMessage, SaysThatThePatternIsInvalid) {
-    const Message message = MalformedPatternMessage();
-    EXPECT_EQ(message.title, "Bad Pattern");
-    EXPECT_EQ(message.text,
-              "The pattern string is invalid. Modify your search text and try again.\n\n"
-              "Read Help for more information about search patterns.");
-    EXPECT_EQ(message.icon, MessageIcon::None);
-}
-
-TEST(HitLimitMessage, SaysHowToGoOn) {
-    const Message message = HitLimitMessage();
-    EXPECT_EQ(message.title, "Search Aborted");
-    EXPECT_EQ(message.text,
-              "Your search has returned the maximum number of hits. Brevilexicon search result "
-              "cannot exceed 500 entries.\n\nCheck the 'Search from Next Position' box to continue "
-              "searching from the next position.");
-    EXPECT_EQ(message.icon, MessageIcon::Information);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Patterns, PrepareSearchTest,
+    testing::Values(
+        RequestCase{"WithoutItsClosingBracket", "[abc", kBeginning, false, kPattern, kMalformed},
+        RequestCase{"ARangeBackwards", "x[c-a]", kAnywhere, false, kPattern, kMalformed},
+        RequestCase{"ABracketAlone", "[", kAnywhere, false, kPattern, kMalformed},
+        RequestCase{"TheAsterisksComeFirst", "*[abc", kAnywhere, false, kPattern, kFreeAsterisk},
+        RequestCase{"OneThatIsWellFormed", "x[a-c]?#", kEnding, false, "", kAccepted}),
+    CaseName());
 
 }  // namespace
 }  // namespace brelex

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "search/search_request.h"
+#include "search/prepared_search.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
-
-#include "database/program_values.h"
-#include "search/database_search.h"
+#include <utility>
 
 namespace brelex {
 
@@ -20,8 +20,7 @@ constexpr const char* kReadHelp = "Read Help for more information.";
 constexpr const char* kReadHelpAboutPatterns =
     "Read Help for more information about search patterns.";
 
-}  // namespace
-
+// What the rules about wildcards refuse. They do not take the text as a pattern.
 std::optional<Message> RefusalOf(const SearchRequest& request) {
     const std::string& text = request.text;
     const auto has = [&text](std::string_view part) {
@@ -54,18 +53,19 @@ std::optional<Message> RefusalOf(const SearchRequest& request) {
     return std::nullopt;
 }
 
-Message MalformedPatternMessage() {
-    return Refusal(kBadPattern,
-                   "The pattern string is invalid. Modify your search text and try again.",
-                   kReadHelpAboutPatterns);
-}
+}  // namespace
 
-Message HitLimitMessage() {
-    return {"Your search has returned the maximum number of hits. " + std::string(kAppTitle) +
-                " search result cannot exceed " + std::to_string(kMaxHits) +
-                " entries.\n\nCheck the 'Search from Next Position' box to continue searching from "
-                "the next position.",
-            "Search Aborted", MessageIcon::Information, MessageButtons::Ok};
+PreparedSearch PrepareSearch(const SearchRequest& request, const RowList& rows) {
+    if (auto refusal = RefusalOf(request)) {
+        return std::move(*refusal);
+    }
+    auto finder = RecordFinder::Compile(request, rows);
+    if (!finder) {
+        return Refusal(kBadPattern,
+                       "The pattern string is invalid. Modify your search text and try again.",
+                       kReadHelpAboutPatterns);
+    }
+    return std::move(*finder);
 }
 
 }  // namespace brelex

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "base/long_work.h"
+#include "base/message_sink.h"
+#include "database/program_values.h"
+#include "search/prepared_search.h"
+#include "search/search_request.h"
+
+namespace brelex {
+
+struct SearchOutcome;
+
+/// Whether a text is what one expects or has to be noticed.
+enum class Tone {
+    Plain,
+    Warning
+};
+
+/// What the search window shows, but for the result. Texts are UTF-8.
+struct SearchDisplay {
+    bool isBusy = false;      ///< takes no input but "Stop", which is "Cancel" otherwise
+    bool isAnimated = false;  ///< shows the busy animation
+    bool canSearch = false;   ///< takes the Search command
+    bool canGoOn = false;     ///< offers to search from the next position
+    bool resultAreaShown = false;
+    std::string status = "Ready";
+    std::string count;
+    Tone countTone = Tone::Plain;
+
+    bool operator==(const SearchDisplay&) const = default;
+};
+
+/// Where the keyboard goes in the search window.
+enum class SearchFocus {
+    SearchText,
+    Result,
+    StopButton
+};
+
+/// The search window as its session sees it.
+class SearchView {
+  public:
+    SearchView() = default;
+    SearchView(const SearchView&) = delete;
+    SearchView& operator=(const SearchView&) = delete;
+    virtual ~SearchView() = default;
+
+    /// Shows all this. What tells of a search is on the screen when this returns.
+    virtual void ShowDisplay(const SearchDisplay& display) = 0;
+
+    /// Fills the result box (UTF-8). Throws what keeps it from that.
+    virtual void ShowResult(const std::string& text, Tone tone) = 0;
+
+    virtual void MoveFocus(SearchFocus focus) = 0;
+
+    /// Puts the search text on top of the history.
+    virtual void AddToHistory() = 0;
+
+    /// Lets all waiting events be handled, and then rests for a while.
+    virtual void LetEventsRun(int restMs) = 0;
+
+    /// Empties the search text, gives it the keyboard, and hides the window.
+    virtual void HideWindow() = 0;
+};
+
+/// What the window "Search Database" does: it decides, and the window shows it and passes on what
+/// the user does. It lives as long as the window, which is hidden and shown again.
+class SearchSession final : private WorkWatcher {
+  public:
+    /// All must outlive the session; the database is loaded. Trims the header's search list.
+    SearchSession(ProgramValues& values, SearchView& view, MessageSink& messages);
+
+    /// The window is about to be shown.
+    void Open();
+
+    /// The search text is now `text` (UTF-8). A report that finds it as it was changes nothing.
+    void OnTextChanged(const std::string& text);
+
+    /// Searches for what the user asks; `goOn` says that the box for the next position is checked.
+    void RunSearch(const SearchRequest& request, bool goOn);
+
+    /// The button that stops a search that runs and otherwise dismisses the window.
+    void PressCancel();
+
+    /// The user closes the window: a search ends, and the window is reset and hidden.
+    void DismissSearchWindow();
+
+    /// The program ends: a search ends, and shows nothing any more.
+    void Abandon();
+
+    void ToggleResultArea();
+
+    /// The most characters to be typed as a search text; 0 for no limit.
+    [[nodiscard]] std::size_t TextLimit(SearchIn in) const;
+
+    [[nodiscard]] bool ResultAreaShown() const { return display_.resultAreaShown; }
+
+    /// Of the last search that was started (UTF-8).
+    [[nodiscard]] const std::string& LastSearchText() const { return lastSearchText_; }
+
+    /// The record (0-based) at which a search goes on.
+    [[nodiscard]] std::int32_t NextPosition() const { return nextPosition_; }
+
+    /// Whether the search that runs has to end.
+    [[nodiscard]] bool AbortRequested() const {
+        return state_ == WorkState::Stopping || state_ == WorkState::Dismissed;
+    }
+
+    /// Whether the last search has found anything.
+    [[nodiscard]] bool FoundAnything() const { return foundAnything_; }
+
+  private:
+    bool OnHit(std::int32_t row) override;
+    bool OnPause() override;
+
+    void Begin(const std::string& text, bool goOn);
+    void Search(const RecordFinder& finder);
+    void StopAtLimit(std::int32_t nextPosition);
+    void Present(const SearchOutcome& outcome);
+    void TellOfAbort();
+    void ReturnToIdle();
+    void ResetStatus();
+    void Refresh();
+
+    const ProgramValues& values_;
+    SearchView& view_;
+    MessageSink& messages_;
+    SearchDisplay display_;
+    WorkState state_ = WorkState::Idle;
+    std::string text_;
+    std::string lastSearchText_;
+    std::int32_t nextPosition_ = 0;
+    std::int32_t hits_ = 0;  // of the search that runs
+    bool foundAnything_ = false;
+    bool isEndTold_ = false;  // of the last search
+};
+
+}  // namespace brelex
