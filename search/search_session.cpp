@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "base/scope.h"
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "search/database_search.h"
 #include "search/search_list.h"

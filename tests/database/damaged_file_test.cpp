@@ -46,7 +46,7 @@ LoadFailure ReadAndUse(std::string_view file) {
 LoadFailure ReadAndUseExpanded(std::string_view expanded) {
     DatabaseHeader header;
     RecordStore store;
-    NoProgress progress;
+    WorkWatcher progress;
     const LoadFailure failure = ReadExpandedDatabase({*ExpandSzdd(expanded), expanded.size() / 2},
                                                      header, store, progress, [] {});
     if (failure == LoadFailure::None) {
