@@ -86,7 +86,7 @@ void frmAnagram::CreateControls() {
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
     lblColHeaderBack = new Backdrop(surface_);
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
-    lstAnagrams = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
+    lstAnagrams = &CreateEntryListControl(*surface_, units_.Pixels(kExpansionTextAt));
     lstAnagrams->SetRows(session_.Rows());
     cmdSearch->SetDefault();
     ActAtOnceOnKeys(*cmdSearch);

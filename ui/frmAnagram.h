@@ -10,7 +10,7 @@
 
 #include "database/program_values.h"
 #include "platform/desktop/wx_message_sink.h"
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 #include "search/anagram_session.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/held_enter.h"
@@ -42,7 +42,7 @@ class frmAnagram final : public wxDialog, private AnagramView {
     void ShowAnagramWindow();
 
     /// The hits, or the one row that says that there are none.
-    [[nodiscard]] AcronymList& Hits() { return *lstAnagrams; }
+    [[nodiscard]] EntryListControl& Hits() { return *lstAnagrams; }
 
     [[nodiscard]] const RowList& HitRows() const { return session_.Rows(); }
 
@@ -91,7 +91,7 @@ class frmAnagram final : public wxDialog, private AnagramView {
     wxStaticText* lblPercentDone = nullptr;
     wxWindow* lblColHeaderBack = nullptr;
     wxWindow* picColHeader = nullptr;
-    AcronymList* lstAnagrams = nullptr;
+    EntryListControl* lstAnagrams = nullptr;
     BusyAnimation* picAnim = nullptr;
 };
 

@@ -181,7 +181,7 @@ void frmMain::CreateControls() {
                               wxTE_PROCESS_ENTER);
     lblColHeaderBack = new Backdrop(surface_);
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
-    lstAcronyms = &CreateAcronymList(*surface_, units_.Pixels(kExpansionTextAt));
+    lstAcronyms = &CreateEntryListControl(*surface_, units_.Pixels(kExpansionTextAt));
     for (wxStaticText** label : {&lblRecNumber, &lblDescription, &lblRecCount}) {
         *label = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                   wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);

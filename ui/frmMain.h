@@ -16,7 +16,7 @@
 #include "platform/desktop/hot_key.h"
 #include "platform/desktop/modSysTray.h"
 #include "platform/desktop/wx_message_sink.h"
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 #include "platform/system/modShowHelp.h"
 #include "ui/controls/hover_hints.h"
 #include "ui/controls/layout_units.h"
@@ -64,7 +64,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     /// The behaviour of the lookup; its fields are the window's state.
     [[nodiscard]] LookupBox& Lookup() { return lookup_; }
 
-    [[nodiscard]] AcronymList& List() { return *lstAcronyms; }
+    [[nodiscard]] EntryListControl& List() { return *lstAcronyms; }
 
     /// Opens a side window (a number of side_windows.h) modally; any other number opens none.
     void OpenModalForm(int number) override;
@@ -185,7 +185,7 @@ class frmMain final : public wxFrame, private LookupView, private TrayOwner {
     wxTextCtrl* txtAbbrv = nullptr;
     wxWindow* lblColHeaderBack = nullptr;
     wxWindow* picColHeader = nullptr;
-    AcronymList* lstAcronyms = nullptr;
+    EntryListControl* lstAcronyms = nullptr;
     wxStaticText* lblRecNumber = nullptr;
     wxStaticText* lblDescription = nullptr;
     wxStaticText* lblRecCount = nullptr;

@@ -11,7 +11,7 @@ class wxWindow;
 
 namespace brelex {
 
-class AcronymList;
+class EntryListControl;
 
 // What the system itself says of windows: its answers, not the toolkit's memory of what it asked.
 
@@ -45,6 +45,6 @@ struct ListView {
     int firstRowAt;  ///< where the first row of all begins, above 0 if it is scrolled out of sight
 };
 
-[[nodiscard]] ListView ViewOf(AcronymList& list);
+[[nodiscard]] ListView ViewOf(EntryListControl& list);
 
 }  // namespace brelex

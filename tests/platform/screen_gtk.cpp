@@ -14,7 +14,7 @@
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 
 namespace brelex {
 
@@ -161,7 +161,7 @@ wxRect MenuOnScreen() {
     return place;
 }
 
-ListView ViewOf(AcronymList& list) {
+ListView ViewOf(EntryListControl& list) {
     auto& control = dynamic_cast<wxDataViewCtrl&>(list.Window());
     auto* const view = GTK_TREE_VIEW(control.GtkGetTreeView());
     GtkTreePath* const first = gtk_tree_path_new_first();

@@ -12,7 +12,7 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 #include "platform/system/wide_text.h"
 
 namespace brelex {
@@ -80,7 +80,7 @@ wxRect MenuOnScreen() {
     return {place.left, place.top, place.right - place.left, place.bottom - place.top};
 }
 
-ListView ViewOf(AcronymList& list) {
+ListView ViewOf(EntryListControl& list) {
     HWND const control = list.Window().GetHWND();
     RECT row{};
     row.left = LVIR_BOUNDS;

@@ -259,7 +259,7 @@ TEST_F(MainWindowTest, AWindowThatTheSystemItselfRestoresHidesAgainWhenMinimised
 TEST_F(MainWindowTest, ADoubleClickWithShiftOpensTheEntryAndShiftEnterDoesNot) {
     Type("abc", "ABC");
     int opened = 0;
-    AcronymList& list = window_->List();
+    EntryListControl& list = window_->List();
     list.onEnter = [&] { ++opened; };
     list.Window().SetFocus();
     ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));

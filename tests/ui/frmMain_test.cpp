@@ -189,7 +189,7 @@ TEST_F(FrmMainLookup, ABlankInTheListOpensNothing) {
 
 TEST_F(FrmMainLookup, ADoubleClickOnARowOpensTheEntry) {
     int opened = 0;
-    AcronymList& list = window_->List();
+    EntryListControl& list = window_->List();
     list.onEnter = [&] { ++opened; };
     const wxPoint point(40, 2 * list.RowHeight() + list.RowHeight() / 2);
     user_.MouseMove(list.Window().ClientToScreen(point));
@@ -201,7 +201,7 @@ TEST_F(FrmMainLookup, ADoubleClickOnARowOpensTheEntry) {
 
 TEST_F(FrmMainLookup, AClickWithCtrlKeepsTheRowSelected) {
     Type("ab", "AB");
-    AcronymList& list = window_->List();
+    EntryListControl& list = window_->List();
     user_.MouseMove(list.Window().ClientToScreen(wxPoint(40, list.RowHeight() / 2)));
     Settle();
     user_.MouseClick();
@@ -296,7 +296,7 @@ TEST_F(FrmMainLookup, TheAccessKeyOfTheInstructionLeadsToTheBox) {
 
 TEST_F(FrmMainLookup, ClickingARowSelectsItAndWritesTheBox) {
     Type("m1", "M1");
-    AcronymList& list = window_->List();
+    EntryListControl& list = window_->List();
     const std::int32_t row = list.TopRow() + 4;
     const wxPoint point(40, 4 * list.RowHeight() + list.RowHeight() / 2);
     ASSERT_EQ(list.RowAt(point), row);
@@ -330,7 +330,7 @@ TEST_F(FrmMainLookup, SelectingByLookupRaisesNoClick) {
 
 TEST_F(FrmMainLookup, BelowTheLastRowThereIsNone) {
     Start({"AB\tx", "AC\ty"});
-    AcronymList& list = window_->List();
+    EntryListControl& list = window_->List();
     EXPECT_EQ(list.RowAt(wxPoint(10, list.RowHeight() / 2)), 0);
     EXPECT_EQ(list.RowAt(wxPoint(10, 5 * list.RowHeight())), -1);
 }

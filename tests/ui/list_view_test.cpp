@@ -15,7 +15,7 @@ namespace {
 
 class EntryList : public MainWindowTest {
   protected:
-    [[nodiscard]] AcronymList& List() const { return window_->List(); }
+    [[nodiscard]] EntryListControl& List() const { return window_->List(); }
 
     [[nodiscard]] ListView View() const { return ViewOf(List()); }
 

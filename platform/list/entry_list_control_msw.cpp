@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 
 #include <algorithm>
 
@@ -16,19 +16,19 @@ namespace brelex {
 namespace {
 
 // The system's list view over virtual rows.
-class AcronymListMsw final : public wxListView, public AcronymList {
+class EntryListControlMsw final : public wxListView, public EntryListControl {
   public:
-    AcronymListMsw(wxWindow& parent, int expansionTextAt)
+    EntryListControlMsw(wxWindow& parent, int expansionTextAt)
         : wxListView(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                      wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL) {
         const int cellPadding = FromDIP(6);  // of the list view's columns but the first
         AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, expansionTextAt - cellPadding);
         AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
-        Bind(wxEVT_LIST_ITEM_SELECTED, &AcronymListMsw::OnSelected, this);
-        Bind(wxEVT_LIST_ITEM_ACTIVATED, &AcronymListMsw::OnActivated, this);
-        Bind(wxEVT_LIST_ITEM_DESELECTED, &AcronymListMsw::OnDeselected, this);
-        Bind(wxEVT_SIZE, &AcronymListMsw::OnSize, this);
-        Bind(wxEVT_KEY_DOWN, &AcronymListMsw::OnKeyDown, this);
+        Bind(wxEVT_LIST_ITEM_SELECTED, &EntryListControlMsw::OnSelected, this);
+        Bind(wxEVT_LIST_ITEM_ACTIVATED, &EntryListControlMsw::OnActivated, this);
+        Bind(wxEVT_LIST_ITEM_DESELECTED, &EntryListControlMsw::OnDeselected, this);
+        Bind(wxEVT_SIZE, &EntryListControlMsw::OnSize, this);
+        Bind(wxEVT_KEY_DOWN, &EntryListControlMsw::OnKeyDown, this);
         Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { OnCharacter(event); });
         Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
@@ -190,8 +190,8 @@ class AcronymListMsw final : public wxListView, public AcronymList {
 
 }  // namespace
 
-AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt) {
-    return *new AcronymListMsw(parent, expansionTextAt);
+EntryListControl& CreateEntryListControl(wxWindow& parent, int expansionTextAt) {
+    return *new EntryListControlMsw(parent, expansionTextAt);
 }
 
 }  // namespace brelex

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 
 #include <algorithm>
 
@@ -72,9 +72,9 @@ class CurrentEvent {
 // A GtkTreeView over a virtual model. Positions come from its scroll position and the height of a
 // row, as all rows have the same: what the toolkit derives itself is off by one for a row's first
 // pixel, and its scrolling is animated and deferred (seen with GTK 3.24, wxWidgets 3.2.2).
-class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
+class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl {
   public:
-    AcronymListGtk(wxWindow& parent, int expansionTextAt)
+    EntryListControlGtk(wxWindow& parent, int expansionTextAt)
         : wxDataViewCtrl(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                          wxDV_SINGLE | wxDV_NO_HEADER) {
         for (const unsigned column : {0U, 1U}) {
@@ -91,12 +91,12 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         PlaceColumns(expansionTextAt);
         // All rows are as high as the first, so that none but the visible ones are measured.
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
-        Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &AcronymListGtk::OnSelectionChanged, this);
-        Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &AcronymListGtk::OnActivated, this);
+        Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &EntryListControlGtk::OnSelectionChanged, this);
+        Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &EntryListControlGtk::OnActivated, this);
         // Before the toolkit, whose own handling selects a row even for a press below the last.
-        g_signal_connect(view, "event", G_CALLBACK(&AcronymListGtk::OnEvent), this);
+        g_signal_connect(view, "event", G_CALLBACK(&EntryListControlGtk::OnEvent), this);
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
-        Bind(wxEVT_CHAR, &AcronymListGtk::OnChar, this);
+        Bind(wxEVT_CHAR, &EntryListControlGtk::OnChar, this);
     }
 
     wxWindow& Window() override { return *this; }
@@ -193,7 +193,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
   private:
     [[nodiscard]] GtkTreeView* TreeView() const {
         // The toolkit's accessor is not const; nothing is changed.
-        auto* const self = const_cast<AcronymListGtk*>(this);  // NOLINT(*-const-cast)
+        auto* const self = const_cast<EntryListControlGtk*>(this);  // NOLINT(*-const-cast)
         return GTK_TREE_VIEW(self->GtkGetTreeView());
     }
 
@@ -246,7 +246,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
         gtk_tree_view_column_set_expand(second, TRUE);
     }
 
-    static gboolean OnEvent(GtkWidget* /*view*/, GdkEvent* event, AcronymListGtk* self) {
+    static gboolean OnEvent(GtkWidget* /*view*/, GdkEvent* event, EntryListControlGtk* self) {
         const bool right = event->type == GDK_BUTTON_PRESS &&
                            event->button.button == GDK_BUTTON_SECONDARY &&
                            event->button.window == gtk_tree_view_get_bin_window(self->TreeView());
@@ -270,7 +270,7 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
             return;
         }
         if (!event.GetItem().IsOk() || !IsListUsed()) {
-            CallAfter(&AcronymListGtk::KeepSelection);  // when the toolkit is done with it
+            CallAfter(&EntryListControlGtk::KeepSelection);  // when the toolkit is done with it
             return;
         }
         const auto row = static_cast<std::int32_t>(model_->GetRow(event.GetItem()));
@@ -333,8 +333,8 @@ class AcronymListGtk final : public wxDataViewCtrl, public AcronymList {
 
 }  // namespace
 
-AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt) {
-    return *new AcronymListGtk(parent, expansionTextAt);
+EntryListControl& CreateEntryListControl(wxWindow& parent, int expansionTextAt) {
+    return *new EntryListControlGtk(parent, expansionTextAt);
 }
 
 }  // namespace brelex

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/list/acronym_list.h"
+#include "platform/list/entry_list_control.h"
 
 #include <algorithm>
 #include <chrono>
@@ -28,25 +28,25 @@ bool IsTyped(const wxKeyEvent& event) {
 
 }  // namespace
 
-void AcronymList::RightPressed() {
+void EntryListControl::RightPressed() {
     const std::int32_t row = RowAt(Window().ScreenToClient(wxGetMousePosition()));
     if (row >= 0 && onRightPress) {
         onRightPress(row);
     }
 }
 
-void AcronymList::OnContextMenu(wxContextMenuEvent& event) const {
+void EntryListControl::OnContextMenu(wxContextMenuEvent& event) const {
     // With the mouse the pressed button has asked for it already.
     if (event.GetPosition() == wxDefaultPosition && SelectedRow() >= 0 && onMenuKey) {
         onMenuKey();
     }
 }
 
-bool AcronymList::IsTyping() const {
+bool EntryListControl::IsTyping() const {
     return typeAhead_.IsTyping(NowMs());
 }
 
-void AcronymList::OnCharacter(wxKeyEvent& event) {
+void EntryListControl::OnCharacter(wxKeyEvent& event) {
     const wxChar character = event.GetUnicodeKey();
     const bool typed = character >= WXK_SPACE && character != WXK_DELETE;
     if (!typed || !IsTyped(event) || Rows() == nullptr) {
@@ -62,11 +62,11 @@ void AcronymList::OnCharacter(wxKeyEvent& event) {
     }
 }
 
-int AcronymList::RowsIn(int height) const {
+int EntryListControl::RowsIn(int height) const {
     return std::max(1, (height - HeightOfRows(0)) / RowHeight());
 }
 
-void AcronymList::ScrollIntoView(std::int32_t row) {
+void EntryListControl::ScrollIntoView(std::int32_t row) {
     if (row < TopRow()) {
         SetTopRow(row);
     } else if (row >= TopRow() + RowsPerPage()) {
@@ -74,7 +74,7 @@ void AcronymList::ScrollIntoView(std::int32_t row) {
     }
 }
 
-void AcronymList::SendKey(NavigationKey key) {
+void EntryListControl::SendKey(NavigationKey key) {
     if (key == NavigationKey::Enter) {
         if (SelectedRow() >= 0 && onEnter) {
             onEnter();
@@ -87,7 +87,7 @@ void AcronymList::SendKey(NavigationKey key) {
     }
 }
 
-void AcronymList::SelectAsUser(std::int32_t row) {
+void EntryListControl::SelectAsUser(std::int32_t row) {
     const bool changed = row != SelectedRow();
     SelectRow(row);
     ScrollIntoView(row);

@@ -21,12 +21,12 @@ namespace brelex {
 /// most. It draws its rows straight from the entries, so a million open as fast as a hundred. On
 /// each system it is the control that looks native there and that a screen reader can read.
 /// Rows are 0-based, -1 is none.
-class AcronymList {
+class EntryListControl {
   public:
-    AcronymList() = default;
-    AcronymList(const AcronymList&) = delete;
-    AcronymList& operator=(const AcronymList&) = delete;
-    virtual ~AcronymList() = default;
+    EntryListControl() = default;
+    EntryListControl(const EntryListControl&) = delete;
+    EntryListControl& operator=(const EntryListControl&) = delete;
+    virtual ~EntryListControl() = default;
 
     /// The control itself. Its parent owns it.
     [[nodiscard]] virtual wxWindow& Window() = 0;
@@ -116,6 +116,6 @@ class AcronymList {
 
 /// Creates the list for this system as a child of `parent`. The text of the second column begins
 /// `expansionTextAt` pixels from the list's left edge.
-AcronymList& CreateAcronymList(wxWindow& parent, int expansionTextAt);
+EntryListControl& CreateEntryListControl(wxWindow& parent, int expansionTextAt);
 
 }  // namespace brelex
