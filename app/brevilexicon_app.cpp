@@ -12,7 +12,6 @@
 #include "platform/system/modRunAtStartup.h"
 #include "platform/system/program_folder.h"
 #include "toolkit/wx_text.h"
-#include "ui/frmMain.h"
 
 namespace brelex {
 
@@ -31,13 +30,16 @@ bool BrevilexiconApp::OnInit() {
     SetAppDisplayName(kAppTitle);
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
-    frmMain* const main = startUp_.Run(
-        {messages, picker, files_, desktop_, ProgramName(), ProgramFolder(),
-         Utf8Text(ArgumentText(argv.GetArguments())), SecondsSinceMidnight, SetRunAtStartup});
+    frmMain* const main =
+        startUp_.Run({{files_, desktop_, ProgramName(), Utf8Text(ArgumentText(argv.GetArguments())),
+                       SetRunAtStartup},
+                      messages,
+                      picker,
+                      ProgramFolder(),
+                      SecondsSinceMidnight});
     if (main == nullptr) {
         return false;
     }
-    SetTopWindow(main);
     main->Show();
     return true;
 }

@@ -5,6 +5,8 @@
 #include <new>
 #include <string>
 
+#include <wx/app.h>
+
 #include "database/program_values.h"
 #include "platform/desktop/wx_message_sink.h"
 #include "ui/frmMain.h"
@@ -33,12 +35,10 @@ Message MessageOfCaughtException() {
 
 void TellOfCaughtException() {
     const Message message = MessageOfCaughtException();
-    for (wxWindow* window : wxTopLevelWindows) {
-        auto* const main = dynamic_cast<frmMain*>(window);
-        if (main != nullptr && main->IsShown()) {
-            main->ShowMessage(message);
-            return;
-        }
+    auto* const main = dynamic_cast<frmMain*>(wxTheApp->GetTopWindow());
+    if (main != nullptr && main->IsShown()) {
+        main->ShowMessage(message);
+        return;
     }
     WxMessageSink(nullptr).Show(message);
 }

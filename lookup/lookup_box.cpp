@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "base/scope.h"
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
@@ -16,102 +17,97 @@ namespace {
 
 constexpr const char* kGoToRecord = "Go to Record";
 
+// As people read it; 0 without a row.
+std::int32_t ShownNumberOf(std::int32_t row) {
+    return static_cast<std::int32_t>(RecordNumberOf(row));
+}
+
 }  // namespace
 
-void LookupBox::OnBoxChanged() {
-    const std::string text = view_.BoxText();
+void LookupBox::OnBoxChanged(const std::string& text) {
     if (std::exchange(shownText_, text) == text || IsLookupBusy) {
         return;
     }
-    IsLookupBusy = true;
     if (IsNavigating) {
         LastText = text;
-        IsLookupBusy = false;
         return;
     }
     CurrentText = text;
     if (EqualIgnoringCaseUtf8(LastText, CurrentText)) {
-        return;  // IsLookupBusy stays set, see the class
+        IsLookupBusy = true;  // for good, see the class
+        return;
     }
+    const Busy busy(IsLookupBusy);
     SelectByPrefix(CurrentText);
     LastText = CurrentText;
     ShowRecordNumber();
-    IsLookupBusy = false;
 }
 
 void LookupBox::OnBoxKeyDown(NavigationKey key) {
-    IsNavigating = true;
+    const Busy navigating(IsNavigating);
     view_.SendKeyToList(key);
     view_.MoveCaretToEnd();
-    IsNavigating = false;
 }
 
-void LookupBox::OnListClick() {
+void LookupBox::OnListClick(std::int32_t row) {
     if (IsNavigating) {
-        ShowRecordNumber();
-        WriteSelectedAbbreviation();
+        ShowEntry(row);
     }
 }
 
-void LookupBox::OnListMenu() {
-    const bool wasNavigating = std::exchange(IsNavigating, true);
-    ShowRecordNumber();
-    WriteSelectedAbbreviation();
-    IsNavigating = wasNavigating;
+void LookupBox::OnListMenu(std::int32_t row) {
+    ShowEntry(row);
 }
 
 void LookupBox::SelectByPrefix(const std::string& text) {
     FoundRow = FindFirstByPrefix(*values_.AcronymList, BytesOfUtf8(text).bytes);
-    if (values_.AcronymList->RowCount() == 0 || FoundRow == view_.SelectedRow()) {
-        return;
+    if (values_.AcronymList->RowCount() > 0 && FoundRow != view_.SelectedRow()) {
+        view_.SelectRow(FoundRow, Scrolling::SecondFromTop);
     }
-    view_.SetTopRow(std::max(FoundRow - 1, 0));
-    view_.SelectRow(FoundRow);
 }
 
 void LookupBox::ShowRecordNumber() {
-    view_.SetRecordNumberText(FormatGrouped(view_.SelectedRow() + 1, values_.groupSeparator));
+    view_.SetRecordNumberText(
+        FormatGrouped(ShownNumberOf(view_.SelectedRow()), values_.groupSeparator));
 }
 
-void LookupBox::WriteSelectedAbbreviation() {
-    const std::int32_t row = view_.SelectedRow();
-    if (row >= 0) {
-        view_.SetBoxText(Utf8OfBytes(GetAbbreviation(values_.AcronymList->RowText(row))));
-        OnBoxChanged();
-    }
+// The box takes the text over without a look-up, as it comes from the list.
+void LookupBox::ShowEntry(std::int32_t row) {
+    const bool wasNavigating = std::exchange(IsNavigating, true);
+    const OnLeaving restore([this, wasNavigating] { IsNavigating = wasNavigating; });
+    const std::string text = Utf8OfBytes(GetAbbreviation(values_.AcronymList->RowText(row)));
+    view_.SetRecordNumberText(FormatGrouped(ShownNumberOf(row), values_.groupSeparator));
+    view_.SetBoxText(text);
+    OnBoxChanged(text);
 }
 
-bool LookupBox::AskRecordNumber(std::int32_t& number) {
+std::optional<RecordNumber> LookupBox::AskRecordNumber() {
     const std::string answer = view_.AskText(
         kGoToRecord, "Go to record (1 - " + std::to_string(values_.RecordCount) + "):",
-        std::to_string(view_.SelectedRow() + 1));
+        std::to_string(ShownNumberOf(view_.SelectedRow())));
     if (answer.empty()) {
-        return false;
+        return std::nullopt;
     }
-    const auto parsed = ParseWholeNumber(answer, values_.groupSeparator);
-    if (!parsed) {
+    const auto number = ParseWholeNumber(answer, values_.groupSeparator);
+    if (!number) {
         messages_.Show(
             {"Invalid record number", kGoToRecord, MessageIcon::Exclamation, MessageButtons::Ok});
-        return false;
+        return std::nullopt;
     }
-    number = *parsed;
-    return true;
+    return RecordNumber{*number};
 }
 
-void LookupBox::GoToRecordNumber(std::int32_t nRecordNumber) {
-    if (nRecordNumber == -1 && !AskRecordNumber(nRecordNumber)) {
+void LookupBox::GoToRecordNumber(RecordNumber nRecordNumber) {
+    const std::optional<RecordNumber> wanted =
+        nRecordNumber == kAskForRecord ? AskRecordNumber() : nRecordNumber;
+    if (!wanted || values_.RecordCount <= 0) {
         return;
     }
-    if (values_.RecordCount <= 0) {
-        return;
-    }
-    nRecordNumber = std::clamp(nRecordNumber, 1, values_.RecordCount);
-    const bool wasNavigating = std::exchange(IsNavigating, true);
-    view_.SelectRow(nRecordNumber - 1);
-    WriteSelectedAbbreviation();
+    const auto last = RecordNumberOf(values_.RecordCount - 1);
+    const std::int32_t row = RowOf(std::clamp(*wanted, RecordNumberOf(0), last));
+    view_.SelectRow(row, Scrolling::IntoSight);
+    ShowEntry(row);
     view_.MoveCaretToEnd();
-    ShowRecordNumber();
-    IsNavigating = wasNavigating;
 }
 
 }  // namespace brelex

@@ -2,14 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
-#include <string_view>
 
 #include "base/message_sink.h"
 #include "database/program_values.h"
+#include "database/record_number.h"
 #include "lookup/list_navigation.h"
 
 namespace brelex {
+
+/// What has the user asked for the number of an entry, instead of naming one.
+inline constexpr RecordNumber kAskForRecord{-1};
 
 /// The window that the lookup works on. Rows are 0-based, texts are UTF-8.
 class LookupView {
@@ -22,16 +26,11 @@ class LookupView {
     /// The list's selected row, -1 if there is none.
     [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
 
-    /// Selects a row without raising the list's click.
-    virtual void SelectRow(std::int32_t row) = 0;
-
-    /// Scrolls the list so that `row` is its top row, as far as the list's end allows.
-    virtual void SetTopRow(std::int32_t row) = 0;
+    /// Selects a row and scrolls it into sight, without raising the list's click.
+    virtual void SelectRow(std::int32_t row, Scrolling scrolling) = 0;
 
     /// Lets the list handle a key as if it had been pressed there, its click included.
     virtual void SendKeyToList(NavigationKey key) = 0;
-
-    [[nodiscard]] virtual std::string BoxText() const = 0;
 
     /// Replaces the box's text. Must not report the change: LookupBox follows it up itself.
     virtual void SetBoxText(const std::string& text) = 0;
@@ -61,18 +60,19 @@ class LookupBox {
           view_(view),
           messages_(messages) {}
 
-    /// The box's text may have changed, by the user's typing or pasting.
-    void OnBoxChanged();
+    /// The box's text may have changed to `text` (UTF-8), by the user's typing or pasting.
+    void OnBoxChanged(const std::string& text);
 
     /// A navigation key was pressed in the box, which does not process it further.
     void OnBoxKeyDown(NavigationKey key);
 
-    /// The user selected a row of the list, by mouse or key.
-    void OnListClick();
+    /// The user selected `row` (0-based) of the list, by mouse or key. Only a list that has the
+    /// focus, or was sent a key, writes into the box.
+    void OnListClick(std::int32_t row);
 
-    /// The list, which has the focus, is about to show the menu of its selected row: shows the
-    /// row's number and writes its abbreviation into the box.
-    void OnListMenu();
+    /// The list, which has the focus, is about to show the menu of its selected `row` (0-based):
+    /// shows the row's number and writes its abbreviation into the box.
+    void OnListMenu(std::int32_t row);
 
     void OnListGotFocus() { IsNavigating = true; }
 
@@ -82,12 +82,12 @@ class LookupBox {
     /// second visible one. Text from the first character outside Windows-1252 on matches nothing.
     void SelectByPrefix(const std::string& text);
 
-    /// Shows the number (1-based) of the selected row.
+    /// Shows the number of the selected row.
     void ShowRecordNumber();
 
-    /// Selects the row with a number (1-based); one out of range means the nearest. -1 asks the
-    /// user for it.
-    void GoToRecordNumber(std::int32_t nRecordNumber);
+    /// Selects the entry with a number; one out of range, even below 1, means the nearest.
+    /// kAskForRecord asks the user for it.
+    void GoToRecordNumber(RecordNumber nRecordNumber);
 
     bool IsNavigating = false;  ///< the list drives the box, not the user's typing
     bool IsLookupBusy = false;
@@ -96,11 +96,11 @@ class LookupBox {
     std::int32_t FoundRow = 0;
 
   private:
-    /// Writes the abbreviation of the selected row into the box.
-    void WriteSelectedAbbreviation();
+    /// Shows the number of a row and writes its abbreviation into the box.
+    void ShowEntry(std::int32_t row);
 
-    /// Asks for a record number; false if the user gave none.
-    [[nodiscard]] bool AskRecordNumber(std::int32_t& number);
+    /// The number that the user gives, which may be out of range; none if the user gives none.
+    [[nodiscard]] std::optional<RecordNumber> AskRecordNumber();
 
     const ProgramValues& values_;
     LookupView& view_;

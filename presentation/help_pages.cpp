@@ -24,7 +24,7 @@ constexpr std::array kPages = {
     PageOfWindow{"frmDonation", "about.html#donate"},
     PageOfWindow{"frmCredit", "about.html#credits"},
     PageOfWindow{"frmViewEntry", "viewer.html"},
-    PageOfWindow{"Go to Record", "lookup.html#goto"},
+    PageOfWindow{"TextQuestion", "lookup.html#goto"},
 };
 
 }  // namespace

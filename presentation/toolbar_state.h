@@ -5,33 +5,29 @@
 #include <cstdint>
 #include <vector>
 
+#include "presentation/commands.h"
+
 namespace brelex {
 
-/// What an icon of the toolbar says of itself.
+/// What an icon of the toolbar does and says of itself.
 struct ToolbarIcon {
+    Command command;
     const char* description;  ///< shown in the main window while the mouse is over it
     const char* toolTip;
+    bool endsGroup = false;  ///< a separator stands behind it
 };
 
 /// The icons from left to right. That of the donation carries the description of its neighbour.
 inline constexpr std::array<ToolbarIcon, 7> kToolbarIcons = {{
-    {"Search Database", "Searches the database based on criteria"},
-    {"Anagrammatic Search", "Searches the database anagrammatically for acronyms"},
-    {"Smiley Dictionary", "Displays a dictionary of smileys"},
-    {"Help Contents", "Opens the Help Contents window"},
-    {"About", "Displays information about the program"},
-    {"Exit", "Donate any amount you wish via PayPal"},
-    {"Exit", "Quits the application"},
+    {Command::Search, "Search Database", "Searches the database based on criteria"},
+    {Command::Anagram, "Anagrammatic Search", "Searches the database anagrammatically for acronyms",
+     true},
+    {Command::Smileys, "Smiley Dictionary", "Displays a dictionary of smileys", true},
+    {Command::Help, "Help Contents", "Opens the Help Contents window"},
+    {Command::About, "About", "Displays information about the program", true},
+    {Command::Donate, "Exit", "Donate any amount you wish via PayPal", true},
+    {Command::Exit, "Exit", "Quits the application"},
 }};
-
-// Their numbers.
-inline constexpr int kSearchIcon = 0;
-inline constexpr int kAnagramIcon = 1;
-inline constexpr int kSmileyIcon = 2;
-inline constexpr int kHelpIcon = 3;
-inline constexpr int kAboutIcon = 4;
-inline constexpr int kDonationIcon = 5;
-inline constexpr int kExitIcon = 6;
 
 /// The place of an icon on the toolbar, in pixels from its upper left corner.
 struct IconBounds {

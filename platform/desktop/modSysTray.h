@@ -8,24 +8,20 @@
 
 #include <wx/iconbndl.h>
 
-namespace brelex {
+#include "presentation/tray_behaviour.h"
 
-/// An item of the icon's menu. The caption "-" is a separator; "&" stands before the access key.
-struct TrayMenuItem {
-    std::string caption;
-    bool enabled = true;
-};
+namespace brelex {
 
 /// What happens on the icon, and what it needs to know.
 struct TrayEvents {
     std::function<void()> onLeftRelease;
     std::function<void()> onRightRelease;
 
-    /// The menu as it has to look now. There are always as many items.
+    /// The menu as it has to look now. Its items are always for the same commands.
     std::function<std::vector<TrayMenuItem>()> menu;
 
-    /// An item (0-based, separators counted) was chosen.
-    std::function<void(int)> onMenuItem;
+    /// An item was chosen.
+    std::function<void(Command)> onMenuItem;
 
     /// A notification area has begun to show the icon, as its host came up.
     std::function<void()> onShown;

@@ -50,17 +50,16 @@ class TrayIconGtk final : public TrayIcon {
         CloseMenu();
         menu_ = gtk_menu_new();
         g_object_ref_sink(menu_);
-        int index = 0;
         for (const TrayMenuItem& item : events_.menu()) {
             GtkWidget* const entry =
-                item.caption == "-"
-                    ? gtk_separator_menu_item_new()
-                    : gtk_menu_item_new_with_mnemonic(MenuLabel(item.caption).c_str());
+                item.command ? gtk_menu_item_new_with_mnemonic(MenuLabel(item.caption).c_str())
+                             : gtk_separator_menu_item_new();
             gtk_widget_set_sensitive(entry, item.enabled ? TRUE : FALSE);
-            g_object_set_data(G_OBJECT(entry), kIndexKey, GINT_TO_POINTER(index));
-            g_signal_connect(entry, "activate", G_CALLBACK(&TrayIconGtk::OnItem), this);
+            if (item.command) {
+                TieToCommand(entry, *item.command);
+                g_signal_connect(entry, "activate", G_CALLBACK(&TrayIconGtk::OnItem), this);
+            }
             gtk_menu_shell_append(GTK_MENU_SHELL(menu_), entry);
-            ++index;
         }
         gtk_widget_show_all(menu_);
         gtk_menu_popup(GTK_MENU(menu_), nullptr, nullptr, gtk_status_icon_position_menu, icon_,
@@ -71,7 +70,6 @@ class TrayIconGtk final : public TrayIcon {
 
   private:
     static constexpr int kPanelIcon = 24;
-    static constexpr char kIndexKey[] = "brelex-index";
 
     static void OnActivate(GtkStatusIcon* /*icon*/, TrayIconGtk* self) {
         self->events_.onLeftRelease();
@@ -88,7 +86,7 @@ class TrayIconGtk final : public TrayIcon {
     }
 
     static void OnItem(GtkMenuItem* entry, TrayIconGtk* self) {
-        self->events_.onMenuItem(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey)));
+        self->events_.onMenuItem(TiedCommand(entry));
     }
 
     void OnHostChanged() {

@@ -24,17 +24,16 @@ class TaskBarIcon final : public wxTaskBarIcon {
 
     void PopUp() {
         wxMenu menu;
-        int index = 0;
         for (const TrayMenuItem& item : events_.menu()) {
-            if (item.caption == "-") {
-                menu.AppendSeparator();
+            if (item.command) {
+                const int id = kFirstItem + static_cast<int>(*item.command);
+                menu.Append(id, WxText(item.caption))->Enable(item.enabled);
             } else {
-                menu.Append(kFirstItem + index, WxText(item.caption))->Enable(item.enabled);
+                menu.AppendSeparator();
             }
-            ++index;
         }
         menu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
-            events_.onMenuItem(event.GetId() - kFirstItem);
+            events_.onMenuItem(static_cast<Command>(event.GetId() - kFirstItem));
         });
         PopupMenu(&menu);
     }

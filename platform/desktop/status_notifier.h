@@ -14,6 +14,10 @@ namespace brelex {
 /// A caption with "&" before its access key as GTK and the desktops' menus write it, with "_".
 [[nodiscard]] std::string MenuLabel(const std::string& caption);
 
+/// Ties a menu's item, a GObject, to its command, and tells it again.
+void TieToCommand(void* item, Command command);
+[[nodiscard]] Command TiedCommand(void* item);
+
 /// The program's icon as a StatusNotifierItem of the session bus, as the desktops KDE and, with an
 /// extension, GNOME show them. The desktop draws icon and menu and says what was chosen. Linux
 /// only.

@@ -19,6 +19,7 @@ constexpr char kWatcher[] = "org.kde.StatusNotifierWatcher";
 constexpr char kWatcherPath[] = "/StatusNotifierWatcher";
 constexpr char kItemPath[] = "/StatusNotifierItem";
 constexpr char kMenuPath[] = "/MenuBar";
+constexpr char kCommandKey[] = "brelex-command";
 
 // The part of the item's interface that hosts use.
 constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotifierItem">
@@ -73,6 +74,14 @@ std::string MenuLabel(const std::string& caption) {
     return text;
 }
 
+void TieToCommand(void* item, Command command) {
+    g_object_set_data(G_OBJECT(item), kCommandKey, GINT_TO_POINTER(static_cast<int>(command)));
+}
+
+Command TiedCommand(void* item) {
+    return static_cast<Command>(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(item), kCommandKey)));
+}
+
 class StatusNotifier::Item {
   public:
     Item(const wxIconBundle& pictures, std::string tip, const TrayEvents& events,
@@ -101,7 +110,7 @@ class StatusNotifier::Item {
     void MenuChanged() const {
         const std::vector<TrayMenuItem> items = events_.menu();
         for (std::size_t i = 0; i < entries_.size() && i < items.size(); ++i) {
-            if (items[i].caption != "-") {
+            if (items[i].command) {
                 dbusmenu_menuitem_property_set(entries_[i], DBUSMENU_MENUITEM_PROP_LABEL,
                                                MenuLabel(items[i].caption).c_str());
             }
@@ -273,18 +282,17 @@ class StatusNotifier::Item {
     void MakeMenu() {
         menuServer_ = dbusmenu_server_new(kMenuPath);
         root_ = dbusmenu_menuitem_new();
-        int index = 0;
         for (const TrayMenuItem& item : events_.menu()) {
             DbusmenuMenuitem* const entry = dbusmenu_menuitem_new();
-            if (item.caption == "-") {
+            if (item.command) {
+                TieToCommand(entry, *item.command);
+                g_signal_connect(entry, DBUSMENU_MENUITEM_SIGNAL_ITEM_ACTIVATED,
+                                 G_CALLBACK(&Item::OnMenuItem), this);
+            } else {
                 dbusmenu_menuitem_property_set(entry, DBUSMENU_MENUITEM_PROP_TYPE, "separator");
             }
-            g_object_set_data(G_OBJECT(entry), kIndexKey, GINT_TO_POINTER(index));
-            g_signal_connect(entry, DBUSMENU_MENUITEM_SIGNAL_ITEM_ACTIVATED,
-                             G_CALLBACK(&Item::OnMenuItem), this);
             dbusmenu_menuitem_child_append(root_, entry);
             entries_.push_back(entry);
-            ++index;
         }
         MenuChanged();
         dbusmenu_server_set_root(menuServer_, root_);
@@ -302,10 +310,8 @@ class StatusNotifier::Item {
     }
 
     static void OnMenuItem(DbusmenuMenuitem* entry, guint /*time*/, Item* self) {
-        self->events_.onMenuItem(GPOINTER_TO_INT(g_object_get_data(G_OBJECT(entry), kIndexKey)));
+        self->events_.onMenuItem(TiedCommand(entry));
     }
-
-    static constexpr char kIndexKey[] = "brelex-index";
 
     const wxIconBundle pictures_;
     const std::string tip_;

@@ -66,7 +66,52 @@ int EntryListControl::RowsIn(int height) const {
     return std::max(1, (height - HeightOfRows(0)) / RowHeight());
 }
 
-void EntryListControl::ScrollIntoView(std::int32_t row) {
+void EntryListControl::Clicked(std::int32_t row) const {
+    if (onClick) {
+        onClick(row);
+    }
+}
+
+void EntryListControl::Entered() const {
+    if (SelectedRow() >= 0 && onEnter) {
+        onEnter();
+    }
+}
+
+void EntryListControl::GotFocus() const {
+    if (onGotFocus) {
+        onGotFocus();
+    }
+}
+
+void EntryListControl::LostFocus() const {
+    if (onLostFocus) {
+        onLostFocus();
+    }
+}
+
+void EntryListControl::WatchFocus() {
+    Window().Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        GotFocus();
+        event.Skip();
+    });
+    Window().Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+        LostFocus();
+        event.Skip();
+    });
+}
+
+void EntryListControl::SelectRow(std::int32_t row, Scrolling scrolling) {
+    if (scrolling == Scrolling::SecondFromTop) {
+        SetTopRow(std::max(row - 1, 0));
+    }
+    SelectQuietly(row);
+    if (scrolling != Scrolling::Nowhere) {
+        ScrollIntoSight(row);
+    }
+}
+
+void EntryListControl::ScrollIntoSight(std::int32_t row) {
     if (row < TopRow()) {
         SetTopRow(row);
     } else if (row >= TopRow() + RowsPerPage()) {
@@ -76,9 +121,7 @@ void EntryListControl::ScrollIntoView(std::int32_t row) {
 
 void EntryListControl::SendKey(NavigationKey key) {
     if (key == NavigationKey::Enter) {
-        if (SelectedRow() >= 0 && onEnter) {
-            onEnter();
-        }
+        Entered();
         return;
     }
     const std::int32_t row = RowAfterKey(key, SelectedRow(), RowCount(), RowsPerPage());
@@ -89,10 +132,9 @@ void EntryListControl::SendKey(NavigationKey key) {
 
 void EntryListControl::SelectAsUser(std::int32_t row) {
     const bool changed = row != SelectedRow();
-    SelectRow(row);
-    ScrollIntoView(row);
-    if (changed && onClick) {
-        onClick();
+    SelectRow(row, Scrolling::IntoSight);
+    if (changed) {
+        Clicked(row);
     }
 }
 

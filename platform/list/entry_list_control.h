@@ -38,8 +38,8 @@ class EntryListControl {
     virtual void SetTextColour(const wxColour& colour) = 0;
     [[nodiscard]] virtual wxColour TextColour() const = 0;
 
-    /// Selects a row, without scrolling; onClick is not called.
-    virtual void SelectRow(std::int32_t row) = 0;
+    /// Selects a row; onClick is not called.
+    void SelectRow(std::int32_t row, Scrolling scrolling = Scrolling::Nowhere);
 
     [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
 
@@ -51,9 +51,6 @@ class EntryListControl {
 
     /// The first row that is visible as a whole.
     [[nodiscard]] virtual std::int32_t TopRow() const = 0;
-
-    /// Scrolls by the least amount that makes all of `row` visible; not at all if it is.
-    void ScrollIntoView(std::int32_t row);
 
     /// Number of rows that are visible as a whole.
     [[nodiscard]] virtual std::int32_t RowsPerPage() const = 0;
@@ -79,12 +76,17 @@ class EntryListControl {
     /// and calls onClick if it changed; calls onEnter for Enter.
     void SendKey(NavigationKey key);
 
-    std::function<void()> onClick;  ///< the user selected another row, by mouse or key
-    std::function<void()>
-        onEnter;  ///< Enter without Shift, Ctrl or Alt, or a double-click on a row
+    std::function<void(std::int32_t)> onClick;  ///< the user selected a row, by mouse or key
+
+    /// Enter without Shift, Ctrl or Alt, or a double-click on a row.
+    std::function<void()> onEnter;
 
     std::function<void(std::int32_t)> onRightPress;  ///< the right button was pressed on a row
     std::function<void()> onMenuKey;  ///< the keyboard asks for the menu of the selected row
+
+    /// The control has the focus, which a click brings before it is reported; or not any longer.
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
 
   protected:
     /// The control tells of the right button, and then does nothing of its own for it; and of the
@@ -98,6 +100,16 @@ class EntryListControl {
     /// Whether a blank typed now is part of a text that is typed into the list.
     [[nodiscard]] bool IsTyping() const;
 
+    /// What the native control tells. WatchFocus has it tell of the focus by itself.
+    void Clicked(std::int32_t row) const;
+    void Entered() const;
+    void GotFocus() const;
+    void LostFocus() const;
+    void WatchFocus();
+
+    /// Selects a row without scrolling or any call.
+    virtual void SelectQuietly(std::int32_t row) = 0;
+
     /// The rows shown; null if there are none yet.
     [[nodiscard]] virtual const RowList* Rows() const = 0;
 
@@ -110,6 +122,7 @@ class EntryListControl {
 
   private:
     void SelectAsUser(std::int32_t row);
+    void ScrollIntoSight(std::int32_t row);
 
     TypeAhead typeAhead_;
 };

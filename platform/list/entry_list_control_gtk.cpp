@@ -97,6 +97,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         g_signal_connect(view, "event", G_CALLBACK(&EntryListControlGtk::OnEvent), this);
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
         Bind(wxEVT_CHAR, &EntryListControlGtk::OnChar, this);
+        WatchFocus();
     }
 
     wxWindow& Window() override { return *this; }
@@ -118,19 +119,6 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
     [[nodiscard]] wxColour TextColour() const override {
         return model_->colour.IsOk() ? model_->colour
                                      : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
-    }
-
-    void SelectRow(std::int32_t row) override {
-        quiet_ = true;
-        const double position = gtk_adjustment_get_value(Adjustment());
-        GtkTreePath* const path = gtk_tree_path_new_from_indices(row, -1);
-        // The cursor too, so that the keys of the list go on from here.
-        gtk_tree_view_set_cursor(TreeView(), path, nullptr, FALSE);
-        gtk_tree_path_free(path);
-        // Setting the cursor begins to scroll to it.
-        gtk_adjustment_set_value(Adjustment(), position);
-        selected_ = row;
-        quiet_ = false;
     }
 
     [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
@@ -183,6 +171,19 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
     }
 
   protected:
+    void SelectQuietly(std::int32_t row) override {
+        quiet_ = true;
+        const double position = gtk_adjustment_get_value(Adjustment());
+        GtkTreePath* const path = gtk_tree_path_new_from_indices(row, -1);
+        // The cursor too, so that the keys of the list go on from here.
+        gtk_tree_view_set_cursor(TreeView(), path, nullptr, FALSE);
+        gtk_tree_path_free(path);
+        // Setting the cursor begins to scroll to it.
+        gtk_adjustment_set_value(Adjustment(), position);
+        selected_ = row;
+        quiet_ = false;
+    }
+
     [[nodiscard]] const RowList* Rows() const override { return model_->Rows(); }
 
     void SetBottomRow(std::int32_t row) override {
@@ -278,8 +279,20 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
             return;
         }
         selected_ = row;
-        if (onClick) {
-            onClick();
+        TellOfClick(row);
+    }
+
+    // GTK selects the row that is clicked before it gives the list the focus. Whatever else selects
+    // one, such as a screen reader, need not bring the focus at all.
+    void TellOfClick(std::int32_t row) {
+        if (HasFocus()) {
+            Clicked(row);
+            return;
+        }
+        GotFocus();
+        Clicked(row);
+        if (!CurrentEvent().Is(GDK_BUTTON_PRESS)) {
+            LostFocus();
         }
     }
 
@@ -300,7 +313,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
     // Takes back what the toolkit did to the selection: a click with Ctrl clears it, too.
     void KeepSelection() {
         if (selected_ >= 0) {
-            SelectRow(selected_);
+            SelectQuietly(selected_);
             return;
         }
         quiet_ = true;
@@ -321,9 +334,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
                 return;
             }
         }
-        if (selected_ >= 0 && onEnter) {
-            onEnter();
-        }
+        Entered();
     }
 
     wxObjectDataPtr<RowModel> model_{new RowModel};

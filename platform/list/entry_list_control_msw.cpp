@@ -32,6 +32,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { OnCharacter(event); });
         Bind(wxEVT_RIGHT_DOWN, [this](wxMouseEvent&) { RightPressed(); });
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
+        WatchFocus();
     }
 
     wxWindow& Window() override { return *this; }
@@ -49,18 +50,6 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
     }
 
     [[nodiscard]] wxColour TextColour() const override { return GetTextColour(); }
-
-    void SelectRow(std::int32_t row) override {
-        quiet_ = true;  // the control tells of the change before it returns
-        // Or else selecting walks all rows of a virtual list (seen with Wine 8).
-        if (selected_ >= 0 && selected_ != row) {
-            SetItemState(selected_, 0, wxLIST_STATE_SELECTED);
-        }
-        constexpr long kState = wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED;
-        SetItemState(row, kState, kState);
-        selected_ = row;
-        quiet_ = false;
-    }
 
     [[nodiscard]] std::int32_t SelectedRow() const override { return selected_; }
 
@@ -106,6 +95,18 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
     }
 
   protected:
+    void SelectQuietly(std::int32_t row) override {
+        quiet_ = true;  // the control tells of the change before it returns
+        // Or else selecting walks all rows of a virtual list (seen with Wine 8).
+        if (selected_ >= 0 && selected_ != row) {
+            SetItemState(selected_, 0, wxLIST_STATE_SELECTED);
+        }
+        constexpr long kState = wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED;
+        SetItemState(row, kState, kState);
+        selected_ = row;
+        quiet_ = false;
+    }
+
     [[nodiscard]] const RowList* Rows() const override { return rows_; }
 
     void SetBottomRow(std::int32_t row) override { EnsureVisible(row); }
@@ -145,9 +146,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
             return;
         }
         selected_ = row;
-        if (onClick) {
-            onClick();
-        }
+        Clicked(row);
     }
 
     // A click with Ctrl clears the selection, as does one below the last row; a list box keeps it.
@@ -155,7 +154,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         if (!quiet_) {
             CallAfter([this] {
                 if (selected_ >= 0 && !IsSelected(selected_)) {
-                    SelectRow(selected_);
+                    SelectQuietly(selected_);
                 }
             });
         }
@@ -171,11 +170,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         }
     }
 
-    void OnActivated(wxListEvent& /*event*/) {
-        if (selected_ >= 0 && onEnter) {
-            onEnter();
-        }
-    }
+    void OnActivated(wxListEvent& /*event*/) { Entered(); }
 
     // The second column takes what the first leaves.
     void OnSize(wxSizeEvent& event) {

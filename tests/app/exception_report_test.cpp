@@ -56,7 +56,7 @@ TEST_F(ExceptionInHandler, IsToldAndTheProgramGoesOn) {
     EXPECT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
     EXPECT_EQ(boxes.texts[0], "There is not enough memory for that.");
     EXPECT_EQ(boxes.styles[0] & wxICON_MASK, wxICON_STOP);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     Type("x", "X");
 }
 

@@ -104,7 +104,7 @@ TEST(HelpPageOf, IsAPageOfTheHelpForEachWindow) {
     std::set<std::string> different;
     for (const char* const window :
          {"frmMain", "frmSearch", "frmAnagram", "frmDataInfo", "frmSmiley", "frmAbout",
-          "frmCheckData", "frmDonation", "frmCredit", "frmViewEntry", "Go to Record"}) {
+          "frmCheckData", "frmDonation", "frmCredit", "frmViewEntry", "TextQuestion"}) {
         const std::string page(HelpPageOf(window));
         ASSERT_FALSE(page.empty()) << window;
         ASSERT_NE(page[0], '#') << window;

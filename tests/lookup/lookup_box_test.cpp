@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "lookup/lookup_box.h"
 
+#include <algorithm>
+#include <new>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -20,11 +23,16 @@ class FakeView final : public LookupView {
 
     [[nodiscard]] std::int32_t SelectedRow() const override { return selected; }
 
-    void SelectRow(std::int32_t row) override { selected = row; }
-
-    void SetTopRow(std::int32_t row) override { topRow = row; }
+    void SelectRow(std::int32_t row, Scrolling scrolling) override {
+        FailOnce();
+        selected = row;
+        if (scrolling == Scrolling::SecondFromTop) {
+            topRow = std::max(row - 1, 0);
+        }
+    }
 
     void SendKeyToList(NavigationKey key) override {
+        FailOnce();
         if (key == NavigationKey::Enter) {
             ++viewerOpened;
             return;
@@ -32,13 +40,14 @@ class FakeView final : public LookupView {
         const std::int32_t row = RowAfterKey(key, selected, rows_.RowCount(), 3);
         if (row != selected) {
             selected = row;
-            lookup->OnListClick();
+            lookup->OnListClick(row);
         }
     }
 
-    [[nodiscard]] std::string BoxText() const override { return box; }
-
-    void SetBoxText(const std::string& text) override { box = text; }
+    void SetBoxText(const std::string& text) override {
+        FailOnce();
+        box = text;
+    }
 
     void MoveCaretToEnd() override { ++caretMoves; }
 
@@ -59,8 +68,15 @@ class FakeView final : public LookupView {
     std::string answer;
     int caretMoves = 0;
     int viewerOpened = 0;
+    bool fails = false;  // the next call that changes something has not enough memory
 
   private:
+    void FailOnce() {
+        if (std::exchange(fails, false)) {
+            throw std::bad_alloc();
+        }
+    }
+
     const RowList& rows_;
 };
 
@@ -74,7 +90,7 @@ class LookupBoxTest : public testing::Test {
 
     void Type(const std::string& text) {
         view_.box = text;
-        lookup_.OnBoxChanged();
+        lookup_.OnBoxChanged(text);
     }
 
     FakeRows rows_{{"AA\tx", "AB\tx", "AB\ty", "AC\tx", "XML\tx", "XSS\tx", "Z\xC9\tx"}};
@@ -150,7 +166,7 @@ TEST_F(LookupBoxTest, DownMovesTheSelectionAndShowsItsAbbreviation) {
 
 TEST_F(LookupBoxTest, AnAccentInTheAbbreviationReachesTheBox) {
     Type("Z");
-    lookup_.GoToRecordNumber(7);
+    lookup_.GoToRecordNumber(RecordNumber{7});
     EXPECT_EQ(view_.box, "ZÉ");
 }
 
@@ -163,11 +179,11 @@ TEST_F(LookupBoxTest, EnterGoesToTheListAndLeavesTheBox) {
 
 TEST_F(LookupBoxTest, AClickWritesTheBoxOnlyWhileTheListNavigates) {
     view_.selected = 4;
-    lookup_.OnListClick();
+    lookup_.OnListClick(4);
     EXPECT_EQ(view_.box, "");
     EXPECT_EQ(view_.number, "");
     lookup_.OnListGotFocus();
-    lookup_.OnListClick();
+    lookup_.OnListClick(4);
     EXPECT_EQ(view_.box, "XML");
     EXPECT_EQ(view_.number, "5");
     lookup_.OnListLostFocus();
@@ -177,11 +193,47 @@ TEST_F(LookupBoxTest, AClickWritesTheBoxOnlyWhileTheListNavigates) {
 TEST_F(LookupBoxTest, TextFromTheListIsNotLookedUp) {
     lookup_.OnListGotFocus();
     view_.selected = 2;  // the second AB
-    lookup_.OnListClick();
+    lookup_.OnListClick(2);
     EXPECT_EQ(view_.selected, 2);
     lookup_.OnListLostFocus();
     Type("A");
     EXPECT_EQ(view_.selected, 0);
+}
+
+TEST_F(LookupBoxTest, TheMenuOfARowWritesItsAbbreviationAndLooksNothingUp) {
+    Type("X");
+    view_.selected = 2;
+    lookup_.OnListMenu(2);
+    EXPECT_EQ(view_.box, "AB");
+    EXPECT_EQ(view_.number, "3");
+    EXPECT_EQ(view_.selected, 2);
+    EXPECT_FALSE(lookup_.IsNavigating);
+    Type("XS");
+    EXPECT_EQ(view_.selected, 5);
+}
+
+TEST_F(LookupBoxTest, TypingGoesOnAfterALookUpThatFailed) {
+    view_.fails = true;
+    EXPECT_THROW(Type("X"), std::bad_alloc);
+    EXPECT_FALSE(lookup_.IsLookupBusy);
+    Type("XS");
+    EXPECT_EQ(view_.selected, 5);
+}
+
+TEST_F(LookupBoxTest, TypingGoesOnAfterAKeyThatFailed) {
+    view_.fails = true;
+    EXPECT_THROW(lookup_.OnBoxKeyDown(NavigationKey::Down), std::bad_alloc);
+    EXPECT_FALSE(lookup_.IsNavigating);
+    Type("XS");
+    EXPECT_EQ(view_.selected, 5);
+}
+
+TEST_F(LookupBoxTest, TypingGoesOnAfterARecordNumberThatFailed) {
+    view_.fails = true;
+    EXPECT_THROW(lookup_.GoToRecordNumber(RecordNumber{3}), std::bad_alloc);
+    EXPECT_FALSE(lookup_.IsNavigating);
+    Type("XS");
+    EXPECT_EQ(view_.selected, 5);
 }
 
 TEST_F(LookupBoxTest, TextThatChangesOnlyInCaseStopsTheListForGood) {
@@ -196,7 +248,7 @@ TEST_F(LookupBoxTest, TextThatChangesOnlyInCaseStopsTheListForGood) {
     lookup_.OnBoxKeyDown(NavigationKey::Down);
     EXPECT_EQ(view_.selected, 2);
     EXPECT_EQ(view_.box, "AB");
-    lookup_.GoToRecordNumber(6);
+    lookup_.GoToRecordNumber(RecordNumber{6});
     EXPECT_EQ(view_.selected, 5);
     EXPECT_EQ(view_.box, "XSS");
     EXPECT_EQ(view_.number, "6");
@@ -221,7 +273,7 @@ TEST_F(LookupBoxTest, AReportWithoutAChangeIsNone) {
 }
 
 TEST_F(LookupBoxTest, GoToRecordNumberSelectsAndLooksNothingUp) {
-    lookup_.GoToRecordNumber(3);
+    lookup_.GoToRecordNumber(RecordNumber{3});
     EXPECT_EQ(view_.selected, 2);
     EXPECT_EQ(view_.box, "AB");
     EXPECT_EQ(view_.number, "3");
@@ -232,7 +284,7 @@ TEST_F(LookupBoxTest, GoToRecordNumberSelectsAndLooksNothingUp) {
 
 TEST_F(LookupBoxTest, GoToRecordNumberLeavesNavigatingAsItWas) {
     lookup_.OnListGotFocus();
-    lookup_.GoToRecordNumber(3);
+    lookup_.GoToRecordNumber(RecordNumber{3});
     EXPECT_TRUE(lookup_.IsNavigating);
 }
 
@@ -245,9 +297,9 @@ struct AnswerCase {
 class GoToRecordTest : public LookupBoxTest, public testing::WithParamInterface<AnswerCase> {};
 
 TEST_P(GoToRecordTest, TakesTheAnswer) {
-    lookup_.GoToRecordNumber(2);
+    lookup_.GoToRecordNumber(RecordNumber{2});
     view_.answer = GetParam().answer;
-    lookup_.GoToRecordNumber(-1);
+    lookup_.GoToRecordNumber(kAskForRecord);
     EXPECT_EQ(view_.asked, "Go to Record|Go to record (1 - 7):|2");
     EXPECT_EQ(view_.selected, GetParam().row.value_or(1));
     const bool refused = !GetParam().row && *GetParam().answer != '\0';
@@ -281,9 +333,9 @@ TEST(LookupBoxWithoutEntries, NothingIsSelectedAndNothingFails) {
     LookupBox lookup(values, view, messages);
     view.lookup = &lookup;
     view.box = "A";
-    lookup.OnBoxChanged();
+    lookup.OnBoxChanged(view.box);
     lookup.OnBoxKeyDown(NavigationKey::Down);
-    lookup.GoToRecordNumber(1);
+    lookup.GoToRecordNumber(RecordNumber{1});
     EXPECT_EQ(view.selected, -1);
     EXPECT_EQ(view.number, "0");
     EXPECT_EQ(view.box, "A");

@@ -20,7 +20,7 @@
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"
-#include "ui/text_question.h"
+#include "ui/main/text_question.h"
 
 namespace brelex {
 namespace {

@@ -117,7 +117,7 @@ TEST_F(HotKey, BringsAHiddenWindowBack) {
 }
 
 TEST_F(HotKey, BringsTheWindowBackOnTopIfItStaysThere) {
-    wxCommandEvent stay(wxEVT_MENU, kOptionsItem);
+    wxCommandEvent stay(wxEVT_MENU, IdOf(Command::StayOnTop));
     stay.SetInt(1);
     window_->ProcessWindowEvent(stay);
     ASSERT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
@@ -198,7 +198,7 @@ TEST_F(MainWindowWithoutTray, StartedMinimisedTheWindowHidesWhenALatePanelComes)
 }
 
 TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
-    wxCommandEvent stay(wxEVT_MENU, kOptionsItem);
+    wxCommandEvent stay(wxEVT_MENU, IdOf(Command::StayOnTop));
     stay.SetInt(1);
     window_->ProcessWindowEvent(stay);
     {
@@ -394,17 +394,17 @@ TEST_F(StatusNotifierItem, ItsMenuFollowsTheWindow) {
 TEST_F(StatusNotifierItem, ItsMenuIsEmptyWhileAModalWindowIsUp) {
     std::string layout;
     ModalDriver driver({
-        [&] { return window_->IsModalOpen; },
+        [&] { return window_->IsModalOpen(); },
         [&] {
             layout = host_.Layout();
             return true;
         },
         [&] {
             user_.Char(WXK_RETURN);
-            return !window_->IsModalOpen;
+            return !window_->IsModalOpen();
         },
     });
-    window_->OpenModalForm(4);
+    window_->Run(Command::About);
     // All five items are there for the desktop to hide.
     std::size_t hidden = 0;
     for (std::size_t at = layout.find("'visible': <false>"); at != std::string::npos;
@@ -455,7 +455,7 @@ using InfoWindowOnLinux = SideWindowTest;
 TEST_F(InfoWindowOnLinux, AScreenReaderSaysAlsoWhatDoesNotFit) {
     const std::string expansion(5000, 'x');
     Start({"LONG\t" + expansion});
-    const auto open = [&] { window_->OpenModalForm(2); };
+    const auto open = [&] { window_->Run(Command::DatabaseInfo); };
     InSideWindow("frmDataInfo", open, [&] {
         AtkObject* const label =
             gtk_widget_get_accessible(GTK_WIDGET(In("lblLongestExpansion").GetHandle()));

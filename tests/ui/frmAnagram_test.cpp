@@ -334,7 +334,7 @@ TEST_F(AnagramWindowTest, ADoubleClickGoesToTheRecordAndKeepsTheLetters) {
         DoubleClickRow(1);
         EXPECT_TRUE(WaitFor([&] { return !anagram_->IsShown(); }));
     });
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     EXPECT_EQ(SelectedRecord(), "CPU\tCentral Processing Unit");
     InAnagramWindow([&] {
         EXPECT_EQ(Letters(), "PUC");

@@ -295,7 +295,7 @@ TEST_F(CheckWindowTest, ClosingTheWindowEndsTheCheck) {
         EXPECT_TRUE(ended);
     });
     EXPECT_TRUE(boxes.texts.empty());
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(CheckWindowTest, TheEndOfTheProgramEndsTheCheck) {

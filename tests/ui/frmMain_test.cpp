@@ -46,12 +46,6 @@ TEST_F(FrmMainLookup, TheListFollowsEachKey) {
     EXPECT_TRUE(WaitFor([&] { return SelectedRecord() == "AB\tAddress Bus"; }));
 }
 
-TEST_F(FrmMainLookup, WithNoMatchTheFirstEntryOfTheLongestBeginningIsSelected) {
-    Type("xq", "XQ");
-    EXPECT_EQ(SelectedRecord(), "XML\tExtensible Markup Language");
-    EXPECT_EQ(LabelText("lblRecNumber"), "1,505");
-}
-
 TEST_F(FrmMainLookup, ClearingTheBoxSelectsTheFirstRow) {
     Type("xss", "XSS");
     SelectAllInBox();
@@ -269,7 +263,7 @@ TEST_F(FrmMainLookup, AnAbbreviationBeyondTheHeadersMaximumIsShown) {
     StartWith(DatabaseBytes({"AB\tx", "ABCDE\ty"},
                             [](DatabaseHeader& header) { header.MaxAbbrvLength = 2; }),
               "");
-    window_->GoToRecordNumber(2);
+    window_->GoToRecordNumber(RecordNumber{2});
     EXPECT_EQ(BoxText(), "ABCDE");
 }
 
@@ -320,10 +314,10 @@ TEST_F(FrmMainLookup, KeysInTheListAreFollowedByTheBox) {
 
 TEST_F(FrmMainLookup, SelectingByLookupRaisesNoClick) {
     int clicks = 0;
-    window_->List().onClick = [&] { ++clicks; };
+    window_->List().onClick = [&](std::int32_t) { ++clicks; };
     Type("xss", "XSS");
     window_->List().SelectRow(3);
-    window_->GoToRecordNumber(5);
+    window_->GoToRecordNumber(RecordNumber{5});
     Settle();
     EXPECT_EQ(clicks, 0);
 }
@@ -337,7 +331,7 @@ TEST_F(FrmMainLookup, BelowTheLastRowThereIsNone) {
 
 TEST_F(FrmMainLookup, ARecordWithoutTabIsShownAsItStands) {
     Start({"AB\tx", "no tab"});
-    window_->GoToRecordNumber(2);
+    window_->GoToRecordNumber(RecordNumber{2});
     EXPECT_EQ(BoxText(), "");
     EXPECT_EQ(SelectedRecord(), "no tab");
 }
@@ -369,8 +363,8 @@ class AnswerRecordNumber final : public wxExpectModalBase<wxTextEntryDialog, Ans
 class GoToRow : public FrmMainLookup, public testing::WithParamInterface<GoToCase> {};
 
 TEST_P(GoToRow, SelectsTheRecord) {
-    window_->GoToRecordNumber(4);
-    wxCommandEvent command(wxEVT_MENU, kSearchItem + 3);
+    window_->GoToRecordNumber(RecordNumber{4});
+    wxCommandEvent command(wxEVT_MENU, IdOf(Command::GoToRow));
     if (GetParam().refused) {
         wxTEST_DIALOG(window_->ProcessWindowEvent(command), AnswerRecordNumber(GetParam().answer),
                       wxExpectModal<wxMessageDialog>(wxOK));
@@ -511,68 +505,47 @@ TEST_F(FrmMainLayout, ALargeCountIsGrouped) {
     EXPECT_EQ(LabelText("lblRecCount"), "12,345 entries");
 }
 
-struct MenuCase {
-    const char* name;
-    int id;
-    const char* menu;
-    const char* caption;  // with the access key's mark
-    const char* shortcut;
-};
-
-class MainMenu : public FrmMainLayout, public testing::WithParamInterface<MenuCase> {};
-
-TEST_P(MainMenu, HasTheItem) {
-    wxMenu* menu = nullptr;
-    const wxMenuItem* item = window_->GetMenuBar()->FindItem(GetParam().id, &menu);
-    ASSERT_NE(item, nullptr);
-    const wxString text = item->GetItemLabel();
-    EXPECT_EQ(text.BeforeFirst('\t'), GetParam().caption);
-    EXPECT_EQ(text.AfterFirst('\t'), GetParam().shortcut);
-    EXPECT_EQ(menu->GetTitle(), GetParam().menu);
+// The items of a menu as users see them: caption, a tab and the shortcut; "-" for a separator.
+std::vector<std::string> ItemsOf(const wxMenu& menu) {
+    std::vector<std::string> items;
+    for (const wxMenuItem* item : menu.GetMenuItems()) {
+        items.push_back(item->IsSeparator() ? "-" : Utf8Text(item->GetItemLabel()));
+    }
+    return items;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Items, MainMenu,
-    testing::Values(MenuCase{"DatabaseInfo", kFileItem, "&File", "Database Info...", ""},
-                    MenuCase{"CheckData", kFileItem + 1, "&File", "Check Data Integrity...", ""},
-                    MenuCase{"Exit", kFileItem + 3, "&File", "E&xit                Alt+F4", ""},
-                    MenuCase{"Search", kSearchItem, "&Search", "Search Database...", "F3"},
-                    MenuCase{"Anagram", kSearchItem + 1, "&Search", "Anagrammatic Search...", ""},
-                    MenuCase{"GoToRow", kSearchItem + 3, "&Search", "Go to Row...", "F5"},
-                    MenuCase{"StayOnTop", kOptionsItem, "&Options", "Stay on Top", ""},
-                    MenuCase{"RunAtStartup", kOptionsItem + 2, "&Options", "Run at Startup", ""},
-                    MenuCase{"Help", kHelpItem, "&Help", "Help Contents", "F1"},
-                    MenuCase{"ReadMe", kHelpItem + 2, "&Help", "ReadMe", ""},
-                    MenuCase{"Smileys", kHelpItem + 3, "&Help", "Smiley Dictionary", ""},
-                    MenuCase{"Donate", kHelpItem + 5, "&Help", "Donate via PayPal...", ""},
-                    MenuCase{"About", kHelpItem + 6, "&Help", "About...", ""}),
-    CaseName());
-
-TEST_F(FrmMainLayout, TheMenusHaveTheirSeparators) {
-    const auto separatorAt = [&](std::size_t menu, std::size_t item) {
-        return window_->GetMenuBar()->GetMenu(menu)->FindItemByPosition(item)->IsSeparator();
-    };
-    EXPECT_TRUE(separatorAt(0, 2));
-    EXPECT_TRUE(separatorAt(1, 2));
-    EXPECT_TRUE(separatorAt(2, 1));
-    EXPECT_TRUE(separatorAt(3, 1));
-    EXPECT_TRUE(separatorAt(3, 4));
+TEST_F(FrmMainLayout, TheMenuBarShowsTheCommands) {
+    using Items = std::vector<std::string>;
+    const wxMenuBar& bar = *window_->GetMenuBar();
+    ASSERT_EQ(bar.GetMenuCount(), 4U);
+    EXPECT_EQ(bar.GetMenuLabel(0), "&File");
+    EXPECT_EQ(ItemsOf(*bar.GetMenu(0)), (Items{"Database Info...", "Check Data Integrity...", "-",
+                                               "E&xit                Alt+F4"}));
+    EXPECT_EQ(bar.GetMenuLabel(1), "&Search");
+    EXPECT_EQ(ItemsOf(*bar.GetMenu(1)),
+              (Items{"Search Database...\tF3", "Anagrammatic Search...", "-", "Go to Row...\tF5"}));
+    EXPECT_EQ(bar.GetMenuLabel(2), "&Options");
+    EXPECT_EQ(ItemsOf(*bar.GetMenu(2)), (Items{"Stay on Top", "-", "Run at Startup"}));
+    EXPECT_EQ(bar.GetMenuLabel(3), "&Help");
+    EXPECT_EQ(ItemsOf(*bar.GetMenu(3)),
+              (Items{"Help Contents\tF1", "-", "ReadMe", "Smiley Dictionary", "-",
+                     "Donate via PayPal...", "About..."}));
 }
 
-TEST_F(FrmMainLayout, TheMenusOpenTheirWindows) {
+TEST_F(FrmMainLayout, TheMenusOpenTheirWindowsAndSoDoTheirNumbers) {
     struct Item {
-        int id;
+        Command command;
         const char* window;
     };
 
-    for (const Item& item : {Item{kFileItem, "frmDataInfo"}, Item{kFileItem + 1, "frmCheckData"},
-                             Item{kSearchItem, "frmSearch"}, Item{kSearchItem + 1, "frmAnagram"},
-                             Item{kHelpItem + 3, "frmSmiley"}, Item{kHelpItem + 5, "frmDonation"},
-                             Item{kHelpItem + 6, "frmAbout"}}) {
-        EXPECT_EQ(NameOfOpened([&] {
-                      wxCommandEvent command(wxEVT_MENU, item.id);
-                      window_->ProcessWindowEvent(command);
-                  }),
+    for (const Item& item :
+         {Item{Command::Search, "frmSearch"}, Item{Command::Anagram, "frmAnagram"},
+          Item{Command::DatabaseInfo, "frmDataInfo"}, Item{Command::Smileys, "frmSmiley"},
+          Item{Command::About, "frmAbout"}, Item{Command::CheckData, "frmCheckData"},
+          Item{Command::Donate, "frmDonation"}}) {
+        wxCommandEvent chosen(wxEVT_MENU, IdOf(item.command));
+        EXPECT_EQ(NameOfOpened([&] { window_->ProcessWindowEvent(chosen); }), item.window);
+        EXPECT_EQ(NameOfOpened([&] { window_->OpenModalForm(SpecOf(item.command).window); }),
                   item.window);
     }
 }
@@ -580,19 +553,24 @@ TEST_F(FrmMainLayout, TheMenusOpenTheirWindows) {
 TEST_F(FrmMainLayout, ExitClosesTheWindow) {
     frmMain* const window = window_;
     window_ = nullptr;
-    wxCommandEvent command(wxEVT_MENU, kFileItem + 3);
+    wxCommandEvent command(wxEVT_MENU, IdOf(Command::Exit));
     window->ProcessWindowEvent(command);
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
 }
 
-TEST_F(FrmMainLayout, ClosingUnloadsTheOtherWindows) {
-    auto* hidden = new wxFrame(nullptr, wxID_ANY, "loaded but hidden");
-    hidden->SetName("frmSomething");
-    wxTopLevelWindowBase* const window = std::exchange(window_, nullptr);
-    window->Close();
+TEST_F(FrmMainLayout, ClosingUnloadsTheWindowsThatAreKept) {
+    std::vector<wxWindow*> kept;
+    for (const Command command : {Command::Search, Command::Anagram}) {
+        const std::string name = NameOfOpened([&] { window_->Run(command); },
+                                              [&] { kept.push_back(OpenModalDialog()); });
+        ASSERT_NE(wxTopLevelWindows.Find(kept.back()), nullptr) << name << " is only hidden";
+    }
+    wxTopLevelWindowBase* const main = std::exchange(window_, nullptr);
+    main->Close();
     EXPECT_TRUE(WaitFor([&] {
-        return wxTopLevelWindows.Find(hidden) == nullptr &&
-               wxTopLevelWindows.Find(window) == nullptr;
+        return wxTopLevelWindows.Find(kept[0]) == nullptr &&
+               wxTopLevelWindows.Find(kept[1]) == nullptr &&
+               wxTopLevelWindows.Find(main) == nullptr;
     }));
 }
 
@@ -677,15 +655,13 @@ TEST_F(FrmMainMouse, F1ShowsTheHelp) {
     folder_.Write("Brelex.hlp", "help");
     user_.Char(WXK_F1);
     EXPECT_TRUE(WaitFor([&] { return desktop_.opened.size() == 1; }));
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(FrmMainMouse, HelpAndReadMeThatAreMissingAreNamed) {
     const MessageBoxes boxes;
-    for (const int id : {kHelpItem, kHelpItem + 2}) {
-        wxCommandEvent command(wxEVT_MENU, id);
-        window_->ProcessWindowEvent(command);
-    }
+    window_->Run(Command::Help);
+    window_->Run(Command::ReadMe);
     ASSERT_EQ(boxes.texts.size(), 2U);
     EXPECT_EQ(boxes.texts[0],
               "Cannot find the Help file Brelex.hlp. Ensure that the file exists on your disk. "
@@ -753,10 +729,13 @@ TEST_F(FrmMainMouse, AWindowThatClosesUnderTheRightButtonShowsNoMenu) {
 }
 
 TEST_F(FrmMainMouse, AModalWindowKeepsTheMainWindowFromClosing) {
-    window_->IsModalOpen = true;
-    EXPECT_FALSE(window_->Close());
-    window_->IsModalOpen = false;
+    bool closed = true;
+    EXPECT_EQ(
+        NameOfOpened([&] { window_->Run(Command::About); }, [&] { closed = window_->Close(); }),
+        "frmAbout");
+    EXPECT_FALSE(closed);
     EXPECT_NE(wxTopLevelWindows.Find(window_), nullptr);
+    EXPECT_TRUE(window_->IsShown());
 }
 
 TEST_F(FrmMainMouse, AHintStaysWhileItIsReadWithTheMouse) {
@@ -775,10 +754,10 @@ TEST_F(FrmMainMouse, TheListsMenuViewsAndCopies) {
     EXPECT_TRUE(menu->FindItemByPosition(1)->IsSeparator());
     EXPECT_EQ(menu->FindItemByPosition(2)->GetItemLabel(), "&Copy");
     Type("abc", "ABC");
-    wxCommandEvent copy(wxEVT_MENU, kListboxRClickItem + 2);
+    wxCommandEvent copy(wxEVT_MENU, IdOf(Command::CopyEntry));
     window_->ProcessWindowEvent(copy);
     EXPECT_EQ(ClipboardText(), "ABC = Atanasoff-Berry Computer");
-    wxCommandEvent view(wxEVT_MENU, kListboxRClickItem);
+    wxCommandEvent view(wxEVT_MENU, IdOf(Command::ViewEntry));
     EXPECT_EQ(NameOfOpened([&] { window_->ProcessWindowEvent(view); }), "frmViewEntry");
 }
 
@@ -800,7 +779,8 @@ TEST_F(FrmMainMouse, TheMenuKeyShowsTheMenuOfTheSelectedRow) {
 
 class FrmMainOptions : public MainWindowTest {
   protected:
-    void Choose(int item) {
+    void Choose(Command command) {
+        const int item = IdOf(command);
         const bool checked = window_->GetMenuBar()->IsChecked(item);
         window_->GetMenuBar()->Check(item, !checked);  // as the toolkit does before it tells
         wxCommandEvent event(wxEVT_MENU, item);
@@ -815,26 +795,26 @@ class FrmMainOptions : public MainWindowTest {
 };
 
 TEST_F(FrmMainOptions, EveryStartBeginsWithoutStayOnTop) {
-    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(kOptionsItem));
+    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(IdOf(Command::StayOnTop)));
     EXPECT_FALSE(window_->IsStayOnTop);
     EXPECT_TRUE(Becomes(false));
 }
 
 TEST_F(FrmMainOptions, StayOnTopFollowsItsCheckMark) {
-    Choose(kOptionsItem);
+    Choose(Command::StayOnTop);
     EXPECT_TRUE(window_->IsStayOnTop);
     EXPECT_TRUE(Becomes(true));
-    Choose(kOptionsItem);
+    Choose(Command::StayOnTop);
     EXPECT_FALSE(window_->IsStayOnTop);
     EXPECT_TRUE(Becomes(false));
 }
 
 TEST_F(FrmMainOptions, AModalWindowStandsAboveAWindowThatStaysOnTop) {
-    Choose(kOptionsItem);
+    Choose(Command::StayOnTop);
     bool wasTopMost = true;
     ModalDriver driver({
         [&] {
-            if (window_->IsModalOpen) {
+            if (window_->IsModalOpen()) {
                 wasTopMost = !Becomes(false);
                 return true;
             }
@@ -842,31 +822,31 @@ TEST_F(FrmMainOptions, AModalWindowStandsAboveAWindowThatStaysOnTop) {
         },
         [&] {
             user_.Char(WXK_RETURN);
-            return !window_->IsModalOpen;
+            return !window_->IsModalOpen();
         },
     });
-    window_->OpenModalForm(4);
+    window_->Run(Command::About);
     EXPECT_FALSE(wasTopMost);
     EXPECT_TRUE(Becomes(true));
     EXPECT_TRUE(window_->IsStayOnTop);
 }
 
 TEST_F(FrmMainOptions, RunAtStartupIsCheckedAtEveryStart) {
-    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(IdOf(Command::RunAtStartup)));
     EXPECT_EQ(runAtStartup_, std::vector<bool>{true});
-    Choose(kOptionsItem + 2);
+    Choose(Command::RunAtStartup);
     EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false}));
     Start(SampleEntries());
-    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(IdOf(Command::RunAtStartup)));
     EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false, true}));
 }
 
 TEST_F(FrmMainOptions, TheCheckMarkStaysEvenIfNothingCouldBeWritten) {
     runAtStartupWorks_ = false;
-    Choose(kOptionsItem + 2);
-    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
-    Choose(kOptionsItem + 2);
-    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem + 2));
+    Choose(Command::RunAtStartup);
+    EXPECT_FALSE(window_->GetMenuBar()->IsChecked(IdOf(Command::RunAtStartup)));
+    Choose(Command::RunAtStartup);
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(IdOf(Command::RunAtStartup)));
     EXPECT_EQ(runAtStartup_, (std::vector<bool>{true, false, true}));
 }
 
@@ -884,7 +864,7 @@ TEST_F(FrmMainOptions, TheKeyboardReachesTheOptions) {
                         }});
     user_.Char('O', wxMOD_ALT);
     EXPECT_TRUE(WaitFor([&] { return window_->IsStayOnTop; }));
-    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(kOptionsItem));
+    EXPECT_TRUE(window_->GetMenuBar()->IsChecked(IdOf(Command::StayOnTop)));
 }
 
 // Refuses modal windows, and fails the test if there is one to refuse.
@@ -903,23 +883,23 @@ TEST_F(FrmMainOptions, NumbersWithoutAWindowOpenNone) {
     const NoModalWindows none;
     window_->OpenModalForm(-1);
     window_->OpenModalForm(7);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(FrmMainOptions, AWindowOpenedByNumberIsModalUntilItCloses) {
     bool wasModal = false;
     ModalDriver driver({
         [&] {
-            wasModal = window_->IsModalOpen;
+            wasModal = window_->IsModalOpen();
             return wasModal;
         },
         [&] {
             user_.Char(WXK_ESCAPE);
-            return !window_->IsModalOpen;
+            return !window_->IsModalOpen();
         },
     });
     user_.Char(WXK_F3);
-    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen; }, 6000));
+    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen(); }, 6000));
     EXPECT_TRUE(wasModal);
 }
 

@@ -27,7 +27,7 @@
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/busy_animation.h"
-#include "ui/modGeneral.h"
+#include "ui/controls/modGeneral.h"
 
 namespace brelex {
 namespace {
@@ -214,7 +214,7 @@ TEST_F(SearchWindowTest, F3OpensItWithTheSearchTextReadyToBeTyped) {
                             return !search_->IsShown();
                         }});
     user_.Char(WXK_F3);
-    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen; }, 8000));
+    EXPECT_TRUE(WaitFor([&] { return driver.Done() && !window_->IsModalOpen(); }, 8000));
 }
 
 TEST_F(SearchWindowTest, ShowsTheHitsInTwoColumns) {
@@ -311,7 +311,7 @@ TEST_F(SearchWindowTest, SurvivesItsBeingHidden) {
         user_.Char(WXK_ESCAPE);
         EXPECT_TRUE(WaitFor([&] { return !search_->IsShown(); }));
     });
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     const frmSearch* const first = search_;
     InSearchWindow([&] {
         EXPECT_EQ(search_, first);
@@ -523,7 +523,7 @@ TEST_F(LongSearch, ClosingTheWindowEndsItWithoutABox) {
             WaitFor([&] { return driver.Done() && !search_->IsShown() && !IsSearching(); }, 8000));
     });
     EXPECT_TRUE(boxes.texts.empty());
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     EXPECT_TRUE(WaitFor([&] { return window_->IsActive() && wxWindow::FindFocus() == &Box(); }));
     InSearchWindow([&] {
         EXPECT_EQ(SearchText(), "");

@@ -39,7 +39,7 @@ class EntryViewerTest : public SideWindowTest {
     void InViewer(const char* record, const std::function<void()>& work) {
         for (std::int32_t number = 1; SelectedRecord() != record; ++number) {
             ASSERT_LE(number, 5);
-            window_->GoToRecordNumber(number);
+            window_->GoToRecordNumber(RecordNumber{number});
         }
         GiveBoxTheKeyboard();
         InSideWindow(
@@ -191,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(Table, OtherKeys,
 
 TEST_F(EntryViewerTest, CopiesWhatTheListHasSelectedNow) {
     InViewer("RAM\tRandom Access Memory", [&] {
-        window_->GoToRecordNumber(4);
+        window_->GoToRecordNumber(RecordNumber{4});
         user_.Char('C', wxMOD_CONTROL);
         EXPECT_TRUE(WaitFor([&] { return ClipboardText() == "ROM = Read Only Memory"; }))
             << ClipboardText();
@@ -206,7 +206,7 @@ TEST_F(EntryViewerTest, OkReturnAndEscapeCloseItAndTheNextShowsTheSelectionAfres
         });
         Settle(50);
         EXPECT_EQ(wxWindow::FindWindowByName("frmViewEntry"), nullptr);
-        EXPECT_FALSE(window_->IsModalOpen);
+        EXPECT_FALSE(window_->IsModalOpen());
     };
     closes([&] { Click("cmdOK"); });
     closes([&] { user_.Char(WXK_RETURN); });
@@ -270,12 +270,12 @@ TEST_F(EntryViewerTest, WithoutAnEntryThereIsNothingToView) {
     StartWith(
         DatabaseBytes({"AB\tAddress Bus"}, [](DatabaseHeader& header) { header.RecordCount = 0; }),
         "");
-    wxCommandEvent view(wxEVT_MENU, kListboxRClickItem);
+    wxCommandEvent view(wxEVT_MENU, IdOf(Command::ViewEntry));
     window_->ProcessWindowEvent(view);
     EXPECT_EQ(wxWindow::FindWindowByName("frmViewEntry"), nullptr);
     user_.Char(WXK_RETURN);
     Settle(100);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(EntryViewerTest, TheEndOfTheProgramClosesItFirst) {

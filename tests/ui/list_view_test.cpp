@@ -93,11 +93,11 @@ TEST_F(EntryList, GoingToTheLastVisibleRowScrollsNothing) {
     Settle(300);
     const int before = ScrolledTo();
     const std::int32_t row = before / View().rowHeight + VisibleRows() - 1;
-    window_->GoToRecordNumber(row + 1);
+    window_->GoToRecordNumber(RecordNumberOf(row));
     Settle(300);
     EXPECT_EQ(List().SelectedRow(), row);
     EXPECT_EQ(ScrolledTo(), before);
-    window_->GoToRecordNumber(row + 2);
+    window_->GoToRecordNumber(RecordNumberOf(row + 1));
     Settle(300);
     EXPECT_EQ(ScrolledTo(), before + View().rowHeight) << "and to the next one by one row";
 }

@@ -11,7 +11,6 @@
 #include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main/side_windows.h"
 
 namespace brelex {
 namespace {
@@ -42,52 +41,52 @@ class Placing : public SideWindowTest {
         Settle(100);
     }
 
-    void Open(int number, const char* name, const std::function<void()>& work) {
+    void Open(Command command, const char* name, const std::function<void()>& work) {
         InSideWindow(
-            name, [&] { window_->OpenModalForm(number); }, work);
+            name, [&] { window_->Run(command); }, work);
     }
 };
 
 struct SideWindowCase {
     const char* name;
-    int number;
+    Command command;
 };
 
 class PlacingOfAll : public Placing, public testing::WithParamInterface<SideWindowCase> {};
 
 TEST_P(PlacingOfAll, OpensOverTheMiddleOfTheMainWindow) {
     MoveMain(60, 80);
-    Open(GetParam().number, GetParam().name, [&] { ExpectCentered("first time"); });
+    Open(GetParam().command, GetParam().name, [&] { ExpectCentered("first time"); });
     MoveMain(300, 200);
-    Open(GetParam().number, GetParam().name,
+    Open(GetParam().command, GetParam().name,
          [&] { ExpectCentered("after the main window moved"); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, PlacingOfAll,
-                         testing::Values(SideWindowCase{"frmSearch", kSearchWindow},
-                                         SideWindowCase{"frmAnagram", kAnagramWindow},
-                                         SideWindowCase{"frmDataInfo", kDataInfoWindow},
-                                         SideWindowCase{"frmSmiley", kSmileyWindow},
-                                         SideWindowCase{"frmAbout", kAboutWindow},
-                                         SideWindowCase{"frmCheckData", kCheckDataWindow},
-                                         SideWindowCase{"frmDonation", kDonationWindow}),
+                         testing::Values(SideWindowCase{"frmSearch", Command::Search},
+                                         SideWindowCase{"frmAnagram", Command::Anagram},
+                                         SideWindowCase{"frmDataInfo", Command::DatabaseInfo},
+                                         SideWindowCase{"frmSmiley", Command::Smileys},
+                                         SideWindowCase{"frmAbout", Command::About},
+                                         SideWindowCase{"frmCheckData", Command::CheckData},
+                                         SideWindowCase{"frmDonation", Command::Donate}),
                          CaseName());
 
 TEST_F(Placing, TheSearchWindowIsCenteredExpandedAndShrunk) {
     MoveMain(200, 100);
-    Open(kSearchWindow, "frmSearch", [&] {
+    Open(Command::Search, "frmSearch", [&] {
         ExpectCentered("shrunk");
         Click("cmdExpandShrink");
         ExpectCentered("expanded");
     });
     const int expandedWindowsHeight = FrameOnScreen(*window_).height;
     MoveMain(120, 160);
-    Open(kSearchWindow, "frmSearch", [&] {
+    Open(Command::Search, "frmSearch", [&] {
         Click("cmdExpandShrink");
         ExpectCentered("the other size");
         Click("cmdCancel");
     });
-    Open(kSearchWindow, "frmSearch", [&] { ExpectCentered("reopened"); });
+    Open(Command::Search, "frmSearch", [&] { ExpectCentered("reopened"); });
     EXPECT_EQ(FrameOnScreen(*window_).height, expandedWindowsHeight);
 }
 

@@ -27,20 +27,17 @@ class StartUpTest : public testing::Test {
     frmMain* Run() { return startUp_.Run(Surroundings(messages_)); }
 
     StartUpSurroundings Surroundings(MessageSink& messages) {
-        return {messages,
+        return {{files_, desktop_, kProgramName, "",
+                 [this](const std::string& folder, const std::string& name, bool enable) {
+                     registered_.emplace_back(folder, name, enable);
+                     return true;
+                 }},
+                messages,
                 picker_,
-                files_,
-                desktop_,
-                kProgramName,
                 folder_.Text(),
-                "",
                 [this] {
                     clock_ += 1.234F;
                     return clock_;
-                },
-                [this](const std::string& folder, const std::string& name, bool enable) {
-                    registered_.emplace_back(folder, name, enable);
-                    return true;
                 }};
     }
 
@@ -141,7 +138,7 @@ TEST_F(StartUpTest, AnEmptyDatabaseOpensWithAnEmptyList) {
     ASSERT_NE(window, nullptr);
     window->Show();
     Settle(200);
-    window->GoToRecordNumber(1);
+    window->GoToRecordNumber(RecordNumber{1});
     EXPECT_EQ(window->List().SelectedRow(), -1);
     window->Destroy();
 }

@@ -10,7 +10,6 @@
 #include "tests/platform/screen.h"
 #include "tests/ui/cut_texts.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main/side_windows.h"
 
 namespace brelex {
 namespace {
@@ -40,16 +39,16 @@ TEST_F(TextSizes, TheMainWindowCutsNoText) {
 TEST_F(TextSizes, NoSideWindowCutsAText) {
     struct Opened {
         const char* name;
-        int number;
+        Command command;
     };
 
     for (const Opened& opened :
-         {Opened{"frmSearch", kSearchWindow}, Opened{"frmAnagram", kAnagramWindow},
-          Opened{"frmDataInfo", kDataInfoWindow}, Opened{"frmSmiley", kSmileyWindow},
-          Opened{"frmAbout", kAboutWindow}, Opened{"frmCheckData", kCheckDataWindow},
-          Opened{"frmDonation", kDonationWindow}}) {
+         {Opened{"frmSearch", Command::Search}, Opened{"frmAnagram", Command::Anagram},
+          Opened{"frmDataInfo", Command::DatabaseInfo}, Opened{"frmSmiley", Command::Smileys},
+          Opened{"frmAbout", Command::About}, Opened{"frmCheckData", Command::CheckData},
+          Opened{"frmDonation", Command::Donate}}) {
         InSideWindow(
-            opened.name, [&] { window_->OpenModalForm(opened.number); },
+            opened.name, [&] { window_->Run(opened.command); },
             [&] {
                 ExpectWhole(Side());
                 if (std::string(opened.name) == "frmSearch") {

@@ -71,7 +71,7 @@ class StayOnTopWithTray : public MainWindowWithTray {
     void SetUp() override {
         MainWindowWithTray::SetUp();
         if (window_ != nullptr) {
-            wxCommandEvent event(wxEVT_MENU, kOptionsItem);
+            wxCommandEvent event(wxEVT_MENU, IdOf(Command::StayOnTop));
             event.SetInt(1);
             window_->ProcessWindowEvent(event);
             ASSERT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
@@ -98,7 +98,7 @@ TEST_F(StayOnTopWithTray, HoldsWhenTheMenuOfTheIconBringsTheWindowBack) {
 
 TEST_F(StayOnTopWithTray, IsNotTakenUpBehindASideWindow) {
     ModalDriver driver({
-        [&] { return window_->IsModalOpen; },
+        [&] { return window_->IsModalOpen(); },
         [&] {
             window_->Hide();
             window_->Show();
@@ -113,7 +113,7 @@ TEST_F(StayOnTopWithTray, IsNotTakenUpBehindASideWindow) {
             return true;
         },
     });
-    window_->OpenModalForm(4);
+    window_->Run(Command::About);
     EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
 }
 
@@ -149,7 +149,7 @@ TEST_F(MainWindowWithTray, ClosingTheMenuDoesNothing) {
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
     Settle(100);
     EXPECT_TRUE(window_->IsShown());
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(MainWindowWithTray, ClosingTheWindowWhileTheMenuIsUpEndsBoth) {
@@ -175,7 +175,7 @@ TEST_F(MainWindowWithTray, ClosingTheWindowWhileTheMenuIsUpEndsBoth) {
 TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
     bool looked = false;
     ModalDriver driver({
-        [&] { return window_->IsModalOpen; },
+        [&] { return window_->IsModalOpen(); },
         [&] {
             user_.MouseMove(12, 12);
             user_.MouseClick(wxMOUSE_BTN_RIGHT);
@@ -190,12 +190,12 @@ TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
         },
         [&] {
             user_.Char(WXK_RETURN);
-            return !window_->IsModalOpen;
+            return !window_->IsModalOpen();
         },
     });
-    window_->OpenModalForm(4);
+    window_->Run(Command::About);
     EXPECT_TRUE(looked);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     EXPECT_TRUE(window_->IsShown());
 }
 

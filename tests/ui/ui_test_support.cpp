@@ -136,12 +136,15 @@ void MainWindowTest::StartWith(const std::string& databaseFile, const std::strin
     folder_.Write("Acronyms.dat", databaseFile);
     startUp_ = std::make_unique<StartUp>();
     window_ = startUp_->Run(
-        {messages_, picker_, files_, desktop_, "brevilexicon", folder_.Text(), commandLine,
-         [] { return 0.0F; },
-         [this](const std::string& /*folder*/, const std::string& /*name*/, bool enable) {
-             runAtStartup_.push_back(enable);
-             return runAtStartupWorks_;
-         }});
+        {{files_, desktop_, "brevilexicon", commandLine,
+          [this](const std::string& /*folder*/, const std::string& /*name*/, bool enable) {
+              runAtStartup_.push_back(enable);
+              return runAtStartupWorks_;
+          }},
+         messages_,
+         picker_,
+         folder_.Text(),
+         [] { return 0.0F; }});
     ASSERT_NE(window_, nullptr);
     window_->Show();
     GiveBoxTheKeyboard();

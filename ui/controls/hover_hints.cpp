@@ -19,7 +19,7 @@ void HoverHints::FitFont(const std::vector<wxString>& others) {
     for (const wxString& text : others) {
         widest = std::max(widest, label_.GetTextExtent(text).x);
     }
-    for (const Hint& hint : hints_) {
+    for (const ControlHint& hint : hints_) {
         widest = std::max(widest, label_.GetTextExtent(hint.text).x);
     }
     const int room = label_.GetSize().x;
@@ -45,7 +45,7 @@ void HoverHints::WatchAll(wxWindow& window) {
 void HoverHints::OnMotion(wxMouseEvent& event) {
     event.Skip();
     const wxPoint mouse = wxGetMousePosition();
-    const auto found = std::find_if(hints_.begin(), hints_.end(), [&](const Hint& hint) {
+    const auto found = std::find_if(hints_.begin(), hints_.end(), [&](const ControlHint& hint) {
         return hint.control.GetScreenRect().Contains(mouse);
     });
     const auto& controls = surface_.GetChildren();

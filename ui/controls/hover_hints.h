@@ -11,6 +11,12 @@ class wxWindow;
 
 namespace brelex {
 
+/// A control and what it is for.
+struct ControlHint {
+    const wxWindow& control;
+    wxString text;
+};
+
 /// Shows in a label what the control under the mouse is for.
 class HoverHints {
   public:
@@ -21,25 +27,20 @@ class HoverHints {
     HoverHints(const HoverHints&) = delete;
     HoverHints& operator=(const HoverHints&) = delete;
 
-    void Add(const wxWindow& control, const wxString& hint) { hints_.push_back({control, hint}); }
+    void Add(const ControlHint& hint) { hints_.push_back(hint); }
 
     /// Begins to follow the mouse. The label's font becomes smaller as far as the longest hint, or
     /// a text among `others` that is shown there too, needs it.
     void Watch(const std::vector<wxString>& others);
 
   private:
-    struct Hint {
-        const wxWindow& control;
-        wxString text;
-    };
-
     void FitFont(const std::vector<wxString>& others);
     void WatchAll(wxWindow& window);
     void OnMotion(wxMouseEvent& event);
 
     wxWindow& surface_;
     wxStaticText& label_;
-    std::vector<Hint> hints_;
+    std::vector<ControlHint> hints_;
 };
 
 }  // namespace brelex

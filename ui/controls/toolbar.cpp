@@ -22,11 +22,6 @@ constexpr double kMargin = 4;
 constexpr double kGap = 6;
 constexpr double kSeparatorWidth = 12;
 
-bool HasSeparatorBehind(std::size_t icon) {
-    return icon == kAnagramIcon || icon == kSmileyIcon || icon == kAboutIcon ||
-           icon == kDonationIcon;
-}
-
 // The one that went down or up.
 MouseButton ButtonOf(const wxMouseEvent& event) {
     switch (event.GetButton()) {
@@ -79,7 +74,7 @@ void Toolbar::PlaceIcons() {
                         .width = static_cast<double>(size),
                         .height = static_cast<double>(size)});
         x += size + px(kGap);
-        if (HasSeparatorBehind(i)) {
+        if (kToolbarIcons.at(i).endsGroup) {
             separators_.push_back(x + px(kSeparatorWidth - kGap) / 2 - 1);
             x += px(kSeparatorWidth);
         }
@@ -202,7 +197,7 @@ void Toolbar::Describe(int icon) {
 }
 
 void Toolbar::RunAction(int icon) {
-    events_.onAction(icon);
+    events_.onAction(kToolbarIcons.at(static_cast<std::size_t>(icon)).command);
 }
 
 }  // namespace brelex

@@ -13,10 +13,10 @@
 
 namespace brelex {
 
-/// What happens on the toolbar; icons are numbered from 0.
+/// What happens on the toolbar.
 struct ToolbarEvents {
-    std::function<void(int icon)> onHot;     ///< this icon is under the mouse; -1 for none
-    std::function<void(int icon)> onAction;  ///< this icon was chosen
+    std::function<void(int icon)> onHot;    ///< this icon (0-based) is under the mouse; -1 for none
+    std::function<void(Command)> onAction;  ///< the icon of this command was chosen
 };
 
 /// The toolbar `picToolbar`: flat icons in a row.

@@ -20,11 +20,6 @@ bool IsHelpKey(const wxEvent& event) {
     return key.GetKeyCode() == WXK_F1 && !key.HasAnyModifiers();
 }
 
-std::string NameOf(const wxWindow& window) {
-    const std::string name = Utf8Text(window.GetName());
-    return name.starts_with("frm") ? name : Utf8Text(window.GetLabel());
-}
-
 }  // namespace
 
 HelpKey::HelpKey(std::function<bool(const std::string&)> showHelp)
@@ -42,7 +37,8 @@ int HelpKey::FilterEvent(wxEvent& event) {
     }
     auto* const control = dynamic_cast<wxWindow*>(event.GetEventObject());
     wxWindow* const window = control == nullptr ? nullptr : wxGetTopLevelParent(control);
-    return window != nullptr && showHelp_(NameOf(*window)) ? Event_Processed : Event_Skip;
+    return window != nullptr && showHelp_(Utf8Text(window->GetName())) ? Event_Processed
+                                                                       : Event_Skip;
 }
 
 }  // namespace brelex

@@ -5,16 +5,19 @@
 
 #include <wx/menu.h>
 
+#include "presentation/commands.h"
+
 namespace brelex {
 
-/// Identifiers of the main window's menu items: the menu's first one plus the item's index
-/// (0-based, separators counted).
-inline constexpr int kFileItem = wxID_HIGHEST + 1;
-inline constexpr int kSearchItem = kFileItem + 10;
-inline constexpr int kOptionsItem = kSearchItem + 10;
-inline constexpr int kHelpItem = kOptionsItem + 10;
-inline constexpr int kListboxRClickItem = kHelpItem + 10;
-inline constexpr int kMenuIdEnd = kListboxRClickItem + 10;
+/// The identifier of a command's menu item.
+[[nodiscard]] constexpr int IdOf(Command command) {
+    return wxID_HIGHEST + 1 + static_cast<int>(command);
+}
+
+/// The command of a menu item with such an identifier.
+[[nodiscard]] constexpr Command CommandOf(int id) {
+    return static_cast<Command>(id - wxID_HIGHEST - 1);
+}
 
 /// The menu `mnuListboxRClick` of a row of the list.
 [[nodiscard]] std::unique_ptr<wxMenu> CreateListMenu();

@@ -9,7 +9,6 @@
 
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main/side_windows.h"
 
 namespace brelex {
 namespace {
@@ -77,7 +76,7 @@ TEST_F(TitleImageTest, IsWholeAndSharpInTheMainWindow) {
 
 TEST_F(TitleImageTest, IsWholeAndSharpInTheAboutBox) {
     InSideWindow(
-        "frmAbout", [&] { window_->OpenModalForm(kAboutWindow); },
+        "frmAbout", [&] { window_->Run(Command::About); },
         [&] {
             Settle(200);
             ExpectWholeAndSharp(In("picAppTitle"));

@@ -148,7 +148,7 @@ class ToolbarAction : public ToolbarWindowTest, public testing::WithParamInterfa
 
 TEST_P(ToolbarAction, OpensItsWindowOnRelease) {
     Press(GetParam().icon);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     EXPECT_EQ(NameOfOpened([&] { user_.MouseUp(); }, [&] { ExpectFlat(); }), GetParam().window);
 }
 
@@ -181,7 +181,7 @@ TEST_F(ToolbarWindowTest, APressThatIsDraggedOutOpensNothing) {
     EXPECT_FALSE(Bar().HasCapture());
     user_.MouseUp();
     Settle(150);
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
     ExpectFlat();
 }
 
@@ -203,7 +203,7 @@ TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
     user_.MouseUp(wxMOUSE_BTN_RIGHT);
     Settle(60);
     EXPECT_FALSE(Bar().HasCapture());
-    EXPECT_FALSE(window_->IsModalOpen);
+    EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {

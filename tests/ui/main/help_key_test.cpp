@@ -7,14 +7,13 @@
 
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
-#include "ui/main/side_windows.h"
 
 namespace brelex {
 namespace {
 
 struct HelpCase {
     const char* name;
-    int number;
+    Command command;
     const char* page;
 };
 
@@ -41,23 +40,23 @@ class HelpKeyInSideWindow : public HelpKeyTest, public testing::WithParamInterfa
 
 TEST_P(HelpKeyInSideWindow, ShowsItsPage) {
     InSideWindow(
-        GetParam().name, [&] { window_->OpenModalForm(GetParam().number); },
+        GetParam().name, [&] { window_->Run(GetParam().command); },
         [&] {
             ExpectHelpAt(GetParam().page);
             EXPECT_TRUE(Side().IsShown());
         });
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, HelpKeyInSideWindow,
-                         testing::Values(HelpCase{"frmSearch", kSearchWindow, "search.html"},
-                                         HelpCase{"frmAnagram", kAnagramWindow, "anagrams.html"},
-                                         HelpCase{"frmDataInfo", kDataInfoWindow, "info.html"},
-                                         HelpCase{"frmSmiley", kSmileyWindow, "smileys.html"},
-                                         HelpCase{"frmAbout", kAboutWindow, "about.html"},
-                                         HelpCase{"frmCheckData", kCheckDataWindow, "check.html"},
-                                         HelpCase{"frmDonation", kDonationWindow,
-                                                  "about.html#donate"}),
-                         CaseName());
+INSTANTIATE_TEST_SUITE_P(
+    Windows, HelpKeyInSideWindow,
+    testing::Values(HelpCase{"frmSearch", Command::Search, "search.html"},
+                    HelpCase{"frmAnagram", Command::Anagram, "anagrams.html"},
+                    HelpCase{"frmDataInfo", Command::DatabaseInfo, "info.html"},
+                    HelpCase{"frmSmiley", Command::Smileys, "smileys.html"},
+                    HelpCase{"frmAbout", Command::About, "about.html"},
+                    HelpCase{"frmCheckData", Command::CheckData, "check.html"},
+                    HelpCase{"frmDonation", Command::Donate, "about.html#donate"}),
+    CaseName());
 
 TEST_F(HelpKeyTest, InTheMainWindowShowsTheContents) {
     ExpectHelpAt("");
@@ -71,14 +70,14 @@ TEST_F(HelpKeyTest, InTheEntryViewerShowsItsPage) {
 
 TEST_F(HelpKeyTest, WhereARecordIsAskedForShowsThatPage) {
     InSideWindow(
-        "TextQuestion", [&] { window_->GoToRecordNumber(-1); },
+        "TextQuestion", [&] { window_->GoToRecordNumber(kAskForRecord); },
         [&] { ExpectHelpAt("lookup.html#goto"); });
 }
 
 TEST_F(HelpKeyTest, HelpThatIsMissingIsToldOverTheSideWindow) {
     std::filesystem::remove(folder_.Text() + "Brelex.hlp");
     InSideWindow(
-        "frmAbout", [&] { window_->OpenModalForm(kAboutWindow); },
+        "frmAbout", [&] { window_->Run(Command::About); },
         [&] {
             const MessageBoxes boxes;
             user_.Char(WXK_F1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ui/main/tray_behaviour.h"
+#include "presentation/tray_behaviour.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,7 @@ class FakeOwner final : public TrayOwner {
   public:
     [[nodiscard]] bool IsWindowVisible() const override { return visible; }
 
-    [[nodiscard]] bool IsWindowMinimised() const override { return !visible; }
+    [[nodiscard]] bool IsWindowMinimized() const override { return !visible; }
 
     [[nodiscard]] bool IsModalWindowOpen() const override { return modal; }
 
@@ -30,30 +31,20 @@ class FakeOwner final : public TrayOwner {
         }
     }
 
-    void MinimiseWindow() override {
+    void MinimizeWindow() override {
         visible = false;
-        calls.emplace_back("minimise");
+        calls.emplace_back("minimize");
     }
-
-    void OpenModalForm(int number) override { calls.push_back("open " + std::to_string(number)); }
-
-    void Exit() override { calls.emplace_back("exit"); }
-
-    bool visible = true;
-    bool modal = false;
-    std::function<void()> whileActivating;
-    std::vector<std::string> calls;
-};
-
-class FakeIcon final : public TrayIcon {
-  public:
-    [[nodiscard]] bool IsShown() const override { return true; }
 
     void PopUpMenu() override { ++menus; }
 
-    void MenuChanged() override {}
+    void Run(Command command) override { calls.emplace_back(SpecOf(command).caption); }
 
+    bool visible = true;
+    bool modal = false;
     int menus = 0;
+    std::function<void()> whileActivating;
+    std::vector<std::string> calls;
 };
 
 class TrayBehaviourTest : public testing::Test {
@@ -63,13 +54,12 @@ class TrayBehaviourTest : public testing::Test {
     [[nodiscard]] std::vector<std::string> Captions() const {
         std::vector<std::string> captions;
         for (const TrayMenuItem& item : tray_.Menu()) {
-            captions.push_back(item.caption);
+            captions.push_back(item.command ? item.caption : "-");
         }
         return captions;
     }
 
     FakeOwner owner_;
-    FakeIcon icon_;
     TrayBehaviour tray_{owner_};
 };
 
@@ -85,35 +75,34 @@ TEST_F(TrayBehaviourTest, ALeftReleaseActivatesAVisibleWindow) {
 }
 
 TEST_F(TrayBehaviourTest, ARightReleaseActivatesAVisibleWindowAndShowsTheMenu) {
-    tray_.OnRightRelease(icon_);
+    tray_.OnRightRelease();
     EXPECT_EQ(owner_.calls, Calls{"activate"});
-    EXPECT_EQ(icon_.menus, 1);
+    EXPECT_EQ(owner_.menus, 1);
 }
 
 TEST_F(TrayBehaviourTest, ARightReleaseLeavesAHiddenWindowHidden) {
     owner_.visible = false;
-    tray_.OnRightRelease(icon_);
+    tray_.OnRightRelease();
     EXPECT_EQ(owner_.calls, Calls());
-    EXPECT_EQ(icon_.menus, 1);
+    EXPECT_EQ(owner_.menus, 1);
 }
 
 TEST_F(TrayBehaviourTest, WithAModalWindowOpenThereIsNoMenu) {
     owner_.modal = true;
-    tray_.OnRightRelease(icon_);
+    tray_.OnRightRelease();
     EXPECT_EQ(owner_.calls, Calls{"activate"});
-    EXPECT_EQ(icon_.menus, 0);
-    tray_.OnMenuItem(0);
+    EXPECT_EQ(owner_.menus, 0);
+    tray_.OnMenuItem(Command::Search);
+    tray_.OnMenuItem(Command::MinimizeOrRestore);
     EXPECT_EQ(owner_.calls, Calls{"activate"});
 }
 
 TEST_F(TrayBehaviourTest, WithAModalWindowOpenTheItemsAreDisabled) {
-    const auto isEnabled = [&](int index) {
-        return tray_.Menu()[static_cast<std::size_t>(index)].enabled;
-    };
-    EXPECT_TRUE(isEnabled(2));
-    owner_.modal = true;
-    for (const int index : {0, 1, 2, 4}) {
-        EXPECT_FALSE(isEnabled(index)) << index;
+    for (const bool modal : {false, true}) {
+        owner_.modal = modal;
+        for (const TrayMenuItem& item : tray_.Menu()) {
+            EXPECT_NE(item.enabled, modal) << item.caption;
+        }
     }
 }
 
@@ -121,15 +110,15 @@ TEST_F(TrayBehaviourTest, AReleaseWithinAReleaseIsIgnored) {
     owner_.whileActivating = [&] {
         EXPECT_TRUE(tray_.IsTrayBusy);
         tray_.OnLeftRelease();
-        tray_.OnRightRelease(icon_);
+        tray_.OnRightRelease();
     };
     tray_.OnLeftRelease();
     EXPECT_EQ(owner_.calls, Calls{"activate"});
-    EXPECT_EQ(icon_.menus, 0);
+    EXPECT_EQ(owner_.menus, 0);
     EXPECT_FALSE(tray_.IsTrayBusy);
     owner_.whileActivating = nullptr;
-    tray_.OnRightRelease(icon_);
-    EXPECT_EQ(icon_.menus, 1);
+    tray_.OnRightRelease();
+    EXPECT_EQ(owner_.menus, 1);
 }
 
 TEST_F(TrayBehaviourTest, TheMenuNamesWhatItDoesToTheWindow) {
@@ -141,10 +130,20 @@ TEST_F(TrayBehaviourTest, TheMenuNamesWhatItDoesToTheWindow) {
 }
 
 TEST_F(TrayBehaviourTest, TheItemsDoWhatTheySay) {
-    for (const int index : {0, 1, 2, 2, 3, 4, 5, -1}) {
-        tray_.OnMenuItem(index);
+    for (const TrayMenuItem& item : tray_.Menu()) {
+        if (item.command) {
+            tray_.OnMenuItem(*item.command);
+        }
     }
-    EXPECT_EQ(owner_.calls, (Calls{"open 0", "open 4", "minimise", "restore", "exit"}));
+    EXPECT_EQ(owner_.calls, (Calls{SpecOf(Command::Search).caption, SpecOf(Command::About).caption,
+                                   "minimize", SpecOf(Command::Exit).caption}));
+}
+
+TEST_F(TrayBehaviourTest, OneItemMinimizesTheWindowAndRestoresIt) {
+    tray_.OnMenuItem(Command::MinimizeOrRestore);
+    EXPECT_FALSE(owner_.visible);
+    tray_.OnMenuItem(Command::MinimizeOrRestore);
+    EXPECT_EQ(owner_.calls, (Calls{"minimize", "restore"}));
 }
 
 }  // namespace

@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
-#include "platform/desktop/modSysTray.h"
+#include "presentation/commands.h"
 
 namespace brelex {
+
+/// An item of the icon's menu.
+struct TrayMenuItem {
+    std::optional<Command> command;  ///< a separator has none
+    std::string caption;             ///< "&" stands before the access key
+    bool enabled = true;
+};
 
 /// The main window as its icon in the notification area sees it.
 class TrayOwner {
@@ -16,22 +25,22 @@ class TrayOwner {
     virtual ~TrayOwner() = default;
 
     [[nodiscard]] virtual bool IsWindowVisible() const = 0;
-    [[nodiscard]] virtual bool IsWindowMinimised() const = 0;
+    [[nodiscard]] virtual bool IsWindowMinimized() const = 0;
     [[nodiscard]] virtual bool IsModalWindowOpen() const = 0;
 
-    /// Shows the window, hidden or minimised, in front of the others.
+    /// Shows the window, hidden or minimized, in front of the others.
     virtual void RestoreWindow() = 0;
 
     /// Brings the program's visible window, or what stands modally over it, to the front.
     virtual void ActivateWindow() = 0;
 
-    virtual void MinimiseWindow() = 0;
+    virtual void MinimizeWindow() = 0;
 
-    /// Opens a side window (a number of side_windows.h) modally.
-    virtual void OpenModalForm(int number) = 0;
+    /// Shows the icon's menu.
+    virtual void PopUpMenu() = 0;
 
-    /// Unloads the main window.
-    virtual void Exit() = 0;
+    /// Does what a command of the menu, other than MinimizeOrRestore, says.
+    virtual void Run(Command command) = 0;
 };
 
 /// What the icon does: a left click brings the window back, a right click shows a menu.
@@ -42,15 +51,14 @@ class TrayBehaviour {
     /// The left button was released on the icon.
     void OnLeftRelease();
 
-    /// The right button was released on the icon: `icon` shows the menu, unless a modal window is
-    /// open.
-    void OnRightRelease(TrayIcon& icon);
+    /// The right button was released on the icon: the menu is shown, unless a modal window is open.
+    void OnRightRelease();
 
     /// The menu `mnuSysTrayMenu` as it has to look now; all disabled while a modal window is open.
     [[nodiscard]] std::vector<TrayMenuItem> Menu() const;
 
-    /// Does what the item of the menu (0-based, the separator counted) says.
-    void OnMenuItem(int index);
+    /// An item of the menu was chosen.
+    void OnMenuItem(Command command);
 
     bool IsTrayBusy = false;  ///< a release is being handled; another one is ignored
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/text_question.h"
+#include "ui/main/text_question.h"
 
 #include <wx/display.h>
 #include <wx/sizer.h>

@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/lookup_panel.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/toplevel.h>
+#include <wx/utils.h>
+
+#include "platform/window/accessible_name.h"
+#include "toolkit/wx_text.h"
+#include "ui/controls/access_keys.h"
+#include "ui/controls/backdrop.h"
+#include "ui/controls/column_header.h"
+#include "ui/controls/text_entry.h"
+#include "ui/main/text_question.h"
+
+namespace brelex {
+
+namespace {
+
+constexpr int kFewestRows = 6;
+
+std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
+    switch (keyCode) {
+        case WXK_RETURN:
+        case WXK_NUMPAD_ENTER:
+            return NavigationKey::Enter;
+        case WXK_DOWN:
+        case WXK_NUMPAD_DOWN:
+            return NavigationKey::Down;
+        case WXK_UP:
+        case WXK_NUMPAD_UP:
+            return NavigationKey::Up;
+        case WXK_PAGEUP:
+        case WXK_NUMPAD_PAGEUP:
+            return NavigationKey::PageUp;
+        case WXK_PAGEDOWN:
+        case WXK_NUMPAD_PAGEDOWN:
+            return NavigationKey::PageDown;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+// The box stands directly behind the instruction, whose access key leads to it.
+LookupPanel::LookupPanel(wxWindow& surface, const LayoutUnits& units, const ProgramValues& values,
+                         LookupPanelEvents events)
+    : window_(dynamic_cast<wxTopLevelWindow&>(*wxGetTopLevelParent(&surface))),
+      units_(units),
+      events_(std::move(events)),
+      messages_(&window_),
+      lookup_(values, *this, messages_),
+      lblInstruction(new wxStaticText(
+          &surface, wxID_ANY,
+          "&Type the first few letters of the acronym/abbreviation you are looking for:")),
+      txtAbbrv(new wxTextCtrl(&surface, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                              wxTE_PROCESS_ENTER)),
+      lblColHeaderBack(new Backdrop(&surface)),
+      picColHeader(new ColumnHeader(lblColHeaderBack, units)),
+      lstAcronyms(&CreateEntryListControl(surface, units.Pixels(kExpansionTextAt))) {
+    NameControls();
+    lstAcronyms->SetRows(*values.AcronymList);
+    SetMaxBoxLength(static_cast<std::size_t>(std::max(values.Header.MaxAbbrvLength, 0)));
+    LeadAccessKeysTo(window_, {{lblInstruction, txtAbbrv}});
+    BindBox();
+    BindList();
+}
+
+void LookupPanel::NameControls() {
+    lblInstruction->SetName("lblInstruction");
+    lblColHeaderBack->SetName("lblColHeaderBack");
+    SetNames(*txtAbbrv, "txtAbbrv", "First letters of the abbreviation");
+    SetNames(lstAcronyms->Window(), "lstAcronyms", "Entries");
+}
+
+void LookupPanel::BindBox() {
+    txtAbbrv->Bind(wxEVT_TEXT, &LookupPanel::OnBoxText, this);
+    txtAbbrv->Bind(wxEVT_KEY_DOWN, &LookupPanel::OnBoxKeyDown, this);
+    TypeInCapitals(*txtAbbrv, *txtAbbrv);
+    SelectAllOnCtrlA(*txtAbbrv, *txtAbbrv);
+    txtAbbrv->Bind(wxEVT_SET_FOCUS, &LookupPanel::OnBoxFocus, this);
+    txtAbbrv->Bind(wxEVT_TEXT_PASTE, &LookupPanel::OnBoxPaste, this);
+}
+
+void LookupPanel::BindList() {
+    lstAcronyms->onClick = [this](std::int32_t row) { lookup_.OnListClick(row); };
+    lstAcronyms->onEnter = [this] { events_.onEntryChosen(); };
+    lstAcronyms->onRightPress = [this](std::int32_t row) { ShowMenuAtMouse(row); };
+    lstAcronyms->onMenuKey = [this] { ShowMenuAtRow(); };
+    lstAcronyms->onGotFocus = [this] { lookup_.OnListGotFocus(); };
+    lstAcronyms->onLostFocus = [this] { lookup_.OnListLostFocus(); };
+    picColHeader->Bind(wxEVT_LEFT_DOWN,
+                       [this](wxMouseEvent&) { lstAcronyms->Window().SetFocus(); });
+}
+
+int LookupPanel::InstructionWidth() const {
+    return lblInstruction->GetBestSize().x;
+}
+
+int LookupPanel::PlaceBox(int left, int top, int width) {
+    if (InstructionWidth() > width) {
+        lblInstruction->Wrap(width);
+    }
+    const int instructionHeight = lblInstruction->GetBestSize().y;
+    lblInstruction->SetSize(left, top, width, instructionHeight);
+    const int boxTop = top + instructionHeight + units_.Pixels(3);
+    // The toolkit's best height does not always follow a large font (seen with GTK 3.24).
+    const int boxHeight =
+        std::max(txtAbbrv->GetBestSize().y, txtAbbrv->GetCharHeight() + units_.Pixels(11));
+    txtAbbrv->SetSize(left, boxTop, width, boxHeight);
+    return boxTop + boxHeight;
+}
+
+int LookupPanel::PlaceList(int left, int top, int width, int bottom) {
+    const int listTop = top + units_.Pixels(kColumnHeaderHeight);
+    const int rows = std::max(lstAcronyms->RowsIn(bottom - listTop), kFewestRows);
+    const int height = lstAcronyms->HeightOfRows(rows);
+    lstAcronyms->Window().SetSize(left, listTop, width, height);
+    DrawColumnHeader();
+    return listTop + height;
+}
+
+void LookupPanel::DrawColumnHeader() {
+    const wxRect list = lstAcronyms->Window().GetRect();
+    const int height = units_.Pixels(kColumnHeaderHeight);
+    lblColHeaderBack->SetSize(list.x, list.y - height, list.width, height);
+    picColHeader->SetSize(0, 0, list.width, height);
+}
+
+void LookupPanel::GiveBoxTheFocus() {
+    txtAbbrv->SetFocus();
+}
+
+void LookupPanel::GoToRecordNumber(RecordNumber nRecordNumber) {
+    FlushBoxChange();
+    lookup_.GoToRecordNumber(nRecordNumber);
+}
+
+std::vector<ControlHint> LookupPanel::Hints() const {
+    const char* const listHint =
+        "Press Carriage Return or double-click an entry in the list to view it";
+    return {{*txtAbbrv, "Type here the acronym/abbreviation you are looking for"},
+            {lstAcronyms->Window(), listHint},
+            {*picColHeader, listHint}};
+}
+
+// One edit is one change: overtyping a selection deletes and inserts, and on GTK that is reported
+// twice. So a change waits until the toolkit is done with the edit, but never beyond the next key.
+void LookupPanel::OnBoxText(wxCommandEvent& /*event*/) {
+    if (!std::exchange(boxChangePending_, true)) {
+        txtAbbrv->CallAfter([this] { FlushBoxChange(); });
+    }
+}
+
+void LookupPanel::FlushBoxChange() {
+    if (std::exchange(boxChangePending_, false)) {
+        lookup_.OnBoxChanged(Utf8Text(txtAbbrv->GetValue()));
+    }
+}
+
+void LookupPanel::OnBoxKeyDown(wxKeyEvent& event) {
+    FlushBoxChange();
+    const auto key = NavigationKeyOf(event.GetKeyCode());
+    if (!key) {
+        event.Skip();
+    } else if (*key == NavigationKey::Enter && event.HasAnyModifiers()) {
+        MoveCaretToEnd();  // the list opens no entry then
+    } else {
+        lookup_.OnBoxKeyDown(*key);
+    }
+}
+
+void LookupPanel::OnBoxFocus(wxFocusEvent& event) {
+    if (!std::exchange(caretStays_, false)) {
+        // After the toolkit has placed the caret where the mouse was pressed.
+        txtAbbrv->CallAfter([this] { txtAbbrv->SelectAll(); });
+    }
+    event.Skip();
+}
+
+void LookupPanel::SetMaxBoxLength(std::size_t length) {
+    maxBoxLength_ = length;
+    txtAbbrv->SetMaxLength(static_cast<unsigned long>(length));
+}
+
+void LookupPanel::OnBoxPaste(wxClipboardTextEvent& event) {
+    event.Skip(!PasteWhatFits(*txtAbbrv, maxBoxLength_));
+}
+
+// Where the mouse is the row is seen, and must stay under it.
+void LookupPanel::ShowMenuAtMouse(std::int32_t row) {
+    lstAcronyms->SelectRow(row);
+    ShowMenuAt(wxDefaultPosition);
+}
+
+void LookupPanel::ShowMenuAtRow() {
+    const std::int32_t row = SelectedRow();
+    lstAcronyms->SelectRow(row, Scrolling::IntoSight);
+    const wxWindow& list = lstAcronyms->Window();
+    const wxPoint place = lstAcronyms->RowRect(row).GetBottomLeft() + wxPoint(list.FromDIP(16), 0);
+    ShowMenuAt(list.ClientToScreen(place));
+}
+
+// When the toolkit is done with what asked for the menu, and the list has the focus; once, however
+// often it was asked for until then.
+void LookupPanel::ShowMenuAt(const wxPoint& place) {
+    lstAcronyms->Window().SetFocus();
+    if (!std::exchange(menuPending_, true)) {
+        lstAcronyms->Window().CallAfter([this, place] {
+            menuPending_ = false;
+            lookup_.OnListMenu(SelectedRow());
+            events_.onMenuWanted(place);
+        });
+    }
+}
+
+std::int32_t LookupPanel::SelectedRow() const {
+    return lstAcronyms->SelectedRow();
+}
+
+void LookupPanel::SelectRow(std::int32_t row, Scrolling scrolling) {
+    lstAcronyms->SelectRow(row, scrolling);
+}
+
+void LookupPanel::SendKeyToList(NavigationKey key) {
+    lstAcronyms->SendKey(key);
+}
+
+void LookupPanel::SetBoxText(const std::string& text) {
+    const wxString shown = WxText(text);
+    if (shown.length() > maxBoxLength_) {
+        // A damaged header may say less than its abbreviations have. GTK would show nothing then.
+        SetMaxBoxLength(shown.length());
+    }
+    txtAbbrv->ChangeValue(shown);
+}
+
+void LookupPanel::MoveCaretToEnd() {
+    txtAbbrv->SetInsertionPointEnd();
+}
+
+void LookupPanel::SetRecordNumberText(const std::string& text) {
+    events_.onNumberChanged(WxText(text));
+}
+
+std::string LookupPanel::AskText(const std::string& title, const std::string& prompt,
+                                 const std::string& defaultText) {
+    // The box gets the focus back with its caret where it is put meanwhile.
+    caretStays_ = txtAbbrv->HasFocus();
+    TextQuestion dialog(&window_, WxText(title), WxText(prompt), WxText(defaultText));
+    return dialog.ShowModal() == wxID_OK ? Utf8Text(dialog.GetValue()) : std::string();
+}
+
+}  // namespace brelex

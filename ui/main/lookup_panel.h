@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "lookup/lookup_box.h"
+#include "platform/desktop/wx_message_sink.h"
+#include "platform/list/entry_list_control.h"
+#include "ui/controls/hover_hints.h"
+#include "ui/controls/layout_units.h"
+
+class wxClipboardTextEvent;
+class wxCommandEvent;
+class wxFocusEvent;
+class wxKeyEvent;
+class wxPoint;
+class wxStaticText;
+class wxString;
+class wxTextCtrl;
+class wxTopLevelWindow;
+class wxWindow;
+
+namespace brelex {
+
+class ColumnHeader;
+
+/// What the look-up asks of the window that it is part of.
+struct LookupPanelEvents {
+    std::function<void()> onEntryChosen;  ///< the selected entry is to be opened
+
+    /// The number of the selected entry as it is to be shown.
+    std::function<void(const wxString&)> onNumberChanged;
+
+    /// The menu of the selected entry is to be shown, at a place on the screen or, with
+    /// wxDefaultPosition, at the mouse.
+    std::function<void(const wxPoint&)> onMenuWanted;
+};
+
+/// The look-up box with its instruction, and the list of entries under its header.
+class LookupPanel final : private LookupView {
+  public:
+    /// Makes the controls on `surface`, which must go before this. The entries of `values` are
+    /// loaded; `values` and `units` must outlive this.
+    LookupPanel(wxWindow& surface, const LayoutUnits& units, const ProgramValues& values,
+                LookupPanelEvents events);
+    LookupPanel(const LookupPanel&) = delete;
+    LookupPanel& operator=(const LookupPanel&) = delete;
+    ~LookupPanel() override = default;
+
+    /// The width in pixels of the instruction in one line.
+    [[nodiscard]] int InstructionWidth() const;
+
+    /// Places the box under its instruction, which takes as many lines as it needs. All in pixels
+    /// of the surface; returns the lower edge.
+    int PlaceBox(int left, int top, int width);
+
+    /// Places the list with its header between `top` and `bottom`, but shows some rows at least,
+    /// and none in part. Returns the lower edge.
+    int PlaceList(int left, int top, int width, int bottom);
+
+    void GiveBoxTheFocus();
+
+    /// See LookupBox::GoToRecordNumber. What is asked and told is modal.
+    void GoToRecordNumber(RecordNumber nRecordNumber);
+
+    /// The selected row (0-based), -1 if there is none.
+    [[nodiscard]] std::int32_t SelectedRow() const override;
+
+    /// The behavior of the look-up; its fields are the window's state.
+    [[nodiscard]] LookupBox& Behavior() { return lookup_; }
+
+    [[nodiscard]] EntryListControl& List() { return *lstAcronyms; }
+
+    /// What the controls are for.
+    [[nodiscard]] std::vector<ControlHint> Hints() const;
+
+  private:
+    void NameControls();
+    void BindBox();
+    void BindList();
+    void DrawColumnHeader();
+    void SetMaxBoxLength(std::size_t length);
+
+    void OnBoxText(wxCommandEvent& event);
+    void OnBoxKeyDown(wxKeyEvent& event);
+    void OnBoxFocus(wxFocusEvent& event);
+    void OnBoxPaste(wxClipboardTextEvent& event);
+    void ShowMenuAtMouse(std::int32_t row);
+    void ShowMenuAtRow();
+    void ShowMenuAt(const wxPoint& place);
+
+    /// Passes a pending change of the box's text on to the look-up.
+    void FlushBoxChange();
+
+    void SelectRow(std::int32_t row, Scrolling scrolling) override;
+    void SendKeyToList(NavigationKey key) override;
+    void SetBoxText(const std::string& text) override;
+    void MoveCaretToEnd() override;
+    void SetRecordNumberText(const std::string& text) override;
+    std::string AskText(const std::string& title, const std::string& prompt,
+                        const std::string& defaultText) override;
+
+    wxTopLevelWindow& window_;
+    const LayoutUnits& units_;
+    LookupPanelEvents events_;
+    WxMessageSink messages_;
+    LookupBox lookup_;
+    std::size_t maxBoxLength_ = 0;
+    bool boxChangePending_ = false;
+    bool menuPending_ = false;
+    bool caretStays_ = false;  // getting the focus next time selects nothing
+
+    wxStaticText* lblInstruction;
+    wxTextCtrl* txtAbbrv;
+    wxWindow* lblColHeaderBack;
+    ColumnHeader* picColHeader;
+    EntryListControl* lstAcronyms;
+};
+
+}  // namespace brelex

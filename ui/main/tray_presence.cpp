@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "ui/main/tray_presence.h"
+
+#include <utility>
+
+#include <wx/frame.h>
+
+#include "base/app_info.h"
+#include "platform/window/bring_forward.h"
+#include "toolkit/app_icon.h"
+
+namespace brelex {
+
+TrayPresence::TrayPresence(wxFrame& window, TrayPresenceEvents events)
+    : window_(window),
+      events_(std::move(events)),
+      behaviour_(*this),
+      hotKey_(window, [this] { ActivateWindow(); }),
+      icon_(AddTrayIcon(AppIcons(), kAppTitle, EventsOfIcon())) {
+    window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
+    window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
+    window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
+}
+
+// The window still tells of much while it goes.
+TrayPresence::~TrayPresence() {
+    window_.Unbind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
+    window_.Unbind(wxEVT_SHOW, &TrayPresence::OnShow, this);
+    window_.Unbind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
+}
+
+TrayEvents TrayPresence::EventsOfIcon() {
+    TrayEvents events;
+    events.onLeftRelease = [this] { behaviour_.OnLeftRelease(); };
+    events.onRightRelease = [this] { behaviour_.OnRightRelease(); };
+    events.menu = [this] { return behaviour_.Menu(); };
+    // When the menu, and the desktop that may have sent this, are done with it: it can end the
+    // program.
+    events.onMenuItem = [this](Command command) {
+        window_.CallAfter([this, command] { behaviour_.OnMenuItem(command); });
+    };
+    // A program that starts with the session is often there before the panel is.
+    events.onShown = [this] {
+        if (window_.IsShown() && window_.IsIconized()) {
+            window_.Hide();
+        }
+    };
+    events.onGone = [this] {
+        // A window that nothing could bring back must not stay hidden.
+        if (!window_.IsShown()) {
+            window_.Iconize();
+            window_.Show();
+        }
+    };
+    return events;
+}
+
+void TrayPresence::MinimizeWindow() {
+    window_.Iconize();
+    // Wayland does not tell of a minimized window.
+    if (HasIcon()) {
+        window_.Hide();
+    }
+}
+
+void TrayPresence::MenuChanged() {
+    if (icon_ != nullptr) {
+        icon_->MenuChanged();
+    }
+}
+
+void TrayPresence::Remove() {
+    RemoveTrayIcon(icon_);
+}
+
+bool TrayPresence::HasIcon() const {
+    return icon_ != nullptr && icon_->IsShown();
+}
+
+// Minimizing hides the window into its icon. Without an icon on the screen it only minimizes, as
+// nothing could bring it back.
+void TrayPresence::OnIconize(wxIconizeEvent& event) {
+    if (event.IsIconized() && HasIcon()) {
+        window_.Hide();
+    }
+    MenuChanged();
+    event.Skip();
+}
+
+// Windows restores the window itself for the hot key. The toolkit takes no notice of that, and
+// would not tell of the window's being minimized any more.
+void TrayPresence::OnShow(wxShowEvent& event) {
+    if (event.IsShown()) {
+        CatchUpWithSystem();
+    }
+    MenuChanged();
+    event.Skip();
+}
+
+void TrayPresence::OnActivate(wxActivateEvent& event) {
+    if (event.GetActive()) {
+        CatchUpWithSystem();
+    }
+    event.Skip();
+}
+
+void TrayPresence::CatchUpWithSystem() {
+    window_.CallAfter([this] {
+        if (!window_.IsShown() && SystemShows(window_)) {
+            RestoreWindow();
+        }
+    });
+}
+
+bool TrayPresence::IsWindowVisible() const {
+    return window_.IsShown();
+}
+
+bool TrayPresence::IsWindowMinimized() const {
+    return window_.IsIconized() || !window_.IsShown();
+}
+
+bool TrayPresence::IsModalWindowOpen() const {
+    return events_.isModalOpen();
+}
+
+void TrayPresence::RestoreWindow() {
+    BringForward(window_);
+}
+
+void TrayPresence::ActivateWindow() {
+    BringForward(window_);
+    events_.raiseModal();
+}
+
+void TrayPresence::PopUpMenu() {
+    icon_->PopUpMenu();
+}
+
+void TrayPresence::Run(Command command) {
+    events_.onCommand(command);
+}
+
+}  // namespace brelex
