@@ -237,7 +237,11 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
 }
 
 void frmAnagram::ShowBusy(bool busy) {
-    busy ? heldEnter_->SearchBegins() : heldEnter_->SearchEnds();
+    if (busy) {
+        heldEnter_->SearchBegins();
+    } else {
+        heldEnter_->SearchEnds();
+    }
     for (wxWindow* control :
          std::initializer_list<wxWindow*>{cboLetters, cmdCancel, &lstAnagrams->Window()}) {
         control->Enable(!busy);

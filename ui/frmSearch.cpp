@@ -392,16 +392,12 @@ void frmSearch::ShowBusyAnimation(bool on) {
 }
 
 void frmSearch::MoveFocus(SearchFocus focus) {
-    switch (focus) {
-        case SearchFocus::SearchText:
-            cboSearchWhat->SetFocus();
-            break;
-        case SearchFocus::Result:
-            txtSearchResult->SetFocus();
-            break;
-        case SearchFocus::StopButton:
-            cmdCancel->SetFocus();
-            break;
+    if (focus == SearchFocus::SearchText) {
+        cboSearchWhat->SetFocus();
+    } else if (focus == SearchFocus::Result) {
+        txtSearchResult->SetFocus();
+    } else {
+        cmdCancel->SetFocus();
     }
 }
 

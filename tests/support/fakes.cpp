@@ -10,6 +10,9 @@ namespace brelex {
 
 MessageAnswer FakeMessageSink::Show(const Message& message) {
     shown.push_back(message);
+    if (behind) {
+        behind();
+    }
     if (message.buttons == MessageButtons::Ok) {
         return MessageAnswer::Ok;
     }

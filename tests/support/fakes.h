@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,6 +23,7 @@ class FakeMessageSink final : public MessageSink {
   public:
     MessageAnswer Show(const Message& message) override;
 
+    std::function<void()> behind;  ///< called while a message is up, if there is something
     std::vector<Message> shown;
     std::deque<MessageAnswer> answers;
 };
