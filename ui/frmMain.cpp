@@ -210,7 +210,7 @@ std::string_view frmMain::SelectedEntry() const {
 }
 
 void frmMain::PopUpListMenu(const wxPoint& place) {
-    if (!IsBeingDeleted() && !IsModalOpen()) {
+    if (!wxTheApp->IsScheduledForDestruction(this) && !IsModalOpen()) {
         PopupMenu(CreateListMenu().get(),
                   place == wxDefaultPosition ? place : ScreenToClient(place));
     }
