@@ -2,6 +2,8 @@
 // The icon in a real notification area, which stands in the upper left corner of the display.
 #include <cstdlib>
 #include <functional>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -37,15 +39,23 @@ class MainWindowWithTray : public MainWindowTest {
         user_.MouseClick(button);
     }
 
-    // Opens the icon's menu, presses the access key of an item there and waits for what it does.
+    [[nodiscard]] static bool IsMenuUp() { return !MenuOnScreen().IsEmpty(); }
+
+    // Opens the icon's menu and takes the steps when it is up.
+    void InMenu(const std::vector<std::function<bool()>>& steps) {
+        std::vector<std::function<bool()>> all = {[] { return IsMenuUp(); }};
+        all.insert(all.end(), steps.begin(), steps.end());
+        ModalDriver driver(all);
+        ClickIcon(wxMOUSE_BTN_RIGHT);
+        EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+    }
+
+    // Presses the access key of an item of the icon's menu and waits for what it does.
     bool ChooseInMenu(char key, const std::function<bool()>& isDone) {
-        ModalDriver driver({[&] {
+        InMenu({[&] {
             user_.Char(key);
             return true;
         }});
-        driver.Stop();
-        ClickIcon(wxMOUSE_BTN_RIGHT);
-        driver.Start(400);
         return isDone();
     }
 
@@ -137,39 +147,28 @@ TEST_F(MainWindowWithTray, TheMenusMinimizeItemHidesTheWindow) {
 }
 
 TEST_F(MainWindowWithTray, ClosingTheMenuDoesNothing) {
-    ModalDriver driver({
-        [&] {
-            user_.Char(WXK_ESCAPE);
-            return true;
-        },
-    });
-    driver.Stop();
-    ClickIcon(wxMOUSE_BTN_RIGHT);
-    driver.Start(400);
-    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
+    InMenu({[&] {
+        user_.Char(WXK_ESCAPE);
+        return true;
+    }});
+    EXPECT_TRUE(WaitFor([&] { return !IsMenuUp(); }));
     Settle(100);
     EXPECT_TRUE(window_->IsShown());
     EXPECT_FALSE(window_->IsModalOpen());
 }
 
 TEST_F(MainWindowWithTray, ClosingTheWindowWhileTheMenuIsUpEndsBoth) {
-    ModalDriver driver({
-        [&] {
-            window_->Close();
-            return true;
-        },
-        [&] {
-            user_.Char(WXK_ESCAPE);
-            return true;
-        },
-    });
-    driver.Stop();
-    ClickIcon(wxMOUSE_BTN_RIGHT);
-    frmMain* const window = window_;
-    driver.Start(400);
+    frmMain* const window = std::exchange(window_, nullptr);
+    InMenu({[&] {
+                window->Close();
+                return true;
+            },
+            [&] {
+                user_.Char(WXK_ESCAPE);
+                return true;
+            }});
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
-    window_ = nullptr;
-    WaitFor([&] { return driver.Done(); });
+    EXPECT_TRUE(WaitFor([&] { return !IsMenuUp(); }));
 }
 
 TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
@@ -184,6 +183,7 @@ TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
         [&] {
             // Were there a menu, this key would choose its item and hide the window.
             Settle(400);
+            EXPECT_FALSE(IsMenuUp());
             user_.Char('M');
             looked = true;
             return true;
