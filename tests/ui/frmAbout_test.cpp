@@ -10,6 +10,7 @@
 
 #include <wx/button.h>
 #include <wx/stattext.h>
+#include <wx/utils.h>
 
 #include "presentation/moving_text.h"
 #include "presentation/program_texts.h"
@@ -46,7 +47,15 @@ class AboutTest : public SideWindowTest {
 
     void MoveTo(const wxPoint& place) {
         user_.MouseMove(place);
-        Settle(50);
+        EXPECT_TRUE(WaitFor([&] { return wxGetMousePosition() == place; }));
+    }
+
+    // Puts the mouse on a link and holds the left button on it.
+    void PressLink(const char* name) {
+        MoveTo(MiddleOf(name));
+        EXPECT_TRUE(WaitFor([&] { return In<Link>(name).IsUnderlined(); }));
+        user_.MouseDown();
+        EXPECT_TRUE(WaitFor([&] { return In(name).HasCapture(); }));
     }
 
     // Presses a button on the title with modifier keys held; the name of the window that
@@ -69,12 +78,12 @@ class AboutTest : public SideWindowTest {
             return !opened.empty();
         }});
         user_.MouseDown(button);
-        Settle(400);
+        WaitFor([&] { return !opened.empty(); }, 400);
         user_.MouseUp(button);
         for (const int key : keys) {
             user_.KeyUp(key);
         }
-        Settle(100);
+        EXPECT_TRUE(WaitFor([] { return wxWindow::FindWindowByName("frmCredit") == nullptr; }));
         return opened;
     }
 };
@@ -132,10 +141,7 @@ class AboutLink : public AboutTest, public testing::WithParamInterface<LinkCase>
 
 TEST_P(AboutLink, OpensItsAddressOnRelease) {
     InAbout([&] {
-        MoveTo(MiddleOf(GetParam().link));
-        EXPECT_TRUE(WaitFor([&] { return In<Link>(GetParam().link).IsUnderlined(); }));
-        user_.MouseDown();
-        Settle(50);
+        PressLink(GetParam().link);
         EXPECT_TRUE(desktop_.opened.empty());
         user_.MouseUp();
         EXPECT_TRUE(WaitFor([&] { return !desktop_.opened.empty(); }));
@@ -219,9 +225,7 @@ TEST_F(AboutTest, AnAddressThatNothingOpensIsNoMatter) {
 
 TEST_F(AboutTest, ALinkThatIsLeftAndEnteredAgainOpensOnRelease) {
     InAbout([&] {
-        MoveTo(MiddleOf("lblHyperLink0"));
-        user_.MouseDown();
-        Settle(50);
+        PressLink("lblHyperLink0");
         MoveTo(MiddleOf("lblDescription"));
         EXPECT_TRUE(WaitFor([&] { return !In<Link>("lblHyperLink0").IsUnderlined(); }));
         MoveTo(MiddleOf("lblHyperLink0"));
@@ -233,9 +237,7 @@ TEST_F(AboutTest, ALinkThatIsLeftAndEnteredAgainOpensOnRelease) {
 
 TEST_F(AboutTest, AReleaseElsewhereOpensNothing) {
     InAbout([&] {
-        MoveTo(MiddleOf("lblHyperLink0"));
-        user_.MouseDown();
-        Settle(50);
+        PressLink("lblHyperLink0");
         MoveTo(MiddleOf("lblDescription"));
         user_.MouseUp();
         Settle(150);
@@ -245,9 +247,7 @@ TEST_F(AboutTest, AReleaseElsewhereOpensNothing) {
 
 TEST_F(AboutTest, APressOnOneLinkReleasedOnAnotherOpensNothing) {
     InAbout([&] {
-        MoveTo(MiddleOf("lblHyperLink0"));
-        user_.MouseDown();
-        Settle(50);
+        PressLink("lblHyperLink0");
         MoveTo(MiddleOf("lblHyperLink1"));
         user_.MouseUp();
         Settle(150);
@@ -258,7 +258,7 @@ TEST_F(AboutTest, APressOnOneLinkReleasedOnAnotherOpensNothing) {
 TEST_F(AboutTest, ALinkOpensByKeyboard) {
     InAbout([&] {
         In("lblHyperLink0").SetFocus();
-        Settle(50);
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("lblHyperLink0"); }));
         std::size_t opened = 0;
         for (const int key : {WXK_SPACE, WXK_RETURN}) {
             user_.Char(key);
@@ -278,7 +278,7 @@ TEST_F(AboutTest, ALinkOpensByKeyboard) {
 TEST_F(AboutTest, AKeyThatIsHeldOpensALinkOnce) {
     InAbout([&] {
         In("imgPayPalDonate").SetFocus();
-        Settle(50);
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("imgPayPalDonate"); }));
         user_.KeyDown(WXK_SPACE);
         Settle(1200);  // the keyboard repeats it
         user_.KeyUp(WXK_SPACE);

@@ -30,8 +30,8 @@ class SmileyWindowTest : public SideWindowTest {
     void SelectSome() {
         Text().SetFocus();
         Text().SetSelection(3, 9);
-        Settle(50);
-        ASSERT_EQ(Text().GetStringSelection().length(), 6U);
+        ASSERT_TRUE(WaitFor(
+            [&] { return HasFocus("txtReadme") && Text().GetStringSelection().length() == 6U; }));
     }
 };
 

@@ -147,7 +147,7 @@ TEST_F(EntryViewerTest, CtrlCCopiesTheEntryWhateverHasTheFocus) {
         for (const char* name : {"cmdOK", "cmdCopy", "txtAbbrv", "txtExpn"}) {
             PutOnClipboard(kBefore);
             In(name).SetFocus();
-            Settle(30);
+            ASSERT_TRUE(WaitFor([&] { return HasFocus(name); }));
             user_.Char('C', wxMOD_CONTROL);
             EXPECT_TRUE(WaitFor([&] { return ClipboardText() == "RAM = Random Access Memory"; }))
                 << name << ": " << ClipboardText();
@@ -159,8 +159,8 @@ TEST_F(EntryViewerTest, CtrlCCopiesTheWholeEntryAlsoOverASelection) {
     InViewer("RAM\tRandom Access Memory", [&] {
         PutOnClipboard(kBefore);
         In("txtExpn").SetFocus();
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("txtExpn"); }));
         In<wxTextCtrl>("txtExpn").SetSelection(0, 6);
-        Settle(30);
         user_.Char('C', wxMOD_CONTROL);
         EXPECT_TRUE(WaitFor([&] { return ClipboardText() == "RAM = Random Access Memory"; }))
             << ClipboardText();
@@ -204,8 +204,7 @@ TEST_F(EntryViewerTest, OkReturnAndEscapeCloseItAndTheNextShowsTheSelectionAfres
             close();
             EXPECT_TRUE(WaitFor([&] { return !Side().IsShown(); }));
         });
-        Settle(50);
-        EXPECT_EQ(wxWindow::FindWindowByName("frmViewEntry"), nullptr);
+        EXPECT_TRUE(WaitFor([] { return wxWindow::FindWindowByName("frmViewEntry") == nullptr; }));
         EXPECT_FALSE(window_->IsModalOpen());
     };
     closes([&] { Click("cmdOK"); });
@@ -248,7 +247,7 @@ TEST_F(EntryViewerTest, TheBoxesTellWhatProgramThisIsInsteadOfAMenu) {
     InViewer("RAM\tRandom Access Memory", [&] {
         const MessageBoxes boxes;
         In("txtAbbrv").SetFocus();
-        Settle(30);
+        ASSERT_TRUE(WaitFor([&] { return HasFocus("txtAbbrv"); }));
         user_.Char(WXK_F10, wxMOD_SHIFT);
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
         EXPECT_TRUE(boxes.texts[0].starts_with("Brevilexicon version ")) << boxes.texts[0];

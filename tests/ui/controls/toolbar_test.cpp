@@ -12,6 +12,7 @@
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 #include <wx/settings.h>
+#include <wx/utils.h>
 
 #include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
@@ -34,10 +35,10 @@ class ToolbarWindowTest : public MainWindowTest {
     }
 
     void MoveTo(const wxPoint& place) {
-        user_.MouseMove(place - wxPoint(1, 0));
-        Settle(20);
-        user_.MouseMove(place);
-        Settle(40);
+        for (const wxPoint& step : {place - wxPoint(1, 0), place}) {
+            user_.MouseMove(step);
+            EXPECT_TRUE(WaitFor([&] { return wxGetMousePosition() == step; }));
+        }
     }
 
     void Hover(int icon) {
