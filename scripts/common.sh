@@ -14,7 +14,8 @@ as_root() {
     fi
 }
 
-# need_packages NAME...: installs those of the Debian packages that are missing.
+# need_packages NAME...: installs those of the Debian packages that are missing. On a terminal it asks
+# before.
 need_packages() {
     local missing=() package
     for package in "$@"; do
@@ -23,7 +24,12 @@ need_packages() {
     done
     [ ${#missing[@]} = 0 ] && return
     command -v apt-get >/dev/null || fail "install these first: ${missing[*]}"
-    step "installing ${missing[*]}"
+    step "these packages are missing: ${missing[*]}"
+    if [ -t 0 ] && [ -t 1 ]; then
+        local answer
+        read -r -p "Install them with apt-get now? [Y/n] " answer
+        [[ $answer != [Nn]* ]] || fail "install these first: ${missing[*]}"
+    fi
     as_root apt-get -q -o APT::Architectures="$(dpkg --print-architecture)" update
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install \
         "${missing[@]}" || fail "could not install ${missing[*]}"

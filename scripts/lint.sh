@@ -48,9 +48,10 @@ END
     [ "$preset" = dev ] || extra=("${win32_options[@]}")
     if [ $# -gt 1 ] && { [ -f "$folder/clash" ] || ! parses; }; then
         touch "$folder/clash"
-        local half=$(($# / 2))
-        lint_set "$preset" "$options" "${@:1:half}" && lint_set "$preset" "$options" "${@:half+1}"
-        return
+        local half=$(($# / 2)) result=0
+        lint_set "$preset" "$options" "${@:1:half}" || result=1
+        lint_set "$preset" "$options" "${@:half+1}" || result=1
+        return $result
     fi
     parses || { in_sources "$@" <"$folder/errors" >&2; return 1; }
     checks=-readability-duplicate-include  # check.sh looks for those in each source

@@ -12,6 +12,9 @@ bool HasKeyboard(wxTopLevelWindow& window) {
     return window.IsActive() && GetForegroundWindow() == window.GetHWND();
 }
 
+// The system has put them there when the call that simulates them returns.
+void AwaitSimulatedInput() {}
+
 // The simulator of the toolkit leaves out which key of the keyboard it is, and without that Wine
 // makes no character of it.
 void PressSelectAll() {

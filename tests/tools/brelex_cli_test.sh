@@ -6,11 +6,13 @@ brelex=$1
 emulator=${2:-}
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
+checks=0
 failures=0
 
 # expect CODE NAME COMMAND...: runs it, keeping its output in $folder/out and $folder/err.
 expect() {
     local code=$1 name=$2; shift 2
+    checks=$((checks + 1))
     "$@" >"$folder/out" 2>"$folder/err" </dev/null
     local got=$?
     if [ $got != "$code" ]; then
@@ -19,6 +21,7 @@ expect() {
     fi
 }
 contains() {
+    checks=$((checks + 1))
     if ! grep -qF -- "$2" "$folder/$1"; then
         echo "FAILED: no \"$2\" in its $1:"; cat "$folder/$1"
         failures=$((failures + 1))
@@ -89,10 +92,11 @@ if limited "$brelex" --version >/dev/null 2>&1; then
 fi
 rm "$folder/huge.dat"
 if [ -e /dev/full ]; then
-    "$brelex" dump >/dev/full 2>"$folder/err"
-    [ $? = 2 ] || { echo "FAILED: a full disk"; failures=$((failures + 1)); }
+    full_disk() { "$brelex" dump >/dev/full; }
+    expect 2 "a full disk" full_disk
     contains err "cannot write the output"
 fi
-printf 'r\n' | "$brelex" lookup - | grep -q RAM || { echo "FAILED: standard input"; failures=$((failures + 1)); }
-[ $failures = 0 ] && echo "1 passed, 0 failed"
-exit $failures
+standard_input() { printf 'r\n' | "$brelex" lookup -; }
+expect 0 "standard input" standard_input; contains out RAM
+echo "$((checks - failures)) of $checks checks passed"
+[ $failures = 0 ]

@@ -8,6 +8,7 @@
 #include <wx/app.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
+#include <wx/eventfilter.h>
 #include <wx/evtloop.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
@@ -31,6 +32,16 @@ bool WaitFor(const std::function<bool()>& condition, int patienceMs) {
         wxMilliSleep(5);  // yielding alone would starve the toolkit's frame clock
     } while (watch.Time() < patienceMs);
     return condition();
+}
+
+void LetEventsArrive() {
+    constexpr int kRounds = 3;  // a handler may put off work, and that again
+    for (int i = 0; i < kRounds; ++i) {
+        AwaitSimulatedInput();
+        wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
+        wxTheApp->ProcessPendingEvents();
+        wxTheApp->ProcessIdle();
+    }
 }
 
 void Settle(int ms) {
@@ -77,7 +88,7 @@ ModalDriver::ModalDriver(std::vector<std::function<bool()>> steps) : steps_(std:
 }
 
 void ModalDriver::Notify() {
-    constexpr int kMostTicks = 160;
+    constexpr int kMostTicks = 600;
     if (busy_ || Done()) {
         return;
     }
@@ -120,8 +131,11 @@ void MainWindowTest::TearDown() {
     if (window_ != nullptr) {
         const wxSize display = wxGetDisplaySize();
         user_.MouseMove(display.x - 1, display.y - 1);  // where it hovers over no later window
+        const wxWeakRef<wxWindow> closing(window_);
         window_->Destroy();
-        Settle();
+        window_ = nullptr;
+        EXPECT_TRUE(WaitFor([&] { return closing == nullptr; }));
+        LetEventsArrive();
     }
 }
 
@@ -161,7 +175,15 @@ void MainWindowTest::GiveBoxTheKeyboard() {
             [this] { return HasKeyboard(*window_) && wxWindow::FindFocus() == &Box(); }, 1000);
     }
     ASSERT_TRUE(active);
-    Settle(50);
+    LetEventsArrive();
+}
+
+void MainWindowTest::AwaitReturnToMain() const {
+    LetEventsArrive();
+    const bool isThere = wxTopLevelWindows.Find(window_) != nullptr && !IsMinimised();
+    if (isThere && OpenModalDialog() == nullptr) {
+        WaitFor([this] { return HasKeyboard(*window_); }, 1000);
+    }
 }
 
 wxWindow* MainWindowTest::Control(const char* name) const {
@@ -190,7 +212,7 @@ void MainWindowTest::Type(const char* keys, const std::string& shown) {
         user_.Char(*key);
     }
     EXPECT_TRUE(WaitFor([&] { return BoxText() == shown; })) << BoxText();
-    Settle(30);
+    LetEventsArrive();
 }
 
 void MainWindowTest::SelectAllInBox() {
@@ -203,10 +225,10 @@ void SideWindowTest::InSideWindow(const char* name, const std::function<void()>&
                                   const std::function<void()>& work) {
     ModalDriver driver({[&] {
                             side_ = dynamic_cast<wxDialog*>(wxWindow::FindWindowByName(name));
-                            return side_ != nullptr && side_->IsShown() && side_->IsActive();
+                            return SideHasKeyboard();
                         },
                         [&] {
-                            Settle(50);
+                            LetEventsArrive();
                             work();
                             return true;
                         },
@@ -223,8 +245,39 @@ void SideWindowTest::InSideWindow(const char* name, const std::function<void()>&
         open();
     }
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
-    Settle(50);
+    AwaitReturnToMain();
 }
+
+bool SideWindowTest::SideHasKeyboard() const {
+    wxWindow* const focus = wxWindow::FindFocus();
+    return side_ && side_->IsShown() && HasKeyboard(*side_) && focus != nullptr &&
+           wxGetTopLevelParent(focus) == side_.get();
+}
+
+namespace {
+
+// The window manager may see a click first and pass it on only then.
+class ButtonReleases final : public wxEventFilter {
+  public:
+    ButtonReleases() { wxEvtHandler::AddFilter(this); }
+
+    ButtonReleases(const ButtonReleases&) = delete;
+    ButtonReleases& operator=(const ButtonReleases&) = delete;
+
+    ~ButtonReleases() override { wxEvtHandler::RemoveFilter(this); }
+
+    int FilterEvent(wxEvent& event) override {
+        count_ += event.GetEventType() == wxEVT_LEFT_UP ? 1 : 0;
+        return Event_Skip;
+    }
+
+    [[nodiscard]] int Count() const { return count_; }
+
+  private:
+    int count_ = 0;
+};
+
+}  // namespace
 
 std::string SideWindowTest::Label(const char* name) const {
     return Utf8Text(In<wxStaticText>(name).GetLabelText());
@@ -234,9 +287,11 @@ void SideWindowTest::Click(const char* name) {
     const wxRect area = In(name).GetScreenRect();
     // Where a check box has its text and not only room behind it.
     user_.MouseMove(area.x + std::min(area.width / 2, 40), area.y + area.height / 2);
-    Settle(30);
+    LetEventsArrive();
+    const ButtonReleases releases;
     user_.MouseClick();
-    Settle(50);
+    WaitFor([&] { return releases.Count() > 0; }, 1000);  // none from what is disabled
+    LetEventsArrive();
 }
 
 bool SideWindowTest::HasFocus(const char* name) const {
@@ -266,7 +321,7 @@ bool MainWindowTest::IsBack() const {
 }
 
 std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,
-                                         const std::function<void()>& look) {
+                                         const std::function<void()>& look) const {
     std::string name;
     ModalDriver driver({[&] {
         wxDialog* const dialog = OpenModalDialog();
@@ -282,7 +337,7 @@ std::string MainWindowTest::NameOfOpened(const std::function<void()>& open,
     }});
     open();
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
-    Settle(50);
+    AwaitReturnToMain();
     return name;
 }
 

@@ -29,22 +29,32 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// Runs the event loop until `condition` holds; false if it does not within `patienceMs`.
-bool WaitFor(const std::function<bool()>& condition, int patienceMs = 3000);
+/// Runs the event loop until `condition` holds; false if it does not within `patienceMs`, which
+/// only a test that fails waits for: it is long enough for a busy machine.
+bool WaitFor(const std::function<bool()>& condition, int patienceMs = 10000);
+
+/// Runs the events that are under way to this program, and what their handlers put off: simulated
+/// keys and clicks have done then what they do here. What another program has to answer, such as
+/// the window manager, may still come.
+void LetEventsArrive();
 
 /// Runs the event loop for a while, for what must not happen.
 void Settle(int ms = 80);
 
 /// Drives a modal window: takes its steps in order, each as soon as the one before returned true.
-class ModalDriver final : public wxTimer {
+class ModalDriver final : private wxTimer {
   public:
     explicit ModalDriver(std::vector<std::function<bool()>> steps);
 
     [[nodiscard]] bool Done() const { return next_ == steps_.size(); }
 
-    void Notify() override;
+    // No step is taken between Stop and the next Start, which says how often one may be.
+    using wxTimer::Start;
+    using wxTimer::Stop;
 
   private:
+    void Notify() override;
+
     std::vector<std::function<bool()>> steps_;
     std::size_t next_ = 0;
     int ticks_ = 0;
@@ -145,6 +155,9 @@ class MainWindowTest : public testing::Test {
     /// Waits until typed keys arrive in the look-up box.
     void GiveBoxTheKeyboard();
 
+    /// Waits until keys that are typed arrive in the main window, if it is still there to be seen.
+    void AwaitReturnToMain() const;
+
     /// Whether the main window is minimised, which hides it where a notification area shows its
     /// icon: the desktop may forget then that it was minimised.
     [[nodiscard]] bool IsMinimised() const;
@@ -153,8 +166,8 @@ class MainWindowTest : public testing::Test {
     [[nodiscard]] bool IsBack() const;
 
     /// The name of the modal window that `open` opens, which is closed at once.
-    [[nodiscard]] static std::string NameOfOpened(const std::function<void()>& open,
-                                                  const std::function<void()>& look = {});
+    [[nodiscard]] std::string NameOfOpened(const std::function<void()>& open,
+                                           const std::function<void()>& look = {}) const;
 
     TestFolder folder_;
     FakeMessageSink messages_;
@@ -193,6 +206,9 @@ class SideWindowTest : public MainWindowTest {
     [[nodiscard]] bool HasFocus(const char* name) const;
 
   private:
+    // Whether keys arrive in the open window.
+    [[nodiscard]] bool SideHasKeyboard() const;
+
     wxWeakRef<wxDialog> side_;  // most are destroyed when they close
 };
 
