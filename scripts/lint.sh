@@ -103,8 +103,8 @@ lint() {
     local preset=$1 line source options set=() set_options= alone
     shift
     [ $# -gt 0 ] || return 0
-    # X11 defines words such as None as macros.
-    alone=$(grep -lE '<(X11/|gdk/gdkx)' "$@" || true)
+    # X11 defines words such as None as macros, and a C function may be declared by each who calls it.
+    alone=$(grep -lE '<(X11/|gdk/gdkx)|extern "C"' "$@" || true)
     while IFS=$'\t' read -r source options; do
         if [ ${#set[@]} = $sources_together ] || [ "$options" != "$set_options" ]; then
             [ ${#set[@]} = 0 ] || in_background lint_set "$preset" "$set_options" "${set[@]}"
