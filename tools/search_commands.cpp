@@ -30,8 +30,8 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
         return kFailed;
     }
     const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
-    const SearchOutcome outcome =
-        SearchDatabase(std::get<RecordFinder>(prepared), store, RowOf(options.from), limit, nullptr);
+    const SearchOutcome outcome = SearchDatabase(std::get<RecordFinder>(prepared), store,
+                                                 RowOf(options.from), limit, nullptr);
     if (options.json) {
         PrintJsonRecords(store, outcome.hits, out);
     } else {

@@ -13,10 +13,10 @@
 #include "platform/desktop/wx_message_sink.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
-#include "ui/modGeneral.h"
 #include "ui/controls/surface.h"
 #include "ui/controls/toolbar.h"
 #include "ui/main/main_menus.h"
+#include "ui/modGeneral.h"
 
 namespace brelex {
 
