@@ -48,10 +48,10 @@ inline constexpr int kNoWindow = -1;
 
 /// A command and how it is shown.
 struct CommandSpec {
-    Command command;
-    CommandKind kind;
-    CommandMenu menu;
-    const char* caption;        ///< "&" stands before the access key
+    Command command{};
+    CommandKind kind{};
+    CommandMenu menu{};
+    const char* caption = "";   ///< "&" stands before the access key
     const char* shortcut = "";  ///< as the toolkit writes it
     int window = kNoWindow;     ///< the number by which OpenModalForm knows the side window
     bool startsGroup = false;   ///< a separator stands above it

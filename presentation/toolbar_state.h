@@ -11,9 +11,9 @@ namespace brelex {
 
 /// What an icon of the toolbar does and says of itself.
 struct ToolbarIcon {
-    Command command;
-    const char* description;  ///< shown in the main window while the mouse is over it
-    const char* toolTip;
+    Command command{};
+    const char* description = "";  ///< shown in the main window while the mouse is over it
+    const char* toolTip = "";
     bool endsGroup = false;  ///< a separator stands behind it
 };
 
