@@ -98,15 +98,17 @@ TEST(StartUpOnWindows, ALogOffThatArrivesWhileLoadingClosesTheWindowAfterwards) 
     auto* const question = new wxCloseEvent(wxEVT_QUERY_END_SESSION);
     question->SetCanVeto(true);
     wxTheApp->QueueEvent(question);
-    frmMain* const window = startUp.Run(
-        {messages, picker, files, desktop, "brevilexicon", folder.Text(), "", [] { return 0.0F; },
-         [](const std::string&, const std::string&, bool) { return true; }});
+    frmMain* const window =
+        startUp.Run({{files, desktop, "brevilexicon", "",
+                      [](const std::string&, const std::string&, bool) { return true; }},
+                     messages,
+                     picker,
+                     folder.Text(),
+                     [] { return 0.0F; }});
     ASSERT_NE(window, nullptr);
-    wxTheApp->SetTopWindow(window);
     window->Show();
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "~bx6120.tmp"));
-    wxTheApp->SetTopWindow(nullptr);
 }
 
 TEST_F(MainWindowTest, TheListIsTheSystemsListView) {
