@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include <wx/listctrl.h>
+#include <wx/utils.h>
 
 #include <windows.h>
 #include <commctrl.h>
@@ -146,7 +147,21 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
             return;
         }
         selected_ = row;
+        TellOfClick(row);
+    }
+
+    // The control may select the row that is clicked before it takes the focus (seen with Wine 8).
+    // Whatever else selects one, such as a screen reader, need not bring the focus at all.
+    void TellOfClick(std::int32_t row) {
+        if (HasFocus()) {
+            Clicked(row);
+            return;
+        }
+        GotFocus();
         Clicked(row);
+        if (!wxGetMouseState().LeftIsDown()) {
+            LostFocus();
+        }
     }
 
     // A click with Ctrl clears the selection, as does one below the last row; a list box keeps it.
