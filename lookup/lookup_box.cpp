@@ -19,7 +19,7 @@ constexpr const char* kGoToRecord = "Go to Record";
 
 // As people read it; 0 without a row.
 std::int32_t ShownNumberOf(std::int32_t row) {
-    return static_cast<std::int32_t>(RecordNumberOf(row));
+    return row < 0 ? 0 : static_cast<std::int32_t>(RecordNumberOf(row));
 }
 
 }  // namespace
