@@ -93,6 +93,7 @@ void LookupPanel::BindList() {
     lstAcronyms->onEnter = [this] { events_.onEntryChosen(); };
     lstAcronyms->onRightPress = [this](std::int32_t row) { ShowMenuAtMouse(row); };
     lstAcronyms->onMenuKey = [this] { ShowMenuAtRow(); };
+    menuTimer_.Bind(wxEVT_TIMER, &LookupPanel::OnMenuTimer, this);
     lstAcronyms->onGotFocus = [this] { lookup_.OnListGotFocus(); };
     lstAcronyms->onLostFocus = [this] { lookup_.OnListLostFocus(); };
     picColHeader->Bind(wxEVT_LEFT_DOWN,
@@ -207,17 +208,18 @@ void LookupPanel::ShowMenuAtRow() {
     ShowMenuAt(list.ClientToScreen(place));
 }
 
-// When the toolkit is done with what asked for the menu, and the list has the focus; once, however
-// often it was asked for until then.
+// When all that waits is done, and the list has the focus; once, however often it was asked for
+// until then. On Windows the keys that asked for it must have come up before, or else they close
+// the menu.
 void LookupPanel::ShowMenuAt(const wxPoint& place) {
     lstAcronyms->Window().SetFocus();
-    if (!std::exchange(menuPending_, true)) {
-        lstAcronyms->Window().CallAfter([this, place] {
-            menuPending_ = false;
-            lookup_.OnListMenu(SelectedRow());
-            events_.onMenuWanted(place);
-        });
-    }
+    menuPlace_ = place;
+    menuTimer_.StartOnce(1);
+}
+
+void LookupPanel::OnMenuTimer(wxTimerEvent& /*event*/) {
+    lookup_.OnListMenu(SelectedRow());
+    events_.onMenuWanted(menuPlace_);
 }
 
 std::int32_t LookupPanel::SelectedRow() const {

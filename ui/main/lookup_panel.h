@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include <wx/gdicmn.h>
+#include <wx/timer.h>
+
 #include "lookup/lookup_box.h"
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/list/entry_list_control.h"
@@ -17,7 +20,6 @@ class wxClipboardTextEvent;
 class wxCommandEvent;
 class wxFocusEvent;
 class wxKeyEvent;
-class wxPoint;
 class wxStaticText;
 class wxString;
 class wxTextCtrl;
@@ -92,6 +94,7 @@ class LookupPanel final : private LookupView {
     void ShowMenuAtMouse(std::int32_t row);
     void ShowMenuAtRow();
     void ShowMenuAt(const wxPoint& place);
+    void OnMenuTimer(wxTimerEvent& event);
 
     /// Passes a pending change of the box's text on to the look-up.
     void FlushBoxChange();
@@ -111,7 +114,8 @@ class LookupPanel final : private LookupView {
     LookupBox lookup_;
     std::size_t maxBoxLength_ = 0;
     bool boxChangePending_ = false;
-    bool menuPending_ = false;
+    wxTimer menuTimer_;
+    wxPoint menuPlace_;
     bool caretStays_ = false;  // getting the focus next time selects nothing
 
     wxStaticText* lblInstruction;
