@@ -45,19 +45,19 @@ bool BrevilexiconApp::OnInit() {
 }
 
 int BrevilexiconApp::OnExit() {
-    // What was copied is to stay, where the desktop keeps it. Asking for that runs an event loop on
-    // GTK, so it waits until no window is left.
+    // What the user copied stays on the clipboard if the desktop keeps it. Asking for that runs an
+    // event loop on GTK, so it waits until no window is left.
     wxTheClipboard->Flush();
     return wxApp::OnExit();
 }
 
-// What was asked for was not done; the rest of the program goes on.
+// Abandons only the operation that failed. The rest of the program goes on.
 bool BrevilexiconApp::OnExceptionInMainLoop() {
     TellOfCaughtException();
     return true;
 }
 
-// Something failed outside of any event, such as at the start: that is the end.
+// Something failed outside of any event, for example during start-up. That ends the program.
 void BrevilexiconApp::OnUnhandledException() {
     TellOfCaughtException();
 }

@@ -5,10 +5,10 @@
 
 namespace brelex {
 
-/// The program's version, legal-rights text and addresses, as they were configured.
+/// The program's version, legal text and addresses, as configured at build time.
 [[nodiscard]] AppInfo ConfiguredAppInfo();
 
-/// Major and minor version joined by a point, as a number: 6 and 1 give 6.1.
+/// The version as a number: major version 6 and minor version 1 give 6.1.
 [[nodiscard]] float AppVersionOf(const AppInfo& info);
 
 }  // namespace brelex

@@ -16,20 +16,21 @@ namespace brelex {
 
 class frmSplash;
 
-/// What the program starts with.
+/// Everything that the program needs in order to start.
 struct StartUpSurroundings : MainSurroundings {
-    MessageSink& messages;  ///< for messages before there is a main window
+    MessageSink& messages;  ///< shows messages before there is a main window
     FolderPicker& picker;
     std::string programFolder;  ///< UTF-8
     std::function<float()> secondsSinceMidnight;
 };
 
-/// Starts the program in its order and owns what all windows share. Must outlive them.
+/// Starts the program step by step and owns the values that all windows share. It must outlive the
+/// windows.
 class StartUp {
   public:
-    /// Refuses a second copy, locates the database, loads it behind the splash window and makes the
-    /// main window. Returns that, ready to be shown, or null if the program has to end; the user
-    /// has been told why then. Call once.
+    /// Refuses a second copy, locates the database, loads it behind the splash window and creates
+    /// the main window. Returns that window ready to be shown, or null if the program has to end;
+    /// in that case the user has already been told why. Call once.
     [[nodiscard]] frmMain* Run(const StartUpSurroundings& surroundings);
 
     [[nodiscard]] const ProgramValues& Values() const { return values_; }

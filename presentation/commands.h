@@ -6,8 +6,8 @@
 
 namespace brelex {
 
-/// What the user can have the program do. Menus, toolbar, the icon in the notification area and
-/// double-clicks all name one of these.
+/// The commands of the program. Menus, the toolbar, the icon in the notification area and
+/// double-clicks all refer to one of these.
 enum class Command {
     DatabaseInfo,
     CheckData,
@@ -27,14 +27,14 @@ enum class Command {
     MinimizeOrRestore
 };
 
-/// The menus in which commands stand, those of the menu bar first and from left to right.
+/// The menus that contain commands. Those of the menu bar come first, from left to right.
 enum class CommandMenu {
     File,
     Search,
     Options,
     Help,
-    ListboxRClick,  ///< of a row of the list
-    SysTray         ///< of the icon, which repeats some others
+    ListboxRClick,  ///< the menu of a row of the list
+    SysTray         ///< the icon's menu, which repeats some commands of the others
 };
 
 enum class CommandKind {
@@ -43,22 +43,22 @@ enum class CommandKind {
     CheckMark  ///< turns something on and off
 };
 
-/// The number of no window.
+/// Means that a command opens no side window.
 inline constexpr int kNoWindow = -1;
 
-/// A command and how it is shown.
+/// A command and its appearance in a menu.
 struct CommandSpec {
     Command command{};
     CommandKind kind{};
     CommandMenu menu{};
-    const char* caption = "";   ///< "&" stands before the access key
+    const char* caption = "";   ///< "&" marks the access key
     const char* shortcut = "";  ///< as the toolkit writes it
-    int window = kNoWindow;     ///< the number by which OpenModalForm knows the side window
-    bool startsGroup = false;   ///< a separator stands above it
+    int window = kNoWindow;     ///< the number of the side window for OpenModalForm
+    bool startsGroup = false;   ///< a separator comes before it
 };
 
-/// All commands in the order of the enumeration, which is that of their menus. The window's own
-/// close command is behind Alt+F4; the caption of Exit only tells of it.
+/// All commands in the order of the enumeration, which is also their order in the menus. Alt+F4 is
+/// the window's own close command; the caption of Exit only mentions it.
 inline constexpr std::array<CommandSpec, 16> kCommands = {{
     {Command::DatabaseInfo, CommandKind::Window, CommandMenu::File, "Database Info...", "", 2},
     {Command::CheckData, CommandKind::Window, CommandMenu::File, "Check Data Integrity...", "", 5},

@@ -5,8 +5,9 @@
 
 namespace brelex {
 
-/// The page of the help that fits a window, by the window's name: a file in help/, which may go on
-/// with "#" and a place on the page. Empty, which is the first page, for a window that has none.
+/// The help page for a window, given the window's name: the name of a file in help/, possibly
+/// followed by "#" and a place on the page. Empty for a window without a page; the help then opens
+/// at its first page.
 [[nodiscard]] std::string_view HelpPageOf(std::string_view window);
 
 }  // namespace brelex

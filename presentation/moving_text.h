@@ -14,7 +14,7 @@ class SlidingText {
     /// Takes the next step and returns the text to show.
     [[nodiscard]] std::string Next();
 
-    /// How long the last text is to stay, in milliseconds.
+    /// How long to show the last text, in milliseconds.
     [[nodiscard]] int IntervalMs() const;
 
   private:
@@ -22,15 +22,16 @@ class SlidingText {
     int spread_ = 0;
 };
 
-/// `text` (ASCII) with blanks before its characters: `spread` before the first, one less before
-/// each that follows.
+/// Returns `text` (ASCII) with blanks before its characters: `spread` before the first, and one
+/// fewer before each of the following.
 [[nodiscard]] std::string SpreadText(std::string_view text, int spread);
 
-/// Where scrolling lines begin: just below the visible area, which is `areaHeight` high.
+/// The position where scrolling lines begin: just below the visible area, which is `areaHeight`
+/// high.
 [[nodiscard]] int FirstScrollPosition(int areaHeight);
 
-/// Where they are one `step` after `position`. When all lines, which are `linesHeight` high, have
-/// left the area at the top, they begin again below it.
+/// The position of the lines one `step` after `position`. When all lines, which are `linesHeight`
+/// high, have left the area at the top, they begin again below it.
 [[nodiscard]] int NextScrollPosition(int position, int step, int linesHeight, int areaHeight);
 
 }  // namespace brelex

@@ -63,7 +63,7 @@ std::vector<CreditRecord> Credits(const AppInfo& info) {
 
 std::string SmileyDictionaryText() {
     std::string_view text = kSmileyDictionary;
-    text.remove_suffix(1);  // the source file ends in a line end, as text files do
+    text.remove_suffix(1);  // the source file ends with a line end, as text files do
     return std::string(text);
 }
 

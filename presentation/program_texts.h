@@ -12,7 +12,7 @@ namespace brelex {
 /// The text that slides in beside the donation button.
 inline constexpr const char* kDonateText = "Click to donate via PayPal";
 
-/// The lines of the donation window (UTF-8), in their order.
+/// The lines of the donation window (UTF-8), in order.
 [[nodiscard]] std::vector<std::string> DonationLines();
 
 /// A line of the credits.
@@ -20,13 +20,14 @@ struct CreditRecord {
     std::string text;  ///< UTF-8
     int pointSize = 9;
     bool isBold = false;
-    std::optional<unsigned> colour;  ///< red in the low byte, then green and blue; none: the user's
+    std::optional<unsigned>
+        colour;  ///< red in the low byte, then green and blue; if none, the user's text color
 };
 
-/// The credits, in their order.
+/// The credits, in order.
 [[nodiscard]] std::vector<CreditRecord> Credits(const AppInfo& info);
 
-/// The text of the smiley dictionary, in ASCII: lines parted by line ends, columns by TABs.
+/// The text of the smiley dictionary, in ASCII. Line ends separate lines, TABs separate columns.
 [[nodiscard]] std::string SmileyDictionaryText();
 
 }  // namespace brelex

@@ -9,15 +9,15 @@
 
 namespace brelex {
 
-/// What an icon of the toolbar does and says of itself.
+/// An icon of the toolbar: its command and its texts.
 struct ToolbarIcon {
     Command command{};
     const char* description = "";  ///< shown in the main window while the mouse is over it
     const char* toolTip = "";
-    bool endsGroup = false;  ///< a separator stands behind it
+    bool endsGroup = false;  ///< a separator follows it
 };
 
-/// The icons from left to right. That of the donation carries the description of its neighbour.
+/// The icons from left to right. The donation icon has the same description as its neighbor.
 inline constexpr std::array<ToolbarIcon, 7> kToolbarIcons = {{
     {Command::Search, "Search Database", "Searches the database based on criteria"},
     {Command::Anagram, "Anagrammatic Search", "Searches the database anagrammatically for acronyms",
@@ -29,7 +29,7 @@ inline constexpr std::array<ToolbarIcon, 7> kToolbarIcons = {{
     {Command::Exit, "Exit", "Quits the application"},
 }};
 
-/// The place of an icon on the toolbar, in pixels from its upper left corner.
+/// The place of an icon, in pixels from the upper left corner of the toolbar.
 struct IconBounds {
     double left = 0;
     double top = 0;
@@ -37,8 +37,9 @@ struct IconBounds {
     double height = 0;
 };
 
-/// The rectangle on whose lines the edge of an icon is drawn. It is the icon's own boundary, so
-/// right and bottom are one behind its last pixels. Rounded to the nearest, halves to even.
+/// The rectangle along whose lines the edge of an icon is drawn. It is the icon's own boundary, so
+/// its right and bottom lines lie one pixel beyond the icon's last pixels. Rounded to the nearest
+/// pixel, halves to even.
 struct EdgeRectangle {
     std::int16_t left = 0;
     std::int16_t top = 0;
@@ -48,14 +49,14 @@ struct EdgeRectangle {
     bool operator==(const EdgeRectangle&) const = default;
 };
 
-/// The edge of an icon whose pixels are below 32768.
+/// The edge of an icon. Requires all its pixels to be below 32768.
 [[nodiscard]] EdgeRectangle EdgeRectangleOf(const IconBounds& icon);
 
 /// How the edge of an icon is drawn.
 enum class Edge {
-    Flat,    ///< not at all
+    Flat,    ///< no edge is drawn
     Raised,  ///< the mouse is over the icon
-    Sunken   ///< the left button is held on it
+    Sunken   ///< the left button is held down on it
 };
 
 enum class MouseButton {
@@ -64,7 +65,7 @@ enum class MouseButton {
     Middle
 };
 
-/// The mouse buttons that are down.
+/// The mouse buttons that are currently down.
 struct MouseButtons {
     bool left = false;
     bool right = false;
@@ -77,7 +78,7 @@ struct MouseButtons {
     bool operator==(const MouseButtons&) const = default;
 };
 
-/// What the toolbar shows and does. Icons are numbered from 0.
+/// The toolbar as its state sees it. Icons are numbered from 0.
 class ToolbarView {
   public:
     ToolbarView() = default;
@@ -85,64 +86,65 @@ class ToolbarView {
     ToolbarView& operator=(const ToolbarView&) = delete;
     virtual ~ToolbarView() = default;
 
-    /// Makes all movements of the mouse come to the toolbar, also those outside it. Called only
-    /// while a button is held, and also if the mouse is held already. Without a button the mouse
-    /// stays free: the toolkit says when it leaves, and Windows has no menu keys while a window
-    /// holds it.
+    /// Sends all mouse movements to the toolbar, including those outside it. Called only while a
+    /// button is held, possibly when the mouse is already captured. Without a button, the mouse
+    /// must stay free: the toolkit reports when it leaves, and menu keys do not work on Windows
+    /// while a window captures it.
     virtual void HoldMouse() = 0;
 
-    /// Ends that. Called also if the mouse is not held.
+    /// Releases the mouse again. May be called when the mouse is not captured.
     virtual void LetMouseGo() = 0;
 
-    /// Lets the window show what it has to before an icon changes. Must not lead to another
+    /// Lets the window finish its pending painting before an icon changes. Must not lead to another
     /// call of the state.
     virtual void LetPendingPaintingRun() = 0;
 
-    /// Draws an icon again, whose edge has changed.
+    /// Redraws an icon whose edge has changed.
     virtual void DrawIcon(int icon) = 0;
 
-    /// The icon under the mouse, -1 if there is none.
+    /// Describes the icon under the mouse; -1 for none.
     virtual void Describe(int icon) = 0;
 
-    /// Does what the icon is there for. May call the state again or end the toolbar.
+    /// Runs the icon's command. May call the state again or destroy the toolbar.
     virtual void RunAction(int icon) = 0;
 };
 
 /// The behavior of flat buttons. An icon rises under the mouse, sinks while the left button is held
-/// on it, and acts when the button is released. Leaving the toolbar abandons the action; sliding to
-/// another icon exchanges it.
+/// down on it, and acts when the button is released. Leaving the toolbar cancels the action;
+/// sliding to another icon moves the action to that icon.
 class ToolbarState {
   public:
-    /// A toolbar without icons. `view` must outlive the state.
+    /// Begins without icons. `view` must outlive the state.
     explicit ToolbarState(ToolbarView& view) : view_(view) {}
 
-    /// Adds the icon with the next number. Where icons overlap, the mouse is over the later one.
+    /// Adds the next icon. Where icons overlap, the mouse counts as over the later one.
     void AddIcon(const IconBounds& bounds) { icons_.push_back(bounds); }
 
-    /// Gives the toolbar a size in pixels.
+    /// Sets the size of the toolbar in pixels.
     void SetSize(double width, double height);
 
-    /// The mouse is at a place, in pixels from the upper left corner, with these buttons down. The
-    /// right and bottom boundaries of icons and toolbar belong to them, too.
+    /// The mouse is at this place, in pixels from the upper left corner, with these buttons down.
+    /// Icons and toolbar include their right and bottom boundaries.
     void OnMouseMove(MouseButtons down, double x, double y);
 
     /// The mouse has left the toolbar.
     void OnMouseLeave();
 
-    /// A button goes down.
+    /// A button was pressed.
     void OnMouseDown(MouseButton button);
 
-    /// A button goes up, and these are still down.
+    /// A button was released while these are still down.
     void OnMouseUp(MouseButton button, MouseButtons stillDown);
 
-    /// Another window has taken the mouse. The description of something else stays.
+    /// Another window has captured the mouse. Flattens the hot icon and clears its description.
+    /// Without a hot icon, the description belongs to something else and stays.
     void OnCaptureLost();
 
     [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
 
     [[nodiscard]] const IconBounds& BoundsOf(int icon) const;
 
-    /// How the edge of an icon is to be drawn.
+    /// How to draw the edge of an icon.
     [[nodiscard]] Edge EdgeOf(int icon) const;
 
     /// The icon whose edge is not flat, -1 if there is none.
@@ -159,7 +161,7 @@ class ToolbarState {
     double height_ = 0;
     int hotIcon_ = -1;
     Edge hotEdge_ = Edge::Raised;
-    MouseButtons shownButtons_;  // those that the hot icon was drawn for last
+    MouseButtons shownButtons_;  // the buttons for which the hot icon was last drawn
 };
 
 }  // namespace brelex

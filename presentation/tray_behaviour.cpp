@@ -44,7 +44,7 @@ std::vector<TrayMenuItem> TrayBehaviour::Menu() const {
 }
 
 void TrayBehaviour::OnMenuItem(Command command) {
-    // A desktop may show a menu that it asked for before a modal window opened.
+    // A desktop may show a menu that it requested before a modal window opened.
     if (owner_.IsModalWindowOpen()) {
         return;
     }

@@ -11,8 +11,8 @@ namespace brelex {
 
 /// An item of the icon's menu.
 struct TrayMenuItem {
-    std::optional<Command> command;  ///< a separator has none
-    std::string caption;             ///< "&" stands before the access key
+    std::optional<Command> command;  ///< none for a separator
+    std::string caption;             ///< "&" marks the access key
     bool enabled = true;
 };
 
@@ -28,10 +28,10 @@ class TrayOwner {
     [[nodiscard]] virtual bool IsWindowMinimized() const = 0;
     [[nodiscard]] virtual bool IsModalWindowOpen() const = 0;
 
-    /// Shows the window, hidden or minimized, in front of the others.
+    /// Shows the window, whether hidden or minimized, in front of the others.
     virtual void RestoreWindow() = 0;
 
-    /// Brings the program's visible window, or what stands modally over it, to the front.
+    /// Brings the program's visible window, or the modal window over it, to the front.
     virtual void ActivateWindow() = 0;
 
     virtual void MinimizeWindow() = 0;
@@ -39,11 +39,11 @@ class TrayOwner {
     /// Shows the icon's menu.
     virtual void PopUpMenu() = 0;
 
-    /// Does what a command of the menu, other than MinimizeOrRestore, says.
+    /// Runs a command of the menu other than MinimizeOrRestore.
     virtual void Run(Command command) = 0;
 };
 
-/// What the icon does: a left click brings the window back, a right click shows a menu.
+/// The behavior of the icon: a left click brings the window back, a right click shows a menu.
 class TrayBehaviour {
   public:
     explicit TrayBehaviour(TrayOwner& owner) : owner_(owner) {}
@@ -51,16 +51,17 @@ class TrayBehaviour {
     /// The left button was released on the icon.
     void OnLeftRelease();
 
-    /// The right button was released on the icon: the menu is shown, unless a modal window is open.
+    /// The right button was released on the icon. Brings a visible window to the front, and shows
+    /// the menu unless a modal window is open.
     void OnRightRelease();
 
-    /// The menu `mnuSysTrayMenu` as it has to look now; all disabled while a modal window is open.
+    /// The current menu `mnuSysTrayMenu`. All items are disabled while a modal window is open.
     [[nodiscard]] std::vector<TrayMenuItem> Menu() const;
 
-    /// An item of the menu was chosen.
+    /// The user chose an item of the menu.
     void OnMenuItem(Command command);
 
-    bool IsTrayBusy = false;  ///< a release is being handled; another one is ignored
+    bool IsTrayBusy = false;  ///< a release is being handled, so another one is ignored
 
   private:
     TrayOwner& owner_;
