@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// The keys of the lookup box that move the list's selection, and Enter.
+/// The keys that move the list's selection when pressed in the look-up box, and Enter.
 enum class NavigationKey {
     Enter,
     Up,
@@ -14,16 +14,16 @@ enum class NavigationKey {
     PageDown
 };
 
-/// Where a list scrolls for a row that it selects.
+/// Where a list scrolls when it selects a row.
 enum class Scrolling {
-    Nowhere,       ///< the row stays where it is
-    IntoSight,     ///< by the least amount that makes all of the row visible; not at all if it is
-    SecondFromTop  ///< so that one row of context is above it, as far as the list's end allows
+    Nowhere,    ///< the row stays where it is
+    IntoSight,  ///< as little as possible to make the whole row visible; nothing if it already is
+    SecondFromTop  ///< leaves one row of context above it, as far as the list's end allows
 };
 
-/// The row (0-based) that a list box selects for `key` when `row` is selected (-1: none) among
-/// `rowCount` rows, `rowsPerPage` of which are visible. A page is one row less than is visible, so
-/// that one row stays in sight. Enter moves nothing. -1 if there are no rows.
+/// Returns the row (0-based) that a list box selects for `key` when `row` is selected (-1: none)
+/// among `rowCount` rows, of which `rowsPerPage` are visible. A page is one row less than the
+/// visible rows, so that one row stays in view. Enter moves nothing. -1 if there are no rows.
 [[nodiscard]] std::int32_t RowAfterKey(NavigationKey key, std::int32_t row, std::int32_t rowCount,
                                        std::int32_t rowsPerPage);
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kGoToRecord = "Go to Record";
 
-// As people read it; 0 without a row.
+// The number that the user sees: 1-based, or 0 without a row.
 std::int32_t ShownNumberOf(std::int32_t row) {
     return row < 0 ? 0 : static_cast<std::int32_t>(RecordNumberOf(row));
 }
@@ -34,7 +34,7 @@ void LookupBox::OnBoxChanged(const std::string& text) {
     }
     CurrentText = text;
     if (EqualIgnoringCaseUtf8(LastText, CurrentText)) {
-        IsLookupBusy = true;  // for good, see the class
+        IsLookupBusy = true;  // for the rest of the run, see the class
         return;
     }
     const Busy busy(IsLookupBusy);
@@ -71,7 +71,7 @@ void LookupBox::ShowRecordNumber() {
         FormatGrouped(ShownNumberOf(view_.SelectedRow()), values_.groupSeparator));
 }
 
-// The box takes the text over without a look-up, as it comes from the list.
+// The text comes from the list, so the box takes it over without a look-up.
 void LookupBox::ShowEntry(std::int32_t row) {
     const bool wasNavigating = std::exchange(IsNavigating, true);
     const OnLeaving restore([this, wasNavigating] { IsNavigating = wasNavigating; });

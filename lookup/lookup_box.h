@@ -12,10 +12,10 @@
 
 namespace brelex {
 
-/// What has the user asked for the number of an entry, instead of naming one.
+/// Stands for a number that the user still has to enter.
 inline constexpr RecordNumber kAskForRecord{-1};
 
-/// The window that the lookup works on. Rows are 0-based, texts are UTF-8.
+/// The window that the look-up works on. Rows are 0-based, texts are UTF-8.
 class LookupView {
   public:
     LookupView() = default;
@@ -26,33 +26,33 @@ class LookupView {
     /// The list's selected row, -1 if there is none.
     [[nodiscard]] virtual std::int32_t SelectedRow() const = 0;
 
-    /// Selects a row and scrolls it into sight, without raising the list's click.
+    /// Selects a row and scrolls it into view, without reporting a click on the list.
     virtual void SelectRow(std::int32_t row, Scrolling scrolling) = 0;
 
-    /// Lets the list handle a key as if it had been pressed there, its click included.
+    /// Lets the list handle a key as if it had been pressed there. This may report a click.
     virtual void SendKeyToList(NavigationKey key) = 0;
 
-    /// Replaces the box's text. Must not report the change: LookupBox follows it up itself.
+    /// Replaces the box's text. Must not report the change: LookupBox keeps track of it itself.
     virtual void SetBoxText(const std::string& text) = 0;
 
     virtual void MoveCaretToEnd() = 0;
 
     virtual void SetRecordNumberText(const std::string& text) = 0;
 
-    /// Asks for a line of text; empty if the user cancels.
+    /// Asks for a line of text. Returns an empty text if the user cancels.
     virtual std::string AskText(const std::string& title, const std::string& prompt,
                                 const std::string& defaultText) = 0;
 };
 
-/// How the lookup box and the list of entries follow each other: typing selects the first entry
-/// that begins with the text; navigation keys in the box move the list; the list writes the
-/// abbreviation of its selected entry into the box.
+/// Connects the look-up box and the list of entries. Typing selects the first entry that begins
+/// with the text. Navigation keys in the box move the list. The list writes the abbreviation of its
+/// selected entry into the box.
 ///
-/// The fields keep the state of the whole run. If the box's text changes to one that equals the
-/// last one but for case, typing stops moving the list for good (IsLookupBusy stays set); keys,
-/// clicks and record numbers go on working. That is how the lookup is meant to behave. A report of
-/// a change that finds the text as it was, such as toolkits give for a letter that no longer fits,
-/// is none.
+/// The fields keep the state of the whole run. If the box's text changes to one that differs from
+/// the last only in case, typing stops moving the list for the rest of the run (IsLookupBusy stays
+/// set). Keys, clicks and record numbers keep working. This is intentional. Toolkits also report
+/// changes that change nothing, for example for a letter that no longer fits; such reports are
+/// ignored.
 class LookupBox {
   public:
     LookupBox(const ProgramValues& values, LookupView& view, MessageSink& messages)
@@ -60,33 +60,34 @@ class LookupBox {
           view_(view),
           messages_(messages) {}
 
-    /// The box's text may have changed to `text` (UTF-8), by the user's typing or pasting.
+    /// The box's text may now be `text` (UTF-8), because the user typed or pasted.
     void OnBoxChanged(const std::string& text);
 
-    /// A navigation key was pressed in the box, which does not process it further.
+    /// The user pressed a navigation key in the box, which does not process it further.
     void OnBoxKeyDown(NavigationKey key);
 
-    /// The user selected `row` (0-based) of the list, by mouse or key. Only a list that has the
-    /// focus, or was sent a key, writes into the box.
+    /// The user selected `row` (0-based) in the list, with the mouse or a key. The list writes into
+    /// the box only if it has the focus or was sent a key.
     void OnListClick(std::int32_t row);
 
-    /// The list, which has the focus, is about to show the menu of its selected `row` (0-based):
-    /// shows the row's number and writes its abbreviation into the box.
+    /// The list, which has the focus, is about to show the menu of its selected `row` (0-based).
+    /// Shows the row's number and writes its abbreviation into the box.
     void OnListMenu(std::int32_t row);
 
     void OnListGotFocus() { IsNavigating = true; }
 
     void OnListLostFocus() { IsNavigating = false; }
 
-    /// Selects the row that FindFirstByPrefix finds for `text` (UTF-8) and scrolls it to be the
-    /// second visible one. Text from the first character outside Windows-1252 on matches nothing.
+    /// Selects the row that FindFirstByPrefix finds for `text` (UTF-8) and makes it the second
+    /// visible row. If `text` contains a character outside Windows-1252, only the text before it
+    /// can match.
     void SelectByPrefix(const std::string& text);
 
     /// Shows the number of the selected row.
     void ShowRecordNumber();
 
-    /// Selects the entry with a number; one out of range, even below 1, means the nearest.
-    /// kAskForRecord asks the user for it.
+    /// Selects the entry with this number. A number out of range, even below 1, selects the nearest
+    /// entry. kAskForRecord asks the user for the number.
     void GoToRecordNumber(RecordNumber nRecordNumber);
 
     bool IsNavigating = false;  ///< the list drives the box, not the user's typing
@@ -99,13 +100,13 @@ class LookupBox {
     /// Shows the number of a row and writes its abbreviation into the box.
     void ShowEntry(std::int32_t row);
 
-    /// The number that the user gives, which may be out of range; none if the user gives none.
+    /// Asks the user for a number, which may be out of range. Nothing if the user gives none.
     [[nodiscard]] std::optional<RecordNumber> AskRecordNumber();
 
     const ProgramValues& values_;
     LookupView& view_;
     MessageSink& messages_;
-    std::string shownText_;  // the box's text after the last change, by whomever
+    std::string shownText_;  // the box's text after the last change, no matter who made it
 };
 
 }  // namespace brelex

@@ -14,10 +14,11 @@ namespace {
 
 struct Comparison {
     std::weak_ordering order;  // of the row, cut to the length of the text, relative to the text
-    std::size_t same;          // how many bytes at the start of both are plain and equal
+    std::size_t same;          // how many bytes at the beginning of both are plain and equal
 };
 
-// Compares a row with a text. The row is known to begin with the first `from` bytes of the text.
+// Compares a row with a text. The row is already known to begin with the first `from` bytes of the
+// text.
 Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view text,
                       std::size_t from) {
     const std::string_view cut = rows.RowText(row).substr(0, text.size());
@@ -37,9 +38,9 @@ Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view te
             i};
 }
 
-// The first row that begins with the text, if the rows cut to its length are in ascending order.
-// What both ends of the current range have in common with the text, all rows between them have,
-// too. So it is not compared again.
+// Finds the first row that begins with the text if the rows, cut to its length, are in ascending
+// order. All rows of the current range share the beginning that its two ends share with the text,
+// so these bytes are not compared again.
 std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view text) {
     std::int32_t low = 0;
     std::int32_t count = rows.RowCount();
@@ -63,8 +64,8 @@ std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view te
     return endBegins ? std::optional(low) : std::nullopt;
 }
 
-// The row found by bisecting and then stepping back row by row. Rows with accents can be out of
-// order when they are cut, so the exact procedure decides which row is found.
+// Finds a row by bisection and then steps back row by row. Rows with accents can be out of order
+// when they are cut, so this exact procedure defines the result.
 std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view text) {
     std::int32_t low = 0;
     std::int32_t high = rows.RowCount() - 1;
@@ -91,8 +92,8 @@ std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text) {
     const std::size_t ascending = rows.AscendingPrefixBytes();
     std::string_view probe = text.substr(0, text.find('\0'));
     for (; !probe.empty(); probe.remove_suffix(1)) {
-        // If the rows are in order, both give the same row. But the first takes no step for each
-        // row of a run, which can be tens of thousands long in a million entries.
+        // If the rows are in order, both give the same row. But the first method avoids one step
+        // for each row of a run, which can be tens of thousands of rows long in a million entries.
         const auto row =
             probe.size() <= ascending ? FindInOrder(rows, probe) : FindStepByStep(rows, probe);
         if (row) {

@@ -73,14 +73,14 @@ std::optional<Message> AnagramRefusalOf(std::u32string_view letters) {
 }
 
 AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.size()) {
-    // A letter outside the code page counts for the length but has no byte, so no candidate
+    // A letter outside the code page counts toward the length but has no byte, so no candidate
     // matches.
     for (std::size_t byte = 0; byte < occurrences_.size(); ++byte) {
         const char32_t character = CharacterOfByte(static_cast<unsigned char>(byte));
         occurrences_.at(byte) = static_cast<std::uint32_t>(GetNumOccr(character, letters));
         mayOccur_.at(byte) = occurrences_.at(byte) > 0 || character == U'-';
     }
-    mayOccur_.at('\t') = false;  // it ends the abbreviation even if it was typed
+    mayOccur_.at('\t') = false;  // a TAB ends the abbreviation, even if the user typed one
 }
 
 bool AnagramLetters::IsAnagram(std::string_view candidate) const {
@@ -98,7 +98,7 @@ bool AnagramLetters::IsHit(std::string_view recordText) const {
     while (end < recordText.size() && mayOccur_[static_cast<unsigned char>(recordText[end])]) {
         ++end;
     }
-    // A shorter one cannot match, and a longer one only if it has hyphens.
+    // A shorter abbreviation cannot match. A longer one can match only if it has hyphens.
     if (end == recordText.size() || recordText[end] != '\t' || end < length_) {
         return false;
     }

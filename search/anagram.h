@@ -15,10 +15,10 @@
 
 namespace brelex {
 
-/// How often a character occurs in a text, in either case.
+/// Counts how often a character occurs in a text, in either case.
 [[nodiscard]] std::int32_t GetNumOccr(char32_t character, std::u32string_view text);
 
-/// How many of the letters A to Z occur in a text, in either case.
+/// Counts how many of the letters A to Z occur in a text, in either case.
 [[nodiscard]] std::int32_t CountDistinctLetters(std::u32string_view text);
 
 /// n! in double precision; 1 for an n below 1, infinity from 171 on.
@@ -29,10 +29,10 @@ namespace brelex {
 /// empty text. Not finite for 171 characters or more.
 [[nodiscard]] double CountRearrangements(std::u32string_view text);
 
-/// The same as text, in groups of three digits. Says so if there are too many to count.
+/// The same as text, with digits in groups of three. Says so if there are too many to count.
 [[nodiscard]] std::string RearrangementsText(std::u32string_view text, std::string_view separator);
 
-/// The message that refuses letters to search for, if there are less than 2 distinct ones.
+/// The message that refuses the letters if fewer than 2 of them are distinct.
 [[nodiscard]] std::optional<Message> AnagramRefusalOf(std::u32string_view letters);
 
 /// Recognizes anagrams of a set of letters.
@@ -53,9 +53,9 @@ class AnagramLetters {
     std::array<bool, 256> mayOccur_{};  // in the abbreviation of a hit, as a letter or a hyphen
 };
 
-/// The rows (0-based, ascending) whose abbreviations are anagrams. `watcher`, which may be null, is
-/// told of each; behind row 0, 100, 200, ... of the progress, which may be 100 percent before the
-/// last row is done, and of a pause.
+/// Returns the rows (0-based, ascending) whose abbreviations are anagrams. Reports each hit to
+/// `watcher`, which may be null. After rows 0, 100, 200, ... it reports the progress and pauses.
+/// The progress may reach 100 percent before the last row is done.
 [[nodiscard]] std::vector<std::int32_t> FindAnagrams(const RowList& rows,
                                                      const AnagramLetters& letters,
                                                      WorkWatcher* watcher);

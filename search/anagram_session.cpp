@@ -93,7 +93,7 @@ void AnagramSession::RunSearch(const std::string& letters) {
     }
 }
 
-// Returns false if the program ends meanwhile.
+// Returns false if the program ends in the meantime.
 bool AnagramSession::Scan(const std::u32string& letters) {
     const OnLeaving idle([this] { ReturnToIdle(); });
     Begin(letters);
@@ -167,7 +167,7 @@ void AnagramSession::AddRow(std::string_view text, std::int32_t recordNumber) {
     recordNumbers_.push_back(recordNumber);
 }
 
-// Showing the rows anew takes a while, and mostly there are no new ones.
+// Refreshing the list takes a while, and usually there are no new rows.
 void AnagramSession::ShowNewRows() {
     if (recordNumbers_.size() != shownRows_) {
         shownRows_ = recordNumbers_.size();

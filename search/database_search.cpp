@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int32_t kRecordsBetweenPauses = 150;
 
-// The end of the records up to the next pause, the one it comes behind included.
+// The end of the rows from `row` up to the next pause, including the row after which it comes.
 std::int32_t EndOfStretch(std::int32_t row, std::int32_t rowCount) {
     const std::int32_t past = row % kRecordsBetweenPauses;
     const std::int32_t left = past == 0 ? 0 : kRecordsBetweenPauses - past;
@@ -25,7 +25,7 @@ SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, st
     SearchOutcome outcome;
     std::int32_t row = std::max(position, 0);
     while (row < rows.RowCount()) {
-        // Of the records until the next pause.
+        // The end of the rows before the next pause.
         const std::int32_t end =
             watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
         const std::int32_t hit = finder.FindNext(row, end);

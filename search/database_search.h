@@ -12,35 +12,35 @@
 
 namespace brelex {
 
-/// The most hits that one search gives.
+/// The largest number of hits that one search returns.
 inline constexpr std::int32_t kMaxHits = 500;
 
-/// What a search has found.
+/// The result of a search.
 struct SearchOutcome {
-    std::vector<std::int32_t> hits;  ///< their rows (0-based), ascending
-    bool limitReached = false;       ///< there is at least one more hit than may be given
-    std::int32_t nextPosition = 0;   ///< the row of that one, if there is
+    std::vector<std::int32_t> hits;  ///< the rows of the hits (0-based), ascending
+    bool limitReached = false;       ///< there is at least one more hit beyond the limit
+    std::int32_t nextPosition = 0;   ///< the row of that hit, if there is one
 };
 
-/// Searches the rows from `position` (0-based) on. Never gives more than `limit` hits. `watcher`,
-/// which may be null, is told of each, and of a pause behind row 0, 150, 300, ...
+/// Searches the rows from `position` (0-based) on and returns at most `limit` hits. Reports each
+/// hit to `watcher`, which may be null, and pauses after rows 0, 150, 300, ...
 [[nodiscard]] SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows,
                                            std::int32_t position, std::int32_t limit,
                                            WorkWatcher* watcher);
 
-/// The hits' record texts as Windows-1252 bytes, each with a line end behind it.
+/// The record texts of the hits as Windows-1252 bytes, each followed by a line end.
 [[nodiscard]] std::string ResultText(const RowList& rows, const std::vector<std::int32_t>& hits);
 
-/// "Found 3", while searching.
+/// The text "Found 3", shown during a search.
 [[nodiscard]] std::string FoundText(std::int32_t hits);
 
-/// "Number of Hits: 3", when done.
+/// The text "Number of Hits: 3", shown when a search is done.
 [[nodiscard]] std::string NumberOfHitsText(std::int32_t hits);
 
-/// The message at the end of a search that has all the hits it may have.
+/// The message shown when a search stops at the limit of hits.
 [[nodiscard]] Message HitLimitMessage();
 
-/// What stands in place of the hits if there are none.
+/// Shown instead of the hits if there are none.
 inline constexpr const char* kNothingFoundText = "Search text is not found";
 
 }  // namespace brelex

@@ -38,7 +38,7 @@ FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_vi
     assert(!fragment_.empty());
     std::array<double, kBytes> shares{};
     const double all = static_cast<double>(sample.size()) + kBytes;
-    shares.fill(1 / all);  // no byte is impossible
+    shares.fill(1 / all);  // no byte is considered impossible
     for (const char c : sample) {
         shares.at(static_cast<unsigned char>(c)) += 1 / all;
     }
@@ -54,7 +54,7 @@ FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_vi
         }
         return share;
     };
-    double firstShare = 2;  // more than any
+    double firstShare = 2;  // more than any share
     double secondShare = 2;
     for (std::size_t place = 0; place < fragment_.size(); ++place) {
         Probe probe = ProbeOf(fragment_[place], place, 0);
@@ -84,18 +84,18 @@ FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_vi
 void FragmentSearch::MarkCandidates(const unsigned char* text, Marks& marks) const {
     const unsigned char* const a = text + first_.place;
     const unsigned char* const b = text + second_.place;
-    // Local copies, as the compiler must assume that writing `marks` changes the members.
+    // Local copies, because the compiler must assume that writing `marks` changes the members.
     const Probe first = first_;
     const Probe second = second_;
     const auto markAll = [&](auto passesFirst, auto passesSecond) {
         for (std::size_t i = 0; i < kStride; ++i) {
-            // "&&" would be a branch.
+            // A "&&" would be a branch.
             const int passes =
                 static_cast<int>(passesFirst(a[i])) & static_cast<int>(passesSecond(b[i]));
             marks[i] = static_cast<unsigned char>(-passes);
         }
     };
-    // Most fragments have two plain letters, which need half the instructions.
+    // Most fragments have two plain letters, for which half the instructions are enough.
     if (first.span == 0 && second.span == 0) {
         markAll([&](unsigned char byte) { return (byte | first.ignored) == first.lowest; },
                 [&](unsigned char byte) { return (byte | second.ignored) == second.lowest; });

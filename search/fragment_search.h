@@ -9,24 +9,25 @@
 
 namespace brelex {
 
-/// Finds a fragment in a long text: successive bytes, each from a set. It picks the two places of
-/// the fragment whose bytes are rarest and skips every position that lacks either, a few hundred at
-/// a time, in a loop that the compiler turns into vector instructions.
+/// Finds a fragment in a long text: consecutive bytes, each from a set. It picks the two places of
+/// the fragment whose bytes are rarest and skips every position that lacks either of them. It does
+/// so for a few hundred positions at a time, in a loop that the compiler turns into vector
+/// instructions.
 class FragmentSearch {
   public:
-    /// Requires a fragment that is not empty. `sample` is text like the one to be searched. It
-    /// tells which bytes are rare.
+    /// Requires a fragment that is not empty. `sample` is text similar to the text to be searched;
+    /// it shows which bytes are rare.
     FragmentSearch(WildcardPattern::Segment fragment, std::string_view sample);
 
-    /// The expected share of positions that need a closer look, 0 to 1.
+    /// The expected share of positions that need a closer look, from 0 to 1.
     [[nodiscard]] double ExpectedCandidates() const { return expectedCandidates_; }
 
-    /// The first position of the fragment in `text`, from `from` on. npos if there is none.
+    /// The first position of the fragment in `text` at or after `from`. npos if there is none.
     [[nodiscard]] std::size_t Find(std::string_view text, std::size_t from) const;
 
   private:
     /// A test that every byte of a set passes and few others do: with the bits of `ignored` set,
-    /// the byte is in a range.
+    /// the byte lies in a range.
     struct Probe {
         std::size_t place = 0;      // in the fragment
         unsigned char ignored = 0;  // 20 hex ignores the case of most letters

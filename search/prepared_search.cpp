@@ -20,13 +20,14 @@ constexpr const char* kReadHelp = "Read Help for more information.";
 constexpr const char* kReadHelpAboutPatterns =
     "Read Help for more information about search patterns.";
 
-// What the rules about wildcards refuse. They do not take the text as a pattern.
+// The message for a request that breaks the rules about wildcards. These rules look at the text
+// without compiling it as a pattern.
 std::optional<Message> RefusalOf(const SearchRequest& request) {
     const std::string& text = request.text;
     const auto has = [&text](std::string_view part) {
         return text.find(part) != std::string::npos;
     };
-    // "!" and "-" count, too, although they are plain characters outside brackets.
+    // "!" and "-" count, too, although outside brackets they are plain characters.
     if (request.wholeWord && text.find_first_of("*?#[]!-") != std::string::npos) {
         return Refusal(kInvalidOption,
                        "Use of wildcards is not allowed, if you want to find whole words only. "
@@ -34,7 +35,7 @@ std::optional<Message> RefusalOf(const SearchRequest& request) {
                        "from the search text.",
                        kReadHelp);
     }
-    // Only a text that is bracketed as a whole: "x[a-c]y" may stand anywhere.
+    // This refuses only a text that is one bracketed whole. "x[a-c]y" is allowed anywhere.
     if (request.position == SearchPosition::Anywhere && text.size() >= 2 && text.front() == '[' &&
         text.back() == ']') {
         return Refusal(kInvalidOption,
@@ -43,7 +44,7 @@ std::optional<Message> RefusalOf(const SearchRequest& request) {
                        "range specifier from the search text.",
                        kReadHelp);
     }
-    // One "[*]" lets the other asterisks of the text through.
+    // A single "[*]" lets the other asterisks of the text through.
     if (has("*") && !has("[*]")) {
         return Refusal(kBadPattern,
                        "Free use of asterisk (*) in search text is not allowed. Enclose it in "

@@ -10,10 +10,10 @@
 
 namespace brelex {
 
-/// A request that can be searched for, or the message that refuses it.
+/// A request that is ready to be searched for, or the message that refuses it.
 using PreparedSearch = std::variant<RecordFinder, Message>;
 
-/// Checks a request and gets it ready. `rows` must outlive the finder.
+/// Checks a request and compiles it. `rows` must outlive the finder.
 [[nodiscard]] PreparedSearch PrepareSearch(const SearchRequest& request, const RowList& rows);
 
 }  // namespace brelex

@@ -33,7 +33,7 @@ std::string SmallLettersOfBytes(std::string_view bytes) {
     return small;
 }
 
-// Pieces from throughout the rows.
+// Takes pieces from all over the rows.
 std::string Sample(const RowList& rows) {
     constexpr std::size_t kPieces = 16;
     constexpr std::size_t kPieceBytes = 128;
@@ -69,7 +69,7 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
     if (rows.RowCount() == 0) {
         return;
     }
-    // The neighbors of a field: the TAB between abbreviation and expansion, or the NUL at the end.
+    // The bytes next to a field: the TAB between abbreviation and expansion, or the NUL at the end.
     const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
     const std::string sample = Sample(rows);
     const auto& segments = pattern_.Segments();
@@ -105,7 +105,8 @@ bool RecordFinder::IsHit(std::string_view recordText) const {
                                  *word_, ComparisonMode::Binary);
 }
 
-// Whether the pattern is one fragment between stars, found within the field of this record.
+// Whether the pattern is a single fragment between stars, and `found` lies within the field of this
+// record.
 bool RecordFinder::HasOnlyFragment(std::string_view recordText, const char* found) const {
     const std::string_view field = FieldOf(recordText);
     return onlyFragment_ > 0 && found >= field.data() &&
@@ -120,7 +121,7 @@ std::int32_t RecordFinder::FindNext(std::int32_t first, std::int32_t last) const
         }
         return first;
     }
-    // The very first record is a case of its own, as nothing precedes it.
+    // The very first record is a special case, because nothing precedes it.
     if (first >= last || (first == 0 && IsHit(rows_.RowText(0)))) {
         return first;
     }

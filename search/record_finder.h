@@ -21,12 +21,12 @@ class RecordFinder {
     [[nodiscard]] static std::optional<RecordFinder> Compile(const SearchRequest& request,
                                                              const RowList& rows);
 
-    /// Whether a record matches: the definition, one record at a time.
+    /// Whether a record matches. This is the definition, applied to one record at a time.
     [[nodiscard]] bool IsHit(std::string_view recordText) const;
 
-    /// The first matching row of those from `first` up to but not including `last`, or `last` if
-    /// there is none. Requires 0 <= first, and last <= RowCount(). Searches the text of all rows at
-    /// once for the rarest part of the pattern, and looks only at the records that contain it.
+    /// Returns the first matching row from `first` up to but not including `last`, or `last` if
+    /// there is none. Requires 0 <= first and last <= RowCount(). Searches the text of all rows at
+    /// once for the rarest fragment of the pattern, and looks only at the records that contain it.
     [[nodiscard]] std::int32_t FindNext(std::int32_t first, std::int32_t last) const;
 
   private:
@@ -41,9 +41,10 @@ class RecordFinder {
     WildcardPattern pattern_;
     std::optional<std::string>
         word_;  // the whole word to find, in small letters if case does not matter
-    std::optional<FragmentSearch> rarest_;  // nothing if the pattern consists of stars
-    std::size_t edge_ = 0;          // bytes before the field that belong to the rarest fragment
-    std::size_t onlyFragment_ = 0;  // its length if any field that contains it matches
+    std::optional<FragmentSearch> rarest_;  // empty if the pattern consists of stars
+    std::size_t edge_ = 0;  // bytes before the field that belong to the rarest fragment
+    std::size_t onlyFragment_ =
+        0;  // the length of that fragment if any field that contains it matches
 };
 
 }  // namespace brelex

@@ -7,8 +7,8 @@
 
 namespace brelex {
 
-/// The suggested search texts of a database: its search list, trimmed and divided at every digit
-/// "1". None for an empty list.
+/// The suggested search texts of a database: its search list, trimmed and split at every digit "1".
+/// Empty for an empty list.
 [[nodiscard]] std::vector<std::string> SearchListItems(std::string_view searchList);
 
 }  // namespace brelex

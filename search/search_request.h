@@ -11,16 +11,16 @@ enum class SearchIn {
     Expansions
 };
 
-/// Where in that part the search text has to be.
+/// Where in that part the search text has to occur.
 enum class SearchPosition {
     Anywhere,
     Beginning,
     Ending
 };
 
-/// What the user searches for.
+/// A search as the user has entered it.
 struct SearchRequest {
-    std::string text;  ///< UTF-8, may have wildcards (see WildcardPattern)
+    std::string text;  ///< UTF-8, may contain wildcards (see WildcardPattern)
     SearchIn in = SearchIn::Expansions;
     SearchPosition position = SearchPosition::Anywhere;
     bool matchCase = false;

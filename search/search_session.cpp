@@ -39,7 +39,7 @@ void SearchSession::ResetStatus() {
 }
 
 void SearchSession::Open() {
-    display_.count.clear();  // it tells of a search that ran when the window was closed
+    display_.count.clear();  // it is about a search that ran when the window was closed
     Refresh();
     view_.MoveFocus(SearchFocus::SearchText);
 }
@@ -86,7 +86,7 @@ void SearchSession::DismissSearchWindow() {
     view_.ShowResult("", Tone::Plain);
     Refresh();
     view_.HideWindow();
-    display_.resultAreaShown = false;  // out of sight
+    display_.resultAreaShown = false;  // the result area is out of sight
     Refresh();
 }
 
@@ -190,7 +190,7 @@ void SearchSession::TellOfAbort() {
     isEndTold_ = true;
 }
 
-// Also when a search has failed: then there is nothing to be told of its end.
+// Also runs when a search has failed. In that case no text about its end is shown.
 void SearchSession::ReturnToIdle() {
     const bool wasDismissed = state_ == WorkState::Dismissed;
     state_ = WorkState::Idle;

@@ -15,17 +15,17 @@ namespace brelex {
 
 struct SearchOutcome;
 
-/// Whether a text is what one expects or has to be noticed.
+/// Whether a text is an expected one or one that the user should notice.
 enum class Tone {
     Plain,
     Warning
 };
 
-/// What the search window shows, but for the result. Texts are UTF-8.
+/// Everything that the search window shows except the result. Texts are UTF-8.
 struct SearchDisplay {
-    bool isBusy = false;      ///< takes no input but "Stop", which is "Cancel" otherwise
+    bool isBusy = false;  ///< takes no input except "Stop", a button that otherwise says "Cancel"
     bool isAnimated = false;  ///< shows the busy animation
-    bool canSearch = false;   ///< takes the Search command
+    bool canSearch = false;   ///< accepts the Search command
     bool canGoOn = false;     ///< offers to search from the next position
     bool resultAreaShown = false;
     std::string status = "Ready";
@@ -50,68 +50,69 @@ class SearchView {
     SearchView& operator=(const SearchView&) = delete;
     virtual ~SearchView() = default;
 
-    /// Shows all this. What tells of a search is on the screen when this returns.
+    /// Shows all of this. Texts about a search are on the screen when this returns.
     virtual void ShowDisplay(const SearchDisplay& display) = 0;
 
-    /// Fills the result box (UTF-8). Throws what keeps it from that.
+    /// Fills the result box (UTF-8). Throws if that fails.
     virtual void ShowResult(const std::string& text, Tone tone) = 0;
 
     virtual void MoveFocus(SearchFocus focus) = 0;
 
-    /// Puts the search text on top of the history.
+    /// Puts the search text at the top of the history.
     virtual void AddToHistory() = 0;
 
-    /// Lets all waiting events be handled, and then rests for a while.
+    /// Lets all waiting events be handled, and then rests for `restMs` milliseconds.
     virtual void LetEventsRun(int restMs) = 0;
 
-    /// Empties the search text, gives it the keyboard, and hides the window.
+    /// Clears the search text, gives it the keyboard, and hides the window.
     virtual void HideWindow() = 0;
 };
 
-/// What the window "Search Database" does: it decides, and the window shows it and passes on what
-/// the user does. It lives as long as the window, which is hidden and shown again.
+/// Decides what the window "Search Database" does. The window shows these decisions and passes on
+/// the user's actions. The session lives as long as the window, which is hidden and shown again.
 class SearchSession final : private WorkWatcher {
   public:
-    /// All must outlive the session; the database is loaded. Trims the header's search list.
+    /// All arguments must outlive the session. The database is loaded. Trims the header's search
+    /// list.
     SearchSession(ProgramValues& values, SearchView& view, MessageSink& messages);
 
     /// The window is about to be shown.
     void Open();
 
-    /// The search text is now `text` (UTF-8). A report that finds it as it was changes nothing.
+    /// The search text is now `text` (UTF-8). Does nothing if it has not changed.
     void OnTextChanged(const std::string& text);
 
-    /// Searches for what the user asks; `goOn` says that the box for the next position is checked.
+    /// Searches for the request. `goOn` says that the box for the next position is checked.
     void RunSearch(const SearchRequest& request, bool goOn);
 
-    /// The button that stops a search that runs and otherwise dismisses the window.
+    /// The user pressed the button that stops a running search and otherwise dismisses the window.
     void PressCancel();
 
-    /// The user closes the window: a search ends, and the window is reset and hidden.
+    /// The user closes the window. Ends a search, and resets and hides the window.
     void DismissSearchWindow();
 
-    /// The program ends: a search ends, and shows nothing any more.
+    /// The program ends. Ends a search, which then shows nothing more.
     void Abandon();
 
     void ToggleResultArea();
 
-    /// The most characters to be typed as a search text; 0 for no limit.
+    /// How many characters can be typed as a search text; 0 for no limit.
     [[nodiscard]] std::size_t TextLimit(SearchIn in) const;
 
     [[nodiscard]] bool ResultAreaShown() const { return display_.resultAreaShown; }
 
-    /// Of the last search that was started (UTF-8).
+    /// The text of the last search that was started (UTF-8).
     [[nodiscard]] const std::string& LastSearchText() const { return lastSearchText_; }
 
-    /// The record (0-based) at which a search goes on.
+    /// The record (0-based) from which a search continues.
     [[nodiscard]] std::int32_t NextPosition() const { return nextPosition_; }
 
-    /// Whether the search that runs has to end.
+    /// Whether the running search has to end.
     [[nodiscard]] bool AbortRequested() const {
         return state_ == WorkState::Stopping || state_ == WorkState::Dismissed;
     }
 
-    /// Whether the last search has found anything.
+    /// Whether the last search found anything.
     [[nodiscard]] bool FoundAnything() const { return foundAnything_; }
 
   private:
@@ -135,9 +136,9 @@ class SearchSession final : private WorkWatcher {
     std::string text_;
     std::string lastSearchText_;
     std::int32_t nextPosition_ = 0;
-    std::int32_t hits_ = 0;  // of the search that runs
+    std::int32_t hits_ = 0;  // of the running search
     bool foundAnything_ = false;
-    bool isEndTold_ = false;  // of the last search
+    bool isEndTold_ = false;  // the display shows how the last search ended
 };
 
 }  // namespace brelex

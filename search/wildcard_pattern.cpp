@@ -17,14 +17,14 @@ using ByteSet = WildcardPattern::ByteSet;
 
 constexpr std::size_t kBytes = 256;
 
-// What a list in brackets matches.
+// The meaning of a list in brackets.
 struct ListResult {
     bool isValid = false;
-    bool matchesEmptyText = false;  // "[]"
-    ByteSet bytes;                  // one of these, if not the empty text
+    bool matchesEmptyText = false;  // the list is "[]"
+    ByteSet bytes;                  // one of these bytes, if not the empty text
 };
 
-// Knows which bytes stand for which characters. Without `matchCase`, all of them are small letters.
+// Maps bytes to characters. Without `matchCase`, maps them to lowercase letters.
 class CharacterTable {
   public:
     explicit CharacterTable(bool matchCase) {
@@ -48,7 +48,7 @@ class CharacterTable {
     std::array<char32_t, kBytes> characters_{};  // of each byte
 };
 
-// Takes the list that begins with the "[" at the front of `rest`, up to its "]".
+// Reads the list that begins with the "[" at the front of `rest`, up to its "]".
 ListResult TakeList(std::u32string_view& rest, const CharacterTable& characters) {
     rest.remove_prefix(1);
     const bool negated = rest.starts_with(U'!');
@@ -133,9 +133,9 @@ bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view t
     return true;
 }
 
-// The first segment must be at the beginning and the last at the end. Each of the others takes the
-// first place after its predecessor where it fits: if that leaves too little for the rest, every
-// later place does, too.
+// The first segment must be at the beginning and the last at the end. Each of the others goes to
+// the first place after its predecessor where it fits. If that leaves too little for the rest, so
+// does every later place.
 bool WildcardPattern::Matches(std::string_view text) const {
     const Segment& first = segments_.front();
     const Segment& last = segments_.back();

@@ -8,8 +8,8 @@
 
 namespace brelex {
 
-/// A pattern with wildcards, ready to be matched against texts of Windows-1252 bytes. Matching
-/// neither converts, allocates nor recurses. Its cost is at most the product of the two lengths.
+/// A pattern with wildcards, ready to be matched against texts of Windows-1252 bytes. Matching does
+/// not convert, allocate or recurse. Its cost is at most the product of the two lengths.
 ///
 ///     ?        any one character
 ///     #        any one digit
@@ -17,30 +17,30 @@ namespace brelex {
 ///     [list]   any one character in the list
 ///     [!list]  any one character not in the list
 ///
-/// A list consists of characters and ranges such as a-n. Ranges go by Unicode value and include
+/// A list consists of characters and ranges such as a-n. Ranges follow Unicode values and include
 /// both ends. In a list, "*", "?", "#", "[", a "-" that does not form a range, and a "!" that is
-/// not at the start are ordinary characters.
-/// "[]" matches the empty text, "[!]" any one character. Everything else matches itself.
+/// not at the start are ordinary characters. "[]" matches the empty text, "[!]" any one character.
+/// Everything else matches itself.
 class WildcardPattern {
   public:
     /// Compiles a pattern. A character outside Windows-1252 matches nothing, but may be the end of
-    /// a range. Without `matchCase`, upper and lower case match each other, and a range is taken
-    /// between small letters. Nothing if a "[" is not closed or a range runs backwards.
+    /// a range. Without `matchCase`, uppercase and lowercase match each other, and a range runs
+    /// between the lowercase letters. Nothing if a "[" is not closed or a range runs backward.
     [[nodiscard]] static std::optional<WildcardPattern> Compile(std::u32string_view pattern,
                                                                 bool matchCase);
 
     /// Whether the whole of `text` matches.
     [[nodiscard]] bool Matches(std::string_view text) const;
 
-    /// The bytes that match at one place of a text.
+    /// A set of bytes that match at one place of a text.
     using ByteSet = std::bitset<256>;
 
     /// The part between two stars: one set for each byte of the text.
     using Segment = std::vector<ByteSet>;
 
-    /// The parts between the stars, one more than there are stars. Any of them may be empty. A text
-    /// that matches begins with the first, ends with the last, and has the others in order between
-    /// them.
+    /// The parts between the stars. There is one more of them than there are stars, and any may be
+    /// empty. A text that matches begins with the first, ends with the last, and contains the
+    /// others in order between them.
     [[nodiscard]] const std::vector<Segment>& Segments() const { return segments_; }
 
   private:

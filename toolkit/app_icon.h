@@ -6,7 +6,7 @@
 
 namespace brelex {
 
-/// The program's icon, drawn sharp at any size.
+/// The program's icon, drawn sharply at any size.
 [[nodiscard]] wxBitmapBundle AppIcon(int size);
 
 /// The icon in the sizes that window managers ask for.

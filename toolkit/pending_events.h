@@ -3,9 +3,9 @@
 
 namespace brelex {
 
-/// Lets all waiting events be handled in between: whoever calls it must stand what they do, up to
-/// the window's being closed. There is no such thing for some kinds of events only: on Windows the
-/// toolkit would lose the others, and GTK counts the mouse's movements as painting.
+/// Handles all waiting events. The caller must cope with anything they do, even with the window
+/// being closed. It is not possible to handle only some kinds of events: on Windows the toolkit
+/// would lose the others, and GTK counts mouse movements as painting.
 void LetPendingEventsRun();
 
 }  // namespace brelex

@@ -14,7 +14,8 @@ std::string Utf8Text(const wxString& text) {
     if (utf8.length() > 0 || text.empty()) {
         return {utf8.data(), utf8.length()};
     }
-    // Half of a surrogate pair, which an edit control may leave behind, spoils it all.
+    // An edit control may leave half of a surrogate pair behind. It would make the whole text fail
+    // to convert.
     wxString sound;
     for (const wxUniChar character : text) {
         const bool isHalf = character >= 0xD800 && character <= 0xDFFF;

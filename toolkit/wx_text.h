@@ -8,11 +8,11 @@
 
 namespace brelex {
 
-/// UTF-8 as the toolkit's text, and back.
+/// Converts between UTF-8 and the toolkit's text.
 [[nodiscard]] wxString WxText(std::string_view utf8);
 [[nodiscard]] std::string Utf8Text(const wxString& text);
 
-/// Windows-1252 bytes as the toolkit's text.
+/// Converts Windows-1252 bytes to the toolkit's text.
 [[nodiscard]] wxString WxTextOfBytes(std::string_view bytes);
 
 }  // namespace brelex
