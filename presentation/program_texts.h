@@ -20,8 +20,7 @@ struct CreditRecord {
     std::string text;  ///< UTF-8
     int pointSize = 9;
     bool isBold = false;
-    std::optional<unsigned>
-        colour;  ///< red in the low byte, then green and blue; if none, the user's text color
+    std::optional<unsigned> colour;  ///< red in the low byte, then green, blue; none: the user's
 };
 
 /// The credits, in order.

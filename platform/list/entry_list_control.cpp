@@ -20,7 +20,7 @@ std::int64_t NowMs() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
-// AltGr, with which keyboards reach some characters, counts as Ctrl and Alt.
+// AltGr counts as Ctrl and Alt. Some keyboards need it to type certain characters.
 bool IsTyped(const wxKeyEvent& event) {
     const int modifiers = event.GetModifiers();
     return modifiers == wxMOD_NONE || modifiers == wxMOD_SHIFT || modifiers == wxMOD_ALTGR;
@@ -36,7 +36,8 @@ void EntryListControl::RightPressed() {
 }
 
 void EntryListControl::OnContextMenu(wxContextMenuEvent& event) const {
-    // With the mouse the pressed button has asked for it already.
+    // A menu request with the mouse needs nothing here: pressing the button already asked for the
+    // menu.
     if (event.GetPosition() == wxDefaultPosition && SelectedRow() >= 0 && onMenuKey) {
         onMenuKey();
     }

@@ -39,13 +39,13 @@ class RowModel final : public wxDataViewVirtualListModel {
 
     [[nodiscard]] const RowList* Rows() const { return rows_; }
 
-    wxColour colour;  // none is the theme's
+    wxColour colour;  // the theme's color if not set
 
   private:
     const RowList* rows_ = nullptr;
 };
 
-// The event that the toolkit is working on, if there is one.
+// The event that the toolkit is handling, if any.
 class CurrentEvent {
   public:
     CurrentEvent() : event_(gtk_get_current_event()) {}
@@ -69,9 +69,10 @@ class CurrentEvent {
     GdkEvent* event_;
 };
 
-// A GtkTreeView over a virtual model. Positions come from its scroll position and the height of a
-// row, as all rows have the same: what the toolkit derives itself is off by one for a row's first
-// pixel, and its scrolling is animated and deferred (seen with GTK 3.24, wxWidgets 3.2.2).
+// A GtkTreeView over a virtual model. Positions are computed from its scroll position and the
+// height of a row, because all rows have the same height. The toolkit's own result is off by one
+// for a row's first pixel, and its scrolling is animated and deferred (seen with GTK 3.24,
+// wxWidgets 3.2.2).
 class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl {
   public:
     EntryListControlGtk(wxWindow& parent, int expansionTextAt)
@@ -84,16 +85,17 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         }
         AssociateModel(model_.get());
         GtkTreeView* const view = TreeView();
-        // Or else typing would open a search box over the list, and so would Ctrl+F, which asks
-        // only for a column to search.
+        // Otherwise typing would open a search box over the list. So would Ctrl+F, for which a
+        // column to search is enough.
         gtk_tree_view_set_enable_search(view, FALSE);
         gtk_tree_view_set_search_column(view, -1);
         PlaceColumns(expansionTextAt);
-        // All rows are as high as the first, so that none but the visible ones are measured.
+        // All rows have the height of the first, so GTK measures only the visible ones.
         gtk_tree_view_set_fixed_height_mode(view, TRUE);
         Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, &EntryListControlGtk::OnSelectionChanged, this);
         Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &EntryListControlGtk::OnActivated, this);
-        // Before the toolkit, whose own handling selects a row even for a press below the last.
+        // This runs before the toolkit's own handling, which selects a row even for a press below
+        // the last one.
         g_signal_connect(view, "event", G_CALLBACK(&EntryListControlGtk::OnEvent), this);
         Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) { OnContextMenu(event); });
         Bind(wxEVT_CHAR, &EntryListControlGtk::OnChar, this);
@@ -110,7 +112,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
     }
 
     void SetTextColour(const wxColour& colour) override {
-        // A row that is selected has colours of its own only if none is asked for.
+        // A selected row uses the colors of a selection only if no text color is set.
         const bool usual = colour == wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT);
         model_->colour = usual ? wxColour() : colour;
         Refresh();
@@ -142,7 +144,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
 
     [[nodiscard]] int RowHeight() const override {
         if (gtk_widget_get_realized(GTK_WIDGET(TreeView())) == FALSE) {
-            return HeightOfCells();  // the tree view does not know it yet
+            return HeightOfCells();  // the tree view does not know its height yet
         }
         GtkTreePath* const path = gtk_tree_path_new_first();
         GdkRectangle area;
@@ -175,10 +177,10 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         quiet_ = true;
         const double position = gtk_adjustment_get_value(Adjustment());
         GtkTreePath* const path = gtk_tree_path_new_from_indices(row, -1);
-        // The cursor too, so that the keys of the list go on from here.
+        // The cursor moves, too, so that the keys of the list continue from here.
         gtk_tree_view_set_cursor(TreeView(), path, nullptr, FALSE);
         gtk_tree_path_free(path);
-        // Setting the cursor begins to scroll to it.
+        // Setting the cursor starts a scroll to it. This cancels that scroll.
         gtk_adjustment_set_value(Adjustment(), position);
         selected_ = row;
         quiet_ = false;
@@ -206,7 +208,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         return static_cast<int>(gtk_adjustment_get_value(Adjustment()));
     }
 
-    // What the tree view will make of its cells.
+    // The height that the tree view will give its cells.
     [[nodiscard]] int HeightOfCells() const {
         int highest = 1;
         for (const int column : {0, 1}) {
@@ -225,8 +227,8 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         return highest + separator;
     }
 
-    // Fixed columns: the first ends where the second's text begins less the padding of a cell, the
-    // second takes what is left.
+    // The columns have fixed widths. The first ends where the text of the second begins, less the
+    // padding of a cell. The second takes the rest.
     void PlaceColumns(int textAt) {
         GtkTreeViewColumn* const first = gtk_tree_view_get_column(TreeView(), 0);
         GtkTreeViewColumn* const second = gtk_tree_view_get_column(TreeView(), 1);
@@ -257,7 +259,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         return right ? TRUE : FALSE;
     }
 
-    // A blank that is typed into a text is no key of the tree view's.
+    // A blank that continues a typed text must not reach the tree view, which treats it as a key.
     void OnChar(wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_SPACE && !IsTyping()) {
             event.Skip();
@@ -271,7 +273,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
             return;
         }
         if (!event.GetItem().IsOk() || !IsListUsed()) {
-            CallAfter(&EntryListControlGtk::KeepSelection);  // when the toolkit is done with it
+            CallAfter(&EntryListControlGtk::KeepSelection);  // once the toolkit is done
             return;
         }
         const auto row = static_cast<std::int32_t>(model_->GetRow(event.GetItem()));
@@ -282,8 +284,8 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         TellOfClick(row);
     }
 
-    // GTK selects the row that is clicked before it gives the list the focus. Whatever else selects
-    // one, such as a screen reader, need not bring the focus at all.
+    // GTK selects a clicked row before it gives the list the focus. Anything else that selects a
+    // row, such as a screen reader, need not bring the focus at all.
     void TellOfClick(std::int32_t row) {
         if (HasFocus()) {
             Clicked(row);
@@ -310,7 +312,7 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         return !event.Is(GDK_FOCUS_CHANGE);
     }
 
-    // Takes back what the toolkit did to the selection: a click with Ctrl clears it, too.
+    // Undoes the toolkit's change of the selection. A click with Ctrl, for example, clears it.
     void KeepSelection() {
         if (selected_ >= 0) {
             SelectQuietly(selected_);
@@ -321,8 +323,8 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
         quiet_ = false;
     }
 
-    // A double-click, or a key. Of those the tree view takes more than the list does: blank, and
-    // Enter with whatever is held down with it.
+    // A double-click or a key. The tree view accepts more keys than the list does: a blank, and
+    // Enter together with any modifier.
     void OnActivated(wxDataViewEvent& /*event*/) {
         const CurrentEvent event;
         if (event.Is(GDK_KEY_PRESS)) {

@@ -22,7 +22,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
     EntryListControlMsw(wxWindow& parent, int expansionTextAt)
         : wxListView(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                      wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL) {
-        const int cellPadding = FromDIP(6);  // of the list view's columns but the first
+        const int cellPadding = FromDIP(6);  // in all columns of the list view except the first
         AppendColumn("Abbreviation", wxLIST_FORMAT_LEFT, expansionTextAt - cellPadding);
         AppendColumn("Expansion", wxLIST_FORMAT_LEFT, wxLIST_AUTOSIZE_USEHEADER);
         Bind(wxEVT_LIST_ITEM_SELECTED, &EntryListControlMsw::OnSelected, this);
@@ -65,7 +65,8 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
     [[nodiscard]] std::int32_t RowsPerPage() const override { return GetCountPerPage(); }
 
     [[nodiscard]] int RowHeight() const override {
-        // The control tells it of a row only; so it is given one for the question.
+        // The control reports a height only for an existing row, so an empty list gets one
+        // temporarily.
         const bool isEmpty = RowCount() == 0;
         if (isEmpty) {
             SendMessageW(GetHWND(), LVM_SETITEMCOUNT, 1, LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
@@ -97,8 +98,8 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
 
   protected:
     void SelectQuietly(std::int32_t row) override {
-        quiet_ = true;  // the control tells of the change before it returns
-        // Or else selecting walks all rows of a virtual list (seen with Wine 8).
+        quiet_ = true;  // the control reports the change before it returns
+        // Otherwise selecting walks through all rows of a virtual list (seen with Wine 8).
         if (selected_ >= 0 && selected_ != row) {
             SetItemState(selected_, 0, wxLIST_STATE_SELECTED);
         }
@@ -112,11 +113,11 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
 
     void SetBottomRow(std::int32_t row) override { EnsureVisible(row); }
 
-    // The row found is what a person typing into the box looks at: it keeps the colours of a
-    // selection while the list has not the focus, instead of a grey that hardly shows.
+    // While somebody types into the box, the row found is what that person looks at. So it keeps
+    // the colors of a selection even without the focus, instead of a gray that is hard to see.
     bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override {
         if (reinterpret_cast<const NMHDR*>(parameter)->code == LVN_ODFINDITEMW) {
-            *result = -1;  // no other row; or else the control would take it for the first one
+            *result = -1;  // finds no row, or else the control would use the first one
             return true;
         }
         auto* const drawing = reinterpret_cast<NMLVCUSTOMDRAW*>(parameter);
@@ -135,7 +136,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
   private:
     [[nodiscard]] wxString OnGetItemText(long item, long column) const override {
         if (item >= RowCount()) {
-            return {};  // the one that RowHeight asks of
+            return {};  // the temporary row of RowHeight
         }
         const std::string_view text = rows_->RowText(static_cast<std::int32_t>(item));
         return WxTextOfBytes(ColumnText(text, static_cast<int>(column)));
@@ -150,8 +151,8 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         TellOfClick(row);
     }
 
-    // The control may select the row that is clicked before it takes the focus (seen with Wine 8).
-    // Whatever else selects one, such as a screen reader, need not bring the focus at all.
+    // The control may select a clicked row before it takes the focus (seen with Wine 8). Anything
+    // else that selects a row, such as a screen reader, need not bring the focus at all.
     void TellOfClick(std::int32_t row) {
         if (HasFocus()) {
             Clicked(row);
@@ -164,7 +165,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         }
     }
 
-    // A click with Ctrl clears the selection, as does one below the last row; a list box keeps it.
+    // A click with Ctrl or below the last row clears the selection. A list box keeps it.
     void OnDeselected(wxListEvent& /*event*/) {
         if (!quiet_) {
             CallAfter([this] {
@@ -175,7 +176,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
         }
     }
 
-    // A blank would open the entry, and so would Enter with whatever is held down with it.
+    // A blank would open the entry, and so would Enter together with any modifier.
     void OnKeyDown(wxKeyEvent& event) {
         const int key = event.GetKeyCode();
         const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
@@ -187,7 +188,7 @@ class EntryListControlMsw final : public wxListView, public EntryListControl {
 
     void OnActivated(wxListEvent& /*event*/) { Entered(); }
 
-    // The second column takes what the first leaves.
+    // The second column takes the width that the first leaves.
     void OnSize(wxSizeEvent& event) {
         SetColumnWidth(1, GetClientSize().x - GetColumnWidth(0));
         event.Skip();

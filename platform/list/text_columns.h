@@ -5,14 +5,14 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// Keeps text of a multi-line box `pixels` away from its left and right edges.
+/// Keeps the text of a multi-line box `pixels` away from its left and right edges.
 void SetSideMargins(wxTextCtrl& box, int pixels);
 
 /// Keeps the first line of a multi-line box `pixels` away from its upper edge.
 void SetTopMargin(wxTextCtrl& box, int pixels);
 
-/// Puts the tab stop of a multi-line box at `dialogUnits`, fourths of the average width of a
-/// character. Returns its distance in pixels from the beginning of the text.
+/// Puts the tab stop of a multi-line box at `dialogUnits`, each a quarter of the average character
+/// width. Returns its distance in pixels from the beginning of the text.
 int SetTabStop(wxTextCtrl& box, int dialogUnits);
 
 }  // namespace brelex

@@ -10,7 +10,7 @@ namespace brelex {
 namespace {
 
 GtkTextView* TextViewOf(wxTextCtrl& box) {
-    // The box's own widget is what scrolls the text.
+    // The box's own widget only scrolls the text view inside it.
     return GTK_TEXT_VIEW(gtk_bin_get_child(GTK_BIN(box.GetHandle())));
 }
 

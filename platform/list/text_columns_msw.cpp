@@ -27,8 +27,8 @@ void LowerText(const wxTextCtrl& box, int pixels) {
     RECT wanted = TextArea(box);
     wanted.top = pixels;  // the inside of the box begins at 0
     SetTextArea(box, wanted);
-    // Wine takes the side margins and what it keeps at the edges off what it is given (seen with
-    // 8.0), though it tells of the area without them.
+    // Wine subtracts the side margins and its own border from the area that it is given, but
+    // reports the area without them (seen with 8.0).
     const RECT got = TextArea(box);
     SetTextArea(box, {2 * wanted.left - got.left, 2 * wanted.top - got.top,
                       2 * wanted.right - got.right, 2 * wanted.bottom - got.bottom});
@@ -44,7 +44,7 @@ void SetSideMargins(wxTextCtrl& box, int pixels) {
 
 void SetTopMargin(wxTextCtrl& box, int pixels) {
     LowerText(box, pixels);
-    // A new size makes the system forget it, which it does behind this event.
+    // When its size changes, the box loses this area, but only after this event.
     box.Bind(wxEVT_SIZE, [&box, pixels](wxSizeEvent& event) {
         event.Skip();
         box.CallAfter([&box, pixels] { LowerText(box, pixels); });

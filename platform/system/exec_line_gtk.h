@@ -6,9 +6,9 @@
 
 namespace brelex {
 
-/// What stands for `text` between the double quotes of an argument in a desktop entry's Exec line.
-/// That is read twice: as the value of a key, which takes backslashes off, and as a command, which
-/// takes more of them off.
+/// Escapes `text` for use between the double quotes of an argument in a desktop entry's Exec line.
+/// Such a line is read twice: first as the value of a key, which removes backslashes, and then as a
+/// command, which removes more of them.
 [[nodiscard]] std::string EscapedForExecLine(std::string_view text);
 
 }  // namespace brelex

@@ -3,8 +3,8 @@
 
 namespace brelex {
 
-/// While one exists, the program's sleeps last as long as they are meant to, and not up to a tick
-/// of the system (15.6 ms on Windows).
+/// While one exists, the program's sleeps take as long as requested and are not rounded up to a
+/// tick of the system (15.6 ms on Windows).
 class FineTimer {
   public:
     FineTimer();

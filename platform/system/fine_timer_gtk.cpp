@@ -3,7 +3,7 @@
 
 namespace brelex {
 
-// Linux sleeps to a fraction of a millisecond anyway.
+// Linux always sleeps with a precision below a millisecond.
 FineTimer::FineTimer() = default;
 FineTimer::~FineTimer() = default;
 

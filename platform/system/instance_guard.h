@@ -5,8 +5,8 @@
 
 namespace brelex {
 
-/// Tells whether this user already runs the program in this session, and keeps the place taken
-/// until it is destroyed. A program that crashed keeps nothing.
+/// Says whether this user is already running the program in this session. Claims the place for this
+/// copy until the guard is destroyed. A program that crashed no longer holds it.
 class InstanceGuard {
   public:
     InstanceGuard();
@@ -14,8 +14,7 @@ class InstanceGuard {
     InstanceGuard& operator=(const InstanceGuard&) = delete;
     ~InstanceGuard();
 
-    /// Whether another copy had taken the place before. Where the system cannot tell, there is
-    /// none.
+    /// Whether another copy had already claimed the place. False if the system cannot tell.
     [[nodiscard]] bool IsAnotherRunning() const { return anotherRunning_; }
 
   private:

@@ -17,14 +17,14 @@ namespace {
 constexpr mode_t kOwnerOnly = 0600;
 constexpr int kNone = -1;
 
-// A name of the user's own, as the folder may be one that users share.
+// The name contains the user's number, because users may share the folder.
 std::string LockPath() {
     const std::string folder = TemporaryFolder();
     return folder.empty() ? "" : folder + "brevilexicon-" + std::to_string(geteuid()) + ".lock";
 }
 
-// Whether nobody but the user can have this file open. In a shared folder another user may have
-// taken the name before, and could hold the lock for ever.
+// Whether nobody but the user can have this file open. In a shared folder, another user may have
+// taken the name earlier and could hold the lock forever.
 bool IsOnlyOurs(int file) {
     struct stat status {};
 
@@ -45,8 +45,8 @@ int OpenLockFile() {
 
 }  // namespace
 
-// An advisory lock: the system lets go of it when the process ends in whatever way. The file itself
-// stays, as removing it would let two copies lock two files of one name.
+// An advisory lock. The system releases it however the process ends. The file itself stays, because
+// removing it would let two copies lock two files of the same name.
 class InstanceGuard::Place {
   public:
     Place() : file_(OpenLockFile()) {}
@@ -65,7 +65,7 @@ class InstanceGuard::Place {
     }
 
   private:
-    int file_;  // less than 0 if there is none: the system cannot tell then
+    int file_;  // negative if there is none: in that case the system cannot tell
 };
 
 InstanceGuard::InstanceGuard()

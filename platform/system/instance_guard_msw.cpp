@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-// A named mutex of the user's session; the system closes it when the process ends.
+// A named mutex of the user's session. The system closes it when the process ends.
 class InstanceGuard::Place {
   public:
     Place() : mutex_(CreateMutexW(nullptr, FALSE, L"Local\\Brevilexicon.Instance")) {

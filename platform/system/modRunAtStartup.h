@@ -5,11 +5,11 @@
 
 namespace brelex {
 
-/// Has the program start hidden when the user logs on, or no longer. It is the file `programName`
-/// (on Windows without its ".exe") in `appFolder`, which ends in the separator; both are UTF-8. On
-/// Windows that is the user's registry value named after the product, its data in small letters;
-/// elsewhere the file brevilexicon.desktop in the user's autostart folder. Returns whether it could
-/// be written or deleted; deleting what is not there fails.
+/// Makes the program start hidden when the user logs on, or stops that. The program is the file
+/// `programName` (on Windows without its ".exe") in `appFolder`, which ends in the separator; both
+/// are UTF-8. On Windows the entry is the user's registry value named after the product, with its
+/// data in lowercase. Elsewhere it is the file brevilexicon.desktop in the user's autostart folder.
+/// Returns whether the entry was written or deleted. Deleting an entry that does not exist fails.
 bool SetRunAtStartup(const std::string& appFolder, const std::string& programName, bool enable);
 
 }  // namespace brelex

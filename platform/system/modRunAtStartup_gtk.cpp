@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where XDG has autostart entries; a relative path counts as none there.
+// The autostart entry in the folder that XDG defines. XDG ignores a relative path.
 std::optional<fs::path> AutostartFile() {
     constexpr const char* kName = "autostart/brevilexicon.desktop";
     const char* const configuration = std::getenv("XDG_CONFIG_HOME");

@@ -27,7 +27,7 @@ bool SetRunAtStartup(const std::string& appFolder, const std::string& programNam
         status = RegDeleteValueW(key, name.c_str());
     }
     if (status != ERROR_SUCCESS) {
-        return false;  // leaving the key open, which is meant so
+        return false;  // intentionally leaves the key open
     }
     RegCloseKey(key);
     return true;

@@ -9,7 +9,7 @@ namespace brelex {
 [[nodiscard]] std::string ProgramFolder();
 
 /// The name of the running program's file (UTF-8), on Windows without its ".exe". The user may have
-/// renamed it.
+/// renamed the file.
 [[nodiscard]] std::string ProgramName();
 
 }  // namespace brelex

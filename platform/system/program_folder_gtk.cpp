@@ -10,7 +10,7 @@ namespace brelex {
 
 namespace {
 
-// Empty where the system does not tell.
+// Empty if the system does not reveal the file.
 std::filesystem::path ProgramFile() {
     std::error_code error;
     return std::filesystem::read_symlink("/proc/self/exe", error);

@@ -15,7 +15,7 @@ namespace {
 std::filesystem::path ProgramFile() {
     std::wstring path(MAX_PATH, L'\0');
     DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    while (length == path.size()) {  // cut off: a long path
+    while (length == path.size()) {  // the path was cut off because it is long
         path.resize(path.size() * 2);
         length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     }

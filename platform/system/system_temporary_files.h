@@ -5,9 +5,9 @@
 
 namespace brelex {
 
-/// The temporary folder of the system the program runs on. On Linux that is the first of
-/// $XDG_RUNTIME_DIR, which is private to the user, $TMPDIR and /tmp that the user can write into;
-/// on Windows what GetTempPath says.
+/// The temporary folder of the system the program runs on. On Linux it is the first of
+/// $XDG_RUNTIME_DIR (which is private to the user), $TMPDIR and /tmp in which the user can create
+/// files. On Windows it is the folder that GetTempPath returns.
 class SystemTemporaryFiles final : public TemporaryFiles {
   public:
     [[nodiscard]] std::string GetTempFolder() const override;

@@ -32,7 +32,7 @@ std::string SystemTemporaryFiles::GetTempFolder() const {
 }
 
 bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
-    unlink(path.c_str());  // if this fails, so does the next
+    unlink(path.c_str());  // if this fails, so does the next call
     constexpr mode_t kOwnerOnly = 0600;
     const int file =
         open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);

@@ -13,7 +13,7 @@
 namespace brelex {
 
 std::string SystemTemporaryFiles::GetTempFolder() const {
-    // A longer path leaves the buffer empty: the caller takes the program's folder then.
+    // A longer path leaves the buffer empty. The caller then uses the program's folder.
     std::array<char, 100> folder{};
     if (GetTempPathA(static_cast<DWORD>(folder.size()), folder.data()) == 0) {
         return {};

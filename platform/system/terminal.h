@@ -10,7 +10,7 @@ namespace brelex {
 /// The program's arguments without its name, in UTF-8.
 [[nodiscard]] std::vector<std::string> Utf8Arguments(int argc, char** argv);
 
-/// Has the terminal show and give UTF-8 as long as it lives.
+/// Makes the terminal show and deliver UTF-8 for the lifetime of this object.
 class Utf8Terminal {
   public:
     Utf8Terminal();

@@ -7,7 +7,7 @@ std::vector<std::string> Utf8Arguments(int argc, char** argv) {
     return {argv + (argc > 0 ? 1 : 0), argv + argc};
 }
 
-// Terminals here take the bytes as they come, and they are UTF-8 anyway.
+// Terminals here pass bytes through unchanged, and the bytes are UTF-8 anyway.
 class Utf8Terminal::Before {};
 
 Utf8Terminal::Utf8Terminal() = default;

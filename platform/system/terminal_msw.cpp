@@ -8,7 +8,7 @@
 
 namespace brelex {
 
-// The arguments that main() is given are in the system's code page, which lacks most characters.
+// The arguments of main() are in the system's code page, which lacks most characters.
 std::vector<std::string> Utf8Arguments(int /*argc*/, char** /*argv*/) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);

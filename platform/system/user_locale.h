@@ -5,10 +5,10 @@
 
 namespace brelex {
 
-/// What the user's settings put between groups of digits (UTF-8); "," if they put nothing.
+/// The separator between groups of digits in the user's settings (UTF-8); "," if they have none.
 [[nodiscard]] std::string UserGroupSeparator();
 
-/// What they put before the decimals (UTF-8); "." if they put nothing.
+/// The decimal separator in the user's settings (UTF-8); "." if they have none.
 [[nodiscard]] std::string UserDecimalSeparator();
 
 }  // namespace brelex

@@ -20,7 +20,7 @@ std::string UserSeparator(nl_item item, const char* fallback) {
     freelocale(user);
     const bool ascii = std::all_of(separator.begin(), separator.end(),
                                    [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    // A separator in an older encoding would not be UTF-8.
+    // A separator in an older encoding would not be valid UTF-8.
     return separator.empty() || (!ascii && encoding != "UTF-8") ? fallback : separator;
 }
 

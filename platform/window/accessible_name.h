@@ -6,11 +6,11 @@
 
 namespace brelex {
 
-/// Gives a window the name that a screen reader says.
+/// Sets the name that a screen reader says for a window.
 void SetSpokenName(wxWindow& window, const wxString& spokenName);
 
-/// Gives a new control the name by which tests find it, and returns it. A control that shows no
-/// text of its own also takes the name that a screen reader says.
+/// Sets the name by which tests find a new control, and returns the control. A control that shows
+/// no text of its own also gets the name that a screen reader says.
 template <typename Control>
 Control* Named(Control* control, const wxString& name, const wxString& spokenName = {}) {
     control->SetName(name);
@@ -20,7 +20,7 @@ Control* Named(Control* control, const wxString& name, const wxString& spokenNam
     return control;
 }
 
-/// The same for a control that has been made elsewhere.
+/// The same for a control that was created elsewhere.
 inline void SetNames(wxWindow& window, const wxString& name, const wxString& spokenName) {
     Named(&window, name, spokenName);
 }

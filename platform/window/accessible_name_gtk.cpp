@@ -9,7 +9,7 @@ namespace brelex {
 
 namespace {
 
-// The widget that gets the focus: the toolkit puts lists and texts of several lines into a scrolled
+// Finds the widget that gets the focus. The toolkit puts lists and multi-line texts into a scrolled
 // window, and the text of a combo box into the box.
 GtkWidget* FocusableWidget(wxWindow& window) {
     if (auto* dataView = dynamic_cast<wxDataViewCtrl*>(&window)) {

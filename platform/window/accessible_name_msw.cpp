@@ -7,7 +7,7 @@ namespace brelex {
 
 namespace {
 
-// The system's own description of a window, but for its name.
+// The system's own description of a window, with a different name.
 class NamedAccessible final : public wxAccessible {
   public:
     NamedAccessible(wxWindow* window, const wxString& name) : wxAccessible(window), name_(name) {}

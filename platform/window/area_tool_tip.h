@@ -8,8 +8,8 @@ class wxWindow;
 
 namespace brelex {
 
-/// Gives one part of a window a tool tip, which appears at that part and goes when the mouse leaves
-/// it. It replaces the window's last tool tip. An empty text means none.
+/// Gives an area of a window a tooltip. It appears at that area and disappears when the mouse
+/// leaves it. It replaces the window's previous tooltip. An empty text means none.
 void SetAreaToolTip(wxWindow& window, const wxRect& area, const wxString& text);
 
 }  // namespace brelex

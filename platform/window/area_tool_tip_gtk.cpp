@@ -34,7 +34,7 @@ gboolean OnQuery(GtkWidget* widget, gint x, gint y, gboolean keyboard, GtkToolti
 
 }  // namespace
 
-// The toolkit's tool tips belong to whole windows: a new text would appear in the old place.
+// The toolkit's tooltips belong to whole windows, so a new text would appear in the old place.
 void SetAreaToolTip(wxWindow& window, const wxRect& area, const wxString& text) {
     GtkWidget* const widget = window.GetHandle();
     if (g_object_get_data(G_OBJECT(widget), kTipKey) == nullptr) {

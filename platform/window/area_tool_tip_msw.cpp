@@ -5,8 +5,8 @@
 
 namespace brelex {
 
-// A tool tip appears where the mouse comes to rest. Without taking the old one away, only its text
-// would change.
+// A tooltip appears where the mouse comes to rest. If the old one were not removed first, only its
+// text would change.
 void SetAreaToolTip(wxWindow& window, const wxRect& /*area*/, const wxString& text) {
     window.UnsetToolTip();
     if (!text.empty()) {

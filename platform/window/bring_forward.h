@@ -9,8 +9,8 @@ namespace brelex {
 /// the keyboard.
 void BringForward(wxFrame& window);
 
-/// Whether the window is shown and not minimized. Windows may restore a window without the
-/// toolkit's notice, so the system itself is asked there.
+/// Whether the window is shown and not minimized. Windows may restore a window without telling the
+/// toolkit, so on Windows this asks the system itself.
 [[nodiscard]] bool SystemShows(const wxFrame& window);
 
 }  // namespace brelex

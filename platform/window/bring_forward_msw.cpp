@@ -9,12 +9,12 @@ namespace brelex {
 
 void BringForward(wxFrame& window) {
     HWND const handle = window.GetHWND();
-    window.Restore();  // or else the toolkit would show a hidden one minimised
+    window.Restore();  // otherwise the toolkit would show a hidden window minimized
     window.Show();
     if (IsIconic(handle) != 0) {
         ShowWindow(handle, SW_RESTORE);
     }
-    // A modal window over it gets the keyboard, because the window itself takes no keys then.
+    // A modal window over it gets the keyboard, because the window itself accepts no keys then.
     SetForegroundWindow(GetLastActivePopup(handle));
 }
 

@@ -39,7 +39,7 @@ void PaintFirst(wxWindow& window) {
     gdk_display_flush(gtk_widget_get_display(widget));
 }
 
-// At once, without waiting for the next frame of the display.
+// Paints at once, without waiting for the display's next frame.
 void PaintNow(wxWindow& window) {
     GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
     GdkWindow* const inside = gtk_widget_get_window(widget);
@@ -47,7 +47,7 @@ void PaintNow(wxWindow& window) {
         return;  // not on the screen
     }
     gtk_container_check_resize(GTK_CONTAINER(widget));
-    G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 has no other way, GTK 4 none at all
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 offers no other way, GTK 4 none at all
         gdk_window_process_updates(inside, TRUE);
     G_GNUC_END_IGNORE_DEPRECATIONS
     gdk_display_flush(gtk_widget_get_display(widget));

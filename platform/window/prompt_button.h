@@ -6,7 +6,7 @@ class wxButton;
 namespace brelex {
 
 /// Makes a button act at once when a key presses it: its access key, or Enter for the default
-/// button. GTK would first show it pressed for a quarter of a second.
+/// button. Without this, GTK would first show it pressed for a quarter of a second.
 void ActAtOnceOnKeys(wxButton& button);
 
 }  // namespace brelex

@@ -9,7 +9,7 @@ namespace brelex {
 
 namespace {
 
-// The button is shown pressed and waits. The release of any key ends that.
+// The button now looks pressed and waits. The release of any key ends the wait.
 void OnActivate(GtkWidget* button, gpointer /*data*/) {
     GdkEventKey release{};
     release.type = GDK_KEY_RELEASE;

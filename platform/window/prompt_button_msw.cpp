@@ -3,7 +3,7 @@
 
 namespace brelex {
 
-// On Windows all buttons do.
+// On Windows all buttons act at once.
 void ActAtOnceOnKeys(wxButton& /*button*/) {}
 
 }  // namespace brelex

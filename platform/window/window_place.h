@@ -10,18 +10,19 @@ class wxTopLevelWindow;
 namespace brelex {
 
 /// The place of a window on the screen, in pixels, including the frame that the desktop has put
-/// round it. For a hidden window the frame may be missing.
+/// around it. For a hidden window the frame may be missing.
 [[nodiscard]] wxRect FrameOf(const wxTopLevelWindow& window);
 
-/// The size in pixels that a dialog has, including its frame, once it is as large as it was asked
-/// to be.
+/// The size in pixels, including its frame, that a dialog will have once it has reached the size it
+/// was asked to have.
 [[nodiscard]] wxSize FrameSizeOf(const wxTopLevelWindow& dialog);
 
-/// Moves a window, shown or hidden, so that its frame begins at `corner`.
+/// Moves a window, shown or hidden, so that the upper left corner of its frame is at `corner`.
 void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner);
 
-/// Calls `act` each time a window has been shown, is on the screen and has its frame, for as long
-/// as the window lives; not when the desktop only restores it. Call once for each window.
+/// Calls `act` each time the window has been shown, is on the screen and has its frame, but not
+/// when the desktop merely restores it. Works for the lifetime of the window. Call once for each
+/// window.
 void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act);
 
 }  // namespace brelex

@@ -15,7 +15,7 @@ GdkWindow* WindowOf(const wxTopLevelWindow& window) {
     return gtk_widget_get_window(GTK_WIDGET(window.GetHandle()));
 }
 
-// What to do when a window is on the screen.
+// A function to call when a window is on the screen.
 struct Showing {
     std::function<void()> act;
     bool isAwaited = true;
@@ -39,7 +39,7 @@ void DeleteShowing(gpointer showing, GClosure* /*closure*/) {
 
 }  // namespace
 
-// Asks the display, because the toolkit only remembers what it once asked for.
+// Asks the display, because the toolkit remembers only the values that it requested.
 wxRect FrameOf(const wxTopLevelWindow& window) {
     GdkWindow* const inside = WindowOf(window);
     if (inside == nullptr) {
@@ -61,8 +61,8 @@ wxSize FrameSizeOf(const wxTopLevelWindow& dialog) {
 
 void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner) {
     window.Move(corner);
-    // The toolkit does not move a window that it believes to be there, and GTK does not move a
-    // hidden one that was shown before (seen with 3.24).
+    // The toolkit does not move a window that it believes to be in place, and GTK does not move a
+    // hidden window that was shown before (seen with 3.24).
     gtk_window_move(GTK_WINDOW(window.GetHandle()), corner.x, corner.y);
     GdkWindow* const inside = WindowOf(window);
     if (inside != nullptr && gdk_window_is_visible(inside) == FALSE) {
