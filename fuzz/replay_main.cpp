@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// replay FOLDER: gives every file of a corpus to a fuzz target, where no fuzzer is built in.
+// replay FOLDER: passes every file of a corpus to a fuzz target that was built without a fuzzer.
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -10,7 +10,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): then it fails, as it should
+int main(int argc, char** argv) {  // then it fails, as it should
     if (argc != 2) {
         std::cerr << "usage: replay FOLDER\n";
         return 2;

@@ -10,7 +10,7 @@
 #include "base/windows1252.h"
 #include "search/fragment_search.h"
 
-// Compiles and matches; what does not contain a fragment of the pattern must not match.
+// Compiles and matches. A text without a fragment of the pattern must not match.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

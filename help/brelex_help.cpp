@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// brelex-help FILE PAGE: shows the help book in FILE, or the one beside this program, at PAGE or at
-// its first page. "brelex-help --register" makes it this user's program for help books;
-// "--unregister" undoes that.
+// brelex-help FILE PAGE: shows the help book in FILE, or the book beside this program, at PAGE or
+// at its first page. "brelex-help --register" makes this program open help books for the current
+// user; "--unregister" undoes that.
 #include <wx/app.h>
 #include <wx/filename.h>
 #include <wx/filesys.h>
@@ -17,7 +17,7 @@
 
 namespace brelex {
 
-// Not in the unnamed namespace: the toolkit's macro makes a function that returns it.
+// Not in the unnamed namespace, because the toolkit's macro defines a function that returns it.
 class HelpApp final : public wxApp {
   public:
     bool OnInit() override {
@@ -32,7 +32,7 @@ class HelpApp final : public wxApp {
         return ShowBook(argument.empty() ? BookBesideProgram() : argument, Argument(2));
     }
 
-    // Without a window no event would end the loop.
+    // Without a window, no event would end the loop.
     int OnRun() override {
         if (GetTopWindow() != nullptr) {
             return wxApp::OnRun();
@@ -43,7 +43,7 @@ class HelpApp final : public wxApp {
   private:
     static wxString BookBesideProgram() { return WxText(ProgramFolder() + kHelpFileName); }
 
-    // Empty if there is none.
+    // Returns an argument. Empty if there is none.
     [[nodiscard]] wxString Argument(int number) const {
         return argc > number ? argv[number] : wxString();
     }
@@ -61,7 +61,7 @@ class HelpApp final : public wxApp {
     }
 
     HelpViewer viewer_;
-    bool done_ = false;  // the registration that was asked for instead of a window
+    bool done_ = false;  // a registration was requested and succeeded
 };
 
 }  // namespace brelex

@@ -33,7 +33,7 @@ constexpr int kHeight = 660;
 // The project file in a book, which is a ZIP archive.
 const char* const kProjectInBook = "#zip:brelex.hhp";
 
-// For the pages in a book and the pictures in the pages.
+// Needed to read the pages of a book and the pictures in them.
 void AddHandlers() {
     if (wxImage::FindHandler(wxBITMAP_TYPE_PNG) == nullptr) {
         wxImage::AddHandler(new wxPNGHandler);
@@ -49,28 +49,28 @@ bool IsBook(const wxString& url) {
     return project != nullptr;
 }
 
-// The tabs beside the pages, of which the contents are one; null if a version of the toolkit should
-// have none (3.2 has).
+// The tabs beside the pages; the contents are one of them. Null if a version of the toolkit has no
+// tabs (3.2 has them).
 wxNotebook* NotebookOf(const wxHtmlHelpWindow& help) {
     return wxDynamicCast(help.GetTreeCtrl()->GetGrandParent(), wxNotebook);
 }
 
-// How wide the tabs are side by side.
+// The width of all tabs side by side.
 int WidthOfTabs(const wxNotebook& notebook) {
     int tabs = 0;
     for (std::size_t i = 0; i < notebook.GetPageCount(); ++i) {
-        // The toolkit does not tell how much room the theme leaves around a title.
+        // The toolkit does not reveal how much room the theme leaves around a title.
         constexpr int kTabMargins = 36;
         tabs += notebook.GetTextExtent(notebook.GetPageText(i)).x + notebook.FromDIP(kTabMargins);
     }
     return tabs;
 }
 
-// How wide the contents are with all branches open, and the tabs above them.
+// The width of the contents with all branches open, or of the tabs above them if they are wider.
 int ColumnWidth(const wxHtmlHelpWindow& help) {
     wxTreeCtrl& contents = *help.GetTreeCtrl();
     contents.ExpandAll();
-    contents.SetQuickBestSize(false);  // or else it would look at the last titles only
+    contents.SetQuickBestSize(false);  // otherwise it would look only at the last titles
     contents.InvalidateBestSize();
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &contents);
     const wxNotebook* const notebook = NotebookOf(help);
@@ -80,8 +80,8 @@ int ColumnWidth(const wxHtmlHelpWindow& help) {
 }
 
 // Gives all parts of the window their sizes before it is shown. On GTK (toolkit 3.2) most would
-// otherwise learn theirs when their parent shows, and until then be too small for their own borders
-// and scroll bars, which GTK complains about.
+// otherwise get theirs only when their parent is shown. Until then they would be too small for
+// their own borders and scroll bars, and GTK complains about that.
 void LayOut(wxHtmlHelpFrame& frame, int column) {
     wxHtmlHelpWindow& help = *frame.GetHelpWindow();
     frame.Layout();
@@ -99,15 +99,15 @@ void LayOut(wxHtmlHelpFrame& frame, int column) {
     }
 }
 
-// Shows a page of the book, or a place on it ("page.html#place"). A page comes from outside: what
-// is no page of the book is ignored, and files outside of the book are not asked for.
+// Shows a page of the book, or a place on it ("page.html#place"). The page comes from outside. If
+// it is not a page of the book, it is ignored, so files outside the book cannot be opened.
 void TurnTo(wxHtmlHelpWindow& help, const wxString& page) {
     if (!page.empty() && page.find_first_of(":/\\") == wxString::npos) {
         help.Display(page);
     }
 }
 
-// A modal window of the viewer, such as that for the letters' size; null if there is none.
+// A modal window of the viewer, such as the one for the font size; null if there is none.
 wxDialog* OpenDialog() {
     for (wxWindow* const window : wxTopLevelWindows) {
         auto* const dialog = dynamic_cast<wxDialog*>(window);
@@ -118,18 +118,18 @@ wxDialog* OpenDialog() {
     return nullptr;
 }
 
-// The toolkit (3.2) takes the book away from the window at once, while keys and clicks still arrive
-// until the window is deleted, and the contents crash on them. So the book stays here.
+// The toolkit (3.2) takes the book away from the window at once. Keys and clicks still arrive until
+// the window is deleted, and then the contents crash. So this keeps the book.
 void CloseFrame(wxHtmlHelpFrame& frame) {
     if (wxDialog* const dialog = OpenDialog()) {
         dialog->EndModal(wxID_CANCEL);
-        frame.CallAfter([&frame] { frame.Close(); });  // when the code that opened it has gone on
+        frame.CallAfter([&frame] { frame.Close(); });  // after the code that opened the dialog
     } else {
         frame.Destroy();
     }
 }
 
-// Moves from the page to what stands beside it, or back; the toolkit has no key for that.
+// Moves the keyboard from the page to the tabs beside it, or back. The toolkit has no key for that.
 void ChangeSides(const wxHtmlHelpWindow& help) {
     const wxNotebook* const notebook = NotebookOf(help);
     wxWindow* const beside = notebook == nullptr ? nullptr : notebook->GetCurrentPage();
@@ -141,7 +141,7 @@ void ChangeSides(const wxHtmlHelpWindow& help) {
 }
 
 void OnKey(wxHtmlHelpFrame& frame, wxKeyEvent& event) {
-    // The frame also hears the keys of the windows that it owns.
+    // The frame also receives the keys of the windows that it owns.
     auto* const window = wxDynamicCast(event.GetEventObject(), wxWindow);
     const bool isPlain =
         wxGetTopLevelParent(window) == &frame && event.GetModifiers() == wxMOD_NONE;
@@ -154,7 +154,7 @@ void OnKey(wxHtmlHelpFrame& frame, wxKeyEvent& event) {
     }
 }
 
-// With Ctrl+C, which the toolkit knows, the whole page can be copied.
+// The toolkit already handles Ctrl+C, so the user can copy the whole page.
 void OnPageKey(wxHtmlWindow& page, wxKeyEvent& event) {
     if (event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL) {
         page.SelectAll();
@@ -188,7 +188,7 @@ bool HelpViewer::Show(const wxString& bookPath, const wxString& page) {
     }
     DisplayContents();
     TurnTo(*GetHelpWindow(), page);
-    GetHelpWindow()->GetHtmlWindow()->SetFocus();  // keys scroll the page
+    GetHelpWindow()->GetHtmlWindow()->SetFocus();  // so that keys scroll the page
     return true;
 }
 
@@ -199,8 +199,8 @@ wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {
     BindEvents(*frame);
 
     const int column = ColumnWidth(*frame->GetHelpWindow());
-    // The size of its inside, as a window of a given outer size is laid out once at a size of next
-    // to nothing under X11 (toolkit 3.2).
+    // Sets the size of the inside. With a given outer size, the toolkit (3.2) would first lay the
+    // window out at almost no size under X11.
     const wxSize screen = wxDisplay(frame).GetClientArea().GetSize();
     frame->SetClientSize(std::min(column + frame->FromDIP(kPageWidth), screen.x),
                          std::min(frame->FromDIP(kHeight), screen.y));

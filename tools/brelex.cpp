@@ -25,13 +25,13 @@ std::string DatabaseBesideProgram() {
     return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
 }
 
-// What the command line asks for.
+// The arguments of the command line.
 struct CommandLine {
-    std::string database;  // given by -d, or empty
+    std::string database;  // from option -d, or empty
     brelex::BuildRequest build;
-    std::vector<std::string> texts;  // to be looked up
+    std::vector<std::string> texts;  // to look up
     brelex::SearchOptions search;
-    std::string letters;  // of an anagram
+    std::string letters;  // for the anagram search
     bool anagramsAsJson = false;
     int code = brelex::kFailed;  // the exit code of the command, once it has run
 };
@@ -48,7 +48,7 @@ int RunBuild(const CommandLine& line) {
     return brelex::RunBuild(line.build, std::cout, std::cerr);
 }
 
-// Adds an option whose value is one of a few words.
+// Adds an option that accepts a few fixed words as its value.
 template <typename Value>
 void AddChoice(CLI::App& command, const char* name, const char* typeName, const char* description,
                Value& value, const std::map<std::string, Value>& words) {
@@ -59,8 +59,8 @@ void AddChoice(CLI::App& command, const char* name, const char* typeName, const 
         ->type_name(typeName);
 }
 
-// Each of the functions below adds a command. The parser writes its options to `line` and, when the
-// whole command line is read, runs it.
+// Each of the functions below adds a command. The parser stores its options in `line`. Once it has
+// read the whole command line, it runs the command.
 
 void AddBuild(CLI::App& app, CommandLine& line) {
     brelex::BuildRequest& request = line.build;
@@ -153,7 +153,7 @@ void AddAnagram(CLI::App& app, CommandLine& line) {
 
 }  // namespace
 
-// Apart from the parser's errors, only "out of memory" can be thrown here.
+// Apart from the parser's errors, the only possible exception here is "out of memory".
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
     const brelex::Utf8Terminal terminal;
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");

@@ -51,8 +51,8 @@ void ReadInput(const std::string& input, std::vector<std::string>& records, Inpu
     }
 }
 
-// Sets the parts of the content that are given by options. Returns what is wrong with them, or an
-// empty text.
+// Sets the parts of the content that come from options. Returns an error text, or an empty text on
+// success.
 std::string ReadRequest(const BuildRequest& request, DatabaseContent& content) {
     const auto version = ParseVersion(request.version);
     if (!version) {
@@ -69,7 +69,7 @@ std::string ReadRequest(const BuildRequest& request, DatabaseContent& content) {
     return encoded.reason;
 }
 
-// Reads the entries of all inputs. Reports an error also if no database can be made of them.
+// Reads the entries of all inputs. Also reports an error if they do not make a database.
 InputReport ReadInputs(const std::vector<std::string>& inputs, std::vector<std::string>& records) {
     InputReport report;
     for (const std::string& input : inputs) {
@@ -102,8 +102,8 @@ void WarnOfHighIndexes(const DatabaseHeader& header, std::vector<std::string>& w
     warn("MostExpansionsIndex", header.MostExpansionsIndex);
 }
 
-// Reads the finished file back as the program will. Returns why the program would refuse it, or an
-// empty text. Adds a warning for anything else that looks wrong.
+// Reads the finished file back as the program would. Returns the reason if the program would refuse
+// it, or an empty text. Adds a warning for anything else that looks wrong.
 std::string Verify(const BuiltDatabase& built, std::string_view file,
                    std::vector<std::string>& warnings) {
     if (file.size() == built.expanded.size()) {

@@ -9,19 +9,19 @@
 
 namespace brelex {
 
-/// What "brelex build" is asked for.
+/// The options and arguments of "brelex build".
 struct BuildRequest {
     std::string version = "1.0";
-    std::string date;        ///< YYYY-MM-DD
+    std::string date;        ///< in the form YYYY-MM-DD
     std::string searchList;  ///< items separated by commas
     std::string output;      ///< the file to write
     std::vector<std::string> inputs;
 };
 
-/// A database version "N.N" as a number. Nothing if `text` has any other form.
+/// Parses a database version "N.N". Nothing if `text` has any other form.
 [[nodiscard]] std::optional<float> ParseVersion(const std::string& text);
 
-/// A search list as the header stores it, or the reason why it cannot be stored.
+/// A search list in the form that the header stores, or the reason why it cannot be stored.
 struct EncodedSearchList {
     std::string list;    ///< Windows-1252
     std::string reason;  ///< empty on success

@@ -25,7 +25,8 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
     return lines;
 }
 
-// The letters and digits of a spelling, in capitals. The dictionary's headwords have no others.
+// The letters and digits of a spelling, in capitals. The dictionary's headwords contain no other
+// characters.
 std::string HeadwordForm(std::string_view spelling) {
     std::string form;
     for (const char c : spelling) {
@@ -37,7 +38,7 @@ std::string HeadwordForm(std::string_view spelling) {
     return form;
 }
 
-// Removes a final part in quotes, and the comma before it, from `text`. Returns what was quoted.
+// Removes a final quoted part, and the comma before it, from `text`. Returns the quoted text.
 std::optional<std::string> TakeLastQuoted(std::string_view& text) {
     if (!text.ends_with('"') || text.size() < 2) {
         return std::nullopt;
@@ -114,7 +115,8 @@ std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
     return number;
 }
 
-// The content of a gzip file, which a dictzip file also is. Any other file is returned unchanged.
+// Returns the content of a gzip file (a dictzip file is one, too). Returns any other file
+// unchanged.
 std::optional<std::string> InflateFile(const fs::path& path) {
     const std::optional<ByteBuffer> file = ReadWholeFile(path);
     if (!file) {
@@ -127,7 +129,7 @@ std::optional<std::string> InflateFile(const fs::path& path) {
     z_stream stream{};
     stream.next_in = reinterpret_cast<const Bytef*>(bytes.data());
     stream.avail_in = static_cast<uInt>(bytes.size());
-    constexpr int kGzip = 16;  // added to the window size: a gzip header is expected
+    constexpr int kGzip = 16;  // added to the window size to expect a gzip header
     if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK) {
         return std::nullopt;
     }
@@ -154,7 +156,7 @@ fs::path DictionaryBeside(const fs::path& indexPath) {
     return fs::path(indexPath).replace_extension(".dict");
 }
 
-// The article that a line of the index (headword, offset, length, separated by TABs) points to.
+// Finds the article for a line of the index (headword, offset, length, separated by TABs).
 std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
                                                    std::string_view dictionary) {
     const auto first = line.find('\t');

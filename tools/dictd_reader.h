@@ -18,14 +18,13 @@ struct DictdEntry {
     bool operator==(const DictdEntry&) const = default;
 };
 
-/// The entries in one article of a dictd dictionary of acronyms. Usually there is one, with the
-/// headword on the first line and the wrapped expansion below. There are several if the article
-/// gives more than one spelling or contains further entries. A spelling in quotes at the end
-/// ("3D DDI") replaces the headword if it has the same letters. Leaves out an entry without an
-/// expansion.
+/// Returns the entries in one article of a dictd dictionary of acronyms. Usually there is one, with
+/// the headword on the first line and the wrapped expansion below. There are several if the article
+/// gives more than one spelling or contains further entries. A spelling in quotes at the end ("3D
+/// DDI") replaces the headword if it has the same letters. Omits entries without an expansion.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfArticle(std::string_view article);
 
-/// The entries in a header article of the dictionary, which follow its text.
+/// Returns the entries in a header article of the dictionary, which come after the article's text.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article);
 
 /// Reads the dictionary whose index is at `indexPath` (name.index, in the same folder as

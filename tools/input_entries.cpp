@@ -18,7 +18,7 @@ bool IsControl(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c <= 0x9F);
 }
 
-// Why `text` cannot be part of a record; nothing if it can.
+// The reason why `text` cannot be part of a record; nothing if it can.
 std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed) {
     if (text.find_first_not_of(" \t") == std::string_view::npos) {
         return "is empty";

@@ -8,7 +8,7 @@
 
 namespace brelex {
 
-/// What is wrong with the input, each as "file:line: reason". Errors stop the build.
+/// Problems in the input, each as "file:line: reason". Errors stop the build.
 struct InputReport {
     std::vector<std::string> errors;
     std::vector<std::string> warnings;

@@ -20,8 +20,8 @@ struct OpenDatabase {
     RecordStore store;
 };
 
-/// Loads the database at `path` (UTF-8). Returns kFound. On failure, says why on `err` and returns
-/// kFailed, or `unloadable` if the file was read but cannot be used.
+/// Loads the database at `path` (UTF-8). Returns kFound on success. On failure, writes the reason
+/// to `err` and returns kFailed, or `unloadable` if the file was read but cannot be used.
 [[nodiscard]] int Load(const std::string& path, OpenDatabase& database, std::ostream& err,
                        int unloadable = kFailed);
 

@@ -37,7 +37,7 @@ std::string HexDigits(std::int32_t number) {
     return text;
 }
 
-// The values of the header's fields as text: a version, a day, a number, a letter, a list.
+// Formats the values of the header's fields: a version, a day, a number, a letter, a list.
 
 std::string FieldText(float version, FieldSource /*source*/) {
     const std::string text = PlainNumber(version);
@@ -78,7 +78,7 @@ bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out
            (!bytes.empty() && EqualIgnoringCase(record.substr(0, 1), bytes.substr(0, 1)));
 }
 
-// Prints the facts that the program's window shows, except those about its own run.
+// Prints the facts that the program's window shows, except those about the current run.
 void PrintStatistics(const OpenDatabase& opened, std::ostream& out) {
     ProgramValues values;
     values.AcronymList = &opened.store;

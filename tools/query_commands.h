@@ -11,20 +11,20 @@ namespace brelex {
 /// The commands of brelex that report on a database file. Each returns the exit code: kFound,
 /// kNothingFound, or kFailed with the reason on `err` if the file cannot be loaded.
 
-/// Prints each field of the header on a line, then the facts that the program shows about the
-/// database.
+/// Prints each field of the header on a line of its own, then the facts that the program shows
+/// about the database.
 int RunInfo(const std::string& database, std::ostream& out, std::ostream& err);
 
 /// Prints all records as UTF-8, in file order.
 int RunDump(const std::string& database, std::ostream& out, std::ostream& err);
 
-/// Prints what is wrong with the database. kFound if nothing is. kNothingFound if something is, or
-/// if the file can be read but not loaded.
+/// Prints the problems found in the database. Returns kFound if there are none, and kNothingFound
+/// if there are some or if the file can be read but not loaded.
 int RunCheck(const std::string& database, std::ostream& out, std::ostream& err);
 
-/// Prints for each text the record that typing it would select: its number (1-based), abbreviation
-/// and expansion, separated by TABs. The text "-" stands for the lines of `in`. kNothingFound if no
-/// entry starts with even the first character of any text.
+/// For each text, prints the record that typing it would select: its number (1-based), abbreviation
+/// and expansion, separated by TABs. The text "-" means the lines of `in`. Returns kNothingFound if
+/// no entry begins with even the first character of any text.
 int RunLookup(const std::string& database, const std::vector<std::string>& texts, std::istream& in,
               std::ostream& out, std::ostream& err);
 

@@ -9,11 +9,11 @@
 
 namespace brelex {
 
-/// What `brelex search` is asked for.
+/// The options of `brelex search`.
 struct SearchOptions {
     SearchRequest request;
-    RecordNumber from{1};  ///< the record to start at
-    bool all = false;      ///< every hit, however many there are
+    RecordNumber from{1};  ///< the record at which to start
+    bool all = false;      ///< return every hit, however many there are
     bool json = false;
 };
 

@@ -35,7 +35,7 @@ class SilentMessages final : public MessageSink {
     MessageAnswer Show(const Message& /*message*/) override { std::abort(); }
 };
 
-// All of it: reading, expanding, the temporary file, the index.
+// Everything: reading, expanding, the temporary file, the index.
 void BM_LoadDatabase(benchmark::State& state) {
     ProgramValues values;
     values.DatabasePath = FileOf(state.range(0));

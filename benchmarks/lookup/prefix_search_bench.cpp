@@ -24,7 +24,7 @@ struct Subject {
     RecordStore store;
     std::vector<std::int32_t> rows;       // 0, 1, 2, ... for the library's search
     std::vector<std::string> texts;       // beginnings of abbreviations, of all lengths
-    std::vector<std::int32_t> directory;  // first row for each two first bytes, folded
+    std::vector<std::int32_t> directory;  // first row for each pair of first weights
 };
 
 unsigned DirectoryKey(std::string_view text) {
@@ -86,7 +86,7 @@ void BM_LowerBound(benchmark::State& state) {
     }
 }
 
-// What a table of the first row for each pair of first letters would give.
+// The alternative: a table with the first row for each pair of first letters.
 void BM_LowerBoundWithDirectory(benchmark::State& state) {
     const Subject& subject = SubjectOf(state.range(0));
     std::size_t i = 0;

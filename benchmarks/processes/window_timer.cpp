@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 // window_timer TITLE PROGRAM ARGS...: starts the program, prints the milliseconds until a window
-// whose title begins with TITLE is put on the screen, and ends the program.
+// whose title begins with TITLE appears on the screen, and ends the program.
 
 namespace {
 
@@ -26,7 +26,7 @@ bool HasTitle(Display* display, Window window, std::string_view beginning) {
 }
 
 int IgnoreError(Display* /*display*/, XErrorEvent* /*event*/) {
-    return 0;  // windows may vanish while they are looked at
+    return 0;  // windows may vanish while we look at them
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
     bool shown = false;
     while (!shown && Clock::now() - start < std::chrono::seconds(20)) {
         if (XPending(display) == 0) {
-            usleep(200);  // without asking the server anything: it is busy with the program
+            usleep(200);  // without asking the server anything, because it is busy with the program
             continue;
         }
         XEvent event;

@@ -28,7 +28,7 @@ void BM_FindAnagrams(benchmark::State& state) {
     state.counters["hits"] = static_cast<double>(hits);
 }
 
-// Hyphens dropped, lengths compared, and then each typed letter counted in both texts.
+// Drops hyphens, compares lengths, and then counts each typed letter in both texts.
 void BM_AnagramsStepByStep(benchmark::State& state) {
     const RecordStore& store = GeneratedStore(state.range(0));
     const std::string typed = kLetters;
@@ -58,7 +58,8 @@ void BM_AnagramsStepByStep(benchmark::State& state) {
     state.counters["hits"] = static_cast<double>(hits);
 }
 
-// What 8 bytes stored for each record would give: a signature that is the same for all orders.
+// The alternative: 8 stored bytes for each record, a signature that is the same for every order of
+// the letters.
 void BM_AnagramsBySignature(benchmark::State& state) {
     const RecordStore& store = GeneratedStore(state.range(0));
     const auto signatureOf = [](std::string_view text) {

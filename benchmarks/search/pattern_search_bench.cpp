@@ -19,11 +19,11 @@ struct PatternCase {
     const char* name;
     const char* text;
     SearchPosition position;
-    const char* regex;  // the same for PCRE2
+    const char* regex;  // the same pattern for PCRE2
 };
 
-// Literals that are rare and frequent, then patterns. A newline does not end a record in the
-// store, a NUL does; so the negated sets leave it out.
+// Rare and frequent literals, then patterns. In the store a NUL ends a record, not a newline, so
+// the negated sets exclude NUL.
 constexpr PatternCase kCases[] = {
     {"rare literal", "zone xml yield", SearchPosition::Anywhere, "zone xml yield"},
     {"frequent literal", "system", SearchPosition::Anywhere, "system"},
@@ -79,8 +79,8 @@ void BM_Pcre2(benchmark::State& state) {
     state.counters["hits"] = static_cast<double>(hits);
 }
 
-// A program that searches the entries as TSV for a literal, in a process of its own. With no
-// records it shows what starting it takes.
+// Runs a program that searches the entries as TSV for a literal, in a process of its own. Without
+// records, this shows how long starting it takes.
 void BM_Program(benchmark::State& state, const std::string& program) {
     const PatternCase& searched = kCases[state.range(1)];
     const auto path = std::filesystem::temp_directory_path() / "brelex_search_bench.tsv";
@@ -92,11 +92,11 @@ void BM_Program(benchmark::State& state, const std::string& program) {
         }
     }
     file.close();
-    // Not to /dev/null, for which grep ends at the first hit.
+    // Not to /dev/null: grep would then stop at the first hit.
     const std::string command = program + " -c '" + searched.text + "' '" + path.string() + "' >'" +
                                 path.string() + ".out'";
     for (auto _ : state) {
-        if (std::system(command.c_str()) > 256) {  // 256 is an exit with 1: nothing found
+        if (std::system(command.c_str()) > 256) {  // 256 means exit code 1: nothing found
             std::abort();
         }
     }

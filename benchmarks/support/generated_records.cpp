@@ -38,7 +38,8 @@ std::string GeneratedDatabase(std::int64_t count) {
             abbreviation.push_back(word.front());
             expansion += (i == 0 ? "" : " ") + word;
         }
-        // Letters of no word, so that a million abbreviations are not all the same few.
+        // Adds letters that belong to no word. Otherwise a million abbreviations would be the same
+        // few.
         for (std::uint64_t more = random() % 4; more > 0; --more) {
             abbreviation.push_back(static_cast<char>('A' + random() % 26));
         }

@@ -8,11 +8,12 @@
 
 namespace brelex {
 
-/// The bytes of a database file of `count` generated entries, like real ones in the lengths of
-/// their parts and in how often abbreviations repeat. The same count gives the same file.
+/// Returns the bytes of a database file with `count` generated entries. They resemble real ones in
+/// the lengths of their parts and in how often abbreviations repeat. The same count always produces
+/// the same file.
 [[nodiscard]] std::string GeneratedDatabase(std::int64_t count);
 
-/// The entries of such a file, loaded once for all benchmarks.
+/// Returns the entries of such a file, loaded once for all benchmarks.
 [[nodiscard]] const RecordStore& GeneratedStore(std::int64_t count);
 
 }  // namespace brelex

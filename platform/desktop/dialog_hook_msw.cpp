@@ -9,7 +9,7 @@ namespace brelex {
 
 namespace {
 
-// The system passes a hook's procedure no data of its owner, so the owner has to be known here.
+// The system passes no user data to the hook's procedure, so the current hook is kept here.
 DialogHook*& Current() {
     static thread_local DialogHook* current = nullptr;
     return current;
@@ -31,7 +31,7 @@ DialogHook::~DialogHook() {
 LRESULT CALLBACK DialogHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
     DialogHook* const self = Current();
     if (code == HCBT_ACTIVATE && self != nullptr) {
-        Current() = nullptr;  // only the first
+        Current() = nullptr;  // only the first window counts
         self->adjust_(reinterpret_cast<HWND>(wParam));
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);

@@ -9,9 +9,9 @@
 
 namespace brelex {
 
-/// While it lives, calls a function with the first window that this thread activates, just before
-/// it becomes active. That window can be a dialog that the system itself makes and runs. Only one
-/// lives at a time.
+/// During its lifetime, calls a function with the first window that this thread activates, just
+/// before it becomes active. That window can be a dialog that the system itself creates and runs.
+/// Only one hook can exist at a time.
 class DialogHook {
   public:
     explicit DialogHook(std::function<void(HWND)> adjust);
@@ -26,7 +26,7 @@ class DialogHook {
     HHOOK hook_ = nullptr;
 };
 
-/// Gives a window of the system the icons of `icons`, which must outlive it.
+/// Gives a window of the system the icons in `icons`, which must outlive the window.
 void GiveIcons(HWND window, const wxIconBundle& icons);
 
 }  // namespace brelex

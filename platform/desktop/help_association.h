@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// Makes a program (UTF-8 path) open the help files of this user, or, with an empty path, the
+/// Makes a program (UTF-8 path) open this user's help files. With an empty path, restores the
 /// program that did so before. Returns false if that fails.
 [[nodiscard]] bool OpenHelpFilesWith(const std::string& program);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own part of the registered file types.
+// Uses the user's own part of the registered file types.
 #include "platform/desktop/help_association.h"
 
 #include <array>
@@ -19,8 +19,8 @@ const wchar_t* const kExtension = L"Software\\Classes\\.hlp";
 const wchar_t* const kType = L"Software\\Classes\\Brevilexicon.Help";
 const wchar_t* const kCommand = L"Software\\Classes\\Brevilexicon.Help\\shell\\open\\command";
 
-// The type that the extension had before is kept in a value beside ours; the unnamed value of a key
-// is its default.
+// A value beside ours keeps the type that the extension had before. The unnamed value of a key is
+// its default.
 const wchar_t* const kBefore = L"Before";
 const wchar_t* const kDefault = nullptr;
 
@@ -30,7 +30,7 @@ bool SetValue(const wchar_t* key, const wchar_t* name, const std::wstring& text)
                            static_cast<DWORD>(bytes)) == ERROR_SUCCESS;
 }
 
-// Empty if there is none.
+// Reads a value. Empty if there is none.
 std::wstring Value(const wchar_t* key, const wchar_t* name) {
     std::array<wchar_t, MAX_PATH> text{};
     DWORD size = sizeof text;
@@ -48,7 +48,7 @@ bool Register(const std::string& program) {
            SetValue(kExtension, kDefault, kTypeName);
 }
 
-// Another program may have taken the extension over, and may keep more in its key.
+// Another program may have taken over the extension and may keep more data in its key.
 bool Unregister() {
     bool done = true;
     if (Value(kExtension, kDefault) == kTypeName) {

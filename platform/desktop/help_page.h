@@ -9,14 +9,14 @@ class wxTopLevelWindow;
 
 namespace brelex {
 
-/// A window of any program: its number in X11, or its handle on Windows.
+/// A window of any program: its X11 number, or its handle on Windows.
 using SystemWindow = std::uintptr_t;
 
-/// Tells the help viewer whose window it is to turn to a page of its book. Does not wait for that.
+/// Tells the help viewer with this window to turn to a page of its book. Does not wait for that.
 void TellHelpPage(SystemWindow window, const std::string& page);
 
-/// Calls `turnTo` in the help viewer with each page that it is told to turn to, as long as its
-/// window lives. Do not trust the page: any program on the same desktop can send any text.
+/// Calls `turnTo` in the help viewer with each page that it is told to turn to, for the lifetime of
+/// its window. Do not trust the page: any program on the same desktop can send any text.
 void HearHelpPages(wxTopLevelWindow& window, std::function<void(const std::string& page)> turnTo);
 
 }  // namespace brelex

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Under X11 the page is a property of the viewer's window, which the viewer removes. Wayland has
+// Under X11 the page is a property of the viewer's window. The viewer removes it. Wayland offers
 // nothing like it.
 #include "platform/desktop/help_page.h"
 
@@ -20,7 +20,7 @@ constexpr int kItemBits = 8;
 
 using TurnTo = std::function<void(const std::string& page)>;
 
-// Takes the property off the window. Empty if it is no text.
+// Reads the property and removes it from the window. Empty if it is not text.
 std::string TakenPage(GdkWindow* window, GdkAtom property) {
     constexpr gulong kMostBytes = 1024;
     GdkAtom type = GDK_NONE;
@@ -62,7 +62,7 @@ void TellHelpPage(SystemWindow window, const std::string& page) {
         return;
     }
     Display* const display = gdk_x11_display_get_xdisplay(gdk);
-    gdk_x11_display_error_trap_push(gdk);  // the window may be gone
+    gdk_x11_display_error_trap_push(gdk);  // the window may no longer exist
     XChangeProperty(display, window, XInternAtom(display, kProperty, False),
                     XInternAtom(display, kTextType, False), kItemBits, PropModeReplace,
                     reinterpret_cast<const unsigned char*>(page.data()),

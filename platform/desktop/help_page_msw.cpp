@@ -12,7 +12,7 @@ namespace brelex {
 
 namespace {
 
-// Says that the bytes of a WM_COPYDATA are a page of ours.
+// Marks the bytes of a WM_COPYDATA as one of our pages.
 constexpr ULONG_PTR kPageOfHelp = 0x42726C78;
 constexpr UINT_PTR kSubclass = 1;
 
@@ -21,7 +21,7 @@ struct Hearer {
     std::function<void(const std::string& page)> turnTo;
 };
 
-// The sender waits until this returns, so the page is turned later.
+// The sender waits until this returns, so the viewer turns the page later.
 void Hear(const Hearer& hearer, const COPYDATASTRUCT& data) {
     const std::string page(static_cast<const char*>(data.lpData), data.cbData);
     hearer.window.CallAfter([turnTo = hearer.turnTo, page] { turnTo(page); });

@@ -8,12 +8,12 @@ class wxFrame;
 
 namespace brelex {
 
-/// Makes Ctrl+Shift+G, pressed anywhere on the desktop, bring a window forward as long as this
-/// lives. Nothing happens if another program has the key or the desktop offers none.
+/// During its lifetime, Ctrl+Shift+G brings a window forward, wherever on the desktop the user
+/// presses it. Nothing happens if another program has the key or the desktop does not offer one.
 class ActivationHotKey {
   public:
-    /// `window` must live as long as this does. Where the system only reports the key,
-    /// `bringForward` is called; Windows brings the window forward itself.
+    /// `window` must outlive this object. Where the system only reports the key, this calls
+    /// `bringForward`. Windows brings the window forward itself.
     ActivationHotKey(wxFrame& window, const std::function<void()>& bringForward);
     ActivationHotKey(const ActivationHotKey&) = delete;
     ActivationHotKey& operator=(const ActivationHotKey&) = delete;

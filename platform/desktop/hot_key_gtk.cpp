@@ -10,7 +10,8 @@ namespace {
 
 constexpr char kKey[] = "<Control><Shift>G";
 
-// Once for the process, because each time opens another connection to the display and keeps it.
+// Initializes once for the process, because each time opens another connection to the display and
+// keeps it.
 bool IsKeybinderReady() {
     static const bool ready = [] {
         if (keybinder_supported() == FALSE) {  // not an X11 display

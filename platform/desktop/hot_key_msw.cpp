@@ -7,7 +7,7 @@
 
 namespace brelex {
 
-// The system forgets the key when the window goes.
+// The system drops the key when the window is destroyed, so there is nothing to undo.
 class ActivationHotKey::Binding {};
 
 ActivationHotKey::ActivationHotKey(wxFrame& window, const std::function<void()>& /*bringForward*/) {

@@ -15,9 +15,9 @@ void MakeFindable(GtkWindow* window) {
     for (std::size_t i = 0; i < icons.GetIconCount(); ++i) {
         pictures = g_list_append(pictures, icons.GetIconByIndex(i).GetPixbuf());
     }
-    gtk_window_set_icon_list(window, pictures);  // which copies the pictures
+    gtk_window_set_icon_list(window, pictures);  // this copies the pictures
     g_list_free(pictures);
-    gtk_window_set_skip_taskbar_hint(window, FALSE);  // as message boxes have it
+    gtk_window_set_skip_taskbar_hint(window, FALSE);  // message boxes set it
     gtk_window_set_urgency_hint(window, TRUE);
     g_signal_connect(window, "focus-in-event",
                      G_CALLBACK(+[](GtkWidget* focused, GdkEvent* /*event*/, void* /*data*/) {

@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// For a window of the system that is the program's only one: puts it into the task bar under the
+/// For a window of the system that is the program's only one. Puts it into the taskbar with the
 /// program's icon. If it comes up behind others, the desktop draws attention to it until it gets
 /// the keyboard.
 void MakeFindable(GtkWindow* window);

@@ -5,11 +5,11 @@
 
 namespace brelex {
 
-/// A message box of the system with one of its standard icons. The toolkit's own box lacks them on
-/// GTK and shows them in another kind of dialog on Windows. The box belongs to the owner's window,
-/// or else to the window in front. At the start, while the program has no window, the user can find
-/// the box like any window: it carries the program's icon, is in the task bar, and stays above
-/// others.
+/// A message box of the system with one of its standard icons. The toolkit's own box has no icons
+/// on GTK and opens a different kind of dialog on Windows. The box belongs to the owner's window,
+/// or else to the window in front. During start-up, while the program has no window, the user can
+/// find the box like any other window: it has the program's icon, appears in the taskbar, and stays
+/// above others.
 class SystemMessageBox final : public wxMessageDialog {
   public:
     /// `owner` may be null. `style` is wxOK or wxYES_NO and one of wxICON_NONE, wxICON_INFORMATION,

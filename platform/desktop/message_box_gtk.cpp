@@ -10,7 +10,7 @@ namespace brelex {
 namespace {
 
 struct Kind {
-    GtkMessageType type;   // what a screen reader says
+    GtkMessageType type;   // a screen reader announces this
     const char* iconName;  // null for none
 };
 
@@ -39,7 +39,7 @@ void AddIcon(GtkMessageDialog* box, const char* iconName) {
     G_GNUC_END_IGNORE_DEPRECATIONS
 }
 
-// Lets the user copy what the box says.
+// Lets the user copy the text of the box.
 void MakeTextSelectable(GtkMessageDialog* box) {
     GList* const parts =
         gtk_container_get_children(GTK_CONTAINER(gtk_message_dialog_get_message_area(box)));

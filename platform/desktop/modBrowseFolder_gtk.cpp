@@ -13,8 +13,8 @@
 namespace brelex {
 
 wxString BrowseForFolder(wxWindow* owner, const wxString& title) {
-    // Without a folder to start in, GTK lists recently used ones, where no path can be typed. The
-    // file in question is mostly near the program.
+    // Without a folder to start in, GTK lists recently used ones, and no path can be typed there.
+    // The user usually looks for a file near the program.
     wxDirDialog browser(owner, title, WxText(ProgramFolder()),
                         wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
     if (browser.GetParent() == nullptr) {

@@ -12,26 +12,26 @@
 
 namespace brelex {
 
-/// What happens on the icon, and what it needs to know.
+/// Reports events on the icon, and supplies its menu.
 struct TrayEvents {
     std::function<void()> onLeftRelease;
     std::function<void()> onRightRelease;
 
-    /// The menu as it has to look now. Its items are always for the same commands.
+    /// Returns the current menu. Its items always stand for the same commands.
     std::function<std::vector<TrayMenuItem>()> menu;
 
-    /// An item was chosen.
+    /// The user chose an item.
     std::function<void(Command)> onMenuItem;
 
-    /// A notification area has begun to show the icon, as its host came up.
+    /// A notification area has started to show the icon, because its host came up.
     std::function<void()> onShown;
 
-    /// No notification area shows the icon any longer, as its host ended.
+    /// No notification area shows the icon any longer, because its host ended.
     std::function<void()> onGone;
 };
 
-/// The program's icon in the notification area, for as long as this lives. Where the desktop has no
-/// such area the icon waits for one.
+/// The program's icon in the notification area. It exists as long as this object. If the desktop
+/// has no notification area, the icon waits for one.
 class TrayIcon {
   public:
     TrayIcon() = default;
@@ -42,19 +42,19 @@ class TrayIcon {
     /// Whether a notification area shows the icon.
     [[nodiscard]] virtual bool IsShown() const = 0;
 
-    /// Shows the menu at the mouse. For use in onRightRelease; a desktop that shows the menu itself
-    /// never calls that.
+    /// Shows the menu at the mouse. Meant for onRightRelease. A desktop that shows the menu itself
+    /// never calls onRightRelease.
     virtual void PopUpMenu() = 0;
 
-    /// The menu has to look different now. For desktops that show it themselves.
+    /// The menu has changed. Needed for desktops that show it themselves.
     virtual void MenuChanged() = 0;
 };
 
-/// Adds the icon, with `tip` (UTF-8, fewer than 64 characters) shown while the mouse rests on it.
+/// Adds the icon. `tip` (UTF-8, fewer than 64 characters) appears while the mouse rests on it.
 [[nodiscard]] std::unique_ptr<TrayIcon> AddTrayIcon(const wxIconBundle& pictures,
                                                     const std::string& tip, TrayEvents events);
 
-/// Removes the icon; none is fine, too.
+/// Removes the icon, if there is one.
 inline void RemoveTrayIcon(std::unique_ptr<TrayIcon>& icon) {
     icon.reset();
 }

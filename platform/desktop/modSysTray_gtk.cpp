@@ -9,15 +9,15 @@
 
 #include "platform/desktop/status_notifier.h"
 
-// GtkStatusIcon is deprecated in favour of what each desktop offers; where that is nothing, it is
-// still the way into the notification area of an X11 panel.
+// GtkStatusIcon is deprecated in favor of each desktop's own means. Where a desktop offers none, it
+// is still the way into the notification area of an X11 panel.
 G_GNUC_BEGIN_IGNORE_DEPRECATIONS
 
 namespace brelex {
 
 namespace {
 
-// One icon, shown by whichever the desktop has: a host of StatusNotifierItems or a panel's tray.
+// One icon, shown by whatever the desktop has: a host of StatusNotifierItems or a panel's tray.
 class TrayIconGtk final : public TrayIcon {
   public:
     TrayIconGtk(const wxIconBundle& pictures, const std::string& tip, TrayEvents events)

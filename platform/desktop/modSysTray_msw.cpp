@@ -38,7 +38,7 @@ class TaskBarIcon final : public wxTaskBarIcon {
         PopupMenu(&menu);
     }
 
-    // Its menu may be up, which needs the icon until it has gone.
+    // The menu may still be open. It needs the icon until it closes.
     void Withdraw() {
         EndMenu();
         RemoveIcon();

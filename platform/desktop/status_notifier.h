@@ -11,19 +11,20 @@
 
 namespace brelex {
 
-/// A caption with "&" before its access key as GTK and the desktops' menus write it, with "_".
+/// Converts a caption to the form of GTK and the desktops' menus, which mark the access key with
+/// "_" instead of "&".
 [[nodiscard]] std::string MenuLabel(const std::string& caption);
 
-/// Ties a menu's item, a GObject, to its command, and tells it again.
+/// Connects a menu's item, a GObject, with its command, and finds the command again.
 void TieToCommand(void* item, Command command);
 [[nodiscard]] Command TiedCommand(void* item);
 
-/// The program's icon as a StatusNotifierItem of the session bus, as the desktops KDE and, with an
-/// extension, GNOME show them. The desktop draws icon and menu and says what was chosen. Linux
+/// The program's icon as a StatusNotifierItem on the session bus. KDE shows such items, and so does
+/// GNOME with an extension. The desktop draws icon and menu and reports the user's choice. Linux
 /// only.
 class StatusNotifier {
   public:
-    /// `onHostChanged` is called when a desktop begins or ceases to show such icons.
+    /// Calls `onHostChanged` when a desktop begins or stops showing such icons.
     StatusNotifier(const wxIconBundle& pictures, const std::string& tip, const TrayEvents& events,
                    std::function<void()> onHostChanged);
     StatusNotifier(const StatusNotifier&) = delete;
@@ -33,7 +34,7 @@ class StatusNotifier {
     /// Whether a desktop shows the icon.
     [[nodiscard]] bool IsShown() const;
 
-    /// Shows the menu as it has to look now.
+    /// Shows the menu in its current state.
     void MenuChanged();
 
   private:

@@ -38,7 +38,8 @@ constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotif
   <method name="Scroll"><arg type="i" direction="in"/><arg type="s" direction="in"/></method>
 </interface></node>)xml";
 
-// A picture as the bus carries it: width, height, and ARGB in network byte order, row by row.
+// Converts a picture to the format of the bus: width, height, and ARGB in network byte order, row
+// by row.
 GVariant* PixmapOf(GdkPixbuf* picture) {
     const int width = gdk_pixbuf_get_width(picture);
     const int height = gdk_pixbuf_get_height(picture);
@@ -104,7 +105,7 @@ class StatusNotifier::Item {
         Withdraw();
     }
 
-    // A watcher alone shows nothing, and one that refuses the item does not show it.
+    // A watcher without a host shows nothing, and a watcher that refuses the item does not show it.
     [[nodiscard]] bool IsShown() const { return hasHost_ && isRegistered_; }
 
     void MenuChanged() const {
@@ -146,7 +147,7 @@ class StatusNotifier::Item {
                                                     &kHandlers, this, nullptr, nullptr);
         g_dbus_node_info_unref(node);
         MakeMenu();
-        // The watcher takes the item that has our connection's own name.
+        // The watcher identifies the item by our connection's own name.
         g_dbus_connection_call(
             connection_, kWatcher, kWatcherPath, kWatcher, "RegisterStatusNotifierItem",
             g_variant_new("(s)", g_dbus_connection_get_unique_name(connection_)), nullptr,
@@ -174,7 +175,7 @@ class StatusNotifier::Item {
             g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error);
         const bool cancelled = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE;
         g_clear_error(&error);
-        if (!cancelled) {  // or else the item is gone
+        if (!cancelled) {  // otherwise the item no longer exists
             static_cast<Item*>(data)->SetState(static_cast<Item*>(data)->hasHost_,
                                                answer != nullptr);
         }
@@ -203,7 +204,7 @@ class StatusNotifier::Item {
         const bool cancelled = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE;
         g_clear_error(&error);
         if (cancelled) {
-            return;  // and the item is gone
+            return;  // the item no longer exists
         }
         bool has = false;
         if (answer != nullptr) {
@@ -229,7 +230,7 @@ class StatusNotifier::Item {
     static void OnMethod(GDBusConnection* /*connection*/, const char* /*sender*/,
                          const char* /*path*/, const char* /*interface*/, const char* method,
                          GVariant* /*parameters*/, GDBusMethodInvocation* call, void* data) {
-        // Answered first: what follows may wait for the user.
+        // Answer first, because the rest may wait for the user.
         g_dbus_method_invocation_return_value(call, nullptr);
         const auto* const self = static_cast<const Item*>(data);
         if (g_strcmp0(method, "Activate") == 0) {
@@ -262,7 +263,7 @@ class StatusNotifier::Item {
         if (name == "Status") {
             return g_variant_new_string("Active");
         }
-        // The name of the icon stays empty: the picture is ours.
+        // The name of the icon stays empty, because we supply the picture.
         return g_variant_new_string(name == "Id"      ? "brevilexicon"
                                     : name == "Title" ? tip_.c_str()
                                                       : "");
@@ -277,8 +278,8 @@ class StatusNotifier::Item {
         return g_variant_builder_end(&list);
     }
 
-    // The menu is drawn by the desktop. Its items stay the same, as a desktop remembers them; what
-    // is disabled is not shown at all.
+    // The desktop draws the menu. The items stay the same, because desktops remember them.
+    // Disabled items are not shown at all.
     void MakeMenu() {
         menuServer_ = dbusmenu_server_new(kMenuPath);
         root_ = dbusmenu_menuitem_new();
@@ -298,7 +299,7 @@ class StatusNotifier::Item {
         dbusmenu_server_set_root(menuServer_, root_);
     }
 
-    // What a desktop has asked for may still be on its way to an item: it must not come here then.
+    // A request from the desktop may still be on its way to an item. Disconnecting keeps it away.
     void DropMenu() {
         for (DbusmenuMenuitem* entry : entries_) {
             g_signal_handlers_disconnect_by_data(entry, this);
@@ -326,7 +327,7 @@ class StatusNotifier::Item {
     DbusmenuServer* menuServer_ = nullptr;
     guint object_ = 0;
     guint changes_ = 0;
-    guint watch_;  // last: the bus may answer as soon as it is set
+    guint watch_;  // the last member, because the bus may answer as soon as it is set
 };
 
 StatusNotifier::StatusNotifier(const wxIconBundle& pictures, const std::string& tip,

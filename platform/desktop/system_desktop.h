@@ -7,7 +7,7 @@
 
 namespace brelex {
 
-/// The user's desktop. On Linux it knows the windows of X11; Wayland does not reveal them.
+/// The user's desktop. On Linux it can find windows under X11; Wayland does not reveal them.
 class SystemDesktop final : public Desktop {
   public:
     [[nodiscard]] bool BringWindowForward(const std::string& title) override;

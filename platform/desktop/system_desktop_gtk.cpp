@@ -19,7 +19,7 @@ struct XFreeBytes {
     void operator()(unsigned char* bytes) const { XFree(bytes); }
 };
 
-// A property of a window: its items, of 32 or 8 bits each.
+// A property of a window. Each of its items has 32 or 8 bits.
 struct Property {
     std::unique_ptr<unsigned char, XFreeBytes> bytes;
     unsigned long items = 0;
@@ -41,7 +41,7 @@ Property PropertyOf(Display* display, Window window, const char* name, Atom type
     return property;
 }
 
-// The display, if it is X11's and has a window with this title.
+// The X11 display and its window with this title, if there is one.
 struct FoundWindow {
     GdkDisplay* gdk = nullptr;
     Display* display = nullptr;
@@ -55,12 +55,12 @@ FoundWindow WindowTitled(const std::string& title) {
     }
     Display* const display = gdk_x11_display_get_xdisplay(gdk);
     Window found = None;
-    // A window may go while it is asked.
+    // A window may be destroyed while we ask about it.
     gdk_x11_display_error_trap_push(gdk);
     const Property list =
         PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW, 32);
     for (unsigned long i = 0; i < list.items && found == None; ++i) {
-        // Items of 32 bits come as long, whatever its size.
+        // Items of 32 bits arrive as long, whatever the size of that type.
         unsigned long window = None;
         std::memcpy(&window, list.bytes.get() + i * sizeof window, sizeof window);
         const Property name = PropertyOf(display, window, "_NET_WM_NAME",
@@ -74,7 +74,7 @@ FoundWindow WindowTitled(const std::string& title) {
     return {gdk, display, found};
 }
 
-// Asks the window manager to do something with a window, as a pager does.
+// Asks the window manager to do something with a window, as a pager would.
 void Ask(const FoundWindow& found, const char* message, long first, long second) {
     XEvent event{};
     event.xclient.type = ClientMessage;
@@ -96,14 +96,14 @@ struct UnrefObject {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
 
-// Allows the window that opens to come to the front.
+// Allows the new window to come to the front.
 std::unique_ptr<GdkAppLaunchContext, UnrefObject> LaunchContext() {
     return std::unique_ptr<GdkAppLaunchContext, UnrefObject>(
         gdk_display_get_app_launch_context(gdk_display_get_default()));
 }
 
-// An argument for a command line that GLib takes apart: quoted as for a shell, although none is
-// started, and with percent signs doubled.
+// Formats an argument for a command line that GLib splits: quoted as for a shell, although no shell
+// runs, and with percent signs doubled.
 std::string Quoted(const std::string& argument) {
     char* const quoted = g_shell_quote(argument.c_str());
     std::string text;

@@ -17,7 +17,7 @@ HWND WindowTitled(const std::string& title) {
     return FindWindowW(nullptr, WideOfUtf8(title).c_str());
 }
 
-// No verb means the default one.
+// A null verb means the default one.
 bool RunVerb(const wchar_t* verb, const std::string& target) {
     HINSTANCE const result = ShellExecuteW(GetActiveWindow(), verb, WideOfUtf8(target).c_str(),
                                            nullptr, nullptr, SW_SHOWNORMAL);
@@ -46,7 +46,7 @@ void SystemDesktop::TurnToPage(const std::string& title, const std::string& page
 bool SystemDesktop::StartHelpViewer(const std::string& folder, const std::string& book,
                                     const std::string& page) {
     const std::wstring viewer = WideOfUtf8(folder + "brelex-help.exe");
-    // A file name has no quotation marks and a page no blanks.
+    // A file name contains no quotation marks and a page no blanks.
     std::wstring command = L"\"" + viewer + L"\" \"" + WideOfUtf8(book) + L"\"";
     if (!page.empty()) {
         command += L" " + WideOfUtf8(page);

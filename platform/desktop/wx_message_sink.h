@@ -10,7 +10,7 @@ namespace brelex {
 /// Shows messages as message boxes.
 class WxMessageSink final : public MessageSink {
   public:
-    /// `owner` is the window that the boxes belong to; null means the window in front.
+    /// `owner` is the window to which the boxes belong. Null means the window in front.
     explicit WxMessageSink(wxWindow* owner) : owner_(owner) {}
 
     MessageAnswer Show(const Message& message) override;
