@@ -55,7 +55,7 @@ void frmAbout::CreateControls() {
     lblCopyRight =
         NewLabel("lblCopyRight", WxText(values_.info.copyright + ". All Rights Reserved."));
     lblDBVersion = NewLabel("lblDBVersion", wxEmptyString);
-    lblDBVersion->Hide();  // even an empty label takes the room of a line
+    lblDBVersion->Hide();  // even an empty label takes up a line
     lblHyperLink[0] = Named(new Link(surface_, WxText(values_.info.homePage),
                                      [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); }),
                             "lblHyperLink0", "Home page");

@@ -21,10 +21,11 @@ class Link;
 class PaintedText;
 class TitleImage;
 
-/// The About box. It is made for one use.
+/// The About box. Created anew for each use.
 class frmAbout final : public SideWindow {
   public:
-    /// `openAddress` opens a web or e-mail address. `values` and it must outlive the window.
+    /// `openAddress` opens a web or e-mail address. `values` and `openAddress` must outlive the
+    /// window.
     frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
              const std::function<void(const std::string&)>& openAddress);
 

@@ -28,7 +28,7 @@ std::vector<ScrollLine> LinesOf(const std::vector<CreditRecord>& records, const 
         if (record.isBold) {
             font.MakeBold();
         }
-        // The lowest byte is red in the toolkit's numbers, too.
+        // The toolkit's color numbers also have red in their lowest byte.
         lines.push_back(
             {WxText(record.text), font,
              record.colour ? wxColour(static_cast<unsigned long>(*record.colour)) : wxColour()});
@@ -51,7 +51,7 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     Bind(wxEVT_CHAR_HOOK, &frmCredit::OnKey, this);
 }
 
-// The toolkit's own answer to the key needs a button.
+// The toolkit's own handling of the key needs a button.
 void frmCredit::OnKey(wxKeyEvent& event) {
     if (event.GetKeyCode() == WXK_ESCAPE) {
         Close();

@@ -8,7 +8,7 @@ namespace brelex {
 
 class ScrollArea;
 
-/// The window with the credits. It is made for one use; the ESC key closes it.
+/// The window with the credits. Created anew for each use. The ESC key closes it.
 class frmCredit final : public SideWindow {
   public:
     frmCredit(wxTopLevelWindow* about, const AppInfo& info);

@@ -26,11 +26,11 @@ constexpr double kMargin = 10;
 constexpr double kValueWidth = 260;
 constexpr int kIconSize = 48;
 
-// The most lines that a fact takes, however long an entry is.
+// The most lines that a fact takes, however long the entry is.
 constexpr int kFewLines = 3;
 constexpr int kManyLines = 12;
 
-// After a long entry a note in brackets says how long it is and where to find it.
+// After a long entry, a note in brackets gives its length and its place.
 std::size_t LengthOfNote(const wxString& fact) {
     const std::size_t begin = fact.rfind(" (");
     return begin == wxString::npos ? 0 : fact.length() - begin;
@@ -86,10 +86,10 @@ void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
 
 wxStaticText* frmDataInfo::NewValue(const Statistic& statistic) const {
     const wxString fact = WxText(statistic.text);
-    // What the window leaves out for want of room is spoken.
+    // If the window cuts off a fact, a screen reader still says all of it.
     auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), statistic.name, fact);
     const int width = units_.Pixels(kValueWidth);
-    // A large font on a small screen leaves fewer lines.
+    // With a large font on a small screen, there is room for fewer lines.
     const int lines = statistic.mayNeedLines
                           ? std::clamp(wxDisplay(this).GetClientArea().height / 4 / GetCharHeight(),
                                        1, kManyLines)

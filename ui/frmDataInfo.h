@@ -14,10 +14,10 @@ namespace brelex {
 struct DatabaseStatistics;
 struct Statistic;
 
-/// The window "Database Info". It is made for one use.
+/// The window "Database Info". Created anew for each use.
 class frmDataInfo final : public SideWindow {
   public:
-    /// The database of `values` is loaded.
+    /// Requires that the database in `values` is loaded.
     frmDataInfo(wxTopLevelWindow* main, const ProgramValues& values);
 
   private:

@@ -14,10 +14,10 @@ namespace brelex {
 class Link;
 class ScrollArea;
 
-/// The window that asks for a donation. It is made for one use.
+/// The window that asks for a donation. Created anew for each use.
 class frmDonation final : public SideWindow {
   public:
-    /// `openAddress` opens a web address. `info` and it must outlive the window.
+    /// `openAddress` opens a web address. `info` and `openAddress` must outlive the window.
     frmDonation(wxTopLevelWindow* main, const AppInfo& info,
                 const std::function<void(const std::string&)>& openAddress);
 

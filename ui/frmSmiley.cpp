@@ -25,7 +25,8 @@ constexpr double kMargin = 10;
 
 constexpr int kTextMarginPixels = 8;
 
-// The rows with tabs are all shorter than the introduction.
+// The rows with tabs are all shorter than the introduction, so measuring their tabs wrongly does no
+// harm.
 int WidestLine(const wxWindow& window, const wxString& text) {
     int widest = 0;
     for (const wxString& line : wxSplit(text, '\n', '\0')) {
@@ -34,10 +35,10 @@ int WidestLine(const wxWindow& window, const wxString& text) {
     return widest;
 }
 
-// A smiley comes after one tab, its meaning after two more, or after one more if the smiley is
-// long. The meanings form a column if the tab stops are farther apart than the short smileys are
-// wide, but not farther than the long ones. That distance depends on the font. Returns it in dialog
-// units.
+// A smiley comes after one tab. Its meaning comes after two more tabs, or after one more if the
+// smiley is long. The meanings form a column if the tab stops are farther apart than the short
+// smileys are wide, but not farther apart than the long ones are wide. That distance depends on the
+// font. Returns it in dialog units.
 int TabStopFor(const wxWindow& window, const wxString& text) {
     int widestShort = 0;
     int narrowestLong = 0;
@@ -53,7 +54,8 @@ int TabStopFor(const wxWindow& window, const wxString& text) {
             narrowestLong = width;
         }
     }
-    // In an odd font a long smiley may be narrower than a short one. Then only its row stands out.
+    // In an unusual font, a long smiley may be narrower than a short one. Then only its row is out
+    // of line.
     const int stop = (widestShort + std::max(widestShort, narrowestLong)) / 2 + 1;
     return window.ConvertPixelsToDialog(wxPoint(stop, 0)).x;
 }
@@ -85,7 +87,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
 
 void frmSmiley::PlaceControls(int textWidth) {
     const int gap = units_.Pixels(kMargin);
-    // The rows are made for a box that is as wide as the widest line.
+    // The rows fit a box that is as wide as the widest line.
     const int boxWidth = textWidth + 2 * (kTextMarginPixels + gap) +
                          wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, txtReadme);
     auto* all = new wxBoxSizer(wxVERTICAL);
@@ -93,7 +95,7 @@ void frmSmiley::PlaceControls(int textWidth) {
     all->Add(cmdClose, 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, gap);
     surface_->SetSizer(all);
     wxSize inside(boxWidth + 2 * gap, units_.Pixels(kHeight));
-    inside.DecTo(LargestInside(*this));  // the text scrolls, and wraps
+    inside.DecTo(LargestInside(*this));  // the text scrolls and wraps
     surface_->FillWindow(inside);
 }
 

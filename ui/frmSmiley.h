@@ -9,7 +9,7 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// The window "The Smiley Dictionary". It is made for one use.
+/// The window "The Smiley Dictionary". Created anew for each use.
 class frmSmiley final : public SideWindow {
   public:
     /// `info` must outlive the window.

@@ -18,7 +18,7 @@ frmSplash::frmSplash(const AppInfo& info)
     : wxFrame(nullptr, wxID_ANY, kAppTitle, wxDefaultPosition, wxDefaultSize,
               wxFRAME_NO_TASKBAR | wxBORDER_NONE) {
     SetName("frmSplash");
-    SetExtraStyle(GetExtraStyle() | wxWS_EX_TRANSIENT);  // owns no message box, as it goes soon
+    SetExtraStyle(GetExtraStyle() | wxWS_EX_TRANSIENT);  // too short-lived to own message boxes
     SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
     SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
 
@@ -49,7 +49,7 @@ frmSplash::frmSplash(const AppInfo& info)
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(upper, 0, wxALL, 4 * gap);
     all->Add(lblMessage, 0, wxLEFT | wxRIGHT | wxBOTTOM, 4 * gap);
-    // Room for the longest message and the percentage behind it, whatever is shown.
+    // Room for the longest message with the percentage after it, whatever is shown.
     all->SetMinSize(
         GetTextExtent("Loading database (9,999,999 records). Please, wait...100%").x + 10 * gap,
         -1);
@@ -67,7 +67,7 @@ wxStaticText* frmSplash::NewLabel(const wxString& name, const wxString& text) {
     return label;
 }
 
-// Without a title bar only an outline sets the window off from what is behind it.
+// Without a title bar, only an outline separates the window from its background.
 void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
@@ -92,7 +92,7 @@ void frmSplash::SetStatusText(std::string_view text) {
 }
 
 // Setting a label and painting it takes longer than loading a hundredth of the entries. Painting
-// more often than the screen shows would only make people wait.
+// more often than the screen refreshes would only make people wait.
 void frmSplash::SetProgress(int percent) {
     constexpr std::chrono::milliseconds kFrame(16);
     constexpr int kDone = 100;

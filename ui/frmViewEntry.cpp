@@ -25,12 +25,12 @@ namespace {
 // The layout, in layout units.
 constexpr double kInnerWidth = 540;
 constexpr double kMargin = 10;
-constexpr double kWidthWithoutScrolling = 700;  // two lines and a half
+constexpr double kWidthWithoutScrolling = 700;  // two and a half lines
 constexpr int kExpansionLines = 3;
 constexpr int kTextMarginPixels = 4;
 
-// A line that can be read and selected but not changed. On Windows the TAB key would skip it (seen
-// with wxWidgets 3.2.2).
+// A line of text that the user can read and select but not change. On Windows the TAB key would
+// otherwise skip it (seen with wxWidgets 3.2.2).
 class ReadOnlyLine final : public wxTextCtrl {
   public:
     explicit ReadOnlyLine(wxWindow* parent)
@@ -138,7 +138,8 @@ void frmViewEntry::CopyEntry() {
     CopyEntryToClipboard(selectedEntry_(), messages_);
 }
 
-// Comes before the controls, so the whole entry is copied whichever control has the focus.
+// This handler runs before the controls' own, so Ctrl+C copies the whole entry whichever control
+// has the focus.
 void frmViewEntry::OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (key == 'C' && event.GetModifiers() == wxMOD_CONTROL) {

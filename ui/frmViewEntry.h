@@ -14,11 +14,11 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// The window "Current Selection (Read Only)", which shows one entry. It is made for one use.
+/// The window "Current Selection (Read Only)", which shows one entry. Created anew for each use.
 class frmViewEntry final : public SideWindow {
   public:
-    /// `selectedEntry` gives the record text of the entry that is selected in the main window's
-    /// list. `info` must outlive the window.
+    /// `selectedEntry` returns the record text of the entry selected in the main window's list.
+    /// `info` must outlive the window.
     frmViewEntry(wxTopLevelWindow* main, std::function<std::string_view()> selectedEntry,
                  const AppInfo& info);
 

@@ -21,7 +21,7 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
       owner_(owner) {
     SetName(name);
     SetIcons(AppIcons());
-    // Once more when the desktop has put its frame round the window.
+    // Centers again once the desktop has put its frame around the window.
     OnEachShowing(*this, [this] { CenterOverOwner(); });
 }
 

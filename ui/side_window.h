@@ -17,29 +17,30 @@ namespace brelex {
 
 class Surface;
 
-/// A window that stands over another one while it is in use. It carries the program's icon and
-/// comes up in the middle of its owner.
+/// A window that stays over another one while it is open. It carries the program's icon and appears
+/// centered over its owner.
 class SideWindow : public wxDialog {
   public:
-    /// `name` is the one by which the help and the tests know the window. `owner` must outlive it.
+    /// The help and the tests identify the window by `name`. `owner` must outlive it.
     SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxString& title);
 
     bool Show(bool show = true) override;
     void EndModal(int result) override;
 
   protected:
-    /// Lays `content` out and gives the window its size, or a width of `width` pixels if that is
-    /// not 0; less where the screen is too small.
+    /// Lays out `content` and sizes the window to it, or to a width of `width` pixels if that is
+    /// not 0. The window is smaller if the screen requires it.
     void FillWindow(wxSizer* content, int width = 0);
 
-    /// Stops the timer, a member of the window or of one of its controls, when the window closes.
+    /// Stops the timer when the window closes. The timer is a member of the window or of one of its
+    /// controls.
     void StopWithWindow(wxTimer& timer);
 
-    /// Makes the window say what program this is where a read-only text box would show its menu.
+    /// Makes the window show what program this is where a read-only text box would show its menu.
     /// `info` must outlive the window.
     void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info);
 
-    /// For a window that changes its size while it is shown.
+    /// Centers the window again. For a window that changes its size while it is shown.
     void CenterOverOwner();
 
     const LayoutUnits units_;

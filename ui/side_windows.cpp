@@ -23,7 +23,7 @@ namespace brelex {
 
 namespace {
 
-// What is modal directly over a window; null if there is nothing.
+// The modal window directly over a window; null if there is none.
 wxDialog* ModalOver(const wxWindow& window) {
     for (wxWindow* child : window.GetChildren()) {
         auto* const dialog = dynamic_cast<wxDialog*>(child);
@@ -67,7 +67,7 @@ void SideWindows::OpenModalForm(int number) {
             return command.kind == CommandKind::Window && command.window == number;
         });
     if (spec == kCommands.end() || IsModalOpen) {
-        return;  // a window that was just closed may still have a search to end
+        return;  // a window that was just closed may still have to end a search
     }
     const ModalScope modal(*this);
     switch (spec->command) {
@@ -125,7 +125,7 @@ void SideWindows::ShowAnagram() {
     anagram_->ShowAnagramWindow();
 }
 
-// Shows a window that is made for one use.
+// Shows a window that is created for a single use.
 void SideWindows::ShowOnce(wxDialog* window) {
     open_ = window;
     const OnLeaving closed([this] { open_ = nullptr; });

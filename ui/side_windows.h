@@ -17,23 +17,24 @@ namespace brelex {
 class frmAnagram;
 class frmSearch;
 
-/// What the side windows ask of the main window.
+/// What the side windows need from the main window.
 struct SideWindowEvents {
     std::function<void(RecordNumber)> goToRecord;     ///< selects an entry
     std::function<std::string_view()> selectedEntry;  ///< its record text; empty if there is none
     std::function<void(const std::string&)> openAddress;  ///< with the desktop's program for it
 
-    /// The first modal window is about to open, or the last has closed.
+    /// Called with true before the first modal window opens, and with false after the last has
+    /// closed.
     std::function<void(bool)> onModal;
 };
 
-/// The windows that open over the main window, one at a time: those that OpenModalForm numbers, and
-/// the viewer of an entry. Two of them are kept while the program runs, hidden, for what they
-/// remember.
+/// The windows that open over the main window, one at a time: those numbered for OpenModalForm, and
+/// the entry viewer. Two of them stay in memory, hidden, until the program ends, because they
+/// remember the user's input.
 class SideWindows {
   public:
-    /// The time that something modal is up: a window, a question or a message. Within one, another
-    /// changes nothing.
+    /// Marks the time during which something modal is shown: a window, a question or a message. A
+    /// scope within another has no effect.
     class ModalScope {
       public:
         explicit ModalScope(SideWindows& windows);
@@ -46,31 +47,31 @@ class SideWindows {
         bool outermost_;
     };
 
-    /// All but `events`, which is copied, must outlive this.
+    /// All arguments except `events`, which is copied, must outlive this object.
     SideWindows(wxFrame& main, ProgramValues& values, TemporaryFiles& files,
                 SideWindowEvents events);
     SideWindows(const SideWindows&) = delete;
     SideWindows& operator=(const SideWindows&) = delete;
     ~SideWindows() = default;
 
-    /// Opens the window with a number of kCommands and returns when it is closed; any other number
-    /// opens none. Nor does any while something modal is up.
+    /// Opens the side window with this number in kCommands and returns when it is closed. Opens
+    /// nothing for any other number, or while something modal is shown.
     void OpenModalForm(int number);
 
-    /// The same for the viewer of the selected entry. There must be one.
+    /// Does the same for the viewer of the selected entry. Requires a selected entry.
     void OpenEntryViewer();
 
-    /// Brings what is modal over the main window to the front.
+    /// Brings the modal window over the main window to the front.
     void RaiseModal() const;
 
-    /// Closes the main window as soon as nothing is modal any more. Ends the open window, and what
-    /// is modal over it; questions and messages of the main window wait for the user.
+    /// Closes the main window as soon as nothing modal is left. Ends the open side window and
+    /// anything modal over it. Questions and messages of the main window wait for the user.
     void CloseMainWhenNotModal();
 
-    /// Destroys the windows that are kept.
+    /// Destroys the windows that stay in memory.
     void UnloadOtherForms();
 
-    bool IsModalOpen = false;  ///< something modal is up: the icon shows no menu
+    bool IsModalOpen = false;  ///< something modal is shown, so the icon has no menu
 
   private:
     void ShowSearch();
@@ -81,9 +82,9 @@ class SideWindows {
     ProgramValues& values_;
     TemporaryFiles& files_;
     SideWindowEvents events_;
-    frmSearch* search_ = nullptr;  // made when they are first opened
+    frmSearch* search_ = nullptr;  // both created when first opened
     frmAnagram* anagram_ = nullptr;
-    wxDialog* open_ = nullptr;  // the one that is up
+    wxDialog* open_ = nullptr;  // the one that is open
     bool closesMain_ = false;
 };
 

@@ -17,7 +17,7 @@ void LeadAccessKeysTo(wxTopLevelWindow& window, const std::vector<LabelledContro
             continue;
         }
         const wxUniChar key = wxToupper(label->GetLabel()[static_cast<std::size_t>(ampersand) + 1]);
-        // The handler holds the number, so that it is free again when the window is gone.
+        // The handler holds the number and frees it when the window is gone.
         const wxWindowIDRef command(wxWindow::NewControlId());
         entries.emplace_back(wxACCEL_ALT, static_cast<int>(key.GetValue()), command);
         window.Bind(

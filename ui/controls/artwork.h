@@ -9,34 +9,34 @@
 
 namespace brelex {
 
-// Pictures of 16 by 16 for buttons.
+// Pictures for buttons, 16 by 16.
 [[nodiscard]] wxBitmapBundle StopPicture();
 [[nodiscard]] wxBitmapBundle CancelPicture();
 [[nodiscard]] wxBitmapBundle ExpandPicture();
 [[nodiscard]] wxBitmapBundle ShrinkPicture();
 [[nodiscard]] wxBitmapBundle CopyPicture();
 
-// Pictures of 32 by 32 for the results of a check.
+// Pictures for the results of a check, 32 by 32.
 [[nodiscard]] wxBitmapBundle PassedPicture();
 [[nodiscard]] wxBitmapBundle FailedPicture();
 
-/// The toolbar's icons of 32 by 32, from left to right.
+/// The toolbar's icons, 32 by 32, from left to right.
 [[nodiscard]] std::array<wxBitmapBundle, kToolbarIcons.size()> ToolbarPictures();
 
-/// The button that leads to the donation page, 92 by 31.
+/// The picture of the button that leads to the donation page, 92 by 31.
 [[nodiscard]] wxBitmapBundle DonateButtonPicture();
 
-/// A film strip: pictures of one size, the first at the top, the others below it.
+/// A film strip: pictures of the same size, one below the other. The first is at the top.
 struct FilmStrip {
     wxBitmapBundle picture;
     int frames = 1;
     wxSize frameSize;  ///< at 96 dots per inch
 };
 
-/// The film strip of the search, 11 frames of 48 by 50.
+/// The film strip of the search: 11 frames of 48 by 50.
 [[nodiscard]] FilmStrip SearchFilmStrip();
 
-/// That of the anagrams, 15 frames of 64 by 50.
+/// The film strip of the anagram search: 15 frames of 64 by 50.
 [[nodiscard]] FilmStrip AnagramFilmStrip();
 
 }  // namespace brelex

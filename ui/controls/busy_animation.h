@@ -8,8 +8,8 @@
 
 namespace brelex {
 
-/// The animation `picAnim`, which shows the frames of a film strip one after the other while a
-/// window is busy. It is hidden while it does not run.
+/// The animation `picAnim`. While a window is busy, it shows the frames of a film strip one after
+/// the other. Otherwise it is hidden.
 class BusyAnimation final : public Backdrop {
   public:
     BusyAnimation(wxWindow* parent, FilmStrip strip, int intervalMs);

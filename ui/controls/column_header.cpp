@@ -13,7 +13,7 @@ namespace brelex {
 
 namespace {
 
-// All in layout units, from the left or top edge of the header.
+// In layout units, from the left or top edge of the header.
 constexpr double kAbbreviationAt = 7;
 constexpr double kLineAt = 15;
 constexpr double kSunkenLineBefore = 9;  // the second column

@@ -11,13 +11,13 @@ inline constexpr double kColumnHeaderHeight = 18;
 inline constexpr double kColumnHeaderFrameAbove = 3;  ///< between it and the top of its frame
 inline constexpr double kExpansionTextAt = 139.5;     ///< from the left edge of the list below
 
-/// The drawn header of a list, `picColHeader`: the names of its two columns, a line under them,
-/// a sunken line between them and an arrow for the ascending order.
+/// The drawn header of a list, `picColHeader`. It shows the names of the two columns, a line under
+/// them, a sunken line between them, and an arrow for ascending order.
 class ColumnHeader final : public Backdrop {
   public:
     ColumnHeader(wxWindow* parent, const LayoutUnits& units);
 
-    /// Makes the second column begin `pixels` from the left.
+    /// Makes the second column begin `pixels` from the left edge.
     void SetSecondColumn(int pixels);
 
   private:

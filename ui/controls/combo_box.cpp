@@ -28,7 +28,8 @@ void ComboTextLimit::Set(std::size_t length) {
     Apply();
 }
 
-// On GTK the toolkit cuts text that is longer than its limit, so the limit is never below the text.
+// On GTK the toolkit cuts text that is longer than the limit, so the limit is never shorter than
+// the text.
 void ComboTextLimit::Apply() {
     const std::size_t length = std::max(limit_, combo_.GetValue().length());
     combo_.SetMaxLength(limit_ == 0 ? 0 : static_cast<unsigned long>(length));
@@ -40,7 +41,7 @@ void ComboTextLimit::RestorePickedText() {
         combo_.GetString(static_cast<unsigned>(picked)) != combo_.GetValue()) {
         const wxString text = combo_.GetString(static_cast<unsigned>(picked));
         combo_.SetMaxLength(0);
-        combo_.SetValue(text);  // with an event
+        combo_.SetValue(text);  // this sends an event
     }
     Apply();
 }

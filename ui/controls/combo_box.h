@@ -7,15 +7,15 @@ class wxComboBox;
 
 namespace brelex {
 
-/// Limits what can be typed into a combo box to a number of characters. Text that is already there,
-/// or is picked from the list, may be longer and is never cut.
+/// Limits how many characters the user can type into a combo box. Text that is already there, or is
+/// picked from the list, may be longer and is never cut.
 class ComboTextLimit {
   public:
     explicit ComboTextLimit(wxComboBox& combo);
     ComboTextLimit(const ComboTextLimit&) = delete;
     ComboTextLimit& operator=(const ComboTextLimit&) = delete;
 
-    /// 0 for no limit.
+    /// Sets the limit in characters; 0 for no limit.
     void Set(std::size_t length);
 
   private:

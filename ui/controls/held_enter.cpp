@@ -21,7 +21,7 @@ bool IsEnterDown() {
 
 HeldEnter::HeldEnter(wxTopLevelWindow& window) {
     window.Bind(wxEVT_CHAR_HOOK, &HeldEnter::OnKey, this);
-    // The key may have been released over a message.
+    // The user may have released the key over a message.
     window.Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
         isHeld_ = isHeld_ && IsEnterDown();
         event.Skip();

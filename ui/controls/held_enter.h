@@ -10,11 +10,12 @@ class wxWindow;
 namespace brelex {
 
 /// Keeps the Enter key that starts a search from stopping it or starting another. Enter does
-/// nothing while it is held, or when it is pressed again at once. Pressed later, it acts as usual.
+/// nothing while the user holds it, or when the user presses it again at once. Pressed later, it
+/// acts as usual.
 class HeldEnter {
   public:
-    /// Watches the keys of a window whose controls all exist. The window must destroy its controls
-    /// before this goes.
+    /// Watches the keys of a window. All its controls must exist already, and the window must
+    /// destroy them before this object is destroyed.
     explicit HeldEnter(wxTopLevelWindow& window);
     HeldEnter(const HeldEnter&) = delete;
     HeldEnter& operator=(const HeldEnter&) = delete;
@@ -22,9 +23,9 @@ class HeldEnter {
     void SearchBegins();
     void SearchEnds();
 
-    /// Whether a button that is pressed now, while a search runs, is pressed by the Enter that
-    /// started the search, or by another one right after it. Windows presses buttons without
-    /// passing the key to the window.
+    /// Whether a button pressed now, during a search, was pressed by the Enter that started the
+    /// search or by another one right after it. Windows presses buttons without passing the key to
+    /// the window.
     [[nodiscard]] bool PressesButton() const;
 
   private:
@@ -35,7 +36,7 @@ class HeldEnter {
     [[nodiscard]] bool IsSoonAfter() const;
 
     bool isSearching_ = false;
-    bool isHeld_ = false;  // since a search
+    bool isHeld_ = false;  // since the search started
     Clock::time_point lastEnter_;
 };
 

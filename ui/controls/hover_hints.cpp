@@ -24,17 +24,17 @@ void HoverHints::FitFont(const std::vector<wxString>& others) {
     }
     const int room = label_.GetSize().x;
     if (widest > room) {
-        constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
+        constexpr double kMargin = 0.97;  // hinting makes some sizes wider
         wxFont font = label_.GetFont();
-        constexpr double kLeastPoints = 6;  // smaller ones cannot be read: the end is left out
+        constexpr double kLeastPoints = 6;  // smaller text is unreadable, so it is cut off
         font.SetFractionalPointSize(
             std::max(font.GetFractionalPointSize() * kMargin * room / widest, kLeastPoints));
         label_.SetFont(font);
     }
 }
 
-// Some controls have no window of their own on some systems, and then the one under them gets their
-// mouse events. So all are watched, and the place of the mouse says which it is.
+// Some controls have no window of their own on some systems, so their mouse events go to the window
+// under them. Therefore this watches all windows, and the position of the mouse decides.
 void HoverHints::WatchAll(wxWindow& window) {
     window.Bind(wxEVT_MOTION, &HoverHints::OnMotion, this);
     for (wxWindow* child : window.GetChildren()) {
@@ -53,7 +53,7 @@ void HoverHints::OnMotion(wxMouseEvent& event) {
         controls.begin(), controls.end(),
         [&](const wxWindow* control) { return control->GetScreenRect().Contains(mouse); });
     if (found == hints_.end() && !onSurface) {
-        return;  // a control without a hint, such as the hint itself
+        return;  // a control without a hint, for example the hint itself
     }
     const wxString text = found == hints_.end() ? wxString() : found->text;
     if (label_.GetLabelText() != text) {

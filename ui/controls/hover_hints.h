@@ -11,17 +11,17 @@ class wxWindow;
 
 namespace brelex {
 
-/// A control and what it is for.
+/// A control and its hint.
 struct ControlHint {
     const wxWindow& control;
     wxString text;
 };
 
-/// Shows in a label what the control under the mouse is for.
+/// Shows a hint in a label for the control under the mouse.
 class HoverHints {
   public:
-    /// All are windows on `surface`, whose bare parts have no hint. Call Watch when all controls
-    /// are there.
+    /// All controls are on `surface`, whose empty areas have no hint. Call Watch once all controls
+    /// exist.
     HoverHints(wxWindow& surface, wxStaticText& label) : surface_(surface), label_(label) {}
 
     HoverHints(const HoverHints&) = delete;
@@ -29,8 +29,8 @@ class HoverHints {
 
     void Add(const ControlHint& hint) { hints_.push_back(hint); }
 
-    /// Begins to follow the mouse. The label's font becomes smaller as far as the longest hint, or
-    /// a text among `others` that is shown there too, needs it.
+    /// Starts following the mouse. Shrinks the label's font as far as needed for the longest hint,
+    /// and for the longest of `others`, texts that also appear in the label.
     void Watch(const std::vector<wxString>& others);
 
   private:

@@ -10,7 +10,7 @@ namespace brelex {
 
 namespace {
 
-constexpr int kStripTextUnits = 15;  // what a frame of 18 leaves below its edge and margin
+constexpr int kStripTextUnits = 15;  // a frame of 18 minus its edge and margin
 
 int TextHeight(const wxWindow& window, const wxFont& font) {
     int width = 0;

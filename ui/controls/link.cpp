@@ -14,8 +14,8 @@ namespace {
 constexpr int kFocusMark = 2;
 constexpr int kFocusMargin = 4;
 
-// Not the system's color for links, which some themes make illegible (seen with GTK 3.24 and Wine
-// 8).
+// The system's color for links is not used, because some themes make it illegible (seen with GTK
+// 3.24 and Wine 8).
 wxColour LinkColour() {
     return wxSystemSettings::GetAppearance().IsUsingDarkBackground() ? wxColour(120, 174, 237)
                                                                      : wxColour(0, 80, 180);
@@ -42,7 +42,7 @@ Link::Link(wxWindow* parent, const wxBitmapBundle& picture, std::function<void()
     BindEvents();
 }
 
-// The toolkit wants the mouse back before the window goes.
+// The toolkit requires that a window releases the mouse before it is destroyed.
 Link::~Link() {
     if (HasCapture()) {
         ReleaseMouse();
@@ -60,7 +60,7 @@ void Link::BindEvents() {
         Bind(type, &Link::OnMouse, this);
     }
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { SetHot(false); });
-    // Before the dialog sees the key and takes Enter for its button.
+    // This must come before the dialog sees the key and takes Enter for its button.
     Bind(wxEVT_CHAR_HOOK, &Link::OnKey, this);
     Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
         isKeyDown_ = isKeyDown_ && !IsOpeningKey(event);
@@ -68,7 +68,7 @@ void Link::BindEvents() {
     });
     for (const wxEventTypeTag<wxFocusEvent>& type : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS}) {
         Bind(type, [this](wxFocusEvent& event) {
-            isKeyDown_ = false;  // it may be released elsewhere
+            isKeyDown_ = false;  // the key may be released in another window
             Refresh();
             event.Skip();
         });
@@ -76,17 +76,17 @@ void Link::BindEvents() {
 }
 
 wxSize Link::DoGetBestClientSize() const {
-    // Letters may come out a little wider than they were measured (seen with Wine 8).
+    // Letters may be drawn a little wider than measured (seen with Wine 8).
     const wxSize inner = text_.empty() ? picture_.GetPreferredLogicalSizeFor(this)
                                        : GetTextExtent(text_) + wxSize(GetCharWidth(), 0);
     const int margin = FromDIP(kFocusMargin);
     return inner + wxSize(2 * margin, 2 * margin);
 }
 
-// While the mouse is captured, a button was pressed here and has not been released yet.
+// While the mouse is captured, a button was pressed here and is still down.
 void Link::OnMouse(wxMouseEvent& event) {
     event.Skip();
-    // Windows reports a movement even when the mouse is only released.
+    // Windows reports a movement even if the user only releases the button.
     const wxPoint before = std::exchange(mouse_, event.GetPosition());
     if (event.GetEventType() == wxEVT_MOTION && mouse_ == before) {
         return;
@@ -106,7 +106,7 @@ void Link::OnMouse(wxMouseEvent& event) {
     }
 }
 
-// A key that is held opens once. GTK does not tell whether a key repeats.
+// Holding a key opens the link only once. GTK does not say whether a key repeats.
 void Link::OnKey(wxKeyEvent& event) {
     if (!IsOpeningKey(event) || event.HasAnyModifiers()) {
         event.Skip();
@@ -126,8 +126,7 @@ void Link::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
     Draw(dc);
     if (HasFocus()) {
-        // The system's own mark is a pale dotted line, which is hard to see, above all on a
-        // picture.
+        // The system's own mark is a pale dotted line. It is hard to see, especially on a picture.
         dc.SetPen(wxPen(LinkColour()));
         dc.SetBrush(*wxTRANSPARENT_BRUSH);
         for (int line = 0; line < FromDIP(kFocusMark); ++line) {

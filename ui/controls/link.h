@@ -8,8 +8,8 @@
 
 namespace brelex {
 
-/// A text or picture that opens something. It is underlined while the mouse is over it. It opens
-/// when the left button is pressed and released over it, and on Space or Enter.
+/// A text or picture that opens something. It opens when the left button is pressed and released
+/// over it, and on Space or Enter. It is underlined while the mouse is over it.
 class Link final : public wxWindow {
   public:
     Link(wxWindow* parent, const wxString& text, std::function<void()> open);
@@ -40,8 +40,8 @@ class Link final : public wxWindow {
     wxBitmapBundle picture_;
     std::function<void()> open_;
     bool isHot_ = false;
-    bool isKeyDown_ = false;  // one that opens
-    wxPoint mouse_;           // where it was last
+    bool isKeyDown_ = false;  // a key that opens the link
+    wxPoint mouse_;           // the last position
 };
 
 }  // namespace brelex

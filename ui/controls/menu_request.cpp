@@ -9,7 +9,7 @@ namespace brelex {
 namespace {
 
 bool RequestsMenu(const wxKeyEvent& event) {
-    // GTK and Windows give the same key different codes.
+    // GTK and Windows use different codes for the same key.
     const bool isMenuKey = event.GetKeyCode() == WXK_MENU || event.GetKeyCode() == WXK_WINDOWS_MENU;
     return (isMenuKey && event.GetModifiers() == wxMOD_NONE) ||
            (event.GetKeyCode() == WXK_F10 && event.GetModifiers() == wxMOD_SHIFT);

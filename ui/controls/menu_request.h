@@ -7,8 +7,8 @@ class wxWindow;
 
 namespace brelex {
 
-/// Calls `act` where other windows show a menu: when the right mouse button is pressed on `window`,
-/// and on Shift+F10 and the menu key. The toolkit's own menu does not appear.
+/// Calls `act` when the user does what opens a menu elsewhere: presses the right mouse button on
+/// `window`, Shift+F10 or the menu key. Suppresses the toolkit's own menu.
 void OnMenuRequest(wxWindow& window, const std::function<void()>& act);
 
 }  // namespace brelex

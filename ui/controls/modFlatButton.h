@@ -7,9 +7,9 @@ class wxDC;
 
 namespace brelex {
 
-/// Draws the edge of a flat button on its own boundary, in the system's colors: a flat one in the
-/// color of buttons, which erases it; a raised one light from the left and above; a sunken one
-/// light from the right and below.
+/// Draws the edge of a flat button on its own boundary, in the system's colors. A flat edge has the
+/// color of buttons, which erases an earlier edge. A raised edge is light on the left and top, a
+/// sunken edge on the right and bottom.
 void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, Edge edge);
 
 }  // namespace brelex

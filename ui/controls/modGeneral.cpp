@@ -50,8 +50,8 @@ void Draw3DFrame(wxDC& dc, const wxRect& area) {
 
 void SetTopMost(wxTopLevelWindow& window, bool topMost) {
     const long style = window.GetWindowStyleFlag();
-    // Afresh also if it should be there: where hiding takes a window out of the band the toolkit
-    // takes no notice of it (GTK on X11).
+    // Set anew even if the style is already there: where hiding takes a window out of the band, the
+    // toolkit does not notice (GTK on X11).
     window.SetWindowStyleFlag(style & ~wxSTAY_ON_TOP);
     if (topMost) {
         window.SetWindowStyleFlag(style | wxSTAY_ON_TOP);
@@ -63,7 +63,7 @@ void CopyEntryToClipboard(std::string_view recordText, MessageSink& messages) {
     constexpr int kPauseMs = 20;
     const wxString text = WxTextOfBytes(GetAbbreviation(recordText)) + " = " +
                           WxTextOfBytes(GetExpansion(recordText));
-    // Another program that has the clipboard open mostly lets go of it soon.
+    // Another program that has the clipboard open usually releases it soon.
     bool done = PutOnClipboard(text);
     for (int i = 1; i < kAttempts && !done; ++i) {
         wxMilliSleep(kPauseMs);
@@ -84,7 +84,7 @@ void AddToComboHistory(wxComboBox& combo) {
         }
     }
     combo.Insert(text, 0);
-    combo.ChangeValue(text);  // taking the item away may have emptied the box
+    combo.ChangeValue(text);  // deleting the item may have emptied the box
 }
 
 void SelectAllText(wxTextEntry& control) {
@@ -97,7 +97,7 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     const wxSize size = FrameSizeOf(window);
     wxRect place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x,
                  size.y);
-    // Of a window that would reach beyond the screen, title and upper left corner stay on it.
+    // If the window would reach beyond the screen, its title and upper left corner stay visible.
     const int display =
         wxDisplay::GetFromPoint({area.x + area.width / 2, area.y + area.height / 2});
     if (display != wxNOT_FOUND) {
@@ -109,7 +109,7 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
 }
 
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info, MessageSink& messages) {
-    // Without a selection the box would only scroll to the caret.
+    // Without a selection, the box would only scroll to the caret.
     if (box.HasSelection()) {
         const long caret = box.GetInsertionPoint();
         box.SetSelection(caret, caret);

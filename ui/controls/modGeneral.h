@@ -16,30 +16,30 @@ namespace brelex {
 
 class MessageSink;
 
-/// Draws a sunken 3-D frame on the boundary of `area`. The left and top edges take the system's
-/// button-shadow color, then the right and bottom edges, which are at left + width and
-/// top + height, its button-highlight color.
+/// Draws a sunken 3-D frame on the boundary of `area`. First draws the left and top edges in the
+/// system's button-shadow color, then the right and bottom edges, which are at left + width and top
+/// + height, in its button-highlight color.
 void Draw3DFrame(wxDC& dc, const wxRect& area);
 
-/// Puts a window into the band of windows that stay above all others, or takes it out of it.
+/// Puts a window into the band of windows that stay above all others, or takes it out of that band.
 void SetTopMost(wxTopLevelWindow& window, bool topMost);
 
 /// Puts the entry with this record text (Windows-1252 bytes) on the clipboard as text, in the form
 /// "RAM = Random Access Memory". If another program holds the clipboard, waits a little and then
-/// says so.
+/// tells the user.
 void CopyEntryToClipboard(std::string_view recordText, MessageSink& messages);
 
-/// Makes the text of a combo box the first item of its list, and removes what equals it there.
+/// Moves the text of a combo box to the top of its list, so that it appears there only once.
 void AddToComboHistory(wxComboBox& combo);
 
-/// Selects all text of a control.
+/// Selects all of the text in a control.
 void SelectAllText(wxTextEntry& control);
 
-/// Centers a window over the main window, or on the screen if that one is minimized or hidden, but
-/// not beyond the edges of the screen that the middle is on.
+/// Centers a window over the main window, or on the screen if the main window is minimized or
+/// hidden. Keeps it within the edges of the screen that the center is on.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
-/// Says what program this is. The text box loses its selection; its caret stays.
+/// Shows what program this is. The text box loses its selection but keeps its caret.
 void ShowAppInfo(wxTextCtrl& box, const AppInfo& info, MessageSink& messages);
 
 }  // namespace brelex

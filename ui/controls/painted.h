@@ -7,7 +7,7 @@
 
 namespace brelex {
 
-/// A line of text that changes often and may be too wide for its place.
+/// A line of text that changes often and may be too wide for its area.
 class PaintedText final : public Backdrop {
   public:
     explicit PaintedText(wxWindow* parent);

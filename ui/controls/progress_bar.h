@@ -5,21 +5,21 @@
 
 namespace brelex {
 
-/// A bar with its percentage written on it.
+/// A progress bar with its percentage written on it.
 class ProgressBar final : public Backdrop {
   public:
     explicit ProgressBar(wxWindow* parent);
 
-    /// Shows 0 to 100 percent, which are on the screen when this returns.
+    /// Shows 0 to 100 percent. The new value is on the screen when this returns.
     void SetPercent(int percent);
 
-    /// Shows neither a bar nor a percentage.
+    /// Removes both the bar and the percentage.
     void Clear();
 
-    /// The percentage on show; -1 after Clear.
+    /// The percentage shown; -1 after Clear.
     [[nodiscard]] int Percent() const { return percent_; }
 
-    /// Draws background, bar and percentage.
+    /// Draws the background, the bar and the percentage.
     void Draw(wxDC& dc) const;
 
   private:

@@ -12,11 +12,11 @@
 
 namespace brelex {
 
-/// A line of a scrolling text.
+/// A line of scrolling text.
 struct ScrollLine {
     wxString text;
     wxFont font;
-    wxColour colour;  ///< none for the user's
+    wxColour colour;  ///< if not set, the user's color
 };
 
 /// An area in which lines of text scroll upwards, over and over.
@@ -26,19 +26,19 @@ class ScrollArea final : public Backdrop {
 
     [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
 
-    /// The first line's distance from the top now, in pixels.
+    /// The current distance of the first line from the top, in pixels.
     [[nodiscard]] int Position() const { return position_; }
 
-    /// The height of all lines, in pixels.
+    /// The total height of the lines, in pixels.
     [[nodiscard]] int LinesHeight() const { return linesHeight_; }
 
-    /// The width that all lines need, in pixels.
+    /// The width that the widest line needs, in pixels.
     [[nodiscard]] int LinesWidth() const { return linesWidth_; }
 
-    /// Draws the background and the lines where they are now.
+    /// Draws the background and the lines at their current positions.
     void Draw(wxDC& dc) const;
 
-    wxTimer tmrScrollText;  ///< to be stopped before the window is hidden
+    wxTimer tmrScrollText;  ///< must be stopped before the window is hidden
 
   private:
     void Measure();

@@ -17,11 +17,11 @@ namespace brelex {
 
 namespace {
 
-// Of title and frame, where the desktop does not tell before it shows the window.
+// The title and frame, if the desktop does not report them before it shows the window.
 constexpr int kUsualTitle = 40;
 constexpr int kUsualEdge = 4;
 
-// A menu bar that was not shown yet does not know it either.
+// A menu bar that was not shown yet does not know its height either.
 int MenuBarHeight(const wxTopLevelWindow& window) {
     const auto* const frame = dynamic_cast<const wxFrame*>(&window);
     return frame == nullptr || frame->GetMenuBar() == nullptr
@@ -53,7 +53,7 @@ void Surface::FillWindow(const wxSize& size) {
     wxSize inside = LargestInside(window_);
     const bool scrollsDown = size.y > inside.y;
     const bool scrollsAcross = size.x > inside.x;
-    // A bar takes room from what is beside it.
+    // A scroll bar takes room from the other direction.
     const wxSize wanted(
         size.x + (scrollsDown ? wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &window_) : 0),
         size.y + (scrollsAcross ? wxSystemSettings::GetMetric(wxSYS_HSCROLL_Y, &window_) : 0));
@@ -77,7 +77,7 @@ void Surface::FrameArea(const wxRect& area) {
     framedAreas_.push_back(area);
 }
 
-// The toolkit calls this with what scrolls already moved.
+// The toolkit has already moved the scrolled contents when it calls this.
 void Surface::OnDraw(wxDC& dc) {
     for (const wxRect& area : framedAreas_) {
         Draw3DFrame(dc, area);

@@ -44,7 +44,7 @@ bool PasteWhatFits(wxTextEntry& entry, std::size_t maxLength) {
     const std::size_t room = maxLength > kept ? maxLength - kept : 0;
     const wxString pasted = text.GetText().BeforeFirst('\n').Left(room);
     if (pasted.empty() && from != to) {
-        entry.Remove(from, to);  // GTK sends no event if nothing overwrites a selection
+        entry.Remove(from, to);  // GTK sends no event when nothing replaces a selection
     } else {
         entry.WriteText(pasted);
     }

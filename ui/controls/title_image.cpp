@@ -20,13 +20,13 @@ wxSize ExtentOfName(const wxWindow& window, const wxFont& font) {
     return {width, height};
 }
 
-// A bold font in which the name fills `size`. Widths grow with the point size.
+// Finds a bold font in which the name fills `size`. Widths grow with the point size.
 wxFont FittingFont(const wxWindow& window, const wxSize& size) {
     wxFont font = window.GetFont().Bold();
     const wxSize name = ExtentOfName(window, font);
     const double scale = std::min(static_cast<double>(size.x) / std::max(name.x, 1),
                                   static_cast<double>(size.y) / std::max(name.y, 1));
-    constexpr double kMargin = 0.97;  // hinting makes some sizes wider than that
+    constexpr double kMargin = 0.97;  // hinting makes some sizes wider
     font.SetFractionalPointSize(font.GetFractionalPointSize() * scale * kMargin);
     return font;
 }
@@ -45,7 +45,7 @@ void TitleImage::FitInto(const wxSize& largest) {
     iconSize_ = largest.y;
     icon_ = AppIcon(iconSize_);
     font_ = FittingFont(*this, {largest.x - iconSize_ - gap_, largest.y});
-    // Letters may come out a little wider than they were measured (seen with Wine 8).
+    // Letters may be drawn a little wider than measured (seen with Wine 8).
     const int width = iconSize_ + gap_ + ExtentOfName(*this, font_).x + FromDIP(2);
     SetInitialSize({std::min(width, largest.x), largest.y});
     Refresh();

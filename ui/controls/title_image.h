@@ -8,13 +8,13 @@
 
 namespace brelex {
 
-/// The program's icon and its name beside it, as large as a given size allows. They are drawn at
+/// The program's icon with its name beside it, as large as a given size allows. Both are drawn at
 /// the resolution of the screen that they are on.
 class TitleImage final : public Backdrop {
   public:
     explicit TitleImage(wxWindow* parent);
 
-    /// Sizes the window, in pixels, to an image that is at most as large as `largest`.
+    /// Gives the window the size of its image in pixels, which is at most `largest`.
     void FitInto(const wxSize& largest);
 
     void Draw(wxDC& dc) const;

@@ -22,7 +22,7 @@ constexpr double kMargin = 4;
 constexpr double kGap = 6;
 constexpr double kSeparatorWidth = 12;
 
-// The one that went down or up.
+// The button that was pressed or released.
 MouseButton ButtonOf(const wxMouseEvent& event) {
     switch (event.GetButton()) {
         case wxMOUSE_BTN_LEFT:
@@ -34,7 +34,7 @@ MouseButton ButtonOf(const wxMouseEvent& event) {
     }
 }
 
-// Those that are down, besides the one that goes down or up.
+// The buttons that are down, not counting the one that was pressed or released.
 MouseButtons OtherButtonsOf(const wxMouseEvent& event) {
     const int changing = event.GetButton();
     return {.left = event.LeftIsDown() && changing != wxMOUSE_BTN_LEFT,
@@ -56,7 +56,7 @@ Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents event
     BindEvents();
 }
 
-// The toolkit wants the mouse back before the window goes.
+// The toolkit requires that a window releases the mouse before it is destroyed.
 Toolbar::~Toolbar() {
     if (HasCapture()) {
         ReleaseMouse();
@@ -91,7 +91,7 @@ void Toolbar::BindEvents() {
         state_.SetSize(size.x, size.y);
         event.Skip();
     });
-    // Entering is a movement, too: a window that covered the toolbar may have closed.
+    // Entering counts as a movement, too: a window that covered the toolbar may have closed.
     for (const wxEventTypeTag<wxMouseEvent>& type : {wxEVT_MOTION, wxEVT_ENTER_WINDOW}) {
         Bind(type, &Toolbar::OnMove, this);
     }
@@ -117,7 +117,8 @@ void Toolbar::OnMove(wxMouseEvent& event) {
     state_.OnMouseMove(OtherButtonsOf(event), event.GetX(), event.GetY());
 }
 
-// The mouse may not have moved since another window was here: then this is where it came.
+// The mouse may not have moved since another window covered this place. Then this is where it
+// entered.
 void Toolbar::OnButtonDown(wxMouseEvent& event) {
     state_.OnMouseMove(OtherButtonsOf(event), event.GetX(), event.GetY());
     state_.OnMouseDown(ButtonOf(event));
@@ -148,7 +149,7 @@ void Toolbar::Draw(wxDC& dc) const {
                                .GetBitmap(size * GetContentScaleFactor());
         picture.SetScaleFactor(GetContentScaleFactor());
         dc.DrawBitmap(picture, static_cast<int>(icon.left), static_cast<int>(icon.top));
-        // A flat edge is in the color of buttons, which need not be that of the window behind it.
+        // A flat edge has the color of buttons, which may differ from that of the window behind it.
         if (state_.EdgeOf(i) != Edge::Flat) {
             DrawFlatButton(icon, dc, state_.EdgeOf(i));
         }
@@ -172,8 +173,8 @@ void Toolbar::LetMouseGo() {
     }
 }
 
-// No events: what the mouse's next movement changes here, the one in hand would change back, and
-// the window may be closed.
+// This runs no events. The next movement of the mouse would change the state, the movement being
+// handled would change it back, and the window might even be closed.
 void Toolbar::LetPendingPaintingRun() {
     wxGetTopLevelParent(this)->Update();
 }

@@ -13,10 +13,10 @@
 
 namespace brelex {
 
-/// What happens on the toolbar.
+/// Reports events on the toolbar.
 struct ToolbarEvents {
-    std::function<void(int icon)> onHot;    ///< this icon (0-based) is under the mouse; -1 for none
-    std::function<void(Command)> onAction;  ///< the icon of this command was chosen
+    std::function<void(int icon)> onHot;    ///< the mouse is over this icon (0-based); -1 for none
+    std::function<void(Command)> onAction;  ///< the user chose the icon of this command
 };
 
 /// The toolbar `picToolbar`: flat icons in a row.
@@ -27,15 +27,15 @@ class Toolbar final : public Backdrop, private ToolbarView {
     Toolbar& operator=(const Toolbar&) = delete;
     ~Toolbar() override;
 
-    /// Flattens the icon under the mouse and lets the mouse go, because another window wants it.
+    /// Flattens the icon under the mouse and releases the mouse, because another window needs it.
     void LetGo();
 
-    /// Where an icon is, in the toolbar's pixels, and how it is drawn.
+    /// The place of an icon in the toolbar's pixels, and the state of its edge.
     [[nodiscard]] const IconBounds& BoundsOf(int icon) const { return state_.BoundsOf(icon); }
 
     [[nodiscard]] Edge EdgeOf(int icon) const { return state_.EdgeOf(icon); }
 
-    /// Draws the pictures, the edge of the hot icon and the separators, without the background.
+    /// Draws the pictures, the edge of the hot icon and the separators, but not the background.
     void Draw(wxDC& dc) const;
 
   private:
@@ -56,7 +56,7 @@ class Toolbar final : public Backdrop, private ToolbarView {
     const LayoutUnits& units_;
     ToolbarEvents events_;
     std::array<wxBitmapBundle, kToolbarIcons.size()> imgToolbarIcon;
-    std::vector<int> separators_;  // x of each
+    std::vector<int> separators_;  // the x position of each
     ToolbarState state_;
 };
 

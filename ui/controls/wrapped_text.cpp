@@ -12,7 +12,8 @@ namespace {
 
 constexpr wchar_t kEllipsis = L'\u2026';
 
-// The largest number from 0 to `most` for which `holds` is true, as it is for all smaller ones.
+// Returns the largest number from 0 to `most` for which `holds` is true. It must be true for all
+// smaller numbers, too.
 template <typename Predicate>
 std::size_t LargestThat(std::size_t most, const Predicate& holds) {
     std::size_t good = 0;
@@ -31,12 +32,12 @@ class Wrapper {
           room_(room),
           mostInLine_(static_cast<std::size_t>(std::max(room.width, 1))) {}
 
-    // More characters than this fit nowhere, as each takes a pixel at least.
+    // More characters than this never fit, because each takes at least one pixel.
     [[nodiscard]] std::size_t MostCharacters() const {
         return mostInLine_ * static_cast<std::size_t>(std::max(room_.lines, 1));
     }
 
-    // Nothing if the text takes more lines than there is room for.
+    // Returns nothing if the text takes more lines than the room has.
     [[nodiscard]] std::optional<wxString> Wrapped(const wxString& text) const {
         wxString wrapped;
         std::size_t begin = 0;
@@ -53,7 +54,7 @@ class Wrapper {
     }
 
   private:
-    // How many characters of `text`, which is not empty, go into the next line; at least one.
+    // How many characters of `text` go into the next line; at least one. `text` must not be empty.
     [[nodiscard]] std::size_t CharactersOfLine(const wxString& text) const {
         const std::size_t fitting =
             LargestThat(std::min(text.length(), mostInLine_), [&](std::size_t count) {
@@ -75,7 +76,7 @@ class Wrapper {
 
 wxString WrappedText(const wxWindow& window, wxString text, TextRoom room, std::size_t keptEnd) {
     const Wrapper wrapper(window, room);
-    // A line break in the text would make a line that is not counted.
+    // A line break in the text would create a line that is not counted.
     std::replace_if(
         text.begin(), text.end(), [](wxUniChar c) { return c < ' '; }, ' ');
     if (text.length() <= wrapper.MostCharacters()) {
