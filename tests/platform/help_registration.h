@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// Has the desktop open .hlp files with the viewer beside the tests for as long as it lives.
+/// During its lifetime, makes the desktop open .hlp files with the viewer beside the tests.
 class HelpRegistration {
   public:
     HelpRegistration();
@@ -16,7 +16,7 @@ class HelpRegistration {
   private:
     struct Before;
 
-    std::unique_ptr<Before> before_;  // what the system had
+    std::unique_ptr<Before> before_;  // the system's state before
 };
 
 }  // namespace brelex

@@ -10,25 +10,25 @@ class wxNotebook;
 
 namespace brelex {
 
-/// Where on the screen the inside of a window of any program with this title is; empty if there is
-/// no such window.
+/// The inside of the window with this title on the screen; the window may belong to any program.
+/// Empty if there is no such window.
 [[nodiscard]] wxRect PlaceOfWindow(const std::string& title);
 
-/// Whether keys go to the window of any program with this title.
+/// Whether the window of any program with this title receives the keys.
 [[nodiscard]] bool WindowHasKeyboard(const std::string& title);
 
 /// The text that another program has put on the clipboard; empty if there is none.
 [[nodiscard]] std::string CopiedText();
 
-/// Takes everything off the clipboard.
+/// Clears the clipboard.
 void EmptyClipboard();
 
-/// Whether a program does nothing just now, as far as the system tells.
+/// Whether a program is idle, as far as the system can tell.
 [[nodiscard]] bool IsAsleep(long process);
 
-/// A program stands still as long as this lives, and what the user does to it piles up. It should
-/// be asleep: GTK has the X server to itself for moments, and a program that stood still in one of
-/// them would stop us, too.
+/// Stops a program for the lifetime of this object, so that what the user does to it piles up. Stop
+/// only an idle program: at times GTK has the X server to itself, and a program stopped in such a
+/// moment would stop the tests, too.
 class Standstill {
   public:
     explicit Standstill(long process);
@@ -40,10 +40,11 @@ class Standstill {
     long process_;
 };
 
-/// Whether all tabs are to be seen at once.
+/// Whether all tabs are visible at once.
 [[nodiscard]] bool ShowsAllTabs(const wxNotebook& notebook);
 
-/// As long as it lives, new windows have a large font where a program can say so: on Linux.
+/// During its lifetime, new windows have a large font, on systems where a program can set one: on
+/// Linux.
 class LargeFont {
   public:
     LargeFont();

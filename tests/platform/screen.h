@@ -13,21 +13,21 @@ namespace brelex {
 
 class EntryListControl;
 
-// What the system itself says of windows: its answers, not the toolkit's memory of what it asked.
+// These ask the system itself about windows. The toolkit only remembers what it requested.
 
-/// Where a window stands on the screen with the frame that the desktop has put round it.
+/// The place of a window on the screen, including the frame that the desktop has put around it.
 [[nodiscard]] wxRect FrameOnScreen(const wxTopLevelWindow& window);
 
 /// The size of the screen in the pixels of FrameOnScreen.
 [[nodiscard]] wxSize ScreenSize();
 
-/// Whether the desktop keeps a window above the usual ones.
+/// Whether the desktop keeps a window above normal ones.
 [[nodiscard]] bool IsKeptAbove(const wxTopLevelWindow& window);
 
-/// Where the pop-up menu that is open stands on the screen; empty if there is none.
+/// The place of the open pop-up menu on the screen; empty if there is none.
 [[nodiscard]] wxRect MenuOnScreen();
 
-/// What the screen shows of a window that nothing covers.
+/// What the screen shows of a window. Nothing may cover the window.
 [[nodiscard]] wxImage PictureOnScreen(wxWindow& window);
 
 struct ToolTipView {
@@ -35,14 +35,14 @@ struct ToolTipView {
     wxRect place;      ///< on the screen
 };
 
-/// The tool tip that is shown.
+/// The tooltip on the screen.
 [[nodiscard]] ToolTipView ToolTipOnScreen();
 
 /// What the control of a list shows, in pixels.
 struct ListView {
     int rowHeight;
     int height;      ///< of the inside
-    int firstRowAt;  ///< where the first row of all begins, above 0 if it is scrolled out of sight
+    int firstRowAt;  ///< where the very first row begins; negative if it is scrolled out of view
 };
 
 [[nodiscard]] ListView ViewOf(EntryListControl& list);

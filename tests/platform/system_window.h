@@ -15,24 +15,24 @@ class wxWindow;
 
 namespace brelex {
 
-/// A top-level window as the system knows it: also one that the toolkit knows nothing of.
+/// A top-level window as the system knows it. The toolkit may not know it.
 using SystemWindow = void*;
 
 [[nodiscard]] SystemWindow SystemWindowOf(const wxTopLevelWindow& window);
 
-/// The message box that is up; null if there is none.
+/// The open message box; null if there is none.
 [[nodiscard]] SystemWindow OpenMessageBox();
 
-/// The window that is up with a title; null if there is none.
+/// The open window with this title; null if there is none.
 [[nodiscard]] SystemWindow OpenWindow(const std::string& title);
 
-/// What is on the screen in an area.
+/// A picture of an area of the screen.
 [[nodiscard]] wxImage PictureOfScreen(const wxRect& area);
 
-/// Whether simulated keys arrive in it. Not in null.
+/// Whether simulated keys arrive in the window. False for null.
 [[nodiscard]] bool TakesKeys(SystemWindow window);
 
-/// The window that it stays in front of; null if there is none.
+/// The window that the given one stays in front of; null if there is none.
 [[nodiscard]] SystemWindow OwnerOf(SystemWindow window);
 
 [[nodiscard]] wxRect AreaOf(SystemWindow window);
@@ -41,32 +41,33 @@ using SystemWindow = void*;
 [[nodiscard]] bool StaysAbove(SystemWindow window);
 [[nodiscard]] bool CanBeResized(SystemWindow window);
 
-/// Its icon of `size` pixels, over black; not OK if it has none.
+/// The window's icon of `size` pixels, drawn over black; not OK if it has none.
 [[nodiscard]] wxImage IconOf(SystemWindow window, int size);
 
-/// The name that a screen reader gives to a control.
+/// The name that a screen reader says for a control.
 [[nodiscard]] std::string SpokenNameOf(wxWindow& control);
 
-/// Where a character of a multi-line box is, from its left edge.
+/// The position of a character in a multi-line box, in pixels from the box's left edge.
 [[nodiscard]] int LeftOfCharacter(const wxTextCtrl& box, long row, long column);
 
-// What message boxes are made of.
+// The parts of message boxes.
 [[nodiscard]] std::string TitleOfBox(SystemWindow box);
 [[nodiscard]] std::string TextOfBox(SystemWindow box);
 
-/// In the order of the screen, without marks of access keys.
+/// The buttons in their order on the screen, without access key marks.
 [[nodiscard]] std::vector<std::string> ButtonsOfBox(SystemWindow box);
 
-/// Where on the screen its icon is; empty if it has none.
+/// The place of its icon on the screen; empty if it has none.
 [[nodiscard]] wxRect IconAreaOfBox(SystemWindow box);
 
-/// Whether a screen reader hears what kind of box it is, or needs not to on this system.
+/// Whether a screen reader hears what kind of box it is. Also true if this system does not require
+/// that.
 [[nodiscard]] bool TellsItsKind(SystemWindow box, MessageIcon icon);
 
-/// The system's own icon over a color.
+/// The system's own icon drawn over a color.
 [[nodiscard]] wxImage StandardIcon(MessageIcon icon, const wxColour& ground);
 
-/// Takes a box away that no key has closed.
+/// Removes a box that no key has closed.
 void CloseBox(SystemWindow box);
 
 }  // namespace brelex

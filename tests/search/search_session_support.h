@@ -15,8 +15,7 @@
 
 namespace brelex {
 
-/// A search window that keeps what it is told, and in which a test may do something while events
-/// run.
+/// A search window that records what it is told. A test can make it do something while events run.
 class FakeSearchView final : public SearchView {
   public:
     void ShowDisplay(const SearchDisplay& display) override { shown = display; }
@@ -58,7 +57,7 @@ class FakeSearchView final : public SearchView {
     std::function<void()> onEvents;
 };
 
-/// The session of a window over a few entries.
+/// A search session over a few entries, with its window.
 class SearchSessionTest : public testing::Test {
   protected:
     SearchSessionTest()
@@ -77,7 +76,7 @@ class SearchSessionTest : public testing::Test {
         session_.RunSearch(request_, goOn);
     }
 
-    /// Once events run, when a search has found `hits` entries.
+    /// While events run, calls `act` once the search has found `hits` entries.
     void WhenFound(int hits, const std::function<void()>& act) {
         view_.onEvents = [this, act, text = "Found " + std::to_string(hits)] {
             if (view_.shown.count == text) {

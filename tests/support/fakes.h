@@ -18,17 +18,18 @@
 
 namespace brelex {
 
-/// Keeps the messages it is given. Answers questions from a list, then with No.
+/// Keeps the messages it receives. Answers questions from a list, and with No once the list is used
+/// up.
 class FakeMessageSink final : public MessageSink {
   public:
     MessageAnswer Show(const Message& message) override;
 
-    std::function<void()> behind;  ///< called while a message is up, if there is something
+    std::function<void()> behind;  ///< called while a message is shown, unless empty
     std::vector<Message> shown;
     std::deque<MessageAnswer> answers;
 };
 
-/// Gives folders from a list, then cancels.
+/// Returns folders from a list, and cancels once the list is used up.
 class FakeFolderPicker final : public FolderPicker {
   public:
     std::string BrowseForFolder(const std::string& title) override;
@@ -37,7 +38,7 @@ class FakeFolderPicker final : public FolderPicker {
     std::deque<std::string> folders;
 };
 
-/// Writes down what it is told of long work, and may end it.
+/// Records the reports of long work, and may end it.
 class RecordingWatcher final : public WorkWatcher {
   public:
     void SetStatusText(std::string_view text) override { texts.emplace_back(text); }
@@ -55,7 +56,7 @@ class RecordingWatcher final : public WorkWatcher {
     int endsAtPause = 0;  ///< 1-based; 0 for at none
 };
 
-/// A temporary folder of the test's choice; writing can be made to fail.
+/// A temporary folder that the test chooses. Writing can be made to fail.
 class FakeTemporaryFiles final : public TemporaryFiles {
   public:
     explicit FakeTemporaryFiles(std::string folder) : folder_(std::move(folder)) {}
@@ -66,7 +67,7 @@ class FakeTemporaryFiles final : public TemporaryFiles {
 
     std::vector<std::string> written;
     bool diskIsFull = false;
-    bool memoryIsFull = false;  ///< writing throws
+    bool memoryIsFull = false;  ///< writing throws an exception
 
   private:
     std::string folder_;
@@ -88,14 +89,14 @@ class FakeDesktop final : public Desktop {
     bool hasPrograms = true;
     bool hasViewer = false;
     std::vector<std::string> broughtForward;
-    std::vector<std::string> turnedTo;                     ///< title and page with a blank between
+    std::vector<std::string> turnedTo;                     ///< title and page, separated by a blank
     std::vector<std::vector<std::string>> viewersStarted;  ///< folder, book and page
     std::vector<std::string> askedToClose;
     std::vector<std::string> opened;
     std::vector<std::string> openedToRead;
 };
 
-/// Rows from a list of texts. They promise nothing about their order.
+/// Rows from a list of texts. Their order is not guaranteed.
 class FakeRows final : public RowList {
   public:
     explicit FakeRows(const std::vector<std::string>& rows);

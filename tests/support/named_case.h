@@ -15,7 +15,7 @@ concept NamedCase = requires(const Case& row) {
     { row.name } -> std::convertible_to<std::string>;
 };
 
-/// Shows a row by its name when a test fails.
+/// Prints the name of a row when its test fails.
 template <NamedCase Case>
 void PrintTo(const Case& row, std::ostream* out) {
     *out << row.name;

@@ -11,7 +11,7 @@
 
 namespace brelex {
 
-/// A folder for one test. Removed at the end, with everything in it.
+/// A folder for a single test. Deletes itself and everything in it at the end.
 class TestFolder {
   public:
     TestFolder();
@@ -21,7 +21,7 @@ class TestFolder {
 
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
-    /// UTF-8, ending in the separator.
+    /// The path in UTF-8, ending in the separator.
     [[nodiscard]] std::string Text() const;
 
     /// Writes a file and returns its path (UTF-8).
@@ -36,20 +36,20 @@ class TestFolder {
 /// The bytes of a database file with these records.
 [[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records);
 
-/// The same with a header that `change` has changed.
+/// The same, after `change` has changed the header.
 [[nodiscard]] std::string DatabaseBytes(const std::vector<std::string>& records,
                                         const std::function<void(DatabaseHeader&)>& change);
 
 /// The bytes of DatabaseBytes(records) before they are compressed.
 [[nodiscard]] std::string ExpandedBytes(const std::vector<std::string>& records);
 
-/// `count` different records in ascending order, all beginning with the letter A.
+/// Returns `count` different records in ascending order, all beginning with the letter A.
 [[nodiscard]] std::vector<std::string> NumberedRecords(int count);
 
-/// `length` visible characters in which hardly any three occur twice.
+/// Returns `length` visible characters in which hardly any three consecutive ones occur twice.
 [[nodiscard]] std::string Incompressible(std::size_t length);
 
-/// A record that compresses so badly that DatabaseBytes of it is as long as ExpandedBytes of it.
+/// A record that compresses so badly that its DatabaseBytes are as long as its ExpandedBytes.
 [[nodiscard]] std::string RecordOfEqualLengths();
 
 }  // namespace brelex

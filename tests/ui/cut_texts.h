@@ -8,9 +8,10 @@ class wxTopLevelWindow;
 
 namespace brelex {
 
-/// What a window that is shown does not show whole: texts that need more room than their control
-/// has, controls that reach beyond what holds them, and a window that reaches beyond its screen.
-/// Each is described in a line; none is best. What a person can scroll to counts as shown.
+/// Finds everything that a visible window does not show completely: texts that need more room than
+/// their control has, controls that reach beyond their container, and a window that reaches beyond
+/// its screen. Returns a line for each; an empty list is the goal. Anything that a person can
+/// scroll to counts as shown.
 [[nodiscard]] std::vector<std::string> CutTexts(wxTopLevelWindow& window);
 
 }  // namespace brelex

@@ -11,17 +11,17 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// The share of pixels, 0 to 1, that two pictures have in common; 0 if they differ in size.
+/// The share of pixels, from 0 to 1, that are the same in two pictures; 0 if the sizes differ.
 [[nodiscard]] double Likeness(const wxImage& one, const wxImage& other);
 
-/// Whether the desktop is given the program's own icon for a window.
+/// Whether the desktop has received the program's own icon for a window.
 [[nodiscard]] bool ShowsTheProgramsIcon(SystemWindow window);
 
-/// Rows of pixels between the upper edge of a box and the first of its text.
+/// The number of pixel rows between the upper edge of a box and its first text.
 [[nodiscard]] int RowsAboveText(const wxWindow& box);
 
-/// Where the meanings of the smileys begin in a box that shows the dictionary: the distances from
-/// its left edge, in pixels, that occur.
+/// The distances in pixels at which the meanings of the smileys begin, from the left edge of a box
+/// that shows the dictionary.
 [[nodiscard]] std::set<int> ColumnsOfMeanings(const wxTextCtrl& box);
 
 }  // namespace brelex

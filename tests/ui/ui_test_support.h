@@ -29,26 +29,27 @@ class wxTextCtrl;
 
 namespace brelex {
 
-/// Runs the event loop until `condition` holds; false if it does not within `patienceMs`, which
-/// only a test that fails waits for: it is long enough for a busy machine.
+/// Runs the event loop until `condition` holds. Returns false if it does not within `patienceMs`.
+/// The default is long enough for a busy machine; only a failing test waits that long.
 bool WaitFor(const std::function<bool()>& condition, int patienceMs = 10000);
 
-/// Runs the events that are under way to this program, and what their handlers put off: simulated
-/// keys and clicks have done then what they do here. What another program has to answer, such as
-/// the window manager, may still come.
+/// Runs the events that are on their way to this program, and what their handlers postpone.
+/// Afterward, simulated keys and clicks have had all their effects in this program. An answer from
+/// another program, such as the window manager, may still be on its way.
 void LetEventsArrive();
 
-/// Runs the event loop for a while, for what must not happen.
+/// Runs the event loop for a while, to show that something does not happen.
 void Settle(int ms = 80);
 
-/// Drives a modal window: takes its steps in order, each as soon as the one before returned true.
+/// Drives a modal window. Takes its steps in order, each as soon as the previous one has returned
+/// true.
 class ModalDriver final : private wxTimer {
   public:
     explicit ModalDriver(std::vector<std::function<bool()>> steps);
 
     [[nodiscard]] bool Done() const { return next_ == steps_.size(); }
 
-    // No step is taken between Stop and the next Start, which says how often one may be.
+    // No step runs between Stop and the next Start, whose interval limits how often a step runs.
     using wxTimer::Start;
     using wxTimer::Stop;
 
@@ -61,7 +62,7 @@ class ModalDriver final : private wxTimer {
     bool busy_ = false;
 };
 
-/// Answers message boxes at once and keeps what they say. Other dialogs are shown.
+/// Answers message boxes at once and records what they say. Lets other dialogs open.
 class MessageBoxes final : public wxModalDialogHook {
   public:
     MessageBoxes() { Register(); }
@@ -74,8 +75,8 @@ class MessageBoxes final : public wxModalDialogHook {
     int Enter(wxDialog* dialog) override;
 };
 
-/// Answers message boxes at once and calls `look` before, when they would be up: for what stands
-/// behind them. Other dialogs are shown.
+/// Answers message boxes at once, but first calls `look`, at the moment when a box would be open.
+/// Meant for checking what is behind it. Lets other dialogs open.
 class BehindMessages final : public wxModalDialogHook {
   public:
     explicit BehindMessages(std::function<void()> look) : look_(std::move(look)) { Register(); }
@@ -87,8 +88,8 @@ class BehindMessages final : public wxModalDialogHook {
     std::function<void()> look_;
 };
 
-/// Exceptions in event handlers are told as the program tells them, as long as this lives; else
-/// each is a failure of the test.
+/// During its lifetime, exceptions in event handlers are reported as the program reports them.
+/// Otherwise each fails the test.
 class ExpectedExceptions {
   public:
     ExpectedExceptions() { ++count; }
@@ -98,19 +99,18 @@ class ExpectedExceptions {
 
     ~ExpectedExceptions() { --count; }
 
-    static int count;  ///< of those that live
+    static int count;  ///< how many of these exist
 };
 
-/// The modal dialog that is open, of several over each other the one that was made last; null if
-/// there is none.
+/// The open modal dialog, or the newest if there are several; null if there is none.
 [[nodiscard]] wxDialog* OpenModalDialog();
 
-/// Whether a control, or the part of it that is typed into, has the focus.
+/// Whether a control, or the part of it that takes typing, has the focus.
 [[nodiscard]] bool IsFocusIn(const wxWindow& control);
 
 [[nodiscard]] bool SamePictures(const wxBitmap& one, const wxBitmap& other);
 
-/// What a window of ours draws with its Draw(wxDC&), over green.
+/// A picture of one of our windows, as its Draw(wxDC&) draws it over green.
 template <typename Drawn>
 [[nodiscard]] wxImage PictureOf(const Drawn& window) {
     wxBitmap bitmap(window.GetClientSize(), 24);
@@ -124,19 +124,19 @@ template <typename Drawn>
 
 [[nodiscard]] wxColour ColourAt(const wxImage& image, int x, int y);
 
-/// A colour of the system as pixels have it.
+/// A color of the system, as it appears in pixels.
 [[nodiscard]] wxColour SystemColour(wxSystemColour colour);
 
-/// The started program over a small database of a test's own, its main window shown and active.
+/// Starts the program over a small database, with its main window shown and active.
 class MainWindowTest : public testing::Test {
   protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Starts the program over `records` and waits until its main window can be typed into.
+    /// Starts the program over `records` and waits until its main window accepts typing.
     void Start(const std::vector<std::string>& records, const std::string& commandLine = "");
 
-    /// The same over the bytes of a database file.
+    /// Does the same over the bytes of a database file.
     void StartWith(const std::string& databaseFile, const std::string& commandLine);
 
     [[nodiscard]] wxWindow* Control(const char* name) const;
@@ -155,17 +155,18 @@ class MainWindowTest : public testing::Test {
     /// Waits until typed keys arrive in the look-up box.
     void GiveBoxTheKeyboard();
 
-    /// Waits until keys that are typed arrive in the main window, if it is still there to be seen.
+    /// Waits until typed keys arrive in the main window, if the main window still exists and is
+    /// shown.
     void AwaitReturnToMain() const;
 
-    /// Whether the main window is minimised, which hides it where a notification area shows its
-    /// icon: the desktop may forget then that it was minimised.
+    /// Whether the main window is minimized. Where a notification area shows its icon, minimizing
+    /// hides the window, and the desktop may then forget that it was minimized.
     [[nodiscard]] bool IsMinimised() const;
 
-    /// Waits until the main window is shown, not minimised, and in front.
+    /// Waits until the main window is shown, not minimized, and in front.
     [[nodiscard]] bool IsBack() const;
 
-    /// The name of the modal window that `open` opens, which is closed at once.
+    /// The name of the modal window that `open` opens. Closes the window at once.
     [[nodiscard]] std::string NameOfOpened(const std::function<void()>& open,
                                            const std::function<void()>& look = {}) const;
 
@@ -174,7 +175,7 @@ class MainWindowTest : public testing::Test {
     FakeFolderPicker picker_;
     FakeTemporaryFiles files_{folder_.Text()};
     FakeDesktop desktop_;
-    std::vector<bool> runAtStartup_;  ///< what was asked of the log-on
+    std::vector<bool> runAtStartup_;  ///< the requests to run at log-on
     bool runAtStartupWorks_ = true;
     std::unique_ptr<StartUp> startUp_;
     frmMain* window_ = nullptr;
@@ -184,15 +185,15 @@ class MainWindowTest : public testing::Test {
 /// A modal window over the main window.
 class SideWindowTest : public MainWindowTest {
   protected:
-    /// Opens the window `name`, which `open` shows modally, works in it when it is active, and
-    /// closes it if it is still open.
+    /// Opens the window `name`, which `open` shows modally. Once it is active, works in it, and
+    /// then closes it if it is still open.
     void InSideWindow(const char* name, const std::function<void()>& open,
                       const std::function<void()>& work);
 
     /// The open window, or the one that was open last.
     [[nodiscard]] wxDialog& Side() const { return *side_; }
 
-    /// A control of the open window.
+    /// A control in the open window.
     template <typename Kind = wxWindow>
     [[nodiscard]] Kind& In(const std::string& name) const {
         return dynamic_cast<Kind&>(*wxWindow::FindWindowByName(name, side_));
@@ -200,16 +201,16 @@ class SideWindowTest : public MainWindowTest {
 
     [[nodiscard]] std::string Label(const char* name) const;
 
-    /// Clicks with the mouse.
+    /// Clicks the control with the mouse.
     void Click(const char* name);
 
     [[nodiscard]] bool HasFocus(const char* name) const;
 
   private:
-    // Whether keys arrive in the open window.
+    // Whether typed keys arrive in the open window.
     [[nodiscard]] bool SideHasKeyboard() const;
 
-    wxWeakRef<wxDialog> side_;  // most are destroyed when they close
+    wxWeakRef<wxDialog> side_;  // weak, because most windows are destroyed when they close
 };
 
 /// The text on the clipboard.
