@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Times whole processes of a finished build against others, in turn, and prints medians and ratios.
+"""Times whole processes of a finished build and others in turn, and prints medians and ratios.
 
   benchmarks/processes.py build/bench/bin [build/win32/bin]
 
-Acronyms.dat must be beside the programs. Run it under scripts/with_display to have the start of the
-windows timed, too, with the second folder that of the Windows program under Wine.
+Acronyms.dat must be beside the programs. Under scripts/with_display it also times how long the
+windows take to appear, and with the second folder it times the Windows program under Wine.
 """
 import os
 import statistics
@@ -35,7 +35,7 @@ def pair(name, ours, theirs, measure, runs):
 def start_of_window(timer, program, empty, runs):
     def measure(command):
         title = "Empty" if command is empty else "Brevilexicon ("
-        # Wine's server keeps a pipe open beyond the end of its programs.
+        # Wine's server keeps a pipe open after its programs have ended.
         with tempfile.TemporaryFile() as out:
             subprocess.run([timer, title, *command], stdout=out, check=True)
             out.seek(0)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# GTest::gtest and GTest::gtest_main: the machine's own, or built for the target from sources, which
-# Debian's package googletest has. Nothing is fetched.
+# GTest::gtest and GTest::gtest_main: the machine's own libraries, or libraries built for the target
+# from the sources in Debian's package googletest. Nothing is downloaded.
 set(BRELEX_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH
     "GoogleTest's sources, for where the library itself is not installed")
 set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Puts the help book, a ZIP archive of the pages in help/, and the read-me into the programs' folder.
+# Puts the help book, a ZIP archive of the pages in help/, and the read-me file into the programs'
+# folder.
 file(GLOB help_pages RELATIVE "${CMAKE_SOURCE_DIR}/help" CONFIGURE_DEPENDS
      "${CMAKE_SOURCE_DIR}/help/*.html" "${CMAKE_SOURCE_DIR}/help/brelex.hh?"
      "${CMAKE_SOURCE_DIR}/help/pictures/*.png")
@@ -17,8 +18,8 @@ add_custom_command(OUTPUT "${read_me}"
   VERBATIM)
 add_custom_target(help_book ALL DEPENDS "${help_book}" "${read_me}")
 
-# On Linux a MIME type and a desktop entry tell the desktop which program shows the book. A build tree
-# has both in its share/, which you can add to XDG_DATA_DIRS.
+# On Linux a MIME type and a desktop entry tell the desktop which program shows the book. A build
+# tree contains both in its share/, which you can add to XDG_DATA_DIRS.
 if(NOT WIN32)
   set(HELP_PROGRAM "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/brelex-help")
   set(share "${CMAKE_BINARY_DIR}/share")

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# include_root(TARGET FOLDER): lets TARGET, and whatever links it, include the headers below FOLDER,
-# which is relative to the source tree, as "FOLDER/...", and those of no other folder.
+# include_root(TARGET FOLDER): lets TARGET, and anything that links it, include the headers below
+# FOLDER, which is relative to the source tree, as "FOLDER/...", but no headers of any other folder.
 function(include_root target folder)
   set(root "${CMAKE_BINARY_DIR}/include/${target}")
   cmake_path(GET folder PARENT_PATH parent)
@@ -10,9 +10,9 @@ function(include_root target folder)
 endfunction()
 
 # add_layer(TARGET SOURCES FILE... [SOURCES_GTK FILE...] [SOURCES_MSW FILE...] [USES TARGET...]):
-# a layer of the program, made of the folder that calls this. It can include and call what it uses and
-# what that uses in turn. Anything else does not compile, because its folder is in no include path, or
-# does not link.
+# defines a layer of the program from the folder that calls this. A layer can include and call the
+# layers it uses, and the layers that those use in turn. Anything else does not compile, because its
+# folder is in no include path, or does not link.
 function(add_layer target)
   cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;SOURCES_GTK;SOURCES_MSW;USES")
   string(TOUPPER "${system}" suffix)

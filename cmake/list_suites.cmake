@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Read by ctest itself when it starts, behind the settings that add_suites wrote: lists the suites of a
-# program anew if that was built since, and makes each a test.
+# ctest reads this file when it starts, after the settings that add_suites wrote. It lists the
+# suites of a program again if the program was built since the last time, and makes each suite a
+# test.
 if(NOT EXISTS "${program}")
   add_test("${target}_NOT_BUILT" "${program}")
   return()
@@ -15,8 +16,8 @@ if("${program}" IS_NEWER_THAN "${list}")
   endif()
   file(WRITE "${list}" "${output}")
 endif()
-# Suites begin their lines, tests are indented. Tables of one suite, which are called "Table/Suite", are
-# one test together.
+# Lines with suites are not indented, lines with tests are. The tables of a suite, which are called
+# "Table/Suite", belong to the same test.
 file(STRINGS "${list}" suites REGEX "^[^ ]+\\.")
 list(TRANSFORM suites REPLACE "^([^/ ]*/)?([^/. ]+)\\..*$" "\\2")
 list(REMOVE_DUPLICATES suites)

@@ -28,9 +28,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(wxWidgets_CONFIG_EXECUTABLE "${WX_PREFIX}/bin/wx-config" CACHE FILEPATH "" FORCE)
-# Every processor that runs Windows 7 with its updates has SSE2. The compiler's default is older: it would
-# not turn loops into vector instructions and would pass numbers through the x87 unit. With these flags
-# the compiler also realigns the stack where the system calls in with a stack aligned to only 4 bytes.
+# Every processor that runs an updated Windows 7 has SSE2. The compiler's default is older: it would
+# not turn loops into vector instructions and would pass numbers through the x87 unit. With these
+# flags the compiler also realigns the stack where the system calls in with a stack aligned to only
+# 4 bytes.
 set(CMAKE_C_FLAGS_INIT "-msse2 -mfpmath=sse")
 set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
 # The programs need Windows 7 or later. They use no structured exception handlers: this compiler's

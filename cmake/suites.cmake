@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: MIT
-# add_suites(TARGET [COMMAND WORD...] [LABELS LABEL...] [ENVIRONMENT NAME=VALUE...] [TIMEOUT SECONDS]
-#            [EXCEPT SUITE...] [LONGEST SUITE...]): one test of ctest for each suite of a GoogleTest
-# program, run behind the words of COMMAND and called LABEL.SUITE after the first label. LONGEST are started before all
-# others, so that the rest run beside them. ctest asks the program for its suites when it starts:
-# a new suite needs no line here, and the build needs to run nothing.
+# add_suites(TARGET [COMMAND WORD...] [LABELS LABEL...] [ENVIRONMENT NAME=VALUE...] [TIMEOUT
+# SECONDS]
+#            [EXCEPT SUITE...] [LONGEST SUITE...]): creates one ctest test for each suite of a
+# GoogleTest program. The words of COMMAND come before the program. The test is called LABEL.SUITE
+# after the first label. The suites in LONGEST start before all others, so that the rest run beside
+# them. ctest asks the program for its suites when it starts, so a new suite needs no line here and
+# the build has nothing to run.
 function(add_suites target)
   cmake_parse_arguments(PARSE_ARGV 1 run "" "TIMEOUT"
                         "COMMAND;LABELS;ENVIRONMENT;EXCEPT;LONGEST")

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# brelex_wx: the toolkit. One call finds it for both targets; wx-config is the native one or the one
-# that the cross toolchain file names.
+# brelex_wx: the toolkit. One call finds it for both systems, with the native wx-config or with the
+# one named by the cross toolchain file.
 find_package(wxWidgets 3.2 REQUIRED COMPONENTS html core base)
 add_library(brelex_wx INTERFACE)
 target_include_directories(brelex_wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})

@@ -14,8 +14,7 @@ as_root() {
     fi
 }
 
-# need_packages NAME...: installs those of the Debian packages that are missing. On a terminal it asks
-# before.
+# need_packages NAME...: installs the Debian packages that are missing. On a terminal it asks first.
 need_packages() {
     local missing=() package
     for package in "$@"; do
@@ -43,7 +42,7 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux trayer xfwm4 metacity)
 
-# Installs what it takes to build and run the Windows program: packages, wxWidgets and Wine.
+# Installs everything needed to build and run the Windows program: packages, wxWidgets and Wine.
 need_windows() {
     need_packages "${windows_packages[@]}" "$@"
     scripts/windows/build_wx || fail "wxWidgets for Windows could not be built"

@@ -18,8 +18,8 @@ wait_for() {
     exit 1
 }
 keys() { local key; for key in "$@"; do xdotool key "$key"; sleep 0.15; done; }
-# Saves a picture of the active window. It is at most 600 pixels wide, with a border that sets it off from
-# the page. Few colors keep the file small; without a date, the file stays the same each time.
+# Saves a picture of the active window, at most 600 pixels wide, with a border that sets it off from
+# the page. Few colors keep the file small. Without a date, the file is the same each time.
 picture() {
     import -window "$(xdotool getactivewindow)" -resize '598x>' -bordercolor '#a0a0a0' -border 1 \
         +dither -colors 128 -strip \
@@ -60,5 +60,5 @@ wait_for "Brevilexicon ("
 keys alt+f Down Return
 wait_for "Check Data"
 keys Return
-sleep 2.6  # the result blinks
+sleep 2.6  # wait until the result has stopped blinking
 picture check

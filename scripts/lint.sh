@@ -1,32 +1,34 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# lint.sh [FILE...]: clang-tidy for all sources, or for some. Wants build/dev built, as it needs the
-# generated headers, and build/win32 configured.
+# lint.sh [FILE...]: runs clang-tidy on all sources, or only on the given ones. Requires that
+# build/dev is built, because it needs the generated headers, and that build/win32 is configured.
 #
-# Most of the time goes into the toolkit's headers, so some sources with the same options are linted as
-# one text. Where that does not compile, because two of them use a name for two things, its
-# halves are linted. A set that passed is not linted again before its compiler's options, the rules,
-# the tools, or one of the files that it includes change: build/lint/ knows that.
+# Most of the time goes into the toolkit's headers, so several sources with the same options are
+# linted as one text. If that does not compile because two of them use the same name for different
+# things, each half is linted separately. A set that has passed is not linted again until its
+# compiler options, the rules, the tools, or one of the files that it includes changes. build/lint/
+# records this.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 root=$PWD
 sources_together=8
-# Windows passes pointers as numbers and names its pointer types as if they were none. clang has no C++
-# library for that target: it takes the cross compiler's.
+# Windows passes pointers as numbers, and the names of its pointer types do not look like pointers.
+# clang has no C++ library for that target, so it uses the cross compiler's.
 cxx=$(dirname "$(i686-w64-mingw32-g++-posix -print-libgcc-file-name)")/include/c++
 win32_options=(--target=i686-w64-mingw32 -Wno-unused-command-line-argument
                "-isystem$cxx" "-isystem$cxx/i686-w64-mingw32")
 windows_source='_msw\.cpp$|(^|/)windows_[a-z_]*\.cpp$'
 tools=$({ clang-tidy --version; cat .clang-tidy scripts/lint.sh; } | sha256sum)
 
-# commands PRESET: "SOURCE<tab>OPTIONS" for each source, as the compilation database quotes them.
+# commands PRESET: prints "SOURCE<tab>OPTIONS" for each source, quoted as in the compilation
+# database.
 commands() {
     sed -n 's/^  "command": "[^ ]* \(.*\) -o [^ ]* -c '"${root//\//\\/}"'\/\([^ ]*\)",$/\2\t\1/p' \
         "build/$1/compile_commands.json" | sed 's/-Winvalid-pch -include [^ ]*//' | LC_ALL=C sort -u -k1,1
 }
 
-# fingerprint FOLDER: of a set and everything it includes; empty if that is not known.
+# fingerprint FOLDER: a hash of a set and everything it includes; empty if that is not known.
 fingerprint() {
     [ -f "$1/includes" ] || return 0
     { echo "$tools"; cat "$1/compile_commands.json" "$1/all.cpp"
@@ -56,7 +58,8 @@ END
     parses || { in_sources "$@" <"$folder/errors" >&2; return 1; }
     checks=-readability-duplicate-include  # check.sh looks for those in each source
     [ "$preset" = dev ] || checks=$checks,-misc-misplaced-const,-performance-no-int-to-ptr
-    # Tests run with checks of every memory access: the analyzer could only guess at the same.
+    # The tests run with checks of every memory access. The analyzer could only guess at the same
+    # faults.
     [[ $1 != tests/* ]] || checks=$checks,-clang-analyzer-*
     clang-tidy -p "$folder" --quiet --checks="$checks" "${extra[@]/#/--extra-arg-before=}" \
         "$folder/all.cpp" >"$folder/findings" 2>/dev/null || {
@@ -66,7 +69,7 @@ END
     fingerprint "$folder" >"$folder/passed"
 }
 
-# Of the set at hand: whether it compiles, and what it includes.
+# Checks whether the current set compiles, and records the files that it includes.
 parses() {
     eval "clang++ $(sed 's/\\\(.\)/\1/g' <<<"$options") -w -Wno-error -Wno-unknown-warning-option" \
         '"${extra[@]}" -fsyntax-only -MD -MF "$folder/makefile" "$folder/all.cpp" 2>"$folder/errors"' ||
@@ -74,7 +77,7 @@ parses() {
     sed 's/^[^ ].*://; s/\\$//' "$folder/makefile" | tr -s ' ' '\n' | grep . >"$folder/includes"
 }
 
-# in_sources SOURCE...: with lines of the whole text at hand as lines of the sources that it is made of.
+# in_sources SOURCE...: converts line numbers of the combined text to those of its sources.
 in_sources() {
     awk -v text="$folder/all.cpp:" '
         NR == FNR { begin[++count] = total; total += $1; name[count] = $2; next }
@@ -87,7 +90,7 @@ in_sources() {
         { print }' <(wc -l "$@") -
 }
 
-# in_background COMMAND...: as many at a time as there are processors.
+# in_background COMMAND...: runs as many commands at a time as there are processors.
 failed=0 running=0
 in_background() {
     if [ $running -ge "$(nproc)" ]; then
@@ -98,12 +101,12 @@ in_background() {
     running=$((running + 1))
 }
 
-# lint PRESET SOURCE...: with the options that the preset has for them, in sets.
+# lint PRESET SOURCE...: lints the sources in sets, with the options that the preset has for them.
 lint() {
     local preset=$1 line source options set=() set_options= alone
     shift
     [ $# -gt 0 ] || return 0
-    # X11 defines words such as None as macros, and a C function may be declared by each who calls it.
+    # X11 defines words such as None as macros, and several sources may declare the same C function.
     alone=$(grep -lE '<(X11/|gdk/gdkx)|extern "C"' "$@" || true)
     while IFS=$'\t' read -r source options; do
         if [ ${#set[@]} = $sources_together ] || [ "$options" != "$set_options" ]; then

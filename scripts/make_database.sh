@@ -24,7 +24,7 @@ find_vera() {
     if [ ! -f "$vera/vera.index" ]; then
         rm -rf "$vera.part"
         mkdir -p "$vera.part/package"
-        # Send apt's output to the error output, because this function must print only the path.
+        # Send apt's output to standard error, because this function must print only the path.
         (cd "$vera.part" && apt-get -q download dict-vera && dpkg-deb -x dict-vera_*.deb package) \
             >&2 || return 1
         mv "$vera.part"/package/usr/share/dictd/vera.* "$vera.part/"

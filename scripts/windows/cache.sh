@@ -15,7 +15,7 @@ release_suite() {
         fail "apt knows no package list of $codename (apt-get update?)"
 }
 
-# up_to_date STAMP KEY: succeeds if the stamp file contains this very key.
+# up_to_date STAMP KEY: succeeds if the stamp file contains exactly this key.
 up_to_date() { [ "$(cat "$1" 2>/dev/null)" = "$2" ]; }
 
 # Lets only one script at a time change the cache, which all clones share.

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# brelex_cli_test.sh BRELEX [EMULATOR]: the command line of brelex, as a script meets it.
+# brelex_cli_test.sh BRELEX [EMULATOR]: tests the command line of brelex as a script uses it.
 set -u
 brelex=$1
 emulator=${2:-}
@@ -9,7 +9,7 @@ trap 'rm -rf "$folder"' EXIT
 checks=0
 failures=0
 
-# expect CODE NAME COMMAND...: runs it, keeping its output in $folder/out and $folder/err.
+# expect CODE NAME COMMAND...: runs the command, keeping its output in $folder/out and $folder/err.
 expect() {
     local code=$1 name=$2; shift 2
     checks=$((checks + 1))
@@ -51,7 +51,7 @@ contains err "not of the form N.N"
 expect 0 "build" "$brelex" build --version 2.5 --date 2005-02-03 --search-list "net, disk" \
     -o "$folder/ACRONYMS.dat" "$folder/list.tsv"
 contains out "2 records"
-# Without -d: the file beside the program, whatever its name's case.
+# Without -d: uses the file beside the program, whatever the case of its name.
 expect 0 "info" "$brelex" info
 contains out "Version: 2.5"; contains out "ReleaseDate: 2005-02-03"; contains out "SearchListText: net, disk"
 expect 0 "dump" "$brelex" dump;                   contains out "RAM	Random Access Memory"
@@ -83,8 +83,9 @@ expect 1 "look-up of what no entry begins with" "$brelex" lookup '?'
 expect 2 "look-up in a file that is no database" "$brelex" -d "$folder/list.tsv" lookup ra
 contains err "Cannot decode a corrupt database. Loading was aborted."
 expect 2 "build of a database that is to be read" "$brelex" -d "$folder/x.dat" build "$folder/list.tsv"
-truncate -s 2000M "$folder/huge.dat"  # takes no room on the disk
-# 32-bit programs have no such memory anyway; where sanitizers take all there is, nothing is limited.
+truncate -s 2000M "$folder/huge.dat"  # takes up no disk space
+# 32-bit programs cannot have that much memory anyway, so they need no limit. Sanitizers need more
+# than the limit, so a build with them skips this.
 limited() { ( [ -n "$emulator" ] || ulimit -v 1000000; "$@" ); }
 if limited "$brelex" --version >/dev/null 2>&1; then
     expect 2 "a file that does not fit into memory" limited "$brelex" -d "$folder/huge.dat" info
