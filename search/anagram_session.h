@@ -22,7 +22,7 @@ struct AnagramDisplay {
     std::string letterCount;
     std::string rearrangements;
     std::string percentDone;     ///< the progress of a search, or its result
-    std::string listTip;         ///< the tool tip of the list
+    std::string listTip;         ///< the tooltip of the list
     bool listIsWarning = false;  ///< the list shows that there are no hits
 
     bool operator==(const AnagramDisplay&) const = default;

@@ -40,7 +40,7 @@ class RecordFinder {
     bool matchCase_;
     WildcardPattern pattern_;
     std::optional<std::string>
-        word_;  // the whole word to find, in small letters if case does not matter
+        word_;  // the whole word to find, in lowercase if case does not matter
     std::optional<FragmentSearch> rarest_;  // empty if the pattern consists of stars
     std::size_t edge_ = 0;  // bytes before the field that belong to the rarest fragment
     std::size_t onlyFragment_ =
