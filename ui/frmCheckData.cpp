@@ -1,27 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frmCheckData.h"
 
-#include <string>
 #include <utility>
 
 #include <wx/button.h>
-#include <wx/dcclient.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
-#include <wx/utils.h>
 
 #include "platform/window/accessible_name.h"
 #include "platform/window/paint_now.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/backdrop.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/progress_bar.h"
 #include "ui/controls/surface.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -34,62 +30,51 @@ constexpr double kBarHeight = 24;
 
 constexpr int kBlinkMs = 500;
 
+const char* const kProgress = "Progress";  // as a screen reader says it
+
 const char* const kExplanation =
     "Checks data integrity of the database. The integrity check will fail even if a single letter "
     "in the database has changed. It may be due to a corrupt installation file or a bad sector on "
     "your disk.";
 
+wxStaticText* NewLabel(wxWindow* parent) {
+    return new wxStaticText(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                            wxST_NO_AUTORESIZE);
+}
+
 }  // namespace
 
 frmCheckData::frmCheckData(wxTopLevelWindow* main, const ProgramValues& values,
                            TemporaryFiles& files)
-    : wxDialog(main, wxID_ANY, "Check Data Integrity"),
-      messages_(this),
-      units_(*this),
+    : SideWindow(*main, "frmCheckData", "Check Data Integrity"),
       session_(values, files, *this, messages_),
       tmrBlink(this) {
-    SetName("frmCheckData");
-    SetIcons(AppIcons());
     CreateControls();
-    NameControls();
     PlaceControls();
     BindEvents();
-    KeepCentered(*this, *main);
+    StopWithWindow(tmrBlink);
     session_.Open();
 }
 
 void frmCheckData::CreateControls() {
-    surface_ = new Surface(this);
-    lblExplanation_ = new wxStaticText(surface_, wxID_ANY, kExplanation);
-    lblMessage = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                  wxDefaultSize, wxST_NO_AUTORESIZE);
-    picProgbar = new ProgressBar(surface_);
+    lblExplanation_ = Named(new wxStaticText(surface_, wxID_ANY, kExplanation), "lblExplanation");
+    lblMessage = Named(NewLabel(surface_), "lblMessage");
+    picProgbar = Named(new ProgressBar(surface_), "picProgbar", kProgress);
+    surface_->FrameChild(*picProgbar);
     resultArea_ = new Backdrop(surface_);
-    imgResult = new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture());
+    imgResult = Named(new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture()), "imgResult");
     // Whose pictures a result takes.
-    imgPassed = new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture());
-    imgFailed = new wxStaticBitmap(resultArea_, wxID_ANY, FailedPicture());
+    imgPassed = Named(new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture()), "imgPassed");
+    imgFailed = Named(new wxStaticBitmap(resultArea_, wxID_ANY, FailedPicture()), "imgFailed");
     for (wxStaticBitmap* picture : {imgResult, imgPassed, imgFailed}) {
         picture->Hide();
     }
-    lblResult = new wxStaticText(resultArea_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                 wxDefaultSize, wxST_NO_AUTORESIZE);
+    lblResult = Named(NewLabel(resultArea_), "lblResult");
     lblResult->SetFont(GetFont().Bold().Larger());
-    cmdCheck = new wxButton(surface_, wxID_ANY, "&Check");
-    cmdCancel = new wxButton(surface_, wxID_ANY, "Cancel");
+    cmdCheck = Named(new wxButton(surface_, wxID_ANY, "&Check"), "cmdCheck");
+    cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
     cmdCheck->SetDefault();
     SetEscapeId(cmdCancel->GetId());
-}
-
-void frmCheckData::NameControls() {
-    lblExplanation_->SetName("lblExplanation");
-    lblMessage->SetName("lblMessage");
-    SetNames(*picProgbar, "picProgbar", "Progress");
-    imgPassed->SetName("imgPassed");
-    imgFailed->SetName("imgFailed");
-    lblResult->SetName("lblResult");
-    cmdCheck->SetName("cmdCheck");
-    cmdCancel->SetName("cmdCancel");
 }
 
 void frmCheckData::PlaceControls() {
@@ -115,20 +100,14 @@ void frmCheckData::PlaceControls() {
     all->Add(picProgbar, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     all->Add(resultArea_, 0, wxEXPAND | wxALL, gap);
     all->Add(buttons, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*surface_, all, px(kInnerWidth));
+    FillWindow(all, px(kInnerWidth));
 }
 
 void frmCheckData::BindEvents() {
-    surface_->Bind(wxEVT_PAINT, &frmCheckData::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { session_.Close(); });
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { OnBlink(); });
     cmdCheck->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.RunCheck(); });
     cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.PressCancel(); });
-}
-
-void frmCheckData::OnPaint(wxPaintEvent& /*event*/) {
-    wxPaintDC dc(surface_);
-    DrawFrameRound(dc, picProgbar->GetRect());
 }
 
 void frmCheckData::ShowDisplay(const CheckDisplay& display) {
@@ -157,12 +136,12 @@ void frmCheckData::ShowDisplay(const CheckDisplay& display) {
 void frmCheckData::DrawProgress(std::optional<int> percent) {
     constexpr int kSpokenStep = 10;
     if (!percent) {
-        SetNames(*picProgbar, "picProgbar", "Progress");
+        SetSpokenName(*picProgbar, kProgress);
         picProgbar->Clear();
         return;
     }
     if (*percent % kSpokenStep == 0) {
-        SetNames(*picProgbar, "picProgbar", "Progress " + std::to_string(*percent) + "%");
+        SetSpokenName(*picProgbar, wxString::Format("%s %d%%", kProgress, *percent));
     }
     picProgbar->SetPercent(*percent);
 }
@@ -176,8 +155,8 @@ void frmCheckData::ShowResult(const CheckDisplay& display) {
     imgResult->SetBitmap((passed ? imgPassed : imgFailed)->GetBitmap());
     imgResult->Show(isThere);
     // The text itself comes and goes.
-    SetNames(*imgResult, "imgResult", isThere ? display.resultText : "Result");
-    lblResult->SetForegroundColour(passed ? wxColour(0, 0, 255) : wxColour(192, 0, 0));
+    SetSpokenName(*imgResult, isThere ? display.resultText : "Result");
+    lblResult->SetForegroundColour(passed ? Blue() : DarkRed());
     lblResult->SetLabelText(WxText(display.resultText));
     lblResult->Show();
     isBlinkedOut_ = false;
@@ -200,19 +179,13 @@ void frmCheckData::MoveFocus(CheckFocus focus) {
 }
 
 void frmCheckData::LetEventsRun(int restMs) {
-    LetPendingEventsRun();
-    wxMilliSleep(static_cast<unsigned long>(restMs));
+    LetPendingEventsRun(restMs);
 }
 
 void frmCheckData::CloseWindow() {
     if (IsModal()) {
         EndModal(wxID_CANCEL);
     }
-}
-
-void frmCheckData::EndModal(int result) {
-    tmrBlink.Stop();
-    wxDialog::EndModal(result);
 }
 
 }  // namespace brelex

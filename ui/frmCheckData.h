@@ -3,13 +3,11 @@
 
 #include <optional>
 
-#include <wx/dialog.h>
 #include <wx/timer.h>
 
 #include "database/check_session.h"
-#include "platform/desktop/wx_message_sink.h"
 #include "platform/system/fine_timer.h"
-#include "ui/controls/layout_units.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxStaticBitmap;
@@ -17,23 +15,19 @@ class wxStaticText;
 
 namespace brelex {
 
-class Surface;
 class ProgressBar;
 
 /// The window "Check Data Integrity". It is made for one use.
-class frmCheckData final : public wxDialog, private CheckView {
+class frmCheckData final : public SideWindow, private CheckView {
   public:
     /// `values` and `files` must outlive the window; the database is loaded.
     frmCheckData(wxTopLevelWindow* main, const ProgramValues& values, TemporaryFiles& files);
-
-    void EndModal(int result) override;
 
     /// Whether the user has ended the check.
     [[nodiscard]] bool Aborted() const { return session_.Aborted(); }
 
   private:
     void CreateControls();
-    void NameControls();
     void PlaceControls();
     void BindEvents();
 
@@ -44,17 +38,13 @@ class frmCheckData final : public wxDialog, private CheckView {
 
     void DrawProgress(std::optional<int> percent);
     void ShowResult(const CheckDisplay& display);
-    void OnPaint(wxPaintEvent& event);
     void OnBlink();
 
-    WxMessageSink messages_;
-    LayoutUnits units_;
     CheckSession session_;
     std::optional<CheckDisplay> shown_;
     std::optional<FineTimer> fineTimer_;  // while a check runs
     bool isBlinkedOut_ = false;           // the result text, at the moment
 
-    Surface* surface_ = nullptr;
     wxStaticText* lblExplanation_ = nullptr;
     wxStaticText* lblMessage = nullptr;
     ProgressBar* picProgbar = nullptr;
