@@ -7,24 +7,23 @@
 
 #include <wx/button.h>
 #include <wx/combobox.h>
-#include <wx/dcclient.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
 #include "platform/window/accessible_name.h"
 #include "platform/window/prompt_button.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/backdrop.h"
 #include "ui/controls/busy_animation.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/column_header.h"
+#include "ui/controls/modGeneral.h"
 #include "ui/controls/surface.h"
 #include "ui/controls/text_entry.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -47,20 +46,13 @@ const char* const kOverview =
 
 frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
                        std::function<void(std::int32_t)> goToRecord)
-    : wxDialog(main, wxID_ANY, "Anagrammatic Search"),
-      main_(*main),
-      messages_(this),
-      units_(*this),
+    : SideWindow(*main, "frmAnagram", "Anagrammatic Search"),
       session_(values, *this, messages_, std::move(goToRecord)) {
-    SetName("frmAnagram");
-    SetIcons(AppIcons());
     CreateControls();
-    NameControls();
     BindEvents();
     textLimit_->Set(session_.LetterLimit());
     PlaceControls();
-    DrawColumnHeader();
-    KeepCentered(*this, main_);
+    picColHeader->SetSize(lblColHeaderBack->GetSize());
 }
 
 // The controls go first: as they go they still report what happens to them.
@@ -70,23 +62,26 @@ frmAnagram::~frmAnagram() {
 
 // In the order in which the TAB key visits them.
 void frmAnagram::CreateControls() {
-    surface_ = new Surface(this);
-    lblOverview = new wxStaticText(surface_, wxID_ANY, wxString::Format(kOverview, kAppTitle));
-    lblPrompt = new wxStaticText(surface_, wxID_ANY, WxText(session_.Prompt()));
-    cboLetters = new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                                0, nullptr, wxCB_DROPDOWN);
+    lblOverview =
+        Named(new wxStaticText(surface_, wxID_ANY, wxString::Format(kOverview, kAppTitle)),
+              "lblOverview");
+    lblPrompt = Named(new wxStaticText(surface_, wxID_ANY, WxText(session_.Prompt())), "lblPrompt");
+    cboLetters = Named(new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                      wxDefaultSize, 0, nullptr, wxCB_DROPDOWN),
+                       "cboLetters", "Letters");
     textLimit_.emplace(*cboLetters);
-    cmdSearch = new wxButton(surface_, wxID_ANY, "&Search");
-    cmdCancel = new wxButton(surface_, wxID_ANY, "Cancel");
-    for (wxStaticText** label : {&lblWordLen, &lblPossiblePerms, &lblPercentDone}) {
-        *label =
-            new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                             wxST_NO_AUTORESIZE | (label == &lblPercentDone ? wxALIGN_RIGHT : 0));
-    }
+    cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
+    cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
+    lblWordLen = Named(NewFact("999"), "lblWordLen");
+    lblPossiblePerms = Named(NewFact("999,999,999,999,999,999,999,999"), "lblPossiblePerms");
+    lblPercentDone = Named(NewFact("Done 100%  Found 999", wxALIGN_RIGHT), "lblPercentDone");
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
-    lblColHeaderBack = new Backdrop(surface_);
+    StopWithWindow(picAnim->tmrAnimation);
+    lblColHeaderBack = Named(new Backdrop(surface_), "lblColHeaderBack");
+    surface_->FrameChild(*lblColHeaderBack, units_.Pixels(kColumnHeaderFrameAbove));
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
     lstAnagrams = &CreateEntryListControl(*surface_, units_.Pixels(kExpansionTextAt));
+    Named(&lstAnagrams->Window(), "lstAnagrams", "Entries found");
     lstAnagrams->SetRows(session_.Rows());
     cmdSearch->SetDefault();
     ActAtOnceOnKeys(*cmdSearch);
@@ -94,27 +89,16 @@ void frmAnagram::CreateControls() {
     heldEnter_.emplace(*this);
 }
 
-void frmAnagram::NameControls() {
-    lblOverview->SetName("lblOverview");
-    lblPrompt->SetName("lblPrompt");
-    SetNames(*cboLetters, "cboLetters", "Letters");
-    lblWordLen->SetName("lblWordLen");
-    lblPossiblePerms->SetName("lblPossiblePerms");
-    cmdSearch->SetName("cmdSearch");
-    cmdCancel->SetName("cmdCancel");
-    lblPercentDone->SetName("lblPercentDone");
-    lblColHeaderBack->SetName("lblColHeaderBack");
-    SetNames(lstAnagrams->Window(), "lstAnagrams", "Entries found");
+wxStaticText* frmAnagram::NewFact(const char* widest, long alignment) const {
+    auto* fact = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                  wxDefaultSize, wxST_NO_AUTORESIZE | alignment);
+    fact->SetMinSize({GetTextExtent(widest).x, -1});
+    return fact;
 }
 
 // The prompt, the letters and what is to be known of them, with the buttons beside them.
 wxSizer* frmAnagram::LayoutOfLetters() {
     const int gap = units_.Pixels(kMargin);
-    const auto widthOf = [this](const char* text) { return GetTextExtent(text).x; };
-    lblWordLen->SetMinSize({widthOf("999"), -1});
-    lblPossiblePerms->SetMinSize({widthOf("999,999,999,999,999,999,999,999"), -1});
-    lblPercentDone->SetMinSize({widthOf("Done 100%  Found 999"), -1});
-
     auto* counts = new wxBoxSizer(wxHORIZONTAL);
     counts->Add(lblWordLen, 0, wxRIGHT, gap / 2);
     counts->Add(new wxStaticText(surface_, wxID_ANY, "letter(s)"), 0, wxRIGHT, 2 * gap);
@@ -142,8 +126,7 @@ void frmAnagram::PlaceControls() {
     const int gap = px(kMargin);
     wxSizer* const letters = LayoutOfLetters();
     const int width = std::max(px(kInnerWidth), letters->GetMinSize().x + 2 * gap);
-    lblOverview->Wrap(width -
-                      3 * gap);  // measured text is a little wider when drawn (seen with Wine)
+    lblOverview->Wrap(width - 3 * gap);  // lines may come out a little wider than measured
     auto* progress = new wxBoxSizer(wxHORIZONTAL);
     progress->Add(picAnim, 0, wxRIGHT | wxRESERVE_SPACE_EVEN_IF_HIDDEN, gap);
     progress->AddStretchSpacer();
@@ -160,12 +143,11 @@ void frmAnagram::PlaceControls() {
     // The list ends between two rows.
     list.SetMinSize({-1, lstAnagrams->HeightOfRows(lstAnagrams->RowsIn(px(kListHeight)))});
     all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    FillWindow(*surface_, all, width);
+    FillWindow(all, width);
 }
 
 void frmAnagram::BindEvents() {
     LeadAccessKeysTo(*this, {{lblPrompt, cboLetters}});
-    surface_->Bind(wxEVT_PAINT, &frmAnagram::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmAnagram::OnClose, this);
     TypeInCapitals(*cboLetters, *cboLetters);
     SelectAllOnCtrlA(*cboLetters, *cboLetters);
@@ -182,17 +164,7 @@ void frmAnagram::BindEvents() {
                        [this](wxMouseEvent&) { lstAnagrams->Window().SetFocus(); });
 }
 
-void frmAnagram::DrawColumnHeader() {
-    picColHeader->SetSize(lblColHeaderBack->GetSize());
-}
-
-void frmAnagram::OnPaint(wxPaintEvent& /*event*/) {
-    wxPaintDC dc(surface_);
-    DrawFrameRound(dc, lblColHeaderBack->GetRect(), units_.Pixels(kColumnHeaderFrameAbove));
-}
-
 void frmAnagram::ShowAnagramWindow() {
-    CenterWindow(*this, main_);
     session_.Open();
     ShowModal();
 }
@@ -227,9 +199,8 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
         lblPercentDone->Update();
     }
     if (isNew(&AnagramDisplay::listIsWarning)) {
-        lstAnagrams->SetTextColour(display.listIsWarning
-                                       ? wxColour(255, 0, 0)
-                                       : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        lstAnagrams->SetTextColour(
+            display.listIsWarning ? Red() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     }
     if (isNew(&AnagramDisplay::listTip)) {
         lstAnagrams->Window().SetToolTip(WxText(display.listTip));
@@ -246,11 +217,7 @@ void frmAnagram::ShowBusy(bool busy) {
          std::initializer_list<wxWindow*>{cboLetters, cmdCancel, &lstAnagrams->Window()}) {
         control->Enable(!busy);
     }
-    ShowBusyAnimation(busy);
-}
-
-void frmAnagram::ShowBusyAnimation(bool on) {
-    picAnim->Run(on);
+    picAnim->Run(busy);
 }
 
 void frmAnagram::ShowRows() {

@@ -6,15 +6,12 @@
 #include <optional>
 #include <string>
 
-#include <wx/dialog.h>
-
 #include "database/program_values.h"
-#include "platform/desktop/wx_message_sink.h"
 #include "platform/list/entry_list_control.h"
 #include "search/anagram_session.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/held_enter.h"
-#include "ui/controls/layout_units.h"
+#include "ui/side_window.h"
 
 class wxButton;
 class wxComboBox;
@@ -23,12 +20,11 @@ class wxStaticText;
 
 namespace brelex {
 
-class Surface;
 class BusyAnimation;
 
 /// The window "Anagrammatic Search". It is hidden, never destroyed, while the program runs: its
 /// history survives.
-class frmAnagram final : public wxDialog, private AnagramView {
+class frmAnagram final : public SideWindow, private AnagramView {
   public:
     /// `values` must outlive the window; the database is loaded. `goToRecord` selects an entry in
     /// the main window by its record number (1-based).
@@ -52,7 +48,7 @@ class frmAnagram final : public wxDialog, private AnagramView {
 
   private:
     void CreateControls();
-    void NameControls();
+    [[nodiscard]] wxStaticText* NewFact(const char* widest, long alignment = 0) const;
     [[nodiscard]] wxSizer* LayoutOfLetters();
     void PlaceControls();
     void BindEvents();
@@ -66,20 +62,13 @@ class frmAnagram final : public wxDialog, private AnagramView {
     void HideWindow() override;
 
     void ShowBusy(bool busy);
-    void ShowBusyAnimation(bool on);
-    void DrawColumnHeader();
     [[nodiscard]] std::string TypedLetters() const;
     void OnClose(wxCloseEvent& event);
-    void OnPaint(wxPaintEvent& event);
 
-    wxTopLevelWindow& main_;
-    WxMessageSink messages_;
-    LayoutUnits units_;
     AnagramSession session_;
     std::optional<AnagramDisplay> shown_;
     std::optional<HeldEnter> heldEnter_;
 
-    Surface* surface_ = nullptr;
     wxStaticText* lblOverview = nullptr;
     wxStaticText* lblPrompt = nullptr;
     wxComboBox* cboLetters = nullptr;
