@@ -7,16 +7,11 @@
 
 #include <wx/bmpbuttn.h>
 #include <wx/button.h>
-#include <wx/checkbox.h>
 #include <wx/combobox.h>
-#include <wx/dcclient.h>
-#include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
-#include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-#include <wx/utils.h>
 
 #include "base/scope.h"
 #include "base/text.h"
@@ -26,17 +21,17 @@
 #include "platform/window/prompt_button.h"
 #include "search/search_list.h"
 #include "search/wildcard_help.h"
-#include "toolkit/app_icon.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/backdrop.h"
 #include "ui/controls/busy_animation.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/column_header.h"
+#include "ui/controls/modGeneral.h"
 #include "ui/controls/surface.h"
 #include "ui/controls/text_entry.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -53,34 +48,24 @@ constexpr int kAnimationIntervalMs = 120;
 constexpr int kTextMarginPixels = 5;
 constexpr int kTabStopDialogUnits = 88;
 
-wxColour PureRed() {
-    return {255, 0, 0};
-}
-
-wxColour DarkRed() {
-    return {192, 0, 0};
+wxStaticText* NewStatus(wxWindow* parent, long alignment = 0) {
+    return new wxStaticText(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                            wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END | alignment);
 }
 
 }  // namespace
 
 frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
-    : wxDialog(main, wxID_ANY, "Search Database"),
-      main_(*main),
+    : SideWindow(*main, "frmSearch", "Search Database"),
       values_(values),
-      messages_(this),
-      units_(*this),
       session_(values, *this, messages_) {
-    SetName("frmSearch");
-    SetIcons(AppIcons());
     CreateControls();
-    NameControls();
     PlaceControls();
     BindEvents();
     FillHistory();
     textLimit_->Set(session_.TextLimit(SearchIn::Expansions));
     SetSideMargins(*txtSearchResult, kTextMarginPixels);
     DrawColumnHeader();
-    KeepCentered(*this, main_);
 }
 
 // The controls go first: as they go they still report what happens to them.
@@ -89,8 +74,7 @@ frmSearch::~frmSearch() {
 }
 
 void frmSearch::CreateControls() {
-    surface_ = new Surface(this);
-    CreateFrames();
+    CreateRequest();
     CreateResultArea();
     cmdSearch->SetDefault();
     ActAtOnceOnKeys(*cmdSearch);
@@ -98,87 +82,40 @@ void frmSearch::CreateControls() {
     heldEnter_.emplace(*this);
 }
 
-// In the order in which the TAB key visits them. The buttons in a frame are its siblings: from
-// within a frame of the toolkit no access key leads out again on Windows (seen with 3.2.2).
-void frmSearch::CreateFrames() {
+// In the order in which the TAB key visits them.
+void frmSearch::CreateRequest() {
     lblPrompt_ = new wxStaticText(surface_, wxID_ANY, "Search &for:");
-    cboSearchWhat = new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                   wxDefaultSize, 0, nullptr, wxCB_DROPDOWN);
+    cboSearchWhat = Named(new wxComboBox(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                         wxDefaultSize, 0, nullptr, wxCB_DROPDOWN),
+                          "cboSearchWhat", "Search text");
     textLimit_.emplace(*cboSearchWhat);
-    fraPosition = new wxStaticBox(surface_, wxID_ANY, "Position");
-    optPosition[0] = new wxRadioButton(surface_, wxID_ANY, "Any&where", wxDefaultPosition,
-                                       wxDefaultSize, wxRB_GROUP);
-    optPosition[1] = new wxRadioButton(surface_, wxID_ANY, "&Beginning with");
-    optPosition[2] = new wxRadioButton(surface_, wxID_ANY, "En&ding with");
-    optPosition[0]->SetValue(true);
-    fraSearchIn = new wxStaticBox(surface_, wxID_ANY, "Search");
-    optSearchIn[0] = new wxRadioButton(surface_, wxID_ANY, "&Abbreviations", wxDefaultPosition,
-                                       wxDefaultSize, wxRB_GROUP);
-    optSearchIn[1] = new wxRadioButton(surface_, wxID_ANY, "&Expansions");
-    optSearchIn[1]->SetValue(true);
-    chkMatchCase = new wxCheckBox(surface_, wxID_ANY, "&Match Case");
-    chkWholeWord = new wxCheckBox(surface_, wxID_ANY, "Search Whole Word &Only");
-    chkNextSearch = new wxCheckBox(surface_, wxID_ANY, "Search from &Next Position");
-    chkNextSearch->Disable();
-    cmdSearch = new wxButton(surface_, wxID_ANY, "&Search");
-    cmdSearch->Disable();
-    cmdCancel = new wxButton(surface_, wxID_ANY, "Cancel");
-    cmdHelp = new wxButton(surface_, wxID_ANY, "Help on wildcards");
+    options_.emplace(*surface_, [this](SearchIn in) { textLimit_->Set(session_.TextLimit(in)); });
+    cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
+    cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
+    cmdHelp = Named(new wxButton(surface_, wxID_ANY, "Help on wildcards"), "cmdHelp");
 }
 
 void frmSearch::CreateResultArea() {
     picAnim = new BusyAnimation(surface_, SearchFilmStrip(), kAnimationIntervalMs);
+    StopWithWindow(picAnim->tmrAnimation);
     statusArea_ = new Backdrop(surface_);
-    for (wxStaticText** label : {&lblStatus, &lblCount}) {
-        *label = new wxStaticText(
-            statusArea_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-            wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END | (label == &lblCount ? wxALIGN_RIGHT : 0));
-    }
-    cmdExpandShrink = new wxBitmapButton(surface_, wxID_ANY, ExpandPicture());
-    lblColHeaderBack = new Backdrop(surface_);
+    surface_->FrameChild(*statusArea_);
+    lblStatus = Named(NewStatus(statusArea_), "lblStatus");
+    lblCount = Named(NewStatus(statusArea_, wxALIGN_RIGHT), "lblCount");
+    cmdExpandShrink =
+        Named(new wxBitmapButton(surface_, wxID_ANY, ExpandPicture()), "cmdExpandShrink");
+    lblColHeaderBack = Named(new Backdrop(surface_), "lblColHeaderBack");
+    surface_->FrameChild(*lblColHeaderBack, units_.Pixels(kColumnHeaderFrameAbove));
     picColHeader = new ColumnHeader(lblColHeaderBack, units_);
-    txtSearchResult = new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                     wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
+    txtSearchResult =
+        Named(new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                             wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP),
+              "txtSearchResult", "Entries found");
 }
 
-void frmSearch::NameControls() {
-    SetNames(*cboSearchWhat, "cboSearchWhat", "Search text");
-    cmdSearch->SetName("cmdSearch");
-    cmdHelp->SetName("cmdHelp");
-    fraPosition->SetName("fraPosition");
-    fraSearchIn->SetName("fraSearchIn");
-    for (std::size_t i = 0; i < optPosition.size(); ++i) {
-        optPosition.at(i)->SetName("optPosition" + std::to_string(i));
-    }
-    for (std::size_t i = 0; i < optSearchIn.size(); ++i) {
-        optSearchIn.at(i)->SetName("optSearchIn" + std::to_string(i));
-    }
-    chkMatchCase->SetName("chkMatchCase");
-    chkWholeWord->SetName("chkWholeWord");
-    chkNextSearch->SetName("chkNextSearch");
-    lblStatus->SetName("lblStatus");
-    lblCount->SetName("lblCount");
-    lblColHeaderBack->SetName("lblColHeaderBack");
-    SetNames(*txtSearchResult, "txtSearchResult", "Entries found");
-}
-
-wxSizer* frmSearch::LayoutOfControls() {
+wxSizer* frmSearch::LayoutOfRequest() {
     const int gap = units_.Pixels(kMargin);
-    auto* options = new wxBoxSizer(wxHORIZONTAL);
-    const auto addFrame = [&](wxStaticBox* frame, const auto& buttons) {
-        auto* column = new wxStaticBoxSizer(frame, wxVERTICAL);
-        for (wxRadioButton* button : buttons) {
-            column->Add(button, 0, wxALL, gap / 4);
-        }
-        options->Add(column, 0, wxEXPAND | wxRIGHT, gap);
-    };
-    addFrame(fraPosition, optPosition);
-    addFrame(fraSearchIn, optSearchIn);
-    auto* checks = new wxBoxSizer(wxVERTICAL);
-    for (wxCheckBox* check : {chkMatchCase, chkWholeWord, chkNextSearch}) {
-        checks->Add(check, 0, wxTOP, gap);
-    }
-    options->Add(checks);
+    wxBoxSizer* const options = options_->Layout(gap);
     options->AddStretchSpacer();
     options->Add(picAnim, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
                  gap);
@@ -214,37 +151,28 @@ void frmSearch::PlaceControls() {
     status->Add(cmdExpandShrink, 0, wxALIGN_CENTRE_VERTICAL);
 
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(LayoutOfControls(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
+    all->Add(LayoutOfRequest(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
     all->Add(status, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
     all->AddSpacer(gap);
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     txtSearchResult->SetMinSize({-1, px(kResultHeight)});
     all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
-    surface_->SetSizer(all);
-
     const wxSize needed = all->GetMinSize();
-    const int width = std::max(px(kInnerWidth), needed.x);
+    innerWidth_ = std::max(px(kInnerWidth), needed.x);
     ExpandedHeight = needed.y;
-    surface_->FillWindow({width, ExpandedHeight});
-    innerWidth_ = width;
+    FillWindow(all, innerWidth_);
     ShrunkHeight = lblColHeaderBack->GetPosition().y + px(kShrunkMargin);
 }
 
 void frmSearch::BindEvents() {
     LeadAccessKeysTo(*this, {{lblPrompt_, cboSearchWhat}});
-    surface_->Bind(wxEVT_PAINT, &frmSearch::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
     SelectAllOnCtrlA(*cboSearchWhat, *cboSearchWhat);
     for (const wxEventTypeTag<wxCommandEvent>& type : {wxEVT_TEXT, wxEVT_COMBOBOX}) {
         cboSearchWhat->Bind(type, [this](wxCommandEvent& event) {
             session_.OnTextChanged(Utf8Text(cboSearchWhat->GetValue()));
             event.Skip();
-        });
-    }
-    for (wxRadioButton* button : optSearchIn) {
-        button->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) {
-            textLimit_->Set(session_.TextLimit(Request().in));
         });
     }
     cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { RunSearch(); });
@@ -269,36 +197,15 @@ void frmSearch::DrawColumnHeader() {
                                   SetTabStop(*txtSearchResult, kTabStopDialogUnits));
 }
 
-void frmSearch::OnPaint(wxPaintEvent& /*event*/) {
-    wxPaintDC dc(surface_);
-    DrawFrameRound(dc, statusArea_->GetRect());
-    if (ResultAreaShown()) {
-        DrawFrameRound(dc, lblColHeaderBack->GetRect(), units_.Pixels(kColumnHeaderFrameAbove));
-    }
-}
-
 void frmSearch::ShowSearchWindow() {
-    CenterWindow(*this, main_);
     session_.Open();
     ShowModal();
 }
 
 void frmSearch::RunSearch() {
-    session_.RunSearch(Request(), chkNextSearch->GetValue());
-}
-
-SearchRequest frmSearch::Request() const {
-    SearchRequest request;
+    SearchRequest request = options_->Request();
     request.text = Utf8Text(cboSearchWhat->GetValue());
-    request.in = optSearchIn[0]->GetValue() ? SearchIn::Abbreviations : SearchIn::Expansions;
-    if (optPosition[1]->GetValue()) {
-        request.position = SearchPosition::Beginning;
-    } else if (optPosition[2]->GetValue()) {
-        request.position = SearchPosition::Ending;
-    }
-    request.matchCase = chkMatchCase->GetValue();
-    request.wholeWord = chkWholeWord->GetValue();
-    return request;
+    session_.RunSearch(request, options_->GoesOn());
 }
 
 void frmSearch::OnCancel() {
@@ -328,7 +235,7 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
         ShowBusy(display.isBusy);
     }
     cmdSearch->Enable(display.canSearch);
-    chkNextSearch->Enable(display.canGoOn);
+    options_->OfferToGoOn(display.canGoOn);
     if (isNew(&SearchDisplay::status)) {
         lblStatus->SetLabelText(WxText(display.status));
     }
@@ -343,7 +250,7 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
         ShowResultArea(display.resultAreaShown);
     }
     if (isNew(&SearchDisplay::isAnimated)) {
-        ShowBusyAnimation(display.isAnimated);
+        picAnim->Run(display.isAnimated);
     }
     if (display.isBusy && isNew(&SearchDisplay::isBusy)) {
         PaintNow(*this);
@@ -358,19 +265,18 @@ void frmSearch::ShowBusy(bool busy) {
         heldEnter_->SearchEnds();
         fineTimer_.reset();
     }
-    for (wxWindow* control : std::initializer_list<wxWindow*>{
-             cmdHelp, cmdExpandShrink, cboSearchWhat, fraPosition, optPosition[0], optPosition[1],
-             optPosition[2], fraSearchIn, optSearchIn[0], optSearchIn[1], chkMatchCase,
-             chkWholeWord}) {
+    options_->Enable(!busy);
+    for (wxWindow* control :
+         std::initializer_list<wxWindow*>{cmdHelp, cmdExpandShrink, cboSearchWhat}) {
         control->Enable(!busy);
     }
     cmdCancel->SetBitmap(busy ? StopPicture() : CancelPicture());
-    SetNames(*cmdCancel, "cmdCancel", busy ? "Stop" : "Cancel");
+    SetSpokenName(*cmdCancel, busy ? "Stop" : "Cancel");
 }
 
 void frmSearch::ShowResult(const std::string& text, Tone tone) {
     txtSearchResult->SetForegroundColour(
-        tone == Tone::Warning ? PureRed() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        tone == Tone::Warning ? Red() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     txtSearchResult->ChangeValue(WxText(text));
 }
 
@@ -378,17 +284,13 @@ void frmSearch::ShowResultArea(bool show) {
     cmdExpandShrink->SetBitmap(show ? ShrinkPicture() : ExpandPicture());
     const char* const tip = show ? "Hide search result" : "Show search result";
     cmdExpandShrink->SetToolTip(tip);
-    SetNames(*cmdExpandShrink, "cmdExpandShrink", tip);
+    SetSpokenName(*cmdExpandShrink, tip);
     // What is out of sight must not be reached with the TAB key either.
     lblColHeaderBack->Show(show);
     txtSearchResult->Show(show);
     surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});
     surface_->Refresh();
-    CenterWindow(*this, main_);
-}
-
-void frmSearch::ShowBusyAnimation(bool on) {
-    picAnim->Run(on);
+    CenterOverOwner();
 }
 
 void frmSearch::MoveFocus(SearchFocus focus) {
@@ -406,8 +308,7 @@ void frmSearch::AddToHistory() {
 }
 
 void frmSearch::LetEventsRun(int restMs) {
-    LetPendingEventsRun();
-    wxMilliSleep(static_cast<unsigned long>(restMs));
+    LetPendingEventsRun(restMs);
 }
 
 void frmSearch::HideWindow() {

@@ -1,40 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 
-#include <wx/dialog.h>
-
 #include "database/program_values.h"
-#include "platform/desktop/wx_message_sink.h"
 #include "platform/system/fine_timer.h"
 #include "search/search_session.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/held_enter.h"
-#include "ui/controls/layout_units.h"
+#include "ui/search_options.h"
+#include "ui/side_window.h"
 
 class wxBitmapButton;
 class wxButton;
-class wxCheckBox;
 class wxComboBox;
-class wxRadioButton;
 class wxSizer;
-class wxStaticBox;
 class wxStaticText;
 class wxTextCtrl;
 
 namespace brelex {
 
-class Surface;
 class BusyAnimation;
 class ColumnHeader;
 
 /// The window "Search Database". It is hidden, never destroyed, while the program runs: its
 /// history, its options and the position to go on from survive.
-class frmSearch final : public wxDialog, private SearchView {
+class frmSearch final : public SideWindow, private SearchView {
   public:
     /// `values` must outlive the window; the database is loaded.
     frmSearch(wxTopLevelWindow* main, ProgramValues& values);
@@ -61,10 +54,9 @@ class frmSearch final : public wxDialog, private SearchView {
 
   private:
     void CreateControls();
-    void CreateFrames();
+    void CreateRequest();
     void CreateResultArea();
-    void NameControls();
-    [[nodiscard]] wxSizer* LayoutOfControls();
+    [[nodiscard]] wxSizer* LayoutOfRequest();
     void PlaceControls();
     void BindEvents();
     void FillHistory();
@@ -78,38 +70,25 @@ class frmSearch final : public wxDialog, private SearchView {
 
     void ShowBusy(bool busy);
     void ShowResultArea(bool show);
-    void ShowBusyAnimation(bool on);
     void DrawColumnHeader();
     void RunSearch();
-    [[nodiscard]] SearchRequest Request() const;
     void OnCancel();
     void OnClose(wxCloseEvent& event);
-    void OnPaint(wxPaintEvent& event);
 
-    wxTopLevelWindow& main_;
     ProgramValues& values_;
-    WxMessageSink messages_;
-    LayoutUnits units_;
     SearchSession session_;
     std::optional<SearchDisplay> shown_;
     std::optional<HeldEnter> heldEnter_;
     std::optional<FineTimer> fineTimer_;  // while a search runs
     int innerWidth_ = 0;                  // in pixels
 
-    Surface* surface_ = nullptr;
     wxWindow* statusArea_ = nullptr;
     wxStaticText* lblPrompt_ = nullptr;
     wxComboBox* cboSearchWhat = nullptr;
     std::optional<ComboTextLimit> textLimit_;
+    std::optional<SearchOptions> options_;
     wxButton* cmdSearch = nullptr;
     wxButton* cmdCancel = nullptr;
-    wxStaticBox* fraPosition = nullptr;
-    std::array<wxRadioButton*, 3> optPosition{};
-    wxStaticBox* fraSearchIn = nullptr;
-    std::array<wxRadioButton*, 2> optSearchIn{};
-    wxCheckBox* chkMatchCase = nullptr;
-    wxCheckBox* chkWholeWord = nullptr;
-    wxCheckBox* chkNextSearch = nullptr;
     wxButton* cmdHelp = nullptr;
     wxBitmapButton* cmdExpandShrink = nullptr;
     wxWindow* lblColHeaderBack = nullptr;
