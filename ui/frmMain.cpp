@@ -7,16 +7,15 @@
 #include <vector>
 
 #include <wx/app.h>
-#include <wx/dcclient.h>
 #include <wx/utils.h>
 
 #include "platform/desktop/wx_message_sink.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/modGeneral.h"
 #include "ui/controls/surface.h"
 #include "ui/controls/toolbar.h"
 #include "ui/main/main_menus.h"
-#include "ui/modGeneral.h"
 
 namespace brelex {
 
@@ -113,7 +112,6 @@ void frmMain::PlaceControls() {
 
 void frmMain::BindEvents() {
     Bind(wxEVT_SHOW, &frmMain::OnShow, this);
-    surface_->Bind(wxEVT_PAINT, &frmMain::OnPaint, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
     wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmMain::OnQueryEndSession, this);
     Bind(
@@ -213,15 +211,6 @@ void frmMain::PopUpListMenu(const wxPoint& place) {
     if (!wxTheApp->IsScheduledForDestruction(this) && !IsModalOpen()) {
         PopupMenu(CreateListMenu().get(),
                   place == wxDefaultPosition ? place : ScreenToClient(place));
-    }
-}
-
-void frmMain::OnPaint(wxPaintEvent& /*event*/) {
-    wxPaintDC dc(surface_);
-    surface_->DoPrepareDC(dc);
-    DrawFrameRound(dc, title_.Label().GetRect());
-    for (const wxRect& frame : status_.Frames()) {
-        Draw3DFrame(dc, frame);
     }
 }
 

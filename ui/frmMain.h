@@ -82,7 +82,6 @@ class frmMain final : public wxFrame {
     void PopUpListMenu(const wxPoint& place);
     [[nodiscard]] std::string_view SelectedEntry() const;
 
-    void OnPaint(wxPaintEvent& event);
     void OnShow(wxShowEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
     void OnClose(wxCloseEvent& event);

@@ -20,9 +20,4 @@ Control* Named(Control* control, const wxString& name, const wxString& spokenNam
     return control;
 }
 
-/// The same for a control that was created elsewhere.
-inline void SetNames(wxWindow& window, const wxString& name, const wxString& spokenName) {
-    Named(&window, name, spokenName);
-}
-
 }  // namespace brelex

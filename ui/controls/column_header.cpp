@@ -27,7 +27,7 @@ ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
     : Backdrop(parent),
       units_(units),
       secondColumn_(units.Pixels(kExpansionTextAt)) {
-    SetNames(*this, "picColHeader", "Abbreviation, Expansion");
+    Named(this, "picColHeader", "Abbreviation, Expansion");
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);
 }

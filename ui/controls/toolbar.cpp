@@ -50,7 +50,7 @@ Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents event
       events_(std::move(events)),
       imgToolbarIcon(ToolbarPictures()),
       state_(*this) {
-    SetNames(*this, "picToolbar", "Toolbar");
+    Named(this, "picToolbar", "Toolbar");
     SetDoubleBuffered(true);
     PlaceIcons();
     BindEvents();

@@ -56,27 +56,23 @@ LookupPanel::LookupPanel(wxWindow& surface, const LayoutUnits& units, const Prog
       events_(std::move(events)),
       messages_(&window_),
       lookup_(values, *this, messages_),
-      lblInstruction(new wxStaticText(
-          &surface, wxID_ANY,
-          "&Type the first few letters of the acronym/abbreviation you are looking for:")),
-      txtAbbrv(new wxTextCtrl(&surface, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                              wxTE_PROCESS_ENTER)),
-      lblColHeaderBack(new Backdrop(&surface)),
+      lblInstruction(
+          Named(new wxStaticText(
+                    &surface, wxID_ANY,
+                    "&Type the first few letters of the acronym/abbreviation you are looking for:"),
+                "lblInstruction")),
+      txtAbbrv(Named(new wxTextCtrl(&surface, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                                    wxDefaultSize, wxTE_PROCESS_ENTER),
+                     "txtAbbrv", "First letters of the abbreviation")),
+      lblColHeaderBack(Named(new Backdrop(&surface), "lblColHeaderBack")),
       picColHeader(new ColumnHeader(lblColHeaderBack, units)),
       lstAcronyms(&CreateEntryListControl(surface, units.Pixels(kExpansionTextAt))) {
-    NameControls();
+    Named(&lstAcronyms->Window(), "lstAcronyms", "Entries");
     lstAcronyms->SetRows(*values.AcronymList);
     SetMaxBoxLength(static_cast<std::size_t>(std::max(values.Header.MaxAbbrvLength, 0)));
     LeadAccessKeysTo(window_, {{lblInstruction, txtAbbrv}});
     BindBox();
     BindList();
-}
-
-void LookupPanel::NameControls() {
-    lblInstruction->SetName("lblInstruction");
-    lblColHeaderBack->SetName("lblColHeaderBack");
-    SetNames(*txtAbbrv, "txtAbbrv", "First letters of the abbreviation");
-    SetNames(lstAcronyms->Window(), "lstAcronyms", "Entries");
 }
 
 void LookupPanel::BindBox() {

@@ -81,7 +81,6 @@ class LookupPanel final : private LookupView {
     [[nodiscard]] std::vector<ControlHint> Hints() const;
 
   private:
-    void NameControls();
     void BindBox();
     void BindList();
     void DrawColumnHeader();

@@ -7,8 +7,10 @@
 #include <wx/stattext.h>
 
 #include "base/number_text.h"
+#include "platform/window/accessible_name.h"
 #include "presentation/toolbar_state.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/surface.h"
 
 namespace brelex {
 
@@ -23,7 +25,7 @@ constexpr double kLeastHintWidth = 8;
 
 }  // namespace
 
-StatusStrip::StatusStrip(wxWindow& surface, const LayoutUnits& units)
+StatusStrip::StatusStrip(Surface& surface, const LayoutUnits& units)
     : surface_(surface),
       units_(units),
       lblRecNumber(AddLabel("lblRecNumber")),
@@ -32,10 +34,11 @@ StatusStrip::StatusStrip(wxWindow& surface, const LayoutUnits& units)
       hints_(surface, *lblDescription) {}
 
 wxStaticText* StatusStrip::AddLabel(const char* name) {
-    auto* const label = new wxStaticText(&surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                         wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    auto* const label =
+        Named(new wxStaticText(&surface_, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                               wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END),
+              name);
     label->SetFont(units_.StripFont());
-    label->SetName(name);
     return label;
 }
 
@@ -50,7 +53,7 @@ void StatusStrip::LayoutStatusBar(const wxSize& inner, int numberWidth,
     const int top = inner.y - height - px(kBelow);
     int x = px(1);
     const auto place = [&](wxStaticText& label, int width) {
-        frames_.emplace_back(x, top, width, height);
+        surface_.FrameArea({x, top, width, height});
         label.SetSize(x + px(3), top + px(2), width - px(6), height - px(3));
         x += width + px(kGap);
     };

@@ -3,30 +3,31 @@
 
 #include <vector>
 
-#include <wx/gdicmn.h>
-
 #include "database/program_values.h"
 #include "ui/controls/hover_hints.h"
 #include "ui/controls/layout_units.h"
 
+class wxSize;
 class wxStaticText;
 class wxString;
 class wxWindow;
 
 namespace brelex {
 
+class Surface;
+
 /// The strip along the lower edge of the main window: the number of the selected entry, a hint
 /// about what is under the mouse, and how many entries there are.
 class StatusStrip {
   public:
     /// Makes the labels on `surface`, which must go before this. `units` must outlive this.
-    StatusStrip(wxWindow& surface, const LayoutUnits& units);
+    StatusStrip(Surface& surface, const LayoutUnits& units);
 
     /// The height in pixels of the strip with the room below it.
     [[nodiscard]] int Height() const;
 
     /// Places the labels on the lower edge of a surface of `inner` pixels, the first of them as
-    /// wide as `numberWidth`, and shows how many entries there are.
+    /// wide as `numberWidth`, and shows how many entries there are. Call once.
     void LayoutStatusBar(const wxSize& inner, int numberWidth, const ProgramValues& values);
 
     /// Begins to show the hints of controls under the mouse. Call when all controls are there and
@@ -38,22 +39,18 @@ class StatusStrip {
 
     void ShowNumber(const wxString& text);
 
-    /// The sunken frames round the labels, in pixels of the surface.
-    [[nodiscard]] const std::vector<wxRect>& Frames() const { return frames_; }
-
     [[nodiscard]] wxWindow& NumberWindow() const;
     [[nodiscard]] wxWindow& CountWindow() const;
 
   private:
     [[nodiscard]] wxStaticText* AddLabel(const char* name);
 
-    wxWindow& surface_;
+    Surface& surface_;
     const LayoutUnits& units_;
     wxStaticText* lblRecNumber;
     wxStaticText* lblDescription;
     wxStaticText* lblRecCount;
     HoverHints hints_;
-    std::vector<wxRect> frames_;
 };
 
 }  // namespace brelex

@@ -26,9 +26,9 @@ TextQuestion::TextQuestion(wxWindow* owner, const wxString& title, const wxStrin
     auto* lblPrompt = new wxStaticText(this, wxID_ANY, wxEmptyString);
     lblPrompt->SetLabelText(prompt);
     lblPrompt->Wrap(wxDisplay(owner).GetClientArea().width / 2);
-    m_textctrl = new wxTextCtrl(this, wxID_ANY, proposed, wxDefaultPosition,
-                                FromDIP(wxSize(kAnswerWidth, -1)));
-    SetNames(*m_textctrl, "txtAnswer", prompt);
+    m_textctrl = Named(new wxTextCtrl(this, wxID_ANY, proposed, wxDefaultPosition,
+                                      FromDIP(wxSize(kAnswerWidth, -1))),
+                       "txtAnswer", prompt);
 
     const int gap = FromDIP(kMargin);
     auto* all = new wxBoxSizer(wxVERTICAL);

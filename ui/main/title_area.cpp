@@ -7,15 +7,15 @@
 #include "platform/window/accessible_name.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/backdrop.h"
+#include "ui/controls/surface.h"
 #include "ui/controls/title_image.h"
 
 namespace brelex {
 
-TitleArea::TitleArea(wxWindow& surface)
-    : lblAppTitle(new Backdrop(&surface)),
-      imgAppTitle(new TitleImage(lblAppTitle)) {
-    lblAppTitle->SetName("lblAppTitle");
-    SetNames(*imgAppTitle, "imgAppTitle", kAppTitle);
+TitleArea::TitleArea(Surface& surface)
+    : lblAppTitle(Named(new Backdrop(&surface), "lblAppTitle")),
+      imgAppTitle(Named(new TitleImage(lblAppTitle), "imgAppTitle", kAppTitle)) {
+    surface.FrameChild(*lblAppTitle);
 }
 
 void TitleArea::Place(const wxRect& area, const LayoutUnits& units) {

@@ -10,13 +10,14 @@ class wxWindow;
 
 namespace brelex {
 
+class Surface;
 class TitleImage;
 
 /// The area of the main window that shows what program this is.
 class TitleArea {
   public:
     /// Makes the controls on `surface`, which must go before this.
-    explicit TitleArea(wxWindow& surface);
+    explicit TitleArea(Surface& surface);
 
     /// Places the area, in pixels of the surface, with the image in its middle.
     void Place(const wxRect& area, const LayoutUnits& units);
