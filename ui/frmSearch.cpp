@@ -13,8 +13,6 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "base/scope.h"
-#include "base/text.h"
 #include "platform/list/text_columns.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/paint_now.h"
