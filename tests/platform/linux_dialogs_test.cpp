@@ -15,7 +15,7 @@
 #include "base/file_io.h"
 #include "platform/desktop/modBrowseFolder.h"
 #include "platform/system/program_folder.h"
-#include "tests/platform/system_window.h"
+#include "tests/platform/system_box.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
@@ -135,7 +135,7 @@ class DialogsInFont : public SideWindowTest, public testing::WithParamInterface<
     DialogsInFont() {
         g_object_get(gtk_settings_get_default(), "gtk-font-name", &font_, nullptr);
         g_object_set(gtk_settings_get_default(), "gtk-font-name", GetParam().font, nullptr);
-        Settle();
+        LetEventsArrive();
     }
 
     DialogsInFont(const DialogsInFont&) = delete;
@@ -144,7 +144,7 @@ class DialogsInFont : public SideWindowTest, public testing::WithParamInterface<
     ~DialogsInFont() override {
         g_object_set(gtk_settings_get_default(), "gtk-font-name", font_, nullptr);
         g_free(font_);
-        Settle();
+        LetEventsArrive();
     }
 
   private:

@@ -23,7 +23,7 @@
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/list/text_columns.h"
 #include "platform/system/wide_text.h"
-#include "tests/platform/system_window.h"
+#include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
@@ -252,8 +252,7 @@ TEST_F(MainWindowTest, AWindowThatTheSystemItselfRestoresHidesAgainWhenMinimised
     ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
     ShowWindow(window_->GetHWND(), SW_RESTORE);
     ASSERT_TRUE(WaitFor([&] { return window_->IsShown() && !window_->IsIconized(); }));
-    Settle(100);
-    EXPECT_TRUE(IsWindowVisible(window_->GetHWND()));
+    EXPECT_TRUE(StaysFor(100, [&] { return IsWindowVisible(window_->GetHWND()) != 0; }));
     ShowWindow(window_->GetHWND(), SW_MINIMIZE);
     EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
 }
@@ -266,12 +265,11 @@ TEST_F(MainWindowTest, ADoubleClickWithShiftOpensTheEntryAndShiftEnterDoesNot) {
     list.Window().SetFocus();
     ASSERT_TRUE(WaitFor([&] { return window_->Lookup().IsNavigating; }));
     user_.Char(WXK_RETURN, wxMOD_SHIFT);
-    Settle(150);
-    EXPECT_EQ(opened, 0);
+    EXPECT_TRUE(StaysFor(150, [&] { return opened == 0; }));
     const int row = list.SelectedRow() - list.TopRow();
     user_.MouseMove(
         list.Window().ClientToScreen({40, row * list.RowHeight() + list.RowHeight() / 2}));
-    Settle();
+    LetEventsArrive();
     user_.KeyDown(WXK_SHIFT);
     user_.MouseDblClick();
     user_.KeyUp(WXK_SHIFT);

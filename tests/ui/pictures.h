@@ -5,7 +5,7 @@
 
 #include <wx/image.h>
 
-#include "tests/platform/system_window.h"
+#include "tests/platform/screen.h"
 
 class wxTextCtrl;
 

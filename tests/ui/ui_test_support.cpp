@@ -44,6 +44,10 @@ void LetEventsArrive() {
     }
 }
 
+bool StaysFor(int ms, const std::function<bool()>& condition) {
+    return !WaitFor([&] { return !condition(); }, ms);
+}
+
 void Settle(int ms) {
     WaitFor([] { return false; }, ms);
 }

@@ -38,7 +38,11 @@ bool WaitFor(const std::function<bool()>& condition, int patienceMs = 10000);
 /// another program, such as the window manager, may still be on its way.
 void LetEventsArrive();
 
-/// Runs the event loop for a while, to show that something does not happen.
+/// Runs the event loop for a while, for what must not happen: false as soon as `condition` does not
+/// hold.
+[[nodiscard]] bool StaysFor(int ms, const std::function<bool()>& condition);
+
+/// Runs the event loop for a while.
 void Settle(int ms = 80);
 
 /// Drives a modal window. Takes its steps in order, each as soon as the previous one has returned

@@ -11,7 +11,7 @@
 #include <wx/frame.h>
 
 #include "tests/platform/keyboard.h"
-#include "tests/platform/system_window.h"
+#include "tests/platform/system_box.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
@@ -127,7 +127,7 @@ TEST_F(WxMessageSinkTest, ABoxWithoutOwnerCanBeFound) {
         nullptr, {"So it is.", "A title", MessageIcon::Stop, MessageButtons::Ok},
         [](SystemWindow box) {
             EXPECT_EQ(OwnerOf(box), nullptr);
-            EXPECT_TRUE(WaitFor([&] { return StaysAbove(box); }));
+            EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(box); }));
             EXPECT_TRUE(IsInTaskBar(box));
             EXPECT_TRUE(ShowsTheProgramsIcon(box));
         },
@@ -145,8 +145,9 @@ class OwnedMessageBox : public WxMessageSinkTest {
     }
 
     void TearDown() override {
+        const wxWeakRef<wxWindow> closing(owner_);
         owner_->Destroy();
-        Settle();
+        EXPECT_TRUE(WaitFor([&] { return closing == nullptr; }));
     }
 
     void ExpectItBelongsToTheOwner(wxWindow* given) {
@@ -155,7 +156,7 @@ class OwnedMessageBox : public WxMessageSinkTest {
             [&](SystemWindow box) {
                 EXPECT_EQ(OwnerOf(box), SystemWindowOf(*owner_));
                 EXPECT_FALSE(IsInTaskBar(box));
-                EXPECT_FALSE(StaysAbove(box));
+                EXPECT_FALSE(IsKeptAbove(box));
                 const wxRect area = AreaOf(box);
                 constexpr int kDecorations = 40;
                 const wxRect centered = area.CentreIn(owner_->GetScreenRect());

@@ -49,8 +49,13 @@ class TitleImageTest : public SideWindowTest {
     }
 
     static void ExpectWholeAndSharp(wxWindow& title) {
-        const wxImage picture = PictureOnScreen(title);
-        const wxRect drawn = PartDrawn(picture);
+        wxImage picture;
+        wxRect drawn;
+        EXPECT_TRUE(WaitFor([&] {
+            picture = PictureOfScreen(title.GetScreenRect());
+            drawn = PartDrawn(picture);
+            return !drawn.IsEmpty();
+        }));
         // The name ends before its window does, and the icon fills the height.
         EXPECT_LT(drawn.GetRight(), picture.GetWidth() - 1);
         EXPECT_GT(drawn.GetRight(), picture.GetWidth() * 3 / 4);
@@ -70,17 +75,13 @@ class TitleImageTest : public SideWindowTest {
 };
 
 TEST_F(TitleImageTest, IsWholeAndSharpInTheMainWindow) {
-    Settle(200);
     ExpectWholeAndSharp(*Control("imgAppTitle"));
 }
 
 TEST_F(TitleImageTest, IsWholeAndSharpInTheAboutBox) {
     InSideWindow(
         "frmAbout", [&] { window_->Run(Command::About); },
-        [&] {
-            Settle(200);
-            ExpectWholeAndSharp(In("picAppTitle"));
-        });
+        [&] { ExpectWholeAndSharp(In("picAppTitle")); });
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 #include <wx/textctrl.h>
 
 #include "tests/platform/keyboard.h"
-#include "tests/platform/system_window.h"
+#include "tests/platform/screen.h"
 #include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"

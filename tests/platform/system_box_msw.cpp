@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "tests/platform/system_window.h"
+#include "tests/platform/system_box.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
-#include <oleacc.h>
 #include <utility>
 
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
-#include <wx/textctrl.h>
-#include <wx/toplevel.h>
 
 #include <windows.h>
 
@@ -37,26 +32,6 @@ std::wstring ClassOf(HWND window) {
     name.resize(static_cast<std::size_t>(
         GetClassNameW(window, name.data(), static_cast<int>(name.size()))));
     return name;
-}
-
-struct Search {
-    std::function<bool(HWND)> wanted;
-    HWND found = nullptr;
-};
-
-BOOL CALLBACK KeepIfWanted(HWND window, LPARAM target) {
-    auto* const search = reinterpret_cast<Search*>(target);
-    if (IsWindowVisible(window) == 0 || !search->wanted(window)) {
-        return TRUE;
-    }
-    search->found = window;
-    return FALSE;
-}
-
-SystemWindow FindOpen(const std::function<bool(HWND)>& wanted) {
-    Search search{wanted};
-    EnumThreadWindows(GetCurrentThreadId(), &KeepIfWanted, reinterpret_cast<LPARAM>(&search));
-    return search.found;
 }
 
 std::vector<HWND> Children(HWND window, const wchar_t* className) {
@@ -102,86 +77,20 @@ LPCWSTR IconName(MessageIcon icon) {
     }
 }
 
+BOOL CALLBACK KeepIfBox(HWND window, LPARAM found) {
+    if (IsWindowVisible(window) == 0 || ClassOf(window) != L"#32770") {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 }  // namespace
 
-SystemWindow SystemWindowOf(const wxTopLevelWindow& window) {
-    return window.GetHWND();
-}
-
 SystemWindow OpenMessageBox() {
-    return FindOpen([](HWND window) { return ClassOf(window) == L"#32770"; });
-}
-
-SystemWindow OpenWindow(const std::string& title) {
-    return FindOpen([&](HWND window) { return TextOf(window) == title; });
-}
-
-bool TakesKeys(SystemWindow window) {
-    HWND const focus = GetFocus();
-    return window != nullptr && GetForegroundWindow() == Handle(window) &&
-           (focus == Handle(window) || IsChild(Handle(window), focus) != 0);
-}
-
-wxImage PictureOfScreen(const wxRect& area) {
-    wxBitmap bitmap(area.GetSize(), 24);
-    {
-        wxScreenDC screen;
-        wxMemoryDC dc(bitmap);
-        dc.Blit(wxPoint(0, 0), area.GetSize(), &screen, area.GetPosition());
-    }
-    return bitmap.ConvertToImage();
-}
-
-SystemWindow OwnerOf(SystemWindow window) {
-    return GetWindow(Handle(window), GW_OWNER);
-}
-
-wxRect AreaOf(SystemWindow window) {
-    return RectOf(Handle(window));
-}
-
-bool IsInTaskBar(SystemWindow window) {
-    return OwnerOf(window) == nullptr &&
-           (GetWindowLongW(Handle(window), GWL_EXSTYLE) & WS_EX_TOOLWINDOW) == 0;
-}
-
-bool StaysAbove(SystemWindow window) {
-    return (GetWindowLongW(Handle(window), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-}
-
-bool CanBeResized(SystemWindow window) {
-    return (GetWindowLongW(Handle(window), GWL_STYLE) & (WS_THICKFRAME | WS_MAXIMIZEBOX)) != 0;
-}
-
-wxImage IconOf(SystemWindow window, int size) {
-    const WPARAM which = size > GetSystemMetrics(SM_CXSMICON) ? ICON_BIG : ICON_SMALL;
-    const LRESULT icon = SendMessageW(Handle(window), WM_GETICON, which, 0);
-    return icon == 0 ? wxImage() : DrawnOver(reinterpret_cast<HICON>(icon), size, *wxBLACK);
-}
-
-std::string SpokenNameOf(wxWindow& control) {
-    IAccessible* object = nullptr;
-    if (FAILED(AccessibleObjectFromWindow(control.GetHWND(), static_cast<DWORD>(OBJID_CLIENT),
-                                          IID_IAccessible, reinterpret_cast<void**>(&object)))) {
-        return {};
-    }
-    VARIANT self{};
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
-    BSTR name = nullptr;
-    object->get_accName(self, &name);
-    object->Release();
-    std::string text = name == nullptr ? "" : Utf8OfWide(name);
-    SysFreeString(name);
-    return text;
-}
-
-int LeftOfCharacter(const wxTextCtrl& box, long row, long column) {
-    HWND const edit = static_cast<HWND>(box.GetHandle());
-    const LRESULT index = SendMessageW(edit, EM_LINEINDEX, static_cast<WPARAM>(row), 0) + column;
-    // Two signed halves.
-    return static_cast<short>(
-        LOWORD(SendMessageW(edit, EM_POSFROMCHAR, static_cast<WPARAM>(index), 0)));
+    HWND found = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), &KeepIfBox, reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 std::string TitleOfBox(SystemWindow box) {
