@@ -86,7 +86,7 @@ TEST_F(SystemOrderTest, AllPairsOfSingleBytesCompareAlike) {
 }
 
 TEST_F(SystemOrderTest, AllNeighboursOfTheRealDatabaseCompareAlike) {
-    LoadRealDatabase();
+    ASSERT_NO_FATAL_FAILURE(LoadRealDatabase());
     for (std::int32_t row = 1; row < store_.RowCount(); ++row) {
         mismatches_.Compare(std::string(store_.RowText(row - 1)), std::string(store_.RowText(row)));
     }
@@ -146,7 +146,7 @@ std::int32_t FindWithSystem(const RowList& rows, std::string probe) {
 }
 
 TEST_F(SystemOrderTest, LookUpsFindTheRowsThatTheSystemsFunctionsFind) {
-    LoadRealDatabase();
+    ASSERT_NO_FATAL_FAILURE(LoadRealDatabase());
     std::mt19937 random(6);
     int differing = 0;
     std::string first;
