@@ -85,9 +85,9 @@ TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {
     ASSERT_TRUE(WaitFor([&] { return bar.EdgeOf(0) == Edge::Raised; }));
     user_.Char('F', wxMOD_ALT);
     EXPECT_TRUE(WaitFor([&] { return bar.EdgeOf(0) == Edge::Flat; }));
-    Settle(150);
+    ASSERT_TRUE(WaitFor([] { return !MenuOnScreen().IsEmpty(); }));
     user_.Char(WXK_ESCAPE);
-    Settle(150);
+    EXPECT_TRUE(WaitFor([] { return MenuOnScreen().IsEmpty(); }));
 }
 
 TEST_F(HotKey, BringsACoveredWindowForward) {
@@ -100,8 +100,7 @@ TEST_F(HotKey, BringsACoveredWindowForward) {
 TEST_F(HotKey, BringsAMinimisedWindowBack) {
     wxFrame* const other = Cover();
     window_->Iconize();
-    ASSERT_TRUE(WaitFor([&] { return IsMinimised(); }));
-    Settle(100);
+    ASSERT_TRUE(WaitFor([&] { return IsMinimised() && !IsOnScreen(*window_); }));
     Press();
     EXPECT_TRUE(IsBack());
     other->Destroy();
@@ -110,7 +109,7 @@ TEST_F(HotKey, BringsAMinimisedWindowBack) {
 TEST_F(HotKey, BringsAHiddenWindowBack) {
     wxFrame* const other = Cover();
     window_->Hide();
-    ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
+    ASSERT_TRUE(WaitFor([&] { return !IsOnScreen(*window_); }));
     Press();
     EXPECT_TRUE(IsBack());
     other->Destroy();
@@ -122,7 +121,7 @@ TEST_F(HotKey, BringsTheWindowBackOnTopIfItStaysThere) {
     window_->ProcessWindowEvent(stay);
     ASSERT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
     window_->Hide();
-    Settle(200);
+    ASSERT_TRUE(WaitFor([&] { return !IsOnScreen(*window_); }));
     Press();
     EXPECT_TRUE(IsBack());
     EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); }));
@@ -182,8 +181,7 @@ class MainWindowWithoutTray : public MainWindowTest {
 TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
     window_->Iconize();
     ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
-    Settle(200);
-    EXPECT_TRUE(window_->IsShown());
+    EXPECT_TRUE(StaysFor(200, [&] { return window_->IsShown(); }));
     window_->Iconize(false);
     EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized(); }));
 }
@@ -191,10 +189,9 @@ TEST_F(MainWindowWithoutTray, MinimisingOnlyMinimises) {
 TEST_F(MainWindowWithoutTray, StartedMinimisedTheWindowHidesWhenALatePanelComes) {
     Start(SampleEntries(), "/minimize");
     ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
-    Settle(200);
-    EXPECT_TRUE(window_->IsShown());
+    EXPECT_TRUE(StaysFor(200, [&] { return window_->IsShown(); }));
     const Panel panel;
-    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }, 6000));
+    EXPECT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
 }
 
 TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
@@ -207,16 +204,15 @@ TEST_F(MainWindowWithoutTray, APanelThatComesDiesAndComesBackLosesNothing) {
         ASSERT_TRUE(WaitFor([&] {
             window_->Iconize(false);
             window_->Iconize();
-            Settle(100);
-            return !window_->IsShown();
+            return WaitFor([&] { return !window_->IsShown(); }, 100);
         }));
     }
-    ASSERT_TRUE(WaitFor([&] { return window_->IsShown(); }, 6000));
+    ASSERT_TRUE(WaitFor([&] { return window_->IsShown(); }));
     EXPECT_TRUE(WaitFor([&] { return IsKeptAbove(*window_); })) << "it stays on top, too";
     const Panel panel;
-    Settle(1000);
+    ASSERT_TRUE(WaitFor([] { return ShowsTrayIcon(); }));
     user_.MouseMove(12, 12);
-    Settle();
+    LetEventsArrive();
     user_.MouseClick();
     EXPECT_TRUE(WaitFor([&] { return !window_->IsIconized() && window_->IsActive(); }));
 }
@@ -350,7 +346,9 @@ class StatusNotifierItem : public MainWindowTest {
     void SetUp() override {
         MainWindowTest::SetUp();
         ASSERT_TRUE(WaitFor([&] { return !host_.item.empty(); }));
-        Settle(200);
+        // The program hears that it is registered before it is asked this.
+        ASSERT_NE(host_.Property("Id"), "");
+        LetEventsArrive();
     }
 
     FakeHost host_;
@@ -421,8 +419,7 @@ TEST_F(MainWindowWithoutTray, ADesktopThatRefusesTheIconDoesNotLoseTheWindow) {
     Start(SampleEntries(), "/minimize");
     ASSERT_TRUE(WaitFor([&] { return !host.item.empty(); }));
     ASSERT_TRUE(WaitFor([&] { return window_->IsIconized(); }));
-    Settle(200);
-    EXPECT_TRUE(window_->IsShown());
+    EXPECT_TRUE(StaysFor(200, [&] { return window_->IsShown(); }));
 }
 
 TEST_F(StatusNotifierItem, ItsExitClosesTheWindow) {

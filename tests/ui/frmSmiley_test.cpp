@@ -103,7 +103,7 @@ TEST_F(SmileyWindowTest, ARightClickTellsOfTheProgramAndLeavesNothingSelected) {
     InSmileyWindow([&] {
         SelectSome();
         user_.MouseMove(Text().ClientToScreen(wxPoint(60, 60)));
-        Settle(50);
+        LetEventsArrive();
         user_.MouseClick(wxMOUSE_BTN_RIGHT);
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));
         const AppInfo& info = startUp_->Values().info;
@@ -120,8 +120,7 @@ TEST_F(SmileyWindowTest, ShiftF10DoesTheSameAndCtrlF10Nothing) {
     InSmileyWindow([&] {
         SelectSome();
         user_.Char(WXK_F10, wxMOD_CONTROL);
-        Settle(100);
-        EXPECT_TRUE(boxes.texts.empty());
+        EXPECT_TRUE(StaysFor(100, [&] { return boxes.texts.empty(); }));
         EXPECT_EQ(Text().GetStringSelection().length(), 6U);
         user_.Char(WXK_F10, wxMOD_SHIFT);
         ASSERT_TRUE(WaitFor([&] { return boxes.texts.size() == 1; }));

@@ -178,7 +178,7 @@ TEST_P(OtherKeys, DoNotCopy) {
     InViewer("RAM\tRandom Access Memory", [&] {
         PutOnClipboard(kBefore);
         user_.Char('C', GetParam().modifiers);
-        Settle(150);
+        EXPECT_TRUE(StaysFor(150, [&] { return Side().IsShown(); }));
         EXPECT_EQ(ClipboardText(), kBefore);
     });
 }
@@ -258,7 +258,7 @@ TEST_F(EntryViewerTest, ADoubleClickOpensIt) {
     const wxPoint row(40, window_->List().RowHeight() * 5 / 2);
     EXPECT_EQ(NameOfOpened([&] {
                   user_.MouseMove(window_->List().Window().ClientToScreen(row));
-                  Settle(50);
+                  LetEventsArrive();
                   user_.MouseDblClick();
               }),
               "frmViewEntry");
@@ -273,8 +273,7 @@ TEST_F(EntryViewerTest, WithoutAnEntryThereIsNothingToView) {
     window_->ProcessWindowEvent(view);
     EXPECT_EQ(wxWindow::FindWindowByName("frmViewEntry"), nullptr);
     user_.Char(WXK_RETURN);
-    Settle(100);
-    EXPECT_FALSE(window_->IsModalOpen());
+    EXPECT_TRUE(StaysFor(100, [&] { return !window_->IsModalOpen(); }));
 }
 
 TEST_F(EntryViewerTest, TheEndOfTheProgramClosesItFirst) {

@@ -103,6 +103,10 @@ class HelpViewerTest : public testing::Test {
         EXPECT_TRUE(messages_.shown.empty());
     }
 
+    [[nodiscard]] static bool StaysOpenFor(int ms) {
+        return StaysFor(ms, [] { return !PlaceOfWindow(kHelpTitle).IsEmpty(); });
+    }
+
     void WaitForKeyboard() {
         ASSERT_TRUE(WaitFor([] { return WindowHasKeyboard(kHelpTitle); }, kPatienceMs));
     }
@@ -116,10 +120,13 @@ class HelpViewerTest : public testing::Test {
             [&] {
                 user_.Char('A', wxMOD_CONTROL);
                 user_.Char('C', wxMOD_CONTROL);
-                Settle(100);
-                text = CopiedText();
-                text.erase(0, text.find_first_not_of("\r\n"));
-                return text.starts_with(beginning);
+                return WaitFor(
+                    [&] {
+                        text = CopiedText();
+                        text.erase(0, text.find_first_not_of("\r\n"));
+                        return text.starts_with(beginning);
+                    },
+                    300);
             },
             kPatienceMs);
         EXPECT_TRUE(begins) << text.substr(0, 100);
@@ -137,7 +144,8 @@ class HelpViewerTest : public testing::Test {
         const Standstill standstill(viewer.GetPid());
         user_.Char(WXK_DOWN);
         desktop_.AskWindowToClose(kHelpTitle);
-        Settle();  // the window manager passes it on
+        // The window manager passes it on meanwhile.
+        EXPECT_TRUE(StaysFor(100, [&] { return !viewer.HasEnded(); })) << "it stands still";
         for (int i = 1; i <= 3; ++i) {
             user_.Char(WXK_DOWN);
             user_.Char(WXK_UP);
@@ -157,16 +165,15 @@ TEST_F(HelpViewerTest, HelpOpensOnceAndClosesWhenItIsAskedTo) {
     ASSERT_TRUE(WaitFor([&] { return desktop_.BringWindowForward(kHelpTitle); }, kPatienceMs));
     // Asked for twice it is still one: closing that one leaves none.
     ShowHelp();
-    Settle(1500);
+    EXPECT_TRUE(StaysOpenFor(1500));
     // A window of another title is not meant.
     EXPECT_FALSE(desktop_.BringWindowForward("Brevilexicon Hel"));
     desktop_.AskWindowToClose("Brevilexicon Hel");
-    Settle(300);
+    EXPECT_TRUE(StaysOpenFor(300));
     EXPECT_TRUE(desktop_.BringWindowForward(kHelpTitle));
     CloseHelp(desktop_);
-    EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }, 5000));
-    Settle(300);
-    EXPECT_FALSE(desktop_.BringWindowForward(kHelpTitle));
+    EXPECT_TRUE(WaitFor([&] { return !desktop_.BringWindowForward(kHelpTitle); }));
+    EXPECT_TRUE(StaysFor(300, [&] { return !desktop_.BringWindowForward(kHelpTitle); }));
 }
 
 TEST_F(HelpViewerTest, OpensAtAPageAndTurnsToOthers) {
@@ -177,7 +184,7 @@ TEST_F(HelpViewerTest, OpensAtAPageAndTurnsToOthers) {
     ShowHelp("about.html#donate");
     ExpectPage("About, Credits and Donations");
     ShowHelp();
-    Settle(300);
+    EXPECT_TRUE(StaysOpenFor(300));
     ExpectPage("About, Credits and Donations");
     CloseHelp(desktop_);
     EXPECT_TRUE(WaitFor([] { return PlaceOfWindow(kHelpTitle).IsEmpty(); }, kPatienceMs));
@@ -188,7 +195,7 @@ TEST_F(HelpViewerTest, WithoutAPageOrWithAnUnknownOneItOpensAtTheFirst) {
     ExpectPage("Welcome");
     desktop_.TurnToPage(kHelpTitle, "nowhere.html");
     desktop_.TurnToPage(kHelpTitle, "file:" + Book() + "#zip:keys.html");
-    Settle(300);
+    EXPECT_TRUE(StaysOpenFor(300));
     ExpectPage("Welcome");
     desktop_.TurnToPage(kHelpTitle, "keys.html");
     ExpectPage("Keys");

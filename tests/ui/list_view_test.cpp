@@ -27,14 +27,22 @@ class EntryList : public MainWindowTest {
     void GiveListTheKeyboard() {
         List().Window().SetFocus();
         ASSERT_TRUE(WaitFor([&] { return IsFocusIn(List().Window()); }));
-        Settle(50);
+        LetEventsArrive();
     }
 
     void MoveToRow(std::int32_t row) {
         const ListView view = View();
         const int y = view.firstRowAt + row * view.rowHeight + view.rowHeight / 2;
         user_.MouseMove(List().Window().ClientToScreen(wxPoint(60, y)));
-        Settle(50);
+        LetEventsArrive();
+    }
+
+    // Scrolling may be animated.
+    void AwaitFoundRowSecondFromTop() {
+        ASSERT_TRUE(WaitFor([&] {
+            return List().SelectedRow() > 0 &&
+                   ScrolledTo() == (List().SelectedRow() - 1) * View().rowHeight;
+        }));
     }
 
     void TypeInList(const char* letters) {
@@ -64,13 +72,12 @@ TEST_F(EntryList, AtItsEndTheFirstVisibleRowIsWhole) {
     MoveToRow(1505);
     user_.MouseClick();
     ASSERT_TRUE(WaitFor([&] { return List().SelectedRow() == 1505; }));
-    Settle(300);  // scrolling may be animated
-    EXPECT_EQ(ScrolledTo(), before);
+    EXPECT_TRUE(StaysFor(300, [&] { return ScrolledTo() == before; })) << ScrolledTo();
 }
 
 TEST_F(EntryList, ARightClickOnTheLastVisibleRowScrollsNothing) {
     Type("m1", "M1");
-    Settle(300);
+    AwaitFoundRowSecondFromTop();
     const int before = ScrolledTo();
     const std::int32_t row = before / View().rowHeight + VisibleRows() - 1;
     bool opened = false;
@@ -83,23 +90,22 @@ TEST_F(EntryList, ARightClickOnTheLastVisibleRowScrollsNothing) {
                         }});
     user_.MouseClick(wxMOUSE_BTN_RIGHT);
     EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
-    Settle(300);
     EXPECT_EQ(List().SelectedRow(), row);
-    EXPECT_EQ(ScrolledTo(), before);
+    EXPECT_TRUE(StaysFor(300, [&] { return ScrolledTo() == before; })) << ScrolledTo();
 }
 
 TEST_F(EntryList, GoingToTheLastVisibleRowScrollsNothing) {
     Type("m1", "M1");
-    Settle(300);
+    AwaitFoundRowSecondFromTop();
     const int before = ScrolledTo();
     const std::int32_t row = before / View().rowHeight + VisibleRows() - 1;
     window_->GoToRecordNumber(RecordNumberOf(row));
-    Settle(300);
     EXPECT_EQ(List().SelectedRow(), row);
-    EXPECT_EQ(ScrolledTo(), before);
+    EXPECT_TRUE(StaysFor(300, [&] { return ScrolledTo() == before; })) << ScrolledTo();
     window_->GoToRecordNumber(RecordNumberOf(row + 1));
-    Settle(300);
-    EXPECT_EQ(ScrolledTo(), before + View().rowHeight) << "and to the next one by one row";
+    const auto isOneRowOn = [&] { return ScrolledTo() == before + View().rowHeight; };
+    EXPECT_TRUE(WaitFor(isOneRowOn)) << "and to the next one by one row";
+    EXPECT_TRUE(StaysFor(300, isOneRowOn));
 }
 
 TEST_F(EntryList, LettersTypedIntoItSelectTheEntryThatBeginsWithThem) {
@@ -108,7 +114,8 @@ TEST_F(EntryList, LettersTypedIntoItSelectTheEntryThatBeginsWithThem) {
     EXPECT_TRUE(WaitFor([&] { return BoxText() == "XSS"; })) << BoxText();
     EXPECT_EQ(SelectedRecord(), "XSS\tCross-Site Scripting");
     EXPECT_EQ(LabelText("lblRecNumber"), "1,506");
-    Settle(1100);
+    // After a while a letter begins a new word.
+    EXPECT_TRUE(StaysFor(1100, [&] { return BoxText() == "XSS"; }));
     TypeInList("R");
     EXPECT_TRUE(WaitFor([&] { return BoxText() == "R&D"; })) << BoxText();
     const std::int32_t row = List().SelectedRow();
@@ -121,15 +128,15 @@ TEST_F(EntryList, ALetterThatNoEntryBeginsWithMovesNothing) {
     Type("abc", "ABC");
     GiveListTheKeyboard();
     TypeInList("q7");
-    Settle(200);
-    EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");
+    EXPECT_TRUE(StaysFor(200, [&] { return SelectedRecord() == "ABC\tAtanasoff-Berry Computer"; }))
+        << SelectedRecord();
 }
 
 TEST_F(EntryList, NoKeyOpensAWindowOfTheToolkitsOverIt) {
     Type("abc", "ABC");
     GiveListTheKeyboard();
     user_.Char('F', wxMOD_CONTROL);
-    Settle(100);
+    EXPECT_TRUE(StaysFor(100, [&] { return IsFocusIn(List().Window()); }));
     TypeInList("xml");
     EXPECT_TRUE(WaitFor([&] { return BoxText() == "XML"; })) << BoxText();
 }
@@ -153,7 +160,7 @@ TEST_F(EntryList, TheMenuThatAKeyAsksForOpensAtTheRow) {
                             return true;
                         }});
     user_.Char(WXK_F10, wxMOD_SHIFT);
-    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }, 6000));
+    EXPECT_TRUE(WaitFor([&] { return driver.Done(); }));
     const ListView view = View();
     const int bottom = view.firstRowAt + (List().SelectedRow() + 1) * view.rowHeight;
     const wxPoint row = List().Window().ClientToScreen(wxPoint(0, bottom));

@@ -27,8 +27,7 @@ class Placing : public SideWindowTest {
     }
 
     [[nodiscard]] bool IsCentered() const {
-        return WaitFor([&] { return std::abs(Offset().x) <= 1 && std::abs(Offset().y) <= 1; },
-                       1500);
+        return WaitFor([&] { return std::abs(Offset().x) <= 1 && std::abs(Offset().y) <= 1; });
     }
 
     void ExpectCentered(const std::string& when) const {
@@ -37,8 +36,11 @@ class Placing : public SideWindowTest {
 
     void MoveMain(int x, int y) {
         window_->Move(x, y);
-        ASSERT_TRUE(WaitFor([&] { return std::abs(FrameOnScreen(*window_).x - x) <= 1; }));
-        Settle(100);
+        ASSERT_TRUE(WaitFor([&] {
+            const wxRect frame = FrameOnScreen(*window_);
+            return std::abs(frame.x - x) <= 1 && std::abs(frame.y - y) <= 1;
+        }));
+        LetEventsArrive();
     }
 
     void Open(Command command, const char* name, const std::function<void()>& work) {

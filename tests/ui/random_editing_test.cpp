@@ -77,7 +77,7 @@ class RandomEditing : public MainWindowTest {
     }
 
     // Lets all that was pressed arrive: the simulator returns when it is on its way.
-    static void Arrive() { Settle(5); }
+    static void Arrive() { LetEventsArrive(); }
 
     [[nodiscard]] int Any(int count) {
         return std::uniform_int_distribution<int>(0, count - 1)(random_);
@@ -99,7 +99,11 @@ class RandomEditing : public MainWindowTest {
         const int y = box.y + box.height / 2;
         const auto x = [&] { return box.x + 8 + Any(60); };
         user_.MouseDragDrop(x(), y, x(), y);
-        Settle(60);
+        // A drop takes a while.
+        EXPECT_TRUE(WaitFor([this] {
+            const std::string text = BoxText();
+            return StaysFor(60, [&] { return BoxText() == text; });
+        }));
     }
 
     // One act, which changes the text once at most.
@@ -220,8 +224,8 @@ TEST_F(RandomEditing, ATextThatChangesOnlyInCaseStopsTheListForGood) {
     PutOnClipboard("abc");
     SelectAllInBox();
     user_.Char('V', wxMOD_CONTROL);
+    ASSERT_TRUE(WaitFor([&] { return BoxText() == "abc"; })) << BoxText();
     Arrive();
-    ASSERT_EQ(BoxText(), "abc");
     SelectAllInBox();
     Type("x", "X");
     EXPECT_EQ(SelectedRecord(), "ABC\tAtanasoff-Berry Computer");

@@ -52,8 +52,10 @@ TEST_F(TextSizes, NoSideWindowCutsAText) {
             [&] {
                 ExpectWhole(Side());
                 if (std::string(opened.name) == "frmSearch") {
+                    const int height = Side().GetSize().y;
                     Click("cmdExpandShrink");
-                    Settle(100);
+                    EXPECT_TRUE(WaitFor([&] { return Side().GetSize().y != height; }));
+                    LetEventsArrive();
                     ExpectWhole(Side());
                 }
             });

@@ -25,17 +25,17 @@ class MainWindowWithTray : public MainWindowTest {
             GTEST_SKIP() << "needs WITH_TRAY=1";
         }
         MainWindowTest::SetUp();
-        Settle(200);  // the area takes the icon in
+        ASSERT_TRUE(WaitFor([] { return ShowsTrayIcon(); }));
     }
 
     void TearDown() override {
         MainWindowTest::TearDown();
-        Settle(150);  // and lets it go
+        EXPECT_TRUE(WaitFor([] { return !ShowsTrayIcon(); }));
     }
 
     void ClickIcon(int button) {
         user_.MouseMove(12, 12);
-        Settle();
+        LetEventsArrive();
         user_.MouseClick(button);
     }
 
@@ -61,8 +61,7 @@ class MainWindowWithTray : public MainWindowTest {
 
     void Minimise() {
         window_->Iconize();
-        ASSERT_TRUE(WaitFor([&] { return !window_->IsShown(); }));
-        Settle(100);
+        ASSERT_TRUE(WaitFor([&] { return !window_->IsShown() && !IsOnScreen(*window_); }));
     }
 };
 
@@ -89,7 +88,7 @@ class StayOnTopWithTray : public MainWindowWithTray {
     }
 
     [[nodiscard]] bool IsBackOnTop() const {
-        return IsBack() && WaitFor([&] { return IsKeptAbove(*window_); }, 1500);
+        return IsBack() && WaitFor([&] { return IsKeptAbove(*window_); });
     }
 };
 
@@ -112,8 +111,7 @@ TEST_F(StayOnTopWithTray, IsNotTakenUpBehindASideWindow) {
         [&] {
             window_->Hide();
             window_->Show();
-            Settle(200);
-            EXPECT_FALSE(IsKeptAbove(*window_));
+            EXPECT_TRUE(StaysFor(200, [&] { return !IsKeptAbove(*window_); }));
             return true;
         },
         [&] {
@@ -152,9 +150,7 @@ TEST_F(MainWindowWithTray, ClosingTheMenuDoesNothing) {
         return true;
     }});
     EXPECT_TRUE(WaitFor([&] { return !IsMenuUp(); }));
-    Settle(100);
-    EXPECT_TRUE(window_->IsShown());
-    EXPECT_FALSE(window_->IsModalOpen());
+    EXPECT_TRUE(StaysFor(100, [&] { return window_->IsShown() && !window_->IsModalOpen(); }));
 }
 
 TEST_F(MainWindowWithTray, ClosingTheWindowWhileTheMenuIsUpEndsBoth) {
@@ -182,8 +178,7 @@ TEST_F(MainWindowWithTray, NoMenuWhileAModalWindowIsUp) {
         },
         [&] {
             // Were there a menu, this key would choose its item and hide the window.
-            Settle(400);
-            EXPECT_FALSE(IsMenuUp());
+            EXPECT_TRUE(StaysFor(400, [] { return !IsMenuUp(); }));
             user_.Char('M');
             looked = true;
             return true;

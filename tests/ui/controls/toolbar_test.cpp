@@ -134,9 +134,11 @@ TEST_F(ToolbarWindowTest, AMouseThatOnlyCrossesAnIconLeavesItFlat) {
     MoveTo(BelowTheToolbar());
     user_.MouseMove(MiddleOf(2));
     user_.MouseMove(BelowTheToolbar());
-    Settle(100);
+    LetEventsArrive();
+    EXPECT_TRUE(StaysFor(100, [&] {
+        return Bar().EdgeOf(2) == Edge::Flat && LabelText("lblDescription") != "Smiley Dictionary";
+    }));
     ExpectFlat();
-    EXPECT_NE(LabelText("lblDescription"), "Smiley Dictionary");
 }
 
 struct ActionCase {
@@ -181,8 +183,7 @@ TEST_F(ToolbarWindowTest, APressThatIsDraggedOutOpensNothing) {
     MoveTo(BelowTheToolbar());
     EXPECT_FALSE(Bar().HasCapture());
     user_.MouseUp();
-    Settle(150);
-    EXPECT_FALSE(window_->IsModalOpen());
+    EXPECT_TRUE(StaysFor(150, [&] { return !window_->IsModalOpen(); }));
     ExpectFlat();
 }
 
@@ -197,14 +198,11 @@ TEST_F(ToolbarWindowTest, APressThatSlidesToAnotherIconRunsThatOne) {
 TEST_F(ToolbarWindowTest, TheRightButtonDoesNothing) {
     Hover(0);
     user_.MouseDown(wxMOUSE_BTN_RIGHT);
-    Settle(60);
-    EXPECT_EQ(Bar().EdgeOf(0), Edge::Raised);
+    EXPECT_TRUE(StaysFor(60, [&] { return Bar().EdgeOf(0) == Edge::Raised; }));
     MoveTo(MiddleOf(0) + wxPoint(3, 0));
     EXPECT_EQ(Bar().EdgeOf(0), Edge::Raised);
     user_.MouseUp(wxMOUSE_BTN_RIGHT);
-    Settle(60);
-    EXPECT_FALSE(Bar().HasCapture());
-    EXPECT_FALSE(window_->IsModalOpen());
+    EXPECT_TRUE(StaysFor(60, [&] { return !Bar().HasCapture() && !window_->IsModalOpen(); }));
 }
 
 TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {

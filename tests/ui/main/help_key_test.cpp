@@ -30,8 +30,7 @@ class HelpKeyTest : public SideWindowTest {
         desktop_.viewersStarted.clear();
         user_.Char(WXK_F1);
         ASSERT_TRUE(WaitFor([&] { return !desktop_.viewersStarted.empty(); }));
-        Settle(50);
-        ASSERT_EQ(desktop_.viewersStarted.size(), 1U);
+        ASSERT_TRUE(StaysFor(50, [&] { return desktop_.viewersStarted.size() == 1; }));
         EXPECT_EQ(desktop_.viewersStarted[0].at(2), page);
     }
 };
