@@ -85,4 +85,14 @@ std::set<int> ColumnsOfMeanings(const wxTextCtrl& box) {
     return columns;
 }
 
+int InkIn(const wxImage& image, const wxColour& background, const wxRect& area) {
+    int ink = 0;
+    for (int y = area.GetTop(); y <= area.GetBottom(); ++y) {
+        for (int x = area.GetLeft(); x <= area.GetRight(); ++x) {
+            ink += ColourAt(image, x, y) == background ? 0 : 1;
+        }
+    }
+    return ink;
+}
+
 }  // namespace brelex

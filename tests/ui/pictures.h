@@ -24,4 +24,7 @@ namespace brelex {
 /// that shows the dictionary.
 [[nodiscard]] std::set<int> ColumnsOfMeanings(const wxTextCtrl& box);
 
+/// How many pixels in an area of a picture are not of its background.
+[[nodiscard]] int InkIn(const wxImage& image, const wxColour& background, const wxRect& area);
+
 }  // namespace brelex
