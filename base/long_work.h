@@ -8,12 +8,12 @@
 
 namespace brelex {
 
-/// How long work rests at a pause, in milliseconds.
+/// The rest of long work at a pause, in milliseconds.
 inline constexpr int kPauseMs = 5;
 
 /// Follows long work and may stop it: loading, checking the data, and both searches. The work calls
-/// what it has to tell, and each call does nothing unless a watcher overrides it; so a plain
-/// WorkWatcher is nobody who watches.
+/// the functions below. Each does nothing unless a watcher overrides it, so a plain WorkWatcher
+/// follows nothing.
 class WorkWatcher : public Interface {
   public:
     /// Says what is being done (UTF-8).
@@ -25,16 +25,16 @@ class WorkWatcher : public Interface {
     /// The entry of a row (0-based) is a hit. Returns whether the work goes on.
     [[nodiscard]] virtual bool OnHit(std::int32_t /*row*/) { return true; }
 
-    /// Time for everything else. Returns whether the work goes on.
+    /// Gives everything else its time. Returns whether the work goes on.
     [[nodiscard]] virtual bool OnPause() { return true; }
 };
 
-/// How it stands with the long work of a window.
+/// The state of a window's long work.
 enum class WorkState {
     Idle,      ///< there is none
     Running,   ///< nobody wants it to end early
-    Stopping,  ///< it ends at its next pause; the user waits for what has come of it
-    Dismissed  ///< it ends at its next pause, and its window is gone: nothing is shown any more
+    Stopping,  ///< it ends at its next pause, and the window shows its results
+    Dismissed  ///< it ends at its next pause; its window is closed and shows nothing
 };
 
 }  // namespace brelex

@@ -55,7 +55,7 @@ frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
     picColHeader->SetSize(lblColHeaderBack->GetSize());
 }
 
-// The controls go first: as they go they still report what happens to them.
+// Destroys the controls first, because they still send events while they are destroyed.
 frmAnagram::~frmAnagram() {
     DestroyChildren();
 }
@@ -96,7 +96,7 @@ wxStaticText* frmAnagram::NewFact(const char* widest, long alignment) const {
     return fact;
 }
 
-// The prompt, the letters and what is to be known of them, with the buttons beside them.
+// The prompt, the letters and the facts about them, with the buttons beside them.
 wxSizer* frmAnagram::LayoutOfLetters() {
     const int gap = units_.Pixels(kMargin);
     auto* counts = new wxBoxSizer(wxHORIZONTAL);
@@ -140,7 +140,7 @@ void frmAnagram::PlaceControls() {
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
     wxWindow& list = lstAnagrams->Window();
-    // The list ends between two rows.
+    // The list ends with a full row.
     list.SetMinSize({-1, lstAnagrams->HeightOfRows(lstAnagrams->RowsIn(px(kListHeight)))});
     all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
     FillWindow(all, width);
@@ -169,8 +169,8 @@ void frmAnagram::ShowAnagramWindow() {
     ShowModal();
 }
 
-// The user's closing hides the window. The end of the program lets go of it, and it goes with the
-// main window.
+// Closing by the user hides the window. When the program ends, the session is abandoned, and the
+// main window destroys this one.
 void frmAnagram::OnClose(wxCloseEvent& event) {
     if (event.CanVeto()) {
         event.Veto();

@@ -22,11 +22,11 @@ namespace brelex {
 
 class BusyAnimation;
 
-/// The window "Anagrammatic Search". It is hidden, never destroyed, while the program runs: its
-/// history survives.
+/// The window "Anagrammatic Search". While the program runs, it is hidden but never destroyed, so
+/// that its history survives.
 class frmAnagram final : public SideWindow, private AnagramView {
   public:
-    /// `values` must outlive the window; the database is loaded. `goToRecord` selects an entry in
+    /// `values` must outlive the window. The database is loaded. `goToRecord` selects an entry in
     /// the main window by its record number (1-based).
     frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
                std::function<void(std::int32_t)> goToRecord);
@@ -37,7 +37,7 @@ class frmAnagram final : public SideWindow, private AnagramView {
     /// Shows the window over the main window until it is dismissed.
     void ShowAnagramWindow();
 
-    /// The hits, or the one row that says that there are none.
+    /// The list with the hits, or with a single row that says there are none.
     [[nodiscard]] EntryListControl& Hits() { return *lstAnagrams; }
 
     [[nodiscard]] const RowList& HitRows() const { return session_.Rows(); }

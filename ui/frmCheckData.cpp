@@ -63,7 +63,7 @@ void frmCheckData::CreateControls() {
     surface_->FrameChild(*picProgbar);
     resultArea_ = new Backdrop(surface_);
     imgResult = Named(new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture()), "imgResult");
-    // Whose pictures a result takes.
+    // imgResult takes its picture from one of these two, which stay hidden.
     imgPassed = Named(new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture()), "imgPassed");
     imgFailed = Named(new wxStaticBitmap(resultArea_, wxID_ANY, FailedPicture()), "imgFailed");
     for (wxStaticBitmap* picture : {imgResult, imgPassed, imgFailed}) {
@@ -149,12 +149,12 @@ void frmCheckData::DrawProgress(std::optional<int> percent) {
 void frmCheckData::ShowResult(const CheckDisplay& display) {
     const bool isThere = display.result != CheckResult::None;
     const bool passed = display.result == CheckResult::Passed;
-    // The colours are meant for a light background.
+    // The colors of the picture and the text are meant for a light background.
     const bool needsWhite = isThere && wxSystemSettings::GetAppearance().IsUsingDarkBackground();
     resultArea_->SetBackgroundColour(needsWhite ? *wxWHITE : wxNullColour);
     imgResult->SetBitmap((passed ? imgPassed : imgFailed)->GetBitmap());
     imgResult->Show(isThere);
-    // The text itself comes and goes.
+    // The text itself appears and disappears.
     SetSpokenName(*imgResult, isThere ? display.resultText : "Result");
     lblResult->SetForegroundColour(passed ? Blue() : DarkRed());
     lblResult->SetLabelText(WxText(display.resultText));

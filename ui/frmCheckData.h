@@ -20,10 +20,10 @@ class ProgressBar;
 /// The window "Check Data Integrity". It is made for one use.
 class frmCheckData final : public SideWindow, private CheckView {
   public:
-    /// `values` and `files` must outlive the window; the database is loaded.
+    /// `values` and `files` must outlive the window. The database is loaded.
     frmCheckData(wxTopLevelWindow* main, const ProgramValues& values, TemporaryFiles& files);
 
-    /// Whether the user has ended the check.
+    /// Whether the user has stopped the check.
     [[nodiscard]] bool Aborted() const { return session_.Aborted(); }
 
   private:
@@ -43,7 +43,7 @@ class frmCheckData final : public SideWindow, private CheckView {
     CheckSession session_;
     std::optional<CheckDisplay> shown_;
     std::optional<FineTimer> fineTimer_;  // while a check runs
-    bool isBlinkedOut_ = false;           // the result text, at the moment
+    bool isBlinkedOut_ = false;           // whether the result text is hidden at the moment
 
     wxStaticText* lblExplanation_ = nullptr;
     wxStaticText* lblMessage = nullptr;

@@ -29,7 +29,7 @@ constexpr double kTitleWidth = 190;
 
 constexpr int kCommandDelayMs = 500;
 
-// With the address without its scheme, from the first "www" on.
+// Adds the address without its scheme, from the first "www" on.
 wxString CaptionWith(const std::string& address) {
     const auto www = address.find("www");
     return WxText(std::string(kAppTitle) + " (" +
@@ -45,7 +45,7 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
       surroundings_(surroundings),
       units_(*this),
       surface_(new Surface(this)),
-      // When the toolbar is done with the mouse: a command may end the program.
+      // Waits until the toolbar is done with the mouse, because a command may end the program.
       picToolbar(new Toolbar(
           surface_, units_,
           {.onHot = [this](int icon) { status_.ShowHintOfIcon(icon); },
@@ -84,7 +84,7 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
     tmrCheckCommand.StartOnce(kCommandDelayMs);
 }
 
-// The controls go first: as they go they still report what happens to them.
+// Destroys the controls first, because they still send events while they are destroyed.
 frmMain::~frmMain() {
     DestroyChildren();
 }
@@ -93,8 +93,8 @@ void frmMain::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
-    // Of what the screen does not have, the instruction takes another line and the list goes
-    // without.
+    // If the screen is too narrow, the instruction takes more lines; if it is too low, the list
+    // gets fewer rows.
     wxSize inner(std::max(px(kInnerWidth), boxLeft + lookup_.InstructionWidth() + margin),
                  px(kInnerHeight));
     inner.DecTo(LargestInside(*this));
@@ -102,7 +102,7 @@ void frmMain::PlaceControls() {
     const int top = picToolbar->GetSize().y;
     const int belowBox = lookup_.PlaceBox(boxLeft, top, inner.x - boxLeft - margin);
     title_.Place({margin, top, px(kTitleWidth), belowBox - top}, units_);
-    // The list, and the window with it, ends between two rows.
+    // The list ends with a full row, and so does the window.
     const int belowList = status_.Height() + margin;
     inner.y = belowList + lookup_.PlaceList(margin, belowBox + margin, inner.x - 2 * margin,
                                             inner.y - belowList);
@@ -117,13 +117,13 @@ void frmMain::BindEvents() {
     Bind(
         wxEVT_MENU, [this](wxCommandEvent& event) { Run(CommandOf(event.GetId())); },
         IdOf(kCommands.front().command), IdOf(kCommands.back().command));
-    // GTK does not tell when the mouse leaves with a menu open.
+    // GTK does not report that the mouse leaves while a menu is open.
     Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
         picToolbar->LetGo();
         event.Skip();
     });
     Bind(wxEVT_TIMER, &frmMain::OnCheckCommand, this, tmrCheckCommand.GetId());
-    // Where a control is no window of its own, its mouse events are those of the one under it.
+    // If a control has no window of its own, its mouse events go to the window under it.
     for (wxWindow* window :
          std::initializer_list<wxWindow*>{surface_, &status_.NumberWindow(), &status_.CountWindow(),
                                           &title_.Label(), &title_.Image()}) {
@@ -176,7 +176,7 @@ void frmMain::OnModal(bool begins) {
     }
 }
 
-// The check mark stays even if the system could not do it.
+// The check mark shows the user's choice even if the system does not carry it out.
 void frmMain::CheckStayOnTop(bool stays) {
     IsStayOnTop = stays;
     GetMenuBar()->Check(IdOf(Command::StayOnTop), stays);
@@ -191,13 +191,13 @@ void frmMain::CheckRunAtStartup(bool runs) {
 
 void frmMain::ShowMessage(const Message& message) {
     const SideWindows::ModalScope modal(sideWindows_);
-    WxMessageSink(nullptr).Show(message);  // over whatever is in front
+    WxMessageSink(nullptr).Show(message);  // over the window in front
 }
 
 void frmMain::GoToRecordNumber(RecordNumber nRecordNumber) {
     std::optional<SideWindows::ModalScope> modal;
     if (nRecordNumber == kAskForRecord) {
-        modal.emplace(sideWindows_);  // it asks, and may complain
+        modal.emplace(sideWindows_);  // the command asks a question and may show an error
     }
     lookup_.GoToRecordNumber(nRecordNumber);
 }
@@ -214,7 +214,7 @@ void frmMain::PopUpListMenu(const wxPoint& place) {
     }
 }
 
-// The desktop forgets the band that a window was in when it hides (GTK on X11).
+// The desktop forgets a window's band when the window is hidden (GTK on X11).
 void frmMain::OnShow(wxShowEvent& event) {
     if (event.IsShown() && IsStayOnTop && !IsModalOpen()) {
         SetTopMost(*this, true);
@@ -241,7 +241,7 @@ void frmMain::OnDoubleClick(wxMouseEvent& event) {
 }
 
 void frmMain::OnClose(wxCloseEvent& event) {
-    // Whoever shows the modal window still needs it.
+    // The code that shows the modal window still needs this one.
     if (IsModalOpen()) {
         if (event.CanVeto()) {
             event.Veto();
@@ -256,11 +256,11 @@ void frmMain::OnClose(wxCloseEvent& event) {
     tray_.Remove();
     documents_.CloseHelpViewer();
     Destroy();
-    wxWakeUpIdle();  // which destroys; what closed the window may not be an event of the toolkit's
+    wxWakeUpIdle();  // this destroys the window even outside an event of the toolkit
 }
 
-// A modal window keeps the main window from closing, but not the user from logging off: nothing is
-// lost, and the system ends the process.
+// A modal window prevents the main window from closing, but it must not prevent the user from
+// logging off. Nothing would be lost, and the system ends the process.
 // NOLINTNEXTLINE(readability-make-member-function-const): the toolkit binds no const methods
 void frmMain::OnQueryEndSession(wxCloseEvent& event) {
     event.Skip(!IsModalOpen());

@@ -27,45 +27,46 @@ namespace brelex {
 class Surface;
 class Toolbar;
 
-/// What the main window needs of the outside.
+/// What the main window needs from outside.
 struct MainSurroundings {
     TemporaryFiles& files;    ///< must outlive the window
     Desktop& desktop;         ///< must outlive the window
     std::string programName;  ///< see ProgramName
     std::string commandLine;  ///< the whole argument text, UTF-8
 
-    /// Registers the program of a folder and a name for the log-on, or unregisters it; see
-    /// SetRunAtStartup.
+    /// Registers a program, given its folder and name, to run at log-on, or removes the
+    /// registration. See SetRunAtStartup.
     std::function<bool(const std::string&, const std::string&, bool)> setRunAtStartup;
 };
 
-/// The main window: the look-up box over the list of all entries. It composes its parts, lays them
-/// out and runs the commands. Closing it ends the program.
+/// The main window: the look-up box over the list of all entries. It puts its parts together, lays
+/// them out and runs the commands. Closing it ends the program.
 class frmMain final : public wxFrame {
   public:
-    /// The database is loaded into `values`, which must outlive the window. The window is ready to
-    /// be shown; its icon is there, and the program is registered for the log-on.
+    /// The database is loaded into `values`, which must outlive the window. When this returns, the
+    /// window is ready to be shown, its icon is in place, and the program is registered to run at
+    /// log-on.
     frmMain(ProgramValues& values, const MainSurroundings& surroundings);
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
     ~frmMain() override;
 
-    /// Does what a command says. The only place that knows what each of them does.
+    /// Runs a command. No other code knows what each command does.
     void Run(Command command);
 
-    /// Opens a side window modally, by its number in kCommands; any other number opens none.
+    /// Opens a side window modally, by its number in kCommands. Opens nothing for any other number.
     void OpenModalForm(int number) { sideWindows_.OpenModalForm(number); }
 
-    /// Whether something modal is up.
+    /// Whether something modal is shown.
     [[nodiscard]] bool IsModalOpen() const { return sideWindows_.IsModalOpen; }
 
-    /// Shows a message that no command of the window is about.
+    /// Shows a message that does not belong to any command of the window.
     void ShowMessage(const Message& message);
 
-    /// Selects an entry; kAskForRecord asks the user for its number.
+    /// Selects an entry. kAskForRecord asks the user for its number.
     void GoToRecordNumber(RecordNumber nRecordNumber);
 
-    /// The behavior of the look-up; its fields are the window's state.
+    /// The behavior of the look-up. Its fields are the window's state.
     [[nodiscard]] LookupBox& Lookup() { return lookup_.Behavior(); }
 
     [[nodiscard]] EntryListControl& List() { return lookup_.List(); }

@@ -66,7 +66,7 @@ frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     DrawColumnHeader();
 }
 
-// The controls go first: as they go they still report what happens to them.
+// Destroys the controls first, because they still send events while they are destroyed.
 frmSearch::~frmSearch() {
     DestroyChildren();
 }
@@ -212,8 +212,8 @@ void frmSearch::OnCancel() {
     }
 }
 
-// The user's closing hides the window. The end of the program ends a search and lets go of the
-// window, which goes with the main window.
+// Closing by the user hides the window. When the program ends, a running search ends, and the main
+// window destroys this one.
 void frmSearch::OnClose(wxCloseEvent& event) {
     if (event.CanVeto()) {
         event.Veto();
@@ -283,7 +283,7 @@ void frmSearch::ShowResultArea(bool show) {
     const char* const tip = show ? "Hide search result" : "Show search result";
     cmdExpandShrink->SetToolTip(tip);
     SetSpokenName(*cmdExpandShrink, tip);
-    // What is out of sight must not be reached with the TAB key either.
+    // The TAB key must not reach hidden controls either.
     lblColHeaderBack->Show(show);
     txtSearchResult->Show(show);
     surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});

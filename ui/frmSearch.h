@@ -25,11 +25,11 @@ namespace brelex {
 class BusyAnimation;
 class ColumnHeader;
 
-/// The window "Search Database". It is hidden, never destroyed, while the program runs: its
-/// history, its options and the position to go on from survive.
+/// The window "Search Database". While the program runs, it is hidden but never destroyed, so that
+/// its history, its options and the position to continue from survive.
 class frmSearch final : public SideWindow, private SearchView {
   public:
-    /// `values` must outlive the window; the database is loaded.
+    /// `values` must outlive the window. The database is loaded.
     frmSearch(wxTopLevelWindow* main, ProgramValues& values);
     frmSearch(const frmSearch&) = delete;
     frmSearch& operator=(const frmSearch&) = delete;
@@ -38,8 +38,8 @@ class frmSearch final : public SideWindow, private SearchView {
     /// Shows the window over the main window until it is dismissed.
     void ShowSearchWindow();
 
-    int ExpandedHeight = 0;  ///< of the inside, in pixels, with the result area
-    int ShrunkHeight = 0;    ///< without it
+    int ExpandedHeight = 0;  ///< height of the inside with the result area, in pixels
+    int ShrunkHeight = 0;    ///< the same without the result area
 
     // The rest of the window's state, which the session keeps.
     [[nodiscard]] bool ResultAreaShown() const { return session_.ResultAreaShown(); }

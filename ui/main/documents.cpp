@@ -20,13 +20,13 @@ Documents::Documents(wxWindow& owner, ProgramPlace place, Desktop& desktop, Whil
 
 void Documents::ShowHelp(const std::string& page) {
     whileModal_([&] {
-        WxMessageSink messages(nullptr);  // over whatever is in front
+        WxMessageSink messages(nullptr);  // over the window in front
         ShowHelpContents(place_, desktop_, messages, page);
     });
 }
 
-// The main window's own key is that of its menu. In a window of another program, such as a browser
-// for folders, none is ours.
+// In the main window, the key belongs to the menu. In a window of another program, such as a folder
+// browser, no key is ours.
 bool Documents::ShowHelpOf(const std::string& window) {
     const std::string_view page = HelpPageOf(window);
     if (window == "frmMain" || page.empty()) {
@@ -45,7 +45,7 @@ void Documents::ShowReadMe() {
 
 void Documents::OpenAddress(const std::string& address) {
     if (isOpeningAddress_) {
-        return;  // what is let run may ask for it again
+        return;  // the events that run here may ask for it again
     }
     const Busy busy(isOpeningAddress_);
     desktop_.Open(address);

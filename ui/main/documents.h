@@ -11,14 +11,16 @@ class wxWindow;
 
 namespace brelex {
 
-/// What the program opens outside its windows: the help, also with F1 in each window as long as
-/// this lives, the read-me, and addresses.
+/// Opens what the program shows outside its own windows: the help, the read-me file, and addresses.
+/// During its lifetime, F1 opens the help in every window.
 class Documents {
   public:
-    /// Calls what it is given, which may show messages, while nothing else of the program is used.
+    /// Calls the function it receives, which may show messages, while nothing else in the program
+    /// can be used.
     using WhileModal = std::function<void(const std::function<void()>&)>;
 
-    /// `owner` owns messages about the read-me. It and `desktop` must outlive this.
+    /// `owner` owns the messages about the read-me file. `owner` and `desktop` must outlive this
+    /// object.
     Documents(wxWindow& owner, ProgramPlace place, Desktop& desktop, WhileModal whileModal);
 
     /// Shows a page of the help; see ShowHelpContents.

@@ -8,11 +8,12 @@
 
 namespace brelex {
 
-/// Has F1 show the help in each window of the program, also in modal ones, as long as this lives.
+/// During its lifetime, makes F1 show the help in every window of the program, including modal
+/// ones.
 class HelpKey final : public wxEventFilter {
   public:
-    /// `showHelp` is told the name of the window (UTF-8), which is the toolkit's for a window that
-    /// is not ours. It returns false for a window that sees to the key itself.
+    /// Calls `showHelp` with the name of the window (UTF-8). For a window that is not ours, this is
+    /// the toolkit's name. `showHelp` returns false for a window that handles the key itself.
     explicit HelpKey(std::function<bool(const std::string&)> showHelp);
     HelpKey(const HelpKey&) = delete;
     HelpKey& operator=(const HelpKey&) = delete;

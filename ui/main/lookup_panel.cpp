@@ -48,7 +48,7 @@ std::optional<NavigationKey> NavigationKeyOf(int keyCode) {
 
 }  // namespace
 
-// The box stands directly behind the instruction, whose access key leads to it.
+// The box must come directly after the instruction, whose access key leads to it.
 LookupPanel::LookupPanel(wxWindow& surface, const LayoutUnits& units, const ProgramValues& values,
                          LookupPanelEvents events)
     : window_(dynamic_cast<wxTopLevelWindow&>(*wxGetTopLevelParent(&surface))),
@@ -147,8 +147,8 @@ std::vector<ControlHint> LookupPanel::Hints() const {
             {*picColHeader, listHint}};
 }
 
-// One edit is one change: overtyping a selection deletes and inserts, and on GTK that is reported
-// twice. So a change waits until the toolkit is done with the edit, but never beyond the next key.
+// One edit must be one change. Typing over a selection deletes and inserts, and GTK reports both.
+// So a change waits until the toolkit has finished the edit, but never beyond the next key.
 void LookupPanel::OnBoxText(wxCommandEvent& /*event*/) {
     if (!std::exchange(boxChangePending_, true)) {
         txtAbbrv->CallAfter([this] { FlushBoxChange(); });
@@ -167,7 +167,7 @@ void LookupPanel::OnBoxKeyDown(wxKeyEvent& event) {
     if (!key) {
         event.Skip();
     } else if (*key == NavigationKey::Enter && event.HasAnyModifiers()) {
-        MoveCaretToEnd();  // the list opens no entry then
+        MoveCaretToEnd();  // in this case the list opens no entry
     } else {
         lookup_.OnBoxKeyDown(*key);
     }
@@ -175,7 +175,7 @@ void LookupPanel::OnBoxKeyDown(wxKeyEvent& event) {
 
 void LookupPanel::OnBoxFocus(wxFocusEvent& event) {
     if (!std::exchange(caretStays_, false)) {
-        // After the toolkit has placed the caret where the mouse was pressed.
+        // This must come after the toolkit has placed the caret at the mouse.
         txtAbbrv->CallAfter([this] { txtAbbrv->SelectAll(); });
     }
     event.Skip();
@@ -190,7 +190,7 @@ void LookupPanel::OnBoxPaste(wxClipboardTextEvent& event) {
     event.Skip(!PasteWhatFits(*txtAbbrv, maxBoxLength_));
 }
 
-// Where the mouse is the row is seen, and must stay under it.
+// A row under the mouse is visible and must stay under the mouse.
 void LookupPanel::ShowMenuAtMouse(std::int32_t row) {
     lstAcronyms->SelectRow(row);
     ShowMenuAt(wxDefaultPosition);
@@ -233,7 +233,8 @@ void LookupPanel::SendKeyToList(NavigationKey key) {
 void LookupPanel::SetBoxText(const std::string& text) {
     const wxString shown = WxText(text);
     if (shown.length() > maxBoxLength_) {
-        // A damaged header may say less than its abbreviations have. GTK would show nothing then.
+        // A damaged header may state less than the length of its abbreviations. GTK would then show
+        // nothing.
         SetMaxBoxLength(shown.length());
     }
     txtAbbrv->ChangeValue(shown);
@@ -249,7 +250,7 @@ void LookupPanel::SetRecordNumberText(const std::string& text) {
 
 std::string LookupPanel::AskText(const std::string& title, const std::string& prompt,
                                  const std::string& defaultText) {
-    // The box gets the focus back with its caret where it is put meanwhile.
+    // The box gets the focus back, and its caret stays where it is put in the meantime.
     caretStays_ = txtAbbrv->HasFocus();
     TextQuestion dialog(&window_, WxText(title), WxText(prompt), WxText(defaultText));
     return dialog.ShowModal() == wxID_OK ? Utf8Text(dialog.GetValue()) : std::string();

@@ -30,54 +30,54 @@ namespace brelex {
 
 class ColumnHeader;
 
-/// What the look-up asks of the window that it is part of.
+/// What the look-up panel needs from its window.
 struct LookupPanelEvents {
-    std::function<void()> onEntryChosen;  ///< the selected entry is to be opened
+    std::function<void()> onEntryChosen;  ///< opens the selected entry
 
-    /// The number of the selected entry as it is to be shown.
+    /// Shows the number of the selected entry.
     std::function<void(const wxString&)> onNumberChanged;
 
-    /// The menu of the selected entry is to be shown, at a place on the screen or, with
-    /// wxDefaultPosition, at the mouse.
+    /// Shows the menu of the selected entry at a place on the screen, or with wxDefaultPosition at
+    /// the mouse.
     std::function<void(const wxPoint&)> onMenuWanted;
 };
 
 /// The look-up box with its instruction, and the list of entries under its header.
 class LookupPanel final : private LookupView {
   public:
-    /// Makes the controls on `surface`, which must go before this. The entries of `values` are
-    /// loaded; `values` and `units` must outlive this.
+    /// Creates the controls on `surface`, which must be destroyed before this object. The entries
+    /// in `values` are loaded. `values` and `units` must outlive this object.
     LookupPanel(wxWindow& surface, const LayoutUnits& units, const ProgramValues& values,
                 LookupPanelEvents events);
     LookupPanel(const LookupPanel&) = delete;
     LookupPanel& operator=(const LookupPanel&) = delete;
     ~LookupPanel() override = default;
 
-    /// The width in pixels of the instruction in one line.
+    /// The width in pixels of the instruction on a single line.
     [[nodiscard]] int InstructionWidth() const;
 
-    /// Places the box under its instruction, which takes as many lines as it needs. All in pixels
-    /// of the surface; returns the lower edge.
+    /// Places the box under its instruction, which takes as many lines as it needs. Takes pixels of
+    /// the surface and returns the lower edge.
     int PlaceBox(int left, int top, int width);
 
-    /// Places the list with its header between `top` and `bottom`, but shows some rows at least,
-    /// and none in part. Returns the lower edge.
+    /// Places the list with its header between `top` and `bottom`. Shows at least a few rows and no
+    /// partial rows. Returns the lower edge.
     int PlaceList(int left, int top, int width, int bottom);
 
     void GiveBoxTheFocus();
 
-    /// See LookupBox::GoToRecordNumber. What is asked and told is modal.
+    /// See LookupBox::GoToRecordNumber. Its questions and messages are modal.
     void GoToRecordNumber(RecordNumber nRecordNumber);
 
     /// The selected row (0-based), -1 if there is none.
     [[nodiscard]] std::int32_t SelectedRow() const override;
 
-    /// The behavior of the look-up; its fields are the window's state.
+    /// The behavior of the look-up. Its fields are the window's state.
     [[nodiscard]] LookupBox& Behavior() { return lookup_; }
 
     [[nodiscard]] EntryListControl& List() { return *lstAcronyms; }
 
-    /// What the controls are for.
+    /// The hints of the controls.
     [[nodiscard]] std::vector<ControlHint> Hints() const;
 
   private:
@@ -115,7 +115,7 @@ class LookupPanel final : private LookupView {
     bool boxChangePending_ = false;
     wxTimer menuTimer_;
     wxPoint menuPlace_;
-    bool caretStays_ = false;  // getting the focus next time selects nothing
+    bool caretStays_ = false;  // the next time the box gets the focus, it selects nothing
 
     wxStaticText* lblInstruction;
     wxTextCtrl* txtAbbrv;

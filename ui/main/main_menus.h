@@ -14,15 +14,15 @@ namespace brelex {
     return wxID_HIGHEST + 1 + static_cast<int>(command);
 }
 
-/// The command of a menu item with such an identifier.
+/// The command of the menu item with this identifier.
 [[nodiscard]] constexpr Command CommandOf(int id) {
     return static_cast<Command>(id - wxID_HIGHEST - 1);
 }
 
-/// The menu `mnuListboxRClick` of a row of the list.
+/// Creates the menu `mnuListboxRClick` of a row of the list.
 [[nodiscard]] std::unique_ptr<wxMenu> CreateListMenu();
 
-/// The main window's menu bar. The frame that it is given to owns it.
+/// Creates the main window's menu bar. The frame that receives it owns it.
 [[nodiscard]] wxMenuBar* CreateMainMenus();
 
 }  // namespace brelex

@@ -60,7 +60,7 @@ void StatusStrip::LayoutStatusBar(const wxSize& inner, int numberWidth,
     place(*lblRecNumber, numberWidth);
     const wxString count =
         WxText(FormatGrouped(values.RecordCount, values.groupSeparator) + " entries");
-    // On a screen too small for all the number of entries comes first.
+    // If the screen is too small for everything, the number of entries has priority.
     const int countWidth = lblRecCount->GetTextExtent(count).x + px(12);
     place(*lblDescription, std::max(std::min(px(kHintWidth), inner.x - x - px(5) - countWidth),
                                     px(kLeastHintWidth)));

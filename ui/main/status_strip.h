@@ -16,25 +16,26 @@ namespace brelex {
 
 class Surface;
 
-/// The strip along the lower edge of the main window: the number of the selected entry, a hint
-/// about what is under the mouse, and how many entries there are.
+/// The strip along the lower edge of the main window. It shows the number of the selected entry, a
+/// hint for the control under the mouse, and the number of entries.
 class StatusStrip {
   public:
-    /// Makes the labels on `surface`, which must go before this. `units` must outlive this.
+    /// Creates the labels on `surface`, which must be destroyed before this object. `units` must
+    /// outlive this object.
     StatusStrip(Surface& surface, const LayoutUnits& units);
 
-    /// The height in pixels of the strip with the room below it.
+    /// The height of the strip in pixels, including the room below it.
     [[nodiscard]] int Height() const;
 
     /// Places the labels on the lower edge of a surface of `inner` pixels, the first of them as
     /// wide as `numberWidth`, and shows how many entries there are. Call once.
     void LayoutStatusBar(const wxSize& inner, int numberWidth, const ProgramValues& values);
 
-    /// Begins to show the hints of controls under the mouse. Call when all controls are there and
-    /// the strip is laid out.
+    /// Starts showing hints for controls under the mouse. Call once all controls exist and the
+    /// strip is laid out.
     void WatchHints(const std::vector<ControlHint>& hints);
 
-    /// Says what an icon of the toolbar (0-based) is for; nothing for -1.
+    /// Shows the hint of a toolbar icon (0-based), or nothing for -1.
     void ShowHintOfIcon(int icon);
 
     void ShowNumber(const wxString& text);

@@ -11,8 +11,8 @@
 
 namespace brelex {
 
-// Made of the parts of the toolkit's question, which would lay itself out in a window that can be
-// resized.
+// Builds the toolkit's dialog from its parts, because the toolkit's own layout would make the
+// window resizable.
 TextQuestion::TextQuestion(wxWindow* owner, const wxString& title, const wxString& prompt,
                            const wxString& proposed) {
     constexpr int kAnswerWidth = 300;

@@ -5,7 +5,7 @@
 
 namespace brelex {
 
-/// Asks for a line of text. The proposed one is selected, so that typing replaces it.
+/// Asks for a line of text. The suggested text is selected, so that typing replaces it.
 class TextQuestion final : public wxTextEntryDialog {
   public:
     TextQuestion(wxWindow* owner, const wxString& title, const wxString& prompt,

@@ -13,16 +13,16 @@ namespace brelex {
 class Surface;
 class TitleImage;
 
-/// The area of the main window that shows what program this is.
+/// The area of the main window that shows which program this is.
 class TitleArea {
   public:
-    /// Makes the controls on `surface`, which must go before this.
+    /// Creates the controls on `surface`, which must be destroyed before this object.
     explicit TitleArea(Surface& surface);
 
-    /// Places the area, in pixels of the surface, with the image in its middle.
+    /// Places the area, in pixels of the surface, with the image at its center.
     void Place(const wxRect& area, const LayoutUnits& units);
 
-    /// Tells version and copyright.
+    /// The hint with version and copyright.
     [[nodiscard]] ControlHint Hint(const ProgramValues& values) const;
 
     [[nodiscard]] wxWindow& Label() const { return *lblAppTitle; }

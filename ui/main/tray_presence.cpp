@@ -22,7 +22,7 @@ TrayPresence::TrayPresence(wxFrame& window, TrayPresenceEvents events)
     window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
 }
 
-// The window still tells of much while it goes.
+// The window still sends many events while it is destroyed.
 TrayPresence::~TrayPresence() {
     window_.Unbind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Unbind(wxEVT_SHOW, &TrayPresence::OnShow, this);
@@ -34,19 +34,19 @@ TrayEvents TrayPresence::EventsOfIcon() {
     events.onLeftRelease = [this] { behaviour_.OnLeftRelease(); };
     events.onRightRelease = [this] { behaviour_.OnRightRelease(); };
     events.menu = [this] { return behaviour_.Menu(); };
-    // When the menu, and the desktop that may have sent this, are done with it: it can end the
-    // program.
+    // Waits until the menu, and the desktop that may have sent this, are done with it. The command
+    // can end the program.
     events.onMenuItem = [this](Command command) {
         window_.CallAfter([this, command] { behaviour_.OnMenuItem(command); });
     };
-    // A program that starts with the session is often there before the panel is.
+    // A program that starts with the session is often running before the panel is.
     events.onShown = [this] {
         if (window_.IsShown() && window_.IsIconized()) {
             window_.Hide();
         }
     };
     events.onGone = [this] {
-        // A window that nothing could bring back must not stay hidden.
+        // A window must not stay hidden if nothing could bring it back.
         if (!window_.IsShown()) {
             window_.Iconize();
             window_.Show();
@@ -57,7 +57,7 @@ TrayEvents TrayPresence::EventsOfIcon() {
 
 void TrayPresence::MinimizeWindow() {
     window_.Iconize();
-    // Wayland does not tell of a minimized window.
+    // Wayland does not report that a window is minimized.
     if (HasIcon()) {
         window_.Hide();
     }
@@ -77,8 +77,8 @@ bool TrayPresence::HasIcon() const {
     return icon_ != nullptr && icon_->IsShown();
 }
 
-// Minimizing hides the window into its icon. Without an icon on the screen it only minimizes, as
-// nothing could bring it back.
+// Minimizing hides the window, and its icon brings it back. Without an icon on the screen nothing
+// could, so the window is only minimized.
 void TrayPresence::OnIconize(wxIconizeEvent& event) {
     if (event.IsIconized() && HasIcon()) {
         window_.Hide();
@@ -87,8 +87,8 @@ void TrayPresence::OnIconize(wxIconizeEvent& event) {
     event.Skip();
 }
 
-// Windows restores the window itself for the hot key. The toolkit takes no notice of that, and
-// would not tell of the window's being minimized any more.
+// Windows itself restores the window for the hot key. The toolkit does not notice and would no
+// longer report when the window is minimized.
 void TrayPresence::OnShow(wxShowEvent& event) {
     if (event.IsShown()) {
         CatchUpWithSystem();

@@ -15,27 +15,28 @@ class wxShowEvent;
 
 namespace brelex {
 
-/// What the icon asks of the window that it stands for.
+/// What the icon needs from its window.
 struct TrayPresenceEvents {
     std::function<bool()> isModalOpen;
-    std::function<void()> raiseModal;        ///< brings what is modal over the window to the front
-    std::function<void(Command)> onCommand;  ///< a command of the icon's menu was chosen
+    std::function<void()>
+        raiseModal;  ///< brings the modal window over the main window to the front
+    std::function<void(Command)> onCommand;  ///< the user chose a command in the icon's menu
 };
 
-/// The main window's presence on the desktop: its icon in the notification area, into which
-/// minimizing hides it, and the hot key that brings it forward.
+/// The main window's presence on the desktop: its icon in the notification area, which replaces the
+/// minimized window, and the hot key that brings the window forward.
 class TrayPresence final : private TrayOwner {
   public:
-    /// Adds the icon and asks for the hot key. `window` must outlive this.
+    /// Adds the icon and requests the hot key. `window` must outlive this object.
     TrayPresence(wxFrame& window, TrayPresenceEvents events);
     TrayPresence(const TrayPresence&) = delete;
     TrayPresence& operator=(const TrayPresence&) = delete;
     ~TrayPresence() override;
 
-    /// Minimizes the window, into the icon if there is one on the screen.
+    /// Minimizes the window. Hides it if its icon is on the screen.
     void MinimizeWindow() override;
 
-    /// What the icon's menu shows has changed.
+    /// The contents of the icon's menu have changed.
     void MenuChanged();
 
     /// Removes the icon.
