@@ -446,7 +446,7 @@ TEST_F(AnagramWindowTest, AClickOnTheHeaderGivesTheListTheFocus) {
 }
 
 TEST_F(AnagramWindowTest, ItsAnimationHas15Frames) {
-    auto* animation = new BusyAnimation(window_, AnagramFilmStrip(), 5);
+    auto* animation = new BusyAnimation(window_, AnagramFilmStrip(), 40);
     animation->Run(true);
     for (const int frame : {1, 14, 0}) {
         EXPECT_TRUE(WaitFor([&] { return animation->ShownFrame() == frame; })) << frame;

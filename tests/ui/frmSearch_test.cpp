@@ -728,7 +728,7 @@ TEST_F(SearchWindowTest, OverAMinimisedMainWindowItStandsInTheMiddleOfTheScreen)
 }
 
 TEST_F(SearchWindowTest, TheAnimationGoesRoundItsFrames) {
-    auto* animation = new BusyAnimation(window_, SearchFilmStrip(), 5);
+    auto* animation = new BusyAnimation(window_, SearchFilmStrip(), 40);
     EXPECT_FALSE(animation->IsShown());
     animation->Run(true);
     EXPECT_TRUE(animation->IsShown());

