@@ -5,6 +5,8 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include "platform/window/enter_key.h"
+
 namespace brelex {
 
 namespace {
@@ -56,7 +58,7 @@ bool HeldEnter::IsSoonAfter() const {
 }
 
 bool HeldEnter::PressesButton() const {
-    return isSearching_ && IsEnterDown() && (isHeld_ || IsSoonAfter());
+    return isSearching_ && WasEnterDown() && (isHeld_ || IsSoonAfter());
 }
 
 void HeldEnter::OnKey(wxKeyEvent& event) {
