@@ -204,7 +204,7 @@ wxImage IconOf(SystemWindow window, int size) {
 
 // The window manager says in WM_STATE what it has made of a wish.
 bool IsOnScreen(const wxTopLevelWindow& window) {
-    SystemWindow const shown = SystemWindowOf(window);
+    auto* const shown = SystemWindowOf(window);
     XWindowAttributes attributes;
     XGetWindowAttributes(Server(), XidOf(shown), &attributes);
     const std::vector<unsigned long> state = Property(shown, "WM_STATE");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/anagram_session.h"
 
+#include <cstddef>
 #include <functional>
 #include <new>
 #include <string>
@@ -76,6 +77,7 @@ class AnagramSessionTest : public testing::Test {
 
     [[nodiscard]] std::vector<std::string> Rows() const {
         std::vector<std::string> rows;
+        rows.reserve(static_cast<std::size_t>(session_.Rows().RowCount()));
         for (std::int32_t row = 0; row < session_.Rows().RowCount(); ++row) {
             rows.emplace_back(session_.Rows().RowText(row));
         }

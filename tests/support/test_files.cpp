@@ -79,7 +79,7 @@ std::string RecordOfEqualLengths() {
     // by a byte, and the two are equal for eight successive lengths.
     std::size_t length = 1;
     while (true) {
-        const std::string record = "A\t" + Incompressible(length);
+        std::string record = "A\t" + Incompressible(length);
         const std::string expanded = ExpandedBytes({record});
         const std::size_t gap = expanded.size() - CompressSzdd(expanded).size();
         if (gap == 0) {

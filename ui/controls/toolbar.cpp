@@ -68,13 +68,13 @@ void Toolbar::PlaceIcons() {
     const int size = px(kIconSize);
     const int margin = px(kMargin);
     int x = margin;
-    for (std::size_t i = 0; i < kToolbarIcons.size(); ++i) {
+    for (const ToolbarIcon& icon : kToolbarIcons) {
         state_.AddIcon({.left = static_cast<double>(x),
                         .top = static_cast<double>(margin),
                         .width = static_cast<double>(size),
                         .height = static_cast<double>(size)});
         x += size + px(kGap);
-        if (kToolbarIcons.at(i).endsGroup) {
+        if (icon.endsGroup) {
             separators_.push_back(x + px(kSeparatorWidth - kGap) / 2 - 1);
             x += px(kSeparatorWidth);
         }

@@ -20,7 +20,7 @@ class SurfaceTest : public testing::Test {
   protected:
     SurfaceTest() { surface_.FillWindow({200, 120}); }
 
-    ~SurfaceTest() override { frame_.Destroy(); }
+    void TearDown() override { frame_.Destroy(); }
 
     // The color that the surface draws at a place; green where it draws nothing.
     [[nodiscard]] wxColour Drawn(int x, int y) {
