@@ -46,7 +46,9 @@ std::string PropertyText(Window window, const char* name, Atom type) {
 std::vector<Window> WindowsIn(const char* property) {
     const std::string bytes = PropertyText(DefaultRootWindow(OwnDisplay()), property, XA_WINDOW);
     std::vector<Window> windows(bytes.size() / sizeof(Window));
-    std::memcpy(windows.data(), bytes.data(), windows.size() * sizeof(Window));
+    if (!windows.empty()) {
+        std::memcpy(windows.data(), bytes.data(), windows.size() * sizeof(Window));
+    }
     return windows;
 }
 
