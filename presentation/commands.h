@@ -47,7 +47,7 @@ enum class CommandKind {
 inline constexpr int kNoWindow = -1;
 
 /// A command and its appearance in a menu.
-struct CommandSpec {
+struct CommandDetails {
     Command command{};
     CommandKind kind{};
     CommandMenu menu{};
@@ -59,7 +59,7 @@ struct CommandSpec {
 
 /// All commands in the order of the enumeration, which is also their order in the menus. Alt+F4 is
 /// the window's own close command; the caption of Exit only mentions it.
-inline constexpr std::array<CommandSpec, 16> kCommands = {{
+inline constexpr std::array<CommandDetails, 16> kCommands = {{
     {Command::DatabaseInfo, CommandKind::Window, CommandMenu::File, "Database Info...", "", 2},
     {Command::CheckData, CommandKind::Window, CommandMenu::File, "Check Data Integrity...", "", 5},
     {Command::Exit, CommandKind::Action, CommandMenu::File, "E&xit                Alt+F4", "",
@@ -82,7 +82,7 @@ inline constexpr std::array<CommandSpec, 16> kCommands = {{
     {Command::MinimizeOrRestore, CommandKind::Action, CommandMenu::SysTray, "&Minimize Window"},
 }};
 
-[[nodiscard]] constexpr const CommandSpec& SpecOf(Command command) {
+[[nodiscard]] constexpr const CommandDetails& DetailsOf(Command command) {
     return kCommands[static_cast<std::size_t>(command)];
 }
 

@@ -34,11 +34,11 @@ std::vector<TrayMenuItem> TrayBehaviour::Menu() const {
     const auto item = [enabled](Command command, const char* caption) {
         return TrayMenuItem{command, caption, enabled};
     };
-    return {item(Command::Search, SpecOf(Command::Search).caption),
-            item(Command::About, SpecOf(Command::About).caption),
+    return {item(Command::Search, DetailsOf(Command::Search).caption),
+            item(Command::About, DetailsOf(Command::About).caption),
             item(Command::MinimizeOrRestore, owner_.IsWindowMinimized()
                                                  ? "&Restore Window"
-                                                 : SpecOf(Command::MinimizeOrRestore).caption),
+                                                 : DetailsOf(Command::MinimizeOrRestore).caption),
             {std::nullopt, "", enabled},
             item(Command::Exit, "Exit")};
 }

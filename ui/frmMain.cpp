@@ -161,7 +161,7 @@ void frmMain::Run(Command command) {
             CopyEntryToClipboard(SelectedEntry(), messages);
         } break;
         default:
-            OpenModalForm(SpecOf(command).window);
+            OpenModalForm(DetailsOf(command).window);
             break;
     }
 }

@@ -62,15 +62,15 @@ SideWindows::SideWindows(wxFrame& main, ProgramValues& values, TemporaryFiles& f
       events_(std::move(events)) {}
 
 void SideWindows::OpenModalForm(int number) {
-    const auto* const spec =
-        std::find_if(kCommands.begin(), kCommands.end(), [number](const CommandSpec& command) {
+    const auto* const details =
+        std::find_if(kCommands.begin(), kCommands.end(), [number](const CommandDetails& command) {
             return command.kind == CommandKind::Window && command.window == number;
         });
-    if (spec == kCommands.end() || IsModalOpen) {
+    if (details == kCommands.end() || IsModalOpen) {
         return;  // a window that was just closed may still have to end a search
     }
     const ModalScope modal(*this);
-    switch (spec->command) {
+    switch (details->command) {
         case Command::Search:
             ShowSearch();
             break;

@@ -18,13 +18,13 @@ TEST(Commands, StandInTheOrderOfTheirEnumeration) {
 // A menu as a user reads it: the captions, a tab and the shortcut, "-" for a separator.
 std::vector<std::string> ItemsOf(CommandMenu menu) {
     std::vector<std::string> items;
-    for (const CommandSpec& spec : kCommands) {
-        if (spec.menu == menu) {
-            if (spec.startsGroup) {
+    for (const CommandDetails& details : kCommands) {
+        if (details.menu == menu) {
+            if (details.startsGroup) {
                 items.emplace_back("-");
             }
-            const std::string shortcut = spec.shortcut;
-            items.push_back(spec.caption + (shortcut.empty() ? "" : "\t" + shortcut));
+            const std::string shortcut = details.shortcut;
+            items.push_back(details.caption + (shortcut.empty() ? "" : "\t" + shortcut));
         }
     }
     return items;
@@ -48,12 +48,13 @@ TEST(Commands, OpenTheSevenSideWindowsByTheirNumbers) {
         Command::Search, Command::Anagram,   Command::DatabaseInfo, Command::Smileys,
         Command::About,  Command::CheckData, Command::Donate};
     for (std::size_t number = 0; number < commands.size(); ++number) {
-        const CommandSpec& spec = SpecOf(commands[number]);
-        EXPECT_EQ(spec.kind, CommandKind::Window) << spec.caption;
-        EXPECT_EQ(spec.window, static_cast<int>(number)) << spec.caption;
+        const CommandDetails& details = DetailsOf(commands[number]);
+        EXPECT_EQ(details.kind, CommandKind::Window) << details.caption;
+        EXPECT_EQ(details.window, static_cast<int>(number)) << details.caption;
     }
-    for (const CommandSpec& spec : kCommands) {
-        EXPECT_EQ(spec.kind == CommandKind::Window, spec.window != kNoWindow) << spec.caption;
+    for (const CommandDetails& details : kCommands) {
+        EXPECT_EQ(details.kind == CommandKind::Window, details.window != kNoWindow)
+            << details.caption;
     }
 }
 

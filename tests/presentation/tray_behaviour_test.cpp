@@ -38,7 +38,7 @@ class FakeOwner final : public TrayOwner {
 
     void PopUpMenu() override { ++menus; }
 
-    void Run(Command command) override { calls.emplace_back(SpecOf(command).caption); }
+    void Run(Command command) override { calls.emplace_back(DetailsOf(command).caption); }
 
     bool visible = true;
     bool modal = false;
@@ -135,8 +135,9 @@ TEST_F(TrayBehaviourTest, TheItemsDoWhatTheySay) {
             tray_.OnMenuItem(*item.command);
         }
     }
-    EXPECT_EQ(owner_.calls, (Calls{SpecOf(Command::Search).caption, SpecOf(Command::About).caption,
-                                   "minimize", SpecOf(Command::Exit).caption}));
+    EXPECT_EQ(owner_.calls,
+              (Calls{DetailsOf(Command::Search).caption, DetailsOf(Command::About).caption,
+                     "minimize", DetailsOf(Command::Exit).caption}));
 }
 
 TEST_F(TrayBehaviourTest, OneItemMinimizesTheWindowAndRestoresIt) {

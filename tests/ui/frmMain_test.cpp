@@ -124,7 +124,7 @@ TEST_F(FrmMainLayout, TheMenusOpenTheirWindowsAndSoDoTheirNumbers) {
           Item{Command::Donate, "frmDonation"}}) {
         wxCommandEvent chosen(wxEVT_MENU, IdOf(item.command));
         EXPECT_EQ(NameOfOpened([&] { window_->ProcessWindowEvent(chosen); }), item.window);
-        EXPECT_EQ(NameOfOpened([&] { window_->OpenModalForm(SpecOf(item.command).window); }),
+        EXPECT_EQ(NameOfOpened([&] { window_->OpenModalForm(DetailsOf(item.command).window); }),
                   item.window);
     }
 }

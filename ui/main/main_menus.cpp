@@ -5,24 +5,24 @@ namespace brelex {
 
 namespace {
 
-wxItemKind ItemKindOf(const CommandSpec& spec) {
-    return spec.kind == CommandKind::CheckMark ? wxITEM_CHECK : wxITEM_NORMAL;
+wxItemKind ItemKindOf(const CommandDetails& details) {
+    return details.kind == CommandKind::CheckMark ? wxITEM_CHECK : wxITEM_NORMAL;
 }
 
 wxMenu* CreateMenu(CommandMenu which) {
     auto* menu = new wxMenu;
-    for (const CommandSpec& spec : kCommands) {
-        if (spec.menu != which) {
+    for (const CommandDetails& details : kCommands) {
+        if (details.menu != which) {
             continue;
         }
-        if (spec.startsGroup) {
+        if (details.startsGroup) {
             menu->AppendSeparator();
         }
-        wxString text(spec.caption);
-        if (*spec.shortcut != '\0') {
-            text << '\t' << spec.shortcut;
+        wxString text(details.caption);
+        if (*details.shortcut != '\0') {
+            text << '\t' << details.shortcut;
         }
-        menu->Append(IdOf(spec.command), text, wxEmptyString, ItemKindOf(spec));
+        menu->Append(IdOf(details.command), text, wxEmptyString, ItemKindOf(details));
     }
     return menu;
 }
