@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What the windows ask of an X11 desktop.
 #include <filesystem>
+#include <set>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -67,6 +69,34 @@ TEST(HelpRegistration, MakesTheViewerTheUsersAndTakesThatBack) {
     EXPECT_FALSE(std::filesystem::exists(type));
     EXPECT_EQ(ReadText(defaults).find("x-brelex-help"), std::string::npos);
     EXPECT_TRUE(OpenHelpFilesWith(""));  // nothing to take back
+}
+
+// What the box and the list show, as GTK draws the window.
+class PaintingOfAKey : public MainWindowTest {
+  protected:
+    static gboolean NoteDrawn(GtkWidget* /*widget*/, cairo_t* /*context*/, gpointer self) {
+        auto& test = *static_cast<PaintingOfAKey*>(self);
+        test.drawn_.push_back(test.BoxText() + ": " + test.SelectedRecord());
+        return FALSE;
+    }
+
+    std::vector<std::string> drawn_;
+};
+
+// Otherwise the list would change a frame after the box.
+TEST_F(PaintingOfAKey, ShowsTheTextAndItsEntryTogether) {
+    Type("a", "A");
+    GtkWidget* const window = GTK_WIDGET(window_->GetHandle());
+    const gulong handler = g_signal_connect(window, "draw", G_CALLBACK(NoteDrawn), this);
+    SelectAllInBox();
+    Type("x", "X");
+    Type("s", "XS");
+    ASSERT_TRUE(WaitFor([&] { return drawn_.back().starts_with("XS:"); }));
+    g_signal_handler_disconnect(window, handler);
+    const std::set<std::string> drawn(drawn_.begin(), drawn_.end());
+    EXPECT_EQ(drawn,
+              std::set<std::string>({"A: AB\tAddress Bus", "X: XML\tExtensible Markup Language",
+                                     "XS: XSS\tCross-Site Scripting"}));
 }
 
 TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {

@@ -11,6 +11,7 @@
 #include <wx/utils.h>
 
 #include "platform/window/accessible_name.h"
+#include "platform/window/before_painting.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
 #include "ui/controls/backdrop.h"
@@ -151,7 +152,7 @@ std::vector<ControlHint> LookupPanel::Hints() const {
 // So a change waits until the toolkit has finished the edit, but never beyond the next key.
 void LookupPanel::OnBoxText(wxCommandEvent& /*event*/) {
     if (!std::exchange(boxChangePending_, true)) {
-        txtAbbrv->CallAfter([this] { FlushBoxChange(); });
+        CallBeforePainting(*txtAbbrv, [this] { FlushBoxChange(); });
     }
 }
 
