@@ -11,6 +11,7 @@
 #include <wx/settings.h>
 #include <wx/sizer.h>
 
+#include "platform/window/own_layout.h"
 #include "ui/controls/modGeneral.h"
 
 namespace brelex {
@@ -46,7 +47,11 @@ wxSize LargestInside(const wxTopLevelWindow& window) {
 
 Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
     Create(window, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    // Nobody draws a background of their own, so the toolkit need not offer it at each painting.
+    SetBackgroundStyle(wxBG_STYLE_SYSTEM);
+    window->SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     SetScrollRate(0, 0);
+    LayOutAlone(*this);
 }
 
 void Surface::FillWindow(const wxSize& size) {
