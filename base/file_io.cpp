@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
-#include <cstdint>
-#include <fstream>
 #include <system_error>
 
 #include "base/text.h"
@@ -66,23 +64,35 @@ std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::
     return found;
 }
 
+FileReader::FileReader(const fs::path& path) {
+    if (!IsFile(path)) {
+        return;
+    }
+    file_.rdbuf()->pubsetbuf(nullptr, 0);  // reads straight to where the bytes are wanted
+    file_.open(path, std::ios::binary | std::ios::ate);
+    // From the open file: by now the path can name another one.
+    const std::streamoff size = file_.tellg();
+    file_.seekg(0);
+    constexpr std::streamoff kMostBytes = std::streamoff{1} << 31U;
+    isOpen_ = file_ && size >= 0 && size <= kMostBytes;
+    size_ = isOpen_ ? static_cast<std::size_t>(size) : 0;
+}
+
+bool FileReader::Read(char* bytes, std::size_t count) {
+    file_.read(bytes, static_cast<std::streamsize>(count));
+    return file_.gcount() == static_cast<std::streamsize>(count);
+}
+
 std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
-    std::error_code error;
-    const auto size = fs::file_size(path, error);
-    std::ifstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0);  // reads straight into our buffer
-    file.open(path, std::ios::binary);
-    constexpr std::uintmax_t kMostBytes = std::uintmax_t{1} << 31U;
-    if (error || !file || size > kMostBytes) {
+    FileReader file(path);
+    if (!file.IsOpen()) {
         return std::nullopt;
     }
-    ByteBuffer bytes(static_cast<std::size_t>(size));
-    if (bytes.IsNull()) {
+    ByteBuffer bytes(file.Size());
+    if (bytes.IsNull() || !file.Read(bytes.Data(), bytes.Size())) {
         return std::nullopt;
     }
-    file.read(bytes.Data(), static_cast<std::streamsize>(size));
-    return file.gcount() == static_cast<std::streamsize>(size) ? std::optional(std::move(bytes))
-                                                               : std::nullopt;
+    return bytes;
 }
 
 bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why) {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +24,29 @@ namespace brelex {
 /// other spellings always the same one. Never finds a folder.
 [[nodiscard]] std::optional<std::string> FindFileIgnoringCase(const std::string& folder,
                                                               std::string_view name);
+
+/// A file that is read from its beginning to its end. What is in it when it is opened is what is
+/// read, even if another file takes its place meanwhile.
+class FileReader {
+  public:
+    explicit FileReader(const std::filesystem::path& path);
+
+    /// Whether the file can be read and is no longer than 2 GiB. Never true for a folder, a device
+    /// or a pipe.
+    [[nodiscard]] bool IsOpen() const { return isOpen_; }
+
+    /// How many bytes it had when it was opened.
+    [[nodiscard]] std::size_t Size() const { return size_; }
+
+    /// Reads the next `count` bytes to `bytes`. Returns false if there are fewer or they cannot be
+    /// read.
+    [[nodiscard]] bool Read(char* bytes, std::size_t count);
+
+  private:
+    std::ifstream file_;
+    std::size_t size_ = 0;
+    bool isOpen_ = false;
+};
 
 /// The whole content of a file. Nothing if it cannot be read, is longer than 2 GiB or does not fit
 /// into memory.

@@ -19,12 +19,13 @@ std::string_view ReasonText(LoadFailure failure) {
     return {};
 }
 
-std::optional<ExpandedDatabase> ExpandDatabase(std::string_view file) {
-    auto content = ExpandSzdd(file);
+std::optional<ExpandedDatabase> ExpandDatabase(CompressedFile file) {
+    const std::size_t fileLength = file.Length();
+    auto content = std::move(file).Expand();
     if (!content) {
         return std::nullopt;
     }
-    return ExpandedDatabase{std::move(*content), file.size()};
+    return ExpandedDatabase{std::move(*content), fileLength};
 }
 
 std::int32_t ProgressStepOf(std::int32_t recordCount) {
@@ -52,13 +53,19 @@ LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& head
                : LoadFailure::BadHeader;
 }
 
-LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordStore& store) {
-    auto database = ExpandDatabase(file);
+LoadFailure ReadDatabase(CompressedFile file, DatabaseHeader& header, RecordStore& store) {
+    auto database = ExpandDatabase(std::move(file));
     if (!database) {
         return LoadFailure::CannotDecode;
     }
     WorkWatcher nobody;
     return ReadExpandedDatabase(std::move(*database), header, store, nobody, [] {});
+}
+
+LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordStore& store) {
+    auto compressed = CompressedFile::Copy(file);
+    return compressed ? ReadDatabase(std::move(*compressed), header, store)
+                      : LoadFailure::CannotDecode;
 }
 
 }  // namespace brelex

@@ -8,9 +8,9 @@
 #include <string_view>
 
 #include "base/long_work.h"
+#include "database/compressed_file.h"
 #include "database/database_header.h"
 #include "database/record_store.h"
-#include "database/szdd.h"
 
 namespace brelex {
 
@@ -31,8 +31,8 @@ struct ExpandedDatabase {
     std::size_t fileLength = 0;  ///< bytes of the database file itself
 };
 
-/// Expands a whole database file that was read into memory. Nothing if ExpandSzdd refuses it.
-[[nodiscard]] std::optional<ExpandedDatabase> ExpandDatabase(std::string_view file);
+/// Expands a whole database file. Nothing if it cannot be expanded.
+[[nodiscard]] std::optional<ExpandedDatabase> ExpandDatabase(CompressedFile file);
 
 /// The number of records between two progress reports. With it, a load makes about 100 reports at
 /// most.
@@ -45,7 +45,11 @@ struct ExpandedDatabase {
                                                RecordStore& store, WorkWatcher& progress,
                                                const std::function<void()>& onHeader);
 
-/// Expands a whole database file that was read into memory, and reads it into `header` and `store`.
+/// Expands a whole database file and reads it into `header` and `store`.
+[[nodiscard]] LoadFailure ReadDatabase(CompressedFile file, DatabaseHeader& header,
+                                       RecordStore& store);
+
+/// The same for the content of a file.
 [[nodiscard]] LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header,
                                        RecordStore& store);
 

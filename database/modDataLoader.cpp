@@ -26,11 +26,11 @@ bool ReportFailure(LoadFailure failure, MessageSink& messages) {
 
 std::optional<ExpandedDatabase> ExpandIntoTemporaryFile(const ProgramValues& values,
                                                         TemporaryFiles& files) {
-    const auto file = ReadWholeFile(PathOfUtf8(values.DatabasePath));
+    auto file = CompressedFile::Read(PathOfUtf8(values.DatabasePath));
     if (!file) {
         return std::nullopt;
     }
-    auto database = ExpandDatabase(file->View());
+    auto database = ExpandDatabase(std::move(*file));
     if (!database || !files.WriteNewFile(values.TempFilePath, database->content.View())) {
         return std::nullopt;
     }

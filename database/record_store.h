@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/long_work.h"
+#include "database/compressed_file.h"
 #include "database/row_list.h"
-#include "database/szdd.h"
 
 namespace brelex {
 

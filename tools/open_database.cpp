@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "tools/open_database.h"
 
+#include <utility>
+
 #include "base/file_io.h"
 #include "database/database_file.h"
 
 namespace brelex {
 
 int Load(const std::string& path, OpenDatabase& database, std::ostream& err, int unloadable) {
-    const auto file = ReadWholeFile(PathOfUtf8(path));
+    auto file = CompressedFile::Read(PathOfUtf8(path));
     if (!file) {
         err << "brelex: cannot read " << path << "\n";
         return kFailed;
     }
-    const LoadFailure failure = ReadDatabase(file->View(), database.header, database.store);
+    const LoadFailure failure = ReadDatabase(std::move(*file), database.header, database.store);
     if (failure != LoadFailure::None) {
         err << "brelex: " << path << ": " << ReasonText(failure) << "\n";
         return unloadable;

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <utility>
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +11,7 @@
 #include "benchmarks/support/generated_records.h"
 #include "database/database_file.h"
 #include "database/modDataLoader.h"
+#include "database/szdd.h"
 #include "platform/system/system_temporary_files.h"
 
 namespace brelex {
@@ -54,16 +56,16 @@ void BM_ReadExpandIndex(benchmark::State& state) {
     for (auto _ : state) {
         DatabaseHeader header;
         RecordStore store;
-        const auto file = ReadWholeFile(path);
-        benchmark::DoNotOptimize(ReadDatabase(file->View(), header, store));
+        auto file = CompressedFile::Read(path);
+        benchmark::DoNotOptimize(ReadDatabase(std::move(*file), header, store));
     }
 }
 
 void BM_Expand(benchmark::State& state) {
-    const auto file = ReadWholeFile(PathOfUtf8(FileOf(state.range(0))));
+    const auto content = ReadWholeFile(PathOfUtf8(FileOf(state.range(0))));
     std::size_t bytes = 0;
     for (auto _ : state) {
-        bytes += ExpandSzdd(file->View())->View().size();
+        bytes += ExpandSzdd(content->View())->View().size();
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
 }

@@ -46,6 +46,37 @@ TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
     EXPECT_FALSE(ReadWholeFile(folder.Path()).has_value());
 }
 
+TEST(FileReader, ReadsTheBytesInOrderAndNoneBehindTheEnd) {
+    const TestFolder folder;
+    folder.Write("file", std::string("ab\0\r\n\x1A", 6));
+    FileReader file(folder.Path() / "file");
+    ASSERT_TRUE(file.IsOpen());
+    EXPECT_EQ(file.Size(), 6U);
+    std::string bytes(6, ' ');
+    EXPECT_TRUE(file.Read(bytes.data(), 2));
+    EXPECT_TRUE(file.Read(bytes.data() + 2, 0));
+    EXPECT_TRUE(file.Read(bytes.data() + 2, 4));
+    EXPECT_EQ(bytes, std::string("ab\0\r\n\x1A", 6));
+    EXPECT_FALSE(file.Read(bytes.data(), 1));
+}
+
+TEST(FileReader, AFileThatIsCutMeanwhileIsNotReadInPart) {
+    const TestFolder folder;
+    folder.Write("file", "0123456789");
+    FileReader file(folder.Path() / "file");
+    ASSERT_TRUE(file.IsOpen());
+    std::string bytes(10, ' ');
+    EXPECT_TRUE(file.Read(bytes.data(), 3));
+    std::filesystem::resize_file(folder.Path() / "file", 9);
+    EXPECT_FALSE(file.Read(bytes.data(), 7));
+}
+
+TEST(FileReader, DoesNotOpenWhatIsNoFile) {
+    const TestFolder folder;
+    EXPECT_FALSE(FileReader(folder.Path() / "missing").IsOpen());
+    EXPECT_FALSE(FileReader(folder.Path()).IsOpen());
+}
+
 TEST(WithTrailingSeparator, AFolderGetsOneSeparatorAndARootNoSecond) {
     const std::string separator = WithTrailingSeparator("");
     ASSERT_EQ(separator.size(), 1U);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "database/szdd.h"
 #include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/szdd.h"
 
+#include <cstdint>
 #include <random>
 #include <string>
 
@@ -23,6 +24,60 @@ std::string File(std::string_view data, unsigned declared = 100) {
         file.push_back(static_cast<char>((declared >> (8 * i)) & 0xFFU));
     }
     return file.append(data);
+}
+
+// Expands data as the format describes it, item by item with a ring.
+std::string ExpandedWithARing(std::string_view data) {
+    std::string ring(4096, ' ');
+    std::size_t at = 0xFF0;
+    std::string out;
+    const auto put = [&](char c) {
+        out.push_back(c);
+        ring[at] = c;
+        at = (at + 1) % ring.size();
+    };
+    std::size_t next = 0;
+    while (next < data.size()) {
+        auto flags = static_cast<unsigned char>(data[next++]);
+        for (int item = 0; item < 8; ++item, flags = static_cast<unsigned char>(flags >> 1U)) {
+            const bool literal = (flags & 1U) != 0;
+            if (data.size() - next < (literal ? 1 : 2)) {
+                return out;
+            }
+            if (literal) {
+                put(data[next++]);
+                continue;
+            }
+            const auto first = static_cast<unsigned char>(data[next++]);
+            const auto second = static_cast<unsigned char>(data[next++]);
+            const std::size_t from = first | ((second & 0xF0U) << 4U);
+            for (std::size_t i = 0; i < (second & 0x0FU) + 3; ++i) {
+                put(ring[(from + i) % ring.size()]);
+            }
+        }
+    }
+    return out;
+}
+
+TEST(ExpandSzdd, GivesWhatTheRingGives) {
+    std::mt19937 random(10);
+    for (int i = 0; i < 3000; ++i) {
+        std::string data(random() % (i % 10 == 0 ? 6000 : 200), '\0');
+        for (char& c : data) {
+            c = static_cast<char>(random());
+        }
+        // Now and then all flags are the same, and matches repeat what is very near.
+        const std::uint32_t kind = random() % 4;
+        for (std::size_t at = 0; kind < 2 && at < data.size(); at += kind == 0 ? 9 : 17) {
+            data[at] = kind == 0 ? '\xFF' : '\0';
+        }
+        const std::string expected = ExpandedWithARing(data);
+        for (const std::size_t declared : {expected.size(), expected.size() / 3, std::size_t{0},
+                                           expected.size() + 10000, std::size_t{0xFFFFFFFF}}) {
+            ASSERT_EQ(Expanded(File(data, static_cast<unsigned>(declared))), expected)
+                << i << ", declared as " << declared;
+        }
+    }
 }
 
 TEST(ExpandSzdd, LiteralsComeOutAsTheyAre) {
@@ -113,6 +168,17 @@ TEST(CompressSzdd, ExpandsToAllByteValues) {
     for (char& byte : bytes) {
         byte = static_cast<char>(random());
     }
+    EXPECT_EQ(Expanded(CompressSzdd(bytes)), bytes);
+}
+
+TEST(CompressSzdd, MuchThatDoesNotCompressMayFollowWhatDoes) {
+    std::mt19937 random(11);
+    std::string bytes(500000, 'x');
+    for (int i = 0; i < 200000; ++i) {
+        bytes.push_back(static_cast<char>(random()));
+    }
+    EXPECT_EQ(Expanded(CompressSzdd(bytes)), bytes);
+    bytes.append(500000, 'y');
     EXPECT_EQ(Expanded(CompressSzdd(bytes)), bytes);
 }
 

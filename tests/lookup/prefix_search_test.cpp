@@ -10,6 +10,7 @@
 
 #include "database/record_store.h"
 #include "database/string_order.h"
+#include "database/szdd.h"
 #include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 
