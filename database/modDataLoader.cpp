@@ -65,6 +65,7 @@ bool LoadDatabase(ProgramValues& values, RecordStore& store,
         return ReportFailure(failure, surroundings.messages);
     }
     assert(values.RecordCount == store.RowCount());
+    store.MeasureOrder();
     surroundings.progress.SetProgress(100);
     return true;
 }

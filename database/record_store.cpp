@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include "base/number_text.h"
@@ -19,12 +20,12 @@ namespace {
 std::size_t AscendingBytes(std::string_view row, std::string_view next, std::size_t limit) {
     const std::size_t common = std::min({row.size(), next.size(), limit});
     for (std::size_t i = 0; i < common; ++i) {
-        const ByteWeight& a = WeightOf(row[i]);
-        const ByteWeight& b = WeightOf(next[i]);
-        if (!a.IsPlain() || !b.IsPlain() || a.primary > b.primary) {
+        const std::uint8_t a = PlainWeightOf(row[i]);
+        const std::uint8_t b = PlainWeightOf(next[i]);
+        if (a == 0 || b == 0 || a > b) {
             return i;
         }
-        if (a.primary < b.primary) {
+        if (a < b) {
             return limit;
         }
     }
@@ -39,7 +40,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     assert(blockAt <= file.View().size());
     file_ = std::move(file);
     block_ = file_.View().substr(blockAt);
-    offsets_.clear();
+    offsets_.reset();
     SetRows(nullptr, nullptr, 0, 0);
     if (recordCount <= 0) {
         return true;
@@ -50,30 +51,39 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     if (wanted > block_.size()) {
         return false;
     }
-    offsets_.reserve(wanted + 1);
-    offsets_.push_back(0);
-    std::size_t position = 0;
-    std::size_t ascending = std::string_view::npos;
-    std::string_view previous;
-    for (std::int32_t i = 0; i < recordCount; ++i) {
-        const void* nul = std::memchr(block_.data() + position, 0, block_.size() - position);
+    auto offsets = std::make_unique_for_overwrite<std::uint32_t[]>(wanted + 1);
+    offsets[0] = 0;
+    const char* next = block_.data();
+    const char* const end = next + block_.size();
+    std::int32_t nextReport = 0;
+    for (std::int32_t row = 0; row < recordCount; ++row) {
+        const void* const nul = std::memchr(next, 0, static_cast<std::size_t>(end - next));
         if (nul == nullptr) {
-            offsets_.clear();
             return false;
         }
-        const auto length =
-            static_cast<std::size_t>(static_cast<const char*>(nul) - (block_.data() + position));
-        const std::string_view text = block_.substr(position, length);
-        ascending = AscendingBytes(previous, text, ascending);
-        previous = text;
-        position += length + 1;
-        offsets_.push_back(static_cast<std::uint32_t>(position));
-        if (i % progressStep == 0) {
-            progress.SetProgress(PercentOf(i, recordCount));
+        next = static_cast<const char*>(nul) + 1;
+        offsets[static_cast<std::size_t>(row) + 1] =
+            static_cast<std::uint32_t>(next - block_.data());
+        if (row == nextReport) {
+            progress.SetProgress(PercentOf(row, recordCount));
+            // Behind the last report, the sum could be too large for its type.
+            nextReport = recordCount - row > progressStep ? row + progressStep : recordCount;
         }
     }
-    SetRows(block_.data(), offsets_.data(), recordCount, ascending);
+    offsets_ = std::move(offsets);
+    SetRows(block_.data(), offsets_.get(), recordCount, 0);
     return true;
+}
+
+void RecordStore::MeasureOrder() {
+    if (RowCount() == 0) {
+        return;
+    }
+    std::size_t ascending = std::string_view::npos;
+    for (std::int32_t row = 1; row < RowCount(); ++row) {
+        ascending = AscendingBytes(RowText(row - 1), RowText(row), ascending);
+    }
+    SetRows(block_.data(), offsets_.get(), RowCount(), ascending);
 }
 
 }  // namespace brelex

@@ -118,6 +118,7 @@ std::string Verify(const BuiltDatabase& built, std::string_view file,
     if (failure != LoadFailure::None) {
         return "the program would refuse the file: " + std::string(ReasonText(failure));
     }
+    store.MeasureOrder();
     for (std::string& finding : CheckDatabase(header, store, FindFirstByPrefix)) {
         warnings.push_back(std::move(finding));
     }

@@ -126,6 +126,7 @@ int RunCheck(const std::string& database, std::ostream& out, std::ostream& err) 
     if (const int failure = Load(database, opened, err, kNothingFound); failure != kFound) {
         return failure;
     }
+    opened.store.MeasureOrder();
     const auto findings = CheckDatabase(opened.header, opened.store, FindFirstByPrefix);
     for (const std::string& finding : findings) {
         out << finding << "\n";
@@ -152,6 +153,7 @@ int RunLookup(const std::string& database, const std::vector<std::string>& texts
             found |= PrintLookup(opened.store, text, out);
             continue;
         }
+        opened.store.MeasureOrder();  // for as many look-ups as there may be
         std::string line;
         while (std::getline(in, line)) {
             if (line.ends_with('\r')) {

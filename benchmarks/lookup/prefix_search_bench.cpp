@@ -42,6 +42,7 @@ const Subject& SubjectOf(std::int64_t count) {
         if (ReadDatabase(GeneratedDatabase(count), header, subject->store) != LoadFailure::None) {
             std::abort();
         }
+        subject->store.MeasureOrder();
         subject->rows.resize(static_cast<std::size_t>(count));
         std::iota(subject->rows.begin(), subject->rows.end(), 0);
         std::mt19937 random(1);

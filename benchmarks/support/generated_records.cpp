@@ -55,10 +55,12 @@ std::string GeneratedDatabase(std::int64_t count) {
 const RecordStore& GeneratedStore(std::int64_t count) {
     static std::map<std::int64_t, RecordStore> stores;
     RecordStore& store = stores[count];
-    DatabaseHeader header;
-    if (store.RowCount() == 0 &&
-        ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
-        std::abort();
+    if (store.RowCount() == 0) {
+        DatabaseHeader header;
+        if (ReadDatabase(GeneratedDatabase(count), header, store) != LoadFailure::None) {
+            std::abort();
+        }
+        store.MeasureOrder();
     }
     return store;
 }

@@ -37,6 +37,7 @@ LoadFailure ReadAndUse(std::string_view file) {
     RecordStore store;
     const LoadFailure failure = ReadDatabase(file, header, store);
     if (failure == LoadFailure::None) {
+        store.MeasureOrder();
         Use(header, store);
     }
     return failure;
@@ -50,6 +51,7 @@ LoadFailure ReadAndUseExpanded(std::string_view expanded) {
     const LoadFailure failure = ReadExpandedDatabase({*ExpandSzdd(expanded), expanded.size() / 2},
                                                      header, store, progress, [] {});
     if (failure == LoadFailure::None) {
+        store.MeasureOrder();
         Use(header, store);
     }
     return failure;

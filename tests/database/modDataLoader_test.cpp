@@ -62,6 +62,7 @@ TEST_F(LoadDatabaseTest, FillsTheStoreAndTheValues) {
     ASSERT_TRUE(Load(DatabaseBytes({"RAM\tMemory", "ABC\tAlpha Beta Charlie"})));
     EXPECT_EQ(store_.RowCount(), 2);
     EXPECT_EQ(store_.RowText(0), "ABC\tAlpha Beta Charlie");
+    EXPECT_GT(store_.AscendingPrefixBytes(), 0U);  // so that look-ups are fast
     EXPECT_EQ(values_.RecordCount, 2);
     EXPECT_EQ(values_.ProgressStep, 1);
     EXPECT_EQ(values_.Header.Version, 1.5F);

@@ -83,6 +83,8 @@ TEST_P(AscendingPrefixTest, IsFound) {
     RecordStore store;
     WorkWatcher progress;
     ASSERT_TRUE(store.Fill(FileOf(GetParam().block), 0, GetParam().count, 1, progress));
+    EXPECT_EQ(store.AscendingPrefixBytes(), 0U);
+    store.MeasureOrder();
     EXPECT_EQ(store.AscendingPrefixBytes(), GetParam().bytes);
 }
 

@@ -112,6 +112,7 @@ void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view let
     }
     WorkWatcher progress;
     ASSERT_TRUE(store.Fill(*ExpandSzdd(block), 0, count, 100, progress));
+    store.MeasureOrder();
 }
 
 class WalkBackTest : public testing::TestWithParam<std::string> {};
