@@ -63,10 +63,11 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
         spellings.push_back(std::move(*quoted));
     }
     std::reverse(spellings.begin(), spellings.end());
+    const std::string headwordForm = HeadwordForm(headword);
     const bool spellsHeadword =
         !spellings.empty() &&
         std::all_of(spellings.begin(), spellings.end(), [&](const std::string& spelling) {
-            return HeadwordForm(spelling) == HeadwordForm(headword);
+            return HeadwordForm(spelling) == headwordForm;
         });
     if (!spellsHeadword) {
         spellings = {std::string(headword)};

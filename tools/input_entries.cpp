@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 #include "base/file_io.h"
 #include "base/text.h"
@@ -18,10 +19,19 @@ bool IsControl(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c <= 0x9F);
 }
 
+// Whether every byte is a character of its own that both codes share and any part may contain. Most
+// texts are like that.
+bool IsPrintableAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+}
+
 // The reason why `text` cannot be part of a record; nothing if it can.
 std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed) {
     if (text.find_first_not_of(" \t") == std::string_view::npos) {
         return "is empty";
+    }
+    if (IsPrintableAscii(text)) {
+        return std::nullopt;
     }
     for (const char32_t c : DecodeUtf8(text)) {
         if (c == '\t') {
@@ -39,6 +49,19 @@ std::optional<std::string> ReasonAgainst(std::string_view text, bool tabAllowed)
     return std::nullopt;
 }
 
+// Appends a text that can be part of a record.
+void AppendBytes(std::string_view utf8, std::string& record) {
+    if (IsPrintableAscii(utf8)) {
+        record += utf8;
+    } else {
+        record += BytesOfUtf8(utf8).bytes;
+    }
+}
+
+bool IsPlain(std::string_view bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return PlainWeightOf(c) != 0; });
+}
+
 }  // namespace
 
 void AddEntry(std::string_view abbreviation, std::string_view expansion, const std::string& place,
@@ -51,13 +74,17 @@ void AddEntry(std::string_view abbreviation, std::string_view expansion, const s
         report.errors.push_back(place + ": the expansion " + *reason);
         return;
     }
-    const std::string bytes = BytesOfUtf8(abbreviation).bytes;
-    if (!std::all_of(bytes.begin(), bytes.end(), [](char c) { return WeightOf(c).IsPlain(); })) {
+    std::string record;
+    record.reserve(abbreviation.size() + 1 + expansion.size());
+    AppendBytes(abbreviation, record);
+    if (!IsPlain(record)) {
         report.warnings.push_back(place + ": the abbreviation " + std::string(abbreviation) +
                                   " contains an accent, ligature, superscript or soft hyphen; "
                                   "look-ups may miss it");
     }
-    records.push_back(bytes + "\t" + BytesOfUtf8(expansion).bytes);
+    record.push_back('\t');
+    AppendBytes(expansion, record);
+    records.push_back(std::move(record));
 }
 
 void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& records,
