@@ -107,8 +107,12 @@ void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
     });
 }
 
+// Nobody types more of an abbreviation to find it. Each longer beginning takes longer to look up,
+// so that all of a very long one would take forever.
+constexpr std::size_t kMostTypedBytes = 100;
+
 // A prefix that the previous record shares leads to the same row, so each is looked up only once in
-// a run of records.
+// a run of records. Those by which the records are in order lead to a row that begins with them.
 void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                        std::vector<std::string>& lines) {
     Findings unreachable(lines, "unreachable beginnings");
@@ -121,10 +125,12 @@ void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                                          .first -
                                      abbreviation.begin());
         previous = abbreviation;
-        for (std::size_t bytes = shared + 1; bytes <= abbreviation.size(); ++bytes) {
-            const std::string_view beginning = abbreviation.substr(0, bytes);
+        const std::size_t most = std::min(abbreviation.size(), kMostTypedBytes);
+        for (std::size_t done = std::max(shared, store.AscendingPrefixBytes()); done < most;
+             ++done) {
+            const std::string_view beginning = abbreviation.substr(0, done + 1);
             const std::string_view found = store.RowText(find(store, beginning));
-            if (!EqualIgnoringCase(found.substr(0, bytes), beginning)) {
+            if (!EqualIgnoringCase(found.substr(0, done + 1), beginning)) {
                 unreachable.Add("typing " + Utf8OfBytes(beginning) + " does not reach " +
                                 RecordName(row));
             }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -81,6 +82,58 @@ TEST(CheckDatabase, BeginningsThatAccentsHideAreNamed) {
     }
     EXPECT_TRUE(Contains(Findings([](DatabaseHeader&, std::string&) {}, records),
                          "does not reach record 2"));
+}
+
+// How often a check looks up anything.
+int LookupsOfCheck(const std::vector<std::string>& records, bool measureOrder) {
+    DatabaseHeader header;
+    RecordStore store;
+    EXPECT_EQ(ReadDatabase(DatabaseBytes(records), header, store), LoadFailure::None);
+    if (measureOrder) {
+        store.MeasureOrder();
+    }
+    int lookups = 0;
+    EXPECT_EQ(CheckDatabase(header, store,
+                            [&](const RowList& rows, std::string_view text) {
+                                ++lookups;
+                                return FindFirstByPrefix(rows, text);
+                            }),
+              std::vector<std::string>());
+    return lookups;
+}
+
+TEST(CheckDatabase, LooksUpOnlyWhatTheOrderDoesNotTell) {
+    const std::vector<std::string> records = {"ABC\tx", "ABD\tx", "AC\tx"};
+    EXPECT_EQ(LookupsOfCheck(records, false), 3 + 1 + 1);
+    EXPECT_EQ(LookupsOfCheck(records, true), 0);
+}
+
+TEST(CheckDatabase, OnlyTheBeginningOfALongAbbreviationIsLookedUp) {
+    EXPECT_EQ(LookupsOfCheck({std::string(200000, 'A') + "\tx", "B\ty"}, false), 100 + 1);
+    EXPECT_EQ(LookupsOfCheck({std::string(200000, '\xC9') + "\tx", "F\ty"}, true), 100 + 1);
+}
+
+TEST(CheckDatabase, WithAndWithoutTheOrderFindsTheSame) {
+    std::mt19937 random(12);
+    std::size_t findings = 0;
+    for (int round = 0; round < 200; ++round) {
+        std::vector<std::string> records;
+        for (std::size_t i = 1 + random() % 60; i > 0; --i) {
+            std::string text;
+            for (std::size_t length = 1 + random() % 4; length > 0; --length) {
+                text.push_back("aBe\xE9\xC6"[random() % (round % 2 == 0 ? 3 : 5)]);
+            }
+            records.push_back(text + "\tx");
+        }
+        DatabaseHeader header;
+        RecordStore store;
+        ASSERT_EQ(ReadDatabase(DatabaseBytes(records), header, store), LoadFailure::None);
+        const auto without = CheckDatabase(header, store, FindFirstByPrefix);
+        store.MeasureOrder();
+        EXPECT_EQ(CheckDatabase(header, store, FindFirstByPrefix), without);
+        findings += without.size();
+    }
+    EXPECT_GT(findings, 0U);
 }
 
 TEST(CheckDatabase, ManyFindingsOfAKindAreSummedUp) {
