@@ -102,6 +102,51 @@ void CountExpansions(const std::vector<std::string_view>& records, DatabaseHeade
     }
 }
 
+// A record and the beginning of its text, which is enough for most comparisons. To look at the
+// texts themselves takes much longer, because they lie all over the memory.
+struct SortItem {
+    std::uint64_t beginning;  // the weights of its first bytes, the first of them on top
+    const std::string* record;
+    bool isPlain;  // whether all these bytes are
+};
+
+SortItem SortItemOf(const std::string& record) {
+    SortItem item{0, &record, true};
+    for (std::size_t i = 0; i < sizeof(item.beginning); ++i) {
+        // The end of a text weighs less than any byte.
+        const std::uint8_t weight = i < record.size() ? PlainWeightOf(record[i]) : std::uint8_t{0};
+        item.beginning = item.beginning << 8U | weight;
+        item.isPlain = item.isPlain && (weight != 0 || i >= record.size());
+    }
+    return item;
+}
+
+bool ComesBefore(const SortItem& a, const SortItem& b) {
+    if (a.beginning != b.beginning && a.isPlain && b.isPlain) {
+        return a.beginning < b.beginning;
+    }
+    const auto order = CompareTexts(*a.record, *b.record);
+    return std::is_eq(order) ? *a.record < *b.record : std::is_lt(order);
+}
+
+// The records in their final order, each once.
+std::vector<const std::string*> UniqueInOrder(const std::vector<std::string>& records) {
+    std::vector<SortItem> items;
+    items.reserve(records.size());
+    for (const std::string& record : records) {
+        items.push_back(SortItemOf(record));
+    }
+    std::sort(items.begin(), items.end(), ComesBefore);
+    std::vector<const std::string*> unique;
+    unique.reserve(items.size());
+    for (const SortItem& item : items) {
+        if (unique.empty() || *unique.back() != *item.record) {
+            unique.push_back(item.record);
+        }
+    }
+    return unique;
+}
+
 }  // namespace
 
 DatabaseHeader ComputeStatistics(const std::vector<std::string_view>& records) {
@@ -114,30 +159,37 @@ DatabaseHeader ComputeStatistics(const std::vector<std::string_view>& records) {
 }
 
 BuiltDatabase BuildDatabase(DatabaseContent content) {
-    std::vector<std::string>& records = content.records;
-    std::sort(records.begin(), records.end(), [](const std::string& a, const std::string& b) {
-        const auto order = CompareTexts(a, b);
-        return std::is_eq(order) ? a < b : std::is_lt(order);
-    });
-    const auto unique = std::unique(records.begin(), records.end());
+    const std::vector<const std::string*> records = UniqueInOrder(content.records);
     BuiltDatabase built;
-    built.duplicatesDropped = static_cast<std::size_t>(records.end() - unique);
-    records.erase(unique, records.end());
-
-    std::string block;
-    for (const std::string& record : records) {
-        assert(!record.empty() && record.find('\0') == std::string::npos);
-        block += record;
-        block.push_back('\0');
+    built.duplicatesDropped = content.records.size() - records.size();
+    std::size_t size = kHeaderBytes;
+    for (const std::string* record : records) {
+        size += record->size() + 1;
     }
-    built.header = ComputeStatistics({records.begin(), records.end()});
+    std::string& expanded = built.expanded;
+    expanded.reserve(size);
+    expanded.assign(kHeaderBytes, '\0');
+    for (const std::string* record : records) {
+        assert(!record->empty() && record->find('\0') == std::string::npos);
+        expanded.append(*record).push_back('\0');
+    }
+    const std::string_view block = std::string_view(expanded).substr(kHeaderBytes);
+    // From here on in the block, where they stand in the order in which they are read.
+    std::vector<std::string_view> texts;
+    texts.reserve(records.size());
+    std::size_t position = 0;
+    for (const std::string* record : records) {
+        texts.push_back(block.substr(position, record->size()));
+        position += record->size() + 1;
+    }
+    built.header = ComputeStatistics(texts);
     built.header.Version = content.version;
     built.header.ReleaseDate = CountOfDay(content.releaseDate);
     built.header.DataSize = Int32(block.size());
     built.header.DataCRC = GetCRCFromByteArray(block);
     built.header.SearchListText = content.searchList;
     built.header.SearchListText.resize(kSearchListLength, ' ');
-    built.expanded = EncodeHeader(built.header) + block;
+    expanded.replace(0, kHeaderBytes, EncodeHeader(built.header));
     return built;
 }
 

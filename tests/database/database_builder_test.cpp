@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_builder.h"
 
+#include <random>
+#include <set>
+
 #include <gtest/gtest.h>
 
 #include "base/calendar_day.h"
 #include "database/modCRC32.h"
+#include "database/string_order.h"
 
 namespace brelex {
 namespace {
@@ -39,6 +43,29 @@ TEST(BuildDatabase, TheOrderOfTheInputDoesNotMatter) {
     const std::vector<std::string> records = {"a\tx", "A\tx", "A\tX", "B\ty", "\xC6\tz", "AE\tz"};
     std::vector<std::string> reversed(records.rbegin(), records.rend());
     EXPECT_EQ(Build(records).expanded, Build(reversed).expanded);
+}
+
+TEST(BuildDatabase, TheOrderIsThatOfTheTexts) {
+    std::mt19937 random(13);
+    for (int round = 0; round < 100; ++round) {
+        std::vector<std::string> records;
+        for (std::size_t i = random() % 100; i > 0; --i) {
+            std::string text;
+            for (std::size_t length = 1 + random() % 12; length > 0; --length) {
+                text.push_back("aA-b\t\xE9\xC6\xAD"[random() % (round % 2 == 0 ? 5 : 8)]);
+            }
+            records.push_back(text);
+        }
+        std::string expected;
+        const auto before = [](const std::string& a, const std::string& b) {
+            const auto order = CompareTexts(a, b);
+            return std::is_lt(order) || (std::is_eq(order) && a < b);
+        };
+        for (const std::string& record : std::set(records.begin(), records.end(), before)) {
+            expected += record + '\0';
+        }
+        EXPECT_EQ(Block(Build(records)), expected);
+    }
 }
 
 TEST(BuildDatabase, TheHeaderTellsOfTheBlock) {
