@@ -136,14 +136,14 @@ std::string CompressSzdd(std::string_view bytes) {
     MatchFinder finder(bytes);
     GroupWriter groups(file);
     std::size_t position = 0;
+    MatchFinder::Match match;
     while (position < bytes.size()) {
-        const auto match = finder.Longest(position);
         finder.Insert(position);
+        const MatchFinder::Match next = finder.Longest(position + 1);
         // A longer match at the next byte is worth a literal now.
-        const bool wait = match.length >= kMinMatch && position + 1 < bytes.size() &&
-                          finder.Longest(position + 1).length > match.length;
-        if (match.length < kMinMatch || wait) {
+        if (match.length < kMinMatch || next.length > match.length) {
             groups.Literal(bytes[position++]);
+            match = next;
             continue;
         }
         groups.Match(match.position, match.length);
@@ -151,6 +151,7 @@ std::string CompressSzdd(std::string_view bytes) {
             finder.Insert(position + i);
         }
         position += match.length;
+        match = finder.Longest(position);
     }
     return file;
 }
