@@ -182,6 +182,7 @@ BuiltDatabase BuildDatabase(DatabaseContent content) {
         texts.push_back(block.substr(position, record->size()));
         position += record->size() + 1;
     }
+    content.records = {};  // what is left to do takes enough memory without them
     built.header = ComputeStatistics(texts);
     built.header.Version = content.version;
     built.header.ReleaseDate = CountOfDay(content.releaseDate);

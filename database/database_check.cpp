@@ -112,7 +112,7 @@ void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
 constexpr std::size_t kMostTypedBytes = 100;
 
 // A prefix that the previous record shares leads to the same row, so each is looked up only once in
-// a run of records. Those by which the records are in order lead to a row that begins with them.
+// a run of records.
 void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                        std::vector<std::string>& lines) {
     Findings unreachable(lines, "unreachable beginnings");
@@ -126,11 +126,10 @@ void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                                      abbreviation.begin());
         previous = abbreviation;
         const std::size_t most = std::min(abbreviation.size(), kMostTypedBytes);
-        for (std::size_t done = std::max(shared, store.AscendingPrefixBytes()); done < most;
-             ++done) {
-            const std::string_view beginning = abbreviation.substr(0, done + 1);
+        for (std::size_t bytes = shared + 1; bytes <= most; ++bytes) {
+            const std::string_view beginning = abbreviation.substr(0, bytes);
             const std::string_view found = store.RowText(find(store, beginning));
-            if (!EqualIgnoringCase(found.substr(0, done + 1), beginning)) {
+            if (!EqualIgnoringCase(found.substr(0, bytes), beginning)) {
                 unreachable.Add("typing " + Utf8OfBytes(beginning) + " does not reach " +
                                 RecordName(row));
             }
