@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cassert>
 #include <cstring>
 
@@ -14,18 +15,22 @@ namespace brelex {
 namespace {
 
 // One group is a byte of eight flags and eight items of at most two bytes.
-constexpr std::size_t kMaxGroupInput = 1 + 8 * 2;
-constexpr std::size_t kMaxGroupOutput = 8 * kMaxMatch;
+constexpr std::size_t kItemsOfGroup = 8;
+constexpr std::size_t kMaxGroupInput = 1 + kItemsOfGroup * 2;
+constexpr std::size_t kMaxGroupOutput = kItemsOfGroup * kMaxMatch;
 
-// Every item copies this many bytes. A literal is only one of them, so this reads on behind it.
-constexpr std::size_t kCopiedBytes = kMaxMatch;
-constexpr std::size_t kInputOfFastGroup = kMaxGroupInput - 2 + kCopiedBytes;
+// Copies of a fixed size are fast. They read and write beyond what is wanted, which is overwritten
+// later: a match may write all bytes of a longest one, and a run of literals all that a group can
+// have, even behind the group's last item.
+constexpr std::size_t kCopiedLiterals = kItemsOfGroup;
+constexpr std::size_t kInputOfFastGroup = kMaxGroupInput + kCopiedLiterals;
+constexpr std::size_t kRoomOfGroup = kMaxGroupOutput + kCopiedLiterals;
 
 // What comes out must not reach what is still to be read. The distance only shrinks where the data
 // are shorter than what they expand to, as nearly all are, and at the end it is what it should have
 // been at the beginning. So a little is enough unless the file ends in much that did not compress.
 constexpr std::size_t kGapBytes = 4096;
-static_assert(kGapBytes >= kMaxGroupOutput);
+static_assert(kGapBytes >= kRoomOfGroup);
 
 std::size_t Byte(char c) {
     return static_cast<unsigned char>(c);
@@ -59,13 +64,13 @@ class Expander {
         : buffer_(std::move(buffer)),
           next_(dataAt),
           mostBytes_(mostBytes) {
-        assert(next_ >= used_ + kMaxGroupOutput);
+        assert(next_ >= used_ + kRoomOfGroup);
         std::memset(buffer_.Data(), ' ', kRingBytes);
     }
 
     std::optional<ExpandedFile> Run() {
         while (next_ != buffer_.Size()) {
-            if (next_ - used_ < kMaxGroupOutput && !Grow()) {
+            if (next_ - used_ < kRoomOfGroup && !Grow()) {
                 return std::nullopt;
             }
             if (buffer_.Size() - next_ >= kInputOfFastGroup) {
@@ -110,32 +115,37 @@ class Expander {
         std::size_t next = next_;
         std::size_t used = used_;
         do {
-            std::size_t flags = Byte(bytes[next++]);
-            for (int item = 0; item < 8; ++item, flags >>= 1U) {
-                ExpandItem(bytes, flags & 1U, next, used);
-            }
-        } while (next <= lastStart && next - used >= kMaxGroupOutput);
+            ExpandGroup(bytes, next, used);
+        } while (next <= lastStart && next - used >= kRoomOfGroup);
         next_ = next;
         used_ = used;
     }
 
-    // Literals and matches follow each other in no order that a processor could foresee. So both
-    // are the same copy here, and masks choose its source and length: branches would take twice as
-    // long.
-    static void ExpandItem(char* bytes, std::size_t isLiteral, std::size_t& next,
-                           std::size_t& used) {
-        const std::size_t ifLiteral = 0 - isLiteral;  // all bits or none
-        const MatchPlace match = PlaceOf(bytes[next], bytes[next + 1], used);
-        const std::size_t from = (next & ifLiteral) | ((used - match.distance) & ~ifLiteral);
-        const std::size_t length = (1U & ifLiteral) | (match.length & ~ifLiteral);
-        if ((match.distance | ifLiteral) < kCopiedBytes) [[unlikely]] {
-            Repeat(bytes + used, match.distance, length);
-        } else {
-            // A fixed size is fast. Any excess is overwritten later.
-            std::memcpy(bytes + used, bytes + from, kCopiedBytes);
+    // Literals and matches follow each other in no order that a processor could foresee, so a
+    // branch for each item would take twice as long. This goes from match to match, and always
+    // copies the literals before it, even if there are none.
+    static void ExpandGroup(char* bytes, std::size_t& next, std::size_t& used) {
+        unsigned matches = ~static_cast<unsigned>(Byte(bytes[next++])) & 0xFFU;
+        std::size_t items = 0;
+        const auto copyLiterals = [&](std::size_t count) {
+            std::memcpy(bytes + used, bytes + next, kCopiedLiterals);
+            next += count;
+            used += count;
+        };
+        for (; matches != 0; matches &= matches - 1) {
+            const auto item = static_cast<std::size_t>(std::countr_zero(matches));
+            copyLiterals(item - items);
+            items = item + 1;
+            const MatchPlace match = PlaceOf(bytes[next], bytes[next + 1], used);
+            if (match.distance < kMaxMatch) [[unlikely]] {
+                Repeat(bytes + used, match.distance, match.length);
+            } else {
+                std::memcpy(bytes + used, bytes + used - match.distance, kMaxMatch);
+            }
+            next += 2;
+            used += match.length;
         }
-        next += 2 - isLiteral;
-        used += length;
+        copyLiterals(kItemsOfGroup - items);
     }
 
     // The same near the end of the input, which may end anywhere.
