@@ -2,6 +2,7 @@
 #include "search/database_search.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "base/app_info.h"
 
@@ -23,29 +24,32 @@ std::int32_t EndOfStretch(std::int32_t row, std::int32_t rowCount) {
 SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, std::int32_t position,
                              std::int32_t limit, WorkWatcher* watcher) {
     SearchOutcome outcome;
+    std::vector<std::int32_t>& hits = outcome.hits;
+    // One more shows that the limit has been reached, and where the search would go on.
+    const std::size_t wanted = static_cast<std::size_t>(std::max(limit, 0)) + 1;
     std::int32_t row = std::max(position, 0);
     while (row < rows.RowCount()) {
         // The end of the rows before the next pause.
         const std::int32_t end =
             watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
-        const std::int32_t hit = finder.FindNext(row, end);
-        if (hit < end) {
-            const auto hits = static_cast<std::int32_t>(outcome.hits.size());
-            if (hits >= limit) {
-                outcome.limitReached = true;
-                outcome.nextPosition = hit;
+        std::size_t told = hits.size();
+        finder.FindHits(row, end, wanted - told, hits);
+        const bool limitReached = hits.size() == wanted;
+        const std::int32_t nextPosition = limitReached ? hits.back() : 0;
+        hits.resize(hits.size() - (limitReached ? 1 : 0));
+        while (watcher != nullptr && told < hits.size()) {
+            if (!watcher->OnHit(hits[told++])) {
+                hits.resize(told);
                 return outcome;
             }
-            outcome.hits.push_back(hit);
-            if (watcher != nullptr && !watcher->OnHit(hit)) {
-                return outcome;
-            }
-            row = hit + 1;
-        } else {
-            row = end;
         }
-        if (watcher != nullptr && row == end && (end - 1) % kRecordsBetweenPauses == 0 &&
-            !watcher->OnPause()) {
+        if (limitReached) {
+            outcome.limitReached = true;
+            outcome.nextPosition = nextPosition;
+            return outcome;
+        }
+        row = end;
+        if (watcher != nullptr && (end - 1) % kRecordsBetweenPauses == 0 && !watcher->OnPause()) {
             return outcome;
         }
     }

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <cstring>
 #include <utility>
+#include <vector>
 
 namespace brelex {
 
@@ -14,10 +14,37 @@ namespace {
 constexpr int kBytes = 256;
 constexpr unsigned char kCaseBit = 0x20;
 
-}  // namespace
+// How often each byte occurs in a text, as a share of all bytes.
+class ByteShares {
+  public:
+    explicit ByteShares(std::string_view sample)
+        : one_(1 / (static_cast<double>(sample.size()) + kBytes)) {
+        counts_.fill(1);  // no byte is considered impossible
+        for (const char c : sample) {
+            ++counts_[static_cast<unsigned char>(c)];
+        }
+    }
 
-FragmentSearch::Probe FragmentSearch::ProbeOf(const WildcardPattern::ByteSet& set,
-                                              std::size_t place, unsigned char ignored) {
+    // The share of the bytes that pass a test.
+    [[nodiscard]] double Of(const ByteTest& test) const {
+        unsigned count = 0;
+        for (int byte = test.lowest; byte <= test.lowest + test.span; ++byte) {
+            if ((byte & test.ignored) == test.ignored) {
+                count += counts_[static_cast<std::size_t>(byte)];
+                count +=
+                    test.ignored == 0 ? 0 : counts_[static_cast<std::size_t>(byte & ~test.ignored)];
+            }
+        }
+        return count * one_;
+    }
+
+  private:
+    double one_;
+    std::array<unsigned, kBytes> counts_{};
+};
+
+// The narrowest test that all bytes of a set pass.
+ByteTest TestOf(const WildcardPattern::ByteSet& set, unsigned char ignored) {
     int lowest = kBytes;
     int highest = -1;
     for (int byte = 0; byte < kBytes; ++byte) {
@@ -27,111 +54,80 @@ FragmentSearch::Probe FragmentSearch::ProbeOf(const WildcardPattern::ByteSet& se
         }
     }
     if (highest < 0) {  // a character outside the code page: nothing can match
-        return {place, 0xFF, 0, 0};
+        return {0xFF, 0, 0};
     }
-    return {place, ignored, static_cast<unsigned char>(lowest),
+    return {ignored, static_cast<unsigned char>(lowest),
             static_cast<unsigned char>(highest - lowest)};
 }
 
+struct RatedTest {
+    PlacedTest placed;
+    double share = 1;  // of the positions that pass
+};
+
+RatedTest RarestTestOf(const WildcardPattern::ByteSet& set, std::size_t place,
+                       const ByteShares& shares) {
+    const ByteTest exact = TestOf(set, 0);
+    const ByteTest caseless = TestOf(set, kCaseBit);
+    const double exactShare = shares.Of(exact);
+    const double caselessShare = shares.Of(caseless);
+    return caselessShare < exactShare ? RatedTest{{place, caseless}, caselessShare}
+                                      : RatedTest{{place, exact}, exactShare};
+}
+
+bool IsRarer(const RatedTest& a, const RatedTest& b) {
+    return a.share < b.share;
+}
+
+bool Passes(std::string_view sample, std::size_t position, const PlacedTest& placed) {
+    return placed.test.Passes(static_cast<unsigned char>(sample[position + placed.place]));
+}
+
+// Positions of the sample that pass a test and leave room for the fragment. A few are enough.
+std::vector<std::size_t> SamplePositions(std::string_view sample, std::size_t fragmentLength,
+                                         const PlacedTest& placed) {
+    constexpr std::size_t kEnough = 128;
+    std::vector<std::size_t> positions;
+    for (std::size_t i = 0; i + fragmentLength <= sample.size() && positions.size() < kEnough;
+         ++i) {
+        if (Passes(sample, i, placed)) {
+            positions.push_back(i);
+        }
+    }
+    return positions;
+}
+
+}  // namespace
+
 FragmentSearch::FragmentSearch(WildcardPattern::Segment fragment, std::string_view sample)
-    : fragment_(std::move(fragment)) {
-    assert(!fragment_.empty());
-    std::array<double, kBytes> shares{};
-    const double all = static_cast<double>(sample.size()) + kBytes;
-    shares.fill(1 / all);  // no byte is considered impossible
-    for (const char c : sample) {
-        shares.at(static_cast<unsigned char>(c)) += 1 / all;
+    : fragment_{std::move(fragment), {}} {
+    assert(!fragment_.sets.empty());
+    const ByteShares shares(sample);
+    std::vector<RatedTest> rated;
+    rated.reserve(fragment_.sets.size());
+    for (const WildcardPattern::ByteSet& set : fragment_.sets) {
+        rated.push_back(RarestTestOf(set, rated.size(), shares));
     }
-    const auto shareOf = [&shares](const Probe& probe) {
-        double share = 0;
-        for (int byte = probe.lowest; byte <= probe.lowest + probe.span; ++byte) {
-            if ((byte & probe.ignored) == probe.ignored) {
-                share += shares.at(static_cast<std::size_t>(byte));
-                share += probe.ignored == 0
-                             ? 0
-                             : shares.at(static_cast<std::size_t>(byte & ~probe.ignored));
-            }
-        }
-        return share;
-    };
-    double firstShare = 2;  // more than any share
-    double secondShare = 2;
-    for (std::size_t place = 0; place < fragment_.size(); ++place) {
-        Probe probe = ProbeOf(fragment_[place], place, 0);
-        double share = shareOf(probe);
-        const Probe caseless = ProbeOf(fragment_[place], place, kCaseBit);
-        if (const double caselessShare = shareOf(caseless); caselessShare < share) {
-            probe = caseless;
-            share = caselessShare;
-        }
-        if (share < firstShare) {
-            second_ = first_;
-            secondShare = firstShare;
-            first_ = probe;
-            firstShare = share;
-        } else if (share < secondShare) {
-            second_ = probe;
-            secondShare = share;
-        }
+    std::iter_swap(rated.begin(), std::min_element(rated.begin(), rated.end(), IsRarer));
+    // Letters depend on each other. So what counts of the other tests is how many positions they
+    // let through of those that the first does. The sample may have few of these.
+    constexpr double kWeightOfShares = 4;
+    const auto positions = SamplePositions(sample, fragment_.sets.size(), rated.front().placed);
+    for (auto other = rated.begin() + 1; other != rated.end(); ++other) {
+        const auto passing = std::count_if(
+            positions.begin(), positions.end(),
+            [&](std::size_t position) { return Passes(sample, position, other->placed); });
+        other->share = (static_cast<double>(passing) + kWeightOfShares * other->share) /
+                       (static_cast<double>(positions.size()) + kWeightOfShares);
     }
-    if (fragment_.size() == 1) {
-        second_ = first_;
-        secondShare = 1;
-    }
-    expectedCandidates_ = firstShare * secondShare;
-}
-
-void FragmentSearch::MarkCandidates(const unsigned char* text, Marks& marks) const {
-    const unsigned char* const a = text + first_.place;
-    const unsigned char* const b = text + second_.place;
-    // Local copies, because the compiler must assume that writing `marks` changes the members.
-    const Probe first = first_;
-    const Probe second = second_;
-    const auto markAll = [&](auto passesFirst, auto passesSecond) {
-        for (std::size_t i = 0; i < kStride; ++i) {
-            // A "&&" would be a branch.
-            const int passes =
-                static_cast<int>(passesFirst(a[i])) & static_cast<int>(passesSecond(b[i]));
-            marks[i] = static_cast<unsigned char>(-passes);
-        }
-    };
-    // Most fragments have two plain letters, for which half the instructions are enough.
-    if (first.span == 0 && second.span == 0) {
-        markAll([&](unsigned char byte) { return (byte | first.ignored) == first.lowest; },
-                [&](unsigned char byte) { return (byte | second.ignored) == second.lowest; });
+    const auto second = std::min_element(rated.begin() + 1, rated.end(), IsRarer);
+    if (second == rated.end()) {
+        fragment_.rarest = {rated.front().placed, rated.front().placed};
+        expectedCandidates_ = rated.front().share;
     } else {
-        markAll([&](unsigned char byte) { return first.Passes(byte); },
-                [&](unsigned char byte) { return second.Passes(byte); });
+        fragment_.rarest = {rated.front().placed, second->placed};
+        expectedCandidates_ = rated.front().share * second->share;
     }
-}
-
-std::size_t FragmentSearch::Find(std::string_view text, std::size_t from) const {
-    if (text.size() < fragment_.size()) {
-        return std::string_view::npos;
-    }
-    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
-    const std::size_t end = text.size() - fragment_.size() + 1;
-    Marks marks{};
-    const auto nextMark = [&marks](std::size_t i) {
-        const void* const mark = std::memchr(marks.data() + i, kMark, kStride - i);
-        return mark == nullptr ? kStride
-                               : static_cast<std::size_t>(static_cast<const unsigned char*>(mark) -
-                                                          marks.data());
-    };
-    for (; from < end && end - from >= kStride; from += kStride) {
-        MarkCandidates(bytes + from, marks);
-        for (std::size_t i = nextMark(0); i < kStride; i = nextMark(i + 1)) {
-            if (SegmentStandsAt(fragment_, text, from + i)) {
-                return from + i;
-            }
-        }
-    }
-    for (; from < end; ++from) {
-        if (first_.Passes(bytes[from + first_.place]) && SegmentStandsAt(fragment_, text, from)) {
-            return from;
-        }
-    }
-    return std::string_view::npos;
 }
 
 }  // namespace brelex

@@ -35,8 +35,8 @@ std::string SmallLettersOfBytes(std::string_view bytes) {
 
 // Takes pieces from all over the rows.
 std::string Sample(const RowList& rows) {
-    constexpr std::size_t kPieces = 16;
-    constexpr std::size_t kPieceBytes = 128;
+    constexpr std::size_t kPieces = 64;
+    constexpr std::size_t kPieceBytes = 64;
     const std::string_view all = rows.TextOfRows(0, rows.RowCount());
     std::string sample;
     for (std::size_t i = 0; i < kPieces; ++i) {
@@ -105,43 +105,50 @@ bool RecordFinder::IsHit(std::string_view recordText) const {
                                  *word_, ComparisonMode::Binary);
 }
 
-// Whether the pattern is a single fragment between stars, and `found` lies within the field of this
+// Whether a fragment that makes up the whole pattern, found at `found`, lies in the field of this
 // record.
-bool RecordFinder::HasOnlyFragment(std::string_view recordText, const char* found) const {
+bool RecordFinder::IsInField(std::string_view recordText, const char* found) const {
     const std::string_view field = FieldOf(recordText);
-    return onlyFragment_ > 0 && found >= field.data() &&
-           found + onlyFragment_ <= field.data() + field.size();
+    return found >= field.data() && found + onlyFragment_ <= field.data() + field.size();
 }
 
-std::int32_t RecordFinder::FindNext(std::int32_t first, std::int32_t last) const {
+void RecordFinder::FindHits(std::int32_t first, std::int32_t last, std::size_t limit,
+                            std::vector<std::int32_t>& hits) const {
     assert(first >= 0 && last <= rows_.RowCount());
-    if (!rarest_) {
-        while (first < last && !IsHit(rows_.RowText(first))) {
-            ++first;
-        }
-        return first;
-    }
+    limit += hits.size();
     // The very first record is a special case, because nothing precedes it.
-    if (first >= last || (first == 0 && IsHit(rows_.RowText(0)))) {
-        return first;
-    }
-    std::int32_t row = std::max(first, 1);
-    const std::string_view text = rows_.TextOfRows(row - 1, last);
-    std::size_t from = rows_.RowText(row - 1).size() + 1 - edge_;
-    while (row < last) {
-        const std::size_t found = rarest_->Find(text, from);
-        if (found == std::string_view::npos) {
-            break;
+    const std::int32_t alone = rarest_ ? std::min(last, 1) : last;
+    for (; first < alone && hits.size() < limit; ++first) {
+        if (IsHit(rows_.RowText(first))) {
+            hits.push_back(first);
         }
-        row = rows_.RowHolding(text.data() + found + edge_, row);
+    }
+    if (first >= last || hits.size() >= limit) {
+        return;
+    }
+    std::int32_t row = first - 1;
+    const std::string_view text = rows_.TextOfRows(row, last);
+    std::size_t next = rows_.RowText(row).size() + 1;  // the first byte that is not done
+    rarest_->VisitPlaces(text, next - edge_, [&](std::size_t position) {
+        const std::size_t found = position + edge_;
+        if (found < next) {
+            return next - edge_;
+        }
+        row = rows_.RowHolding(text.data() + found, row);
         const std::string_view record = rows_.RowText(row);
-        if (HasOnlyFragment(record, text.data() + found) || IsHit(record)) {
-            return row;
+        const bool isHit =
+            onlyFragment_ > 0 ? IsInField(record, text.data() + position) : IsHit(record);
+        if (isHit) {
+            hits.push_back(row);
         }
-        ++row;
-        from = static_cast<std::size_t>(record.data() + record.size() - text.data()) + 1 - edge_;
-    }
-    return last;
+        // If only the place matters, a later one in the same record may be right.
+        if (isHit || onlyFragment_ == 0) {
+            next = static_cast<std::size_t>(record.data() + record.size() - text.data()) + 1;
+        }
+        // Not from the next record, although one look at each is enough: the processor can already
+        // go on while it works out where that is.
+        return hits.size() < limit ? position + 1 : std::string_view::npos;
+    });
 }
 
 }  // namespace brelex

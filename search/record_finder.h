@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "database/row_list.h"
 #include "search/fragment_search.h"
@@ -24,16 +26,18 @@ class RecordFinder {
     /// Whether a record matches. This is the definition, applied to one record at a time.
     [[nodiscard]] bool IsHit(std::string_view recordText) const;
 
-    /// Returns the first matching row from `first` up to but not including `last`, or `last` if
-    /// there is none. Requires 0 <= first and last <= RowCount(). Searches the text of all rows at
-    /// once for the rarest fragment of the pattern, and looks only at the records that contain it.
-    [[nodiscard]] std::int32_t FindNext(std::int32_t first, std::int32_t last) const;
+    /// Appends the matching rows from `first` up to but not including `last` to `hits`, in
+    /// ascending order and at most `limit` of them. Requires 0 <= first, last <= RowCount() and a
+    /// limit above 0. Searches the text of all rows at once for the rarest fragment of the pattern,
+    /// and looks only at the records that contain it.
+    void FindHits(std::int32_t first, std::int32_t last, std::size_t limit,
+                  std::vector<std::int32_t>& hits) const;
 
   private:
     RecordFinder(const SearchRequest& request, const RowList& rows, WildcardPattern pattern);
 
     [[nodiscard]] std::string_view FieldOf(std::string_view recordText) const;
-    [[nodiscard]] bool HasOnlyFragment(std::string_view recordText, const char* found) const;
+    [[nodiscard]] bool IsInField(std::string_view recordText, const char* found) const;
 
     const RowList& rows_;
     SearchIn in_;

@@ -122,17 +122,6 @@ std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view patt
     return compiled;
 }
 
-bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
-                     std::size_t position) {
-    assert(position + segment.size() <= text.size());
-    for (std::size_t i = 0; i < segment.size(); ++i) {
-        if (!segment[i][static_cast<unsigned char>(text[position + i])]) {
-            return false;
-        }
-    }
-    return true;
-}
-
 // The first segment must be at the beginning and the last at the end. Each of the others goes to
 // the first place after its predecessor where it fits. If that leaves too little for the rest, so
 // does every later place.

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <bitset>
+#include <cassert>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -48,7 +50,15 @@ class WildcardPattern {
 };
 
 /// Whether the segment matches `text` at `position`. Requires a text that is long enough.
-[[nodiscard]] bool SegmentStandsAt(const WildcardPattern::Segment& segment, std::string_view text,
-                                   std::size_t position);
+[[nodiscard]] inline bool SegmentStandsAt(const WildcardPattern::Segment& segment,
+                                          std::string_view text, std::size_t position) {
+    assert(position + segment.size() <= text.size());
+    for (std::size_t i = 0; i < segment.size(); ++i) {
+        if (!segment[i][static_cast<unsigned char>(text[position + i])]) {
+            return false;
+        }
+    }
+    return true;
+}
 
 }  // namespace brelex

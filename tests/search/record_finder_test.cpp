@@ -2,6 +2,8 @@
 #include "search/record_finder.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
@@ -39,6 +41,19 @@ struct FindCase {
     }
 };
 
+std::vector<std::int32_t> Hits(const RecordFinder& finder, std::int32_t first, std::int32_t last,
+                               std::size_t limit) {
+    std::vector<std::int32_t> hits;
+    finder.FindHits(first, last, limit, hits);
+    return hits;
+}
+
+// The first hit from `first` up to but not including `last`, or `last` if there is none.
+std::int32_t FindNext(const RecordFinder& finder, std::int32_t first, std::int32_t last) {
+    const std::vector<std::int32_t> hits = Hits(finder, first, last, 1);
+    return hits.empty() ? last : hits.front();
+}
+
 class RecordFinderTest : public testing::TestWithParam<FindCase> {};
 
 TEST_P(RecordFinderTest, FindsARecordOrNot) {
@@ -51,7 +66,7 @@ TEST_P(RecordFinderTest, FindsARecordOrNot) {
         const auto finder = RecordFinder::Compile(GetParam().Request(), rows);
         ASSERT_TRUE(finder);
         EXPECT_EQ(finder->IsHit(rows.RowText(at)), GetParam().hit);
-        EXPECT_EQ(finder->FindNext(at, at + 1), GetParam().hit ? at : at + 1);
+        EXPECT_EQ(FindNext(*finder, at, at + 1), GetParam().hit ? at : at + 1);
     }
 }
 
@@ -151,7 +166,7 @@ TEST(RecordFinder, FindsNothingInNoRecords) {
     const FakeRows rows({});
     const auto finder = RecordFinder::Compile({"a", kExpansions}, rows);
     ASSERT_TRUE(finder);
-    EXPECT_EQ(finder->FindNext(0, 0), 0);
+    EXPECT_EQ(FindNext(*finder, 0, 0), 0);
 }
 
 std::string AnyText(std::mt19937& random, std::string_view letters, std::size_t below) {
@@ -173,16 +188,21 @@ SearchRequest AnyRequest(std::mt19937& random) {
     return request;
 }
 
-// Looking for fragments in all the text is only a faster way to what IsHit says.
-TEST(RecordFinder, FindsWhatLookingAtEachRecordFinds) {
-    std::mt19937 random(7);
+// Records with and without TABs, most of them short and some of them longer than a few vectors.
+std::vector<std::string> AnyRecords(std::mt19937& random) {
     std::vector<std::string> records;
     for (int i = 0; i < 400; ++i) {
         const char* const between = random() % 20 == 0 ? "" : "\t";
         records.push_back(AnyText(random, "abAB1x*-", 5) + between +
                           AnyText(random, "abBA1x *-\t\xE9", random() % 10 == 0 ? 300 : 12));
     }
-    const FakeRows rows(records);
+    return records;
+}
+
+// Looking for fragments in all the text is only a faster way to what IsHit says.
+TEST(RecordFinder, FindsWhatLookingAtEachRecordFinds) {
+    std::mt19937 random(7);
+    const FakeRows rows(AnyRecords(random));
     int found = 0;
     int compiled = 0;
     while (compiled < 2500) {
@@ -200,14 +220,49 @@ TEST(RecordFinder, FindsWhatLookingAtEachRecordFinds) {
             static_cast<std::int32_t>(random() % (count - static_cast<std::uint32_t>(next) + 1));
         for (std::int32_t row = next; row < last; ++row) {
             if (finder->IsHit(rows.RowText(row))) {
-                ASSERT_EQ(finder->FindNext(next, last), row) << request.text;
+                ASSERT_EQ(FindNext(*finder, next, last), row) << request.text;
                 next = row + 1;
                 ++found;
             }
         }
-        ASSERT_EQ(finder->FindNext(next, last), last) << request.text;
+        ASSERT_EQ(FindNext(*finder, next, last), last) << request.text;
     }
     EXPECT_GT(found, 20000);
+}
+
+TEST(RecordFinder, FindsAsManyHitsAsWanted) {
+    std::mt19937 random(8);
+    const FakeRows rows(AnyRecords(random));
+    int cut = 0;
+    for (int compiled = 0; compiled < 1000;) {
+        const SearchRequest request = AnyRequest(random);
+        const auto finder = RecordFinder::Compile(request, rows);
+        if (!finder) {
+            continue;
+        }
+        ++compiled;
+        const auto first = static_cast<std::int32_t>(random() % 200);
+        const auto last = first + static_cast<std::int32_t>(random() % 200);
+        const std::size_t limit = 1 + random() % 50;
+        std::vector<std::int32_t> expected;
+        for (std::int32_t row = first; row < last && expected.size() < limit; ++row) {
+            if (finder->IsHit(rows.RowText(row))) {
+                expected.push_back(row);
+            }
+        }
+        ASSERT_EQ(Hits(*finder, first, last, limit), expected) << request.text;
+        cut += expected.size() == limit ? 1 : 0;
+    }
+    EXPECT_GT(cut, 200);
+}
+
+TEST(RecordFinder, KeepsTheHitsThatItWasGiven) {
+    const FakeRows rows({"A\tb", "A\tc", "A\tb"});
+    const auto finder = RecordFinder::Compile({"b", kExpansions}, rows);
+    ASSERT_TRUE(finder);
+    std::vector<std::int32_t> hits = {7};
+    finder->FindHits(0, 3, 2, hits);
+    EXPECT_EQ(hits, (std::vector<std::int32_t>{7, 0, 2}));
 }
 
 }  // namespace
