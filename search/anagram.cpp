@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "base/letter_case.h"
 #include "base/number_text.h"
+#include "base/scope.h"
 #include "base/windows1252.h"
 #include "database/program_values.h"
 
@@ -15,6 +17,66 @@ namespace {
 
 constexpr std::int32_t kRowsBetweenPauses = 100;
 constexpr std::int32_t kFewestDistinctLetters = 2;
+
+// What each byte adds to a signature: any number, the same for both cases of a letter. Hyphens and
+// NULs add nothing.
+using SignatureParts = std::array<AnagramSignature, 256>;
+
+SignatureParts MakeSignatureParts() {
+    SignatureParts parts{};
+    for (std::size_t byte = 0; byte < parts.size(); ++byte) {
+        // Spreads the differences between small numbers over all bits.
+        const std::uint32_t small = SmallLetterOfByte(static_cast<unsigned char>(byte));
+        const std::uint32_t spread = (small * small + 1) * 0x9E3779B1U;
+        parts.at(byte) = static_cast<AnagramSignature>(spread >> 16U);
+    }
+    parts.at('-') = 0;
+    parts.at(0) = 0;
+    return parts;
+}
+
+const SignatureParts& Parts() {
+    static const SignatureParts parts = MakeSignatureParts();
+    return parts;
+}
+
+// The signature of the part of a text before its first TAB. If there is none, any number.
+AnagramSignature SignatureOfBeginning(std::string_view text, const SignatureParts& parts) {
+    constexpr std::uint64_t kEachByte = 0x0101010101010101;
+    constexpr std::size_t kWord = sizeof(kEachByte);
+    unsigned sum = 0;
+    // Whole words, with no branch that depends on the length of a short abbreviation.
+    for (; text.size() >= kWord; text.remove_prefix(kWord)) {
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < kWord; ++i) {
+            word |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
+        }
+        const std::uint64_t overTab = word ^ ('\t' * kEachByte);
+        // The lowest bit that is set belongs to the first TAB.
+        const std::uint64_t tabs = (overTab - kEachByte) & ~overTab & (0x80 * kEachByte);
+        word &= tabs == 0 ? ~std::uint64_t{0} : (tabs ^ (tabs - 1)) >> 8U;
+        for (std::size_t i = 0; i < kWord; ++i) {
+            sum += parts[word >> (8 * i) & 0xFFU];
+        }
+        if (tabs != 0) {
+            return static_cast<AnagramSignature>(sum);
+        }
+    }
+    for (const char c : text.substr(0, text.find('\t'))) {
+        sum += parts[static_cast<unsigned char>(c)];
+    }
+    return static_cast<AnagramSignature>(sum);
+}
+
+// Whether one of the signatures is the wanted one. Compares them all, which takes less time than
+// stopping at the first.
+bool HasSignature(std::span<const AnagramSignature> signatures, AnagramSignature wanted) {
+    AnagramSignature any = 0;
+    for (const AnagramSignature signature : signatures) {
+        any |= signature == wanted ? 1 : 0;
+    }
+    return any != 0;
+}
 
 }  // namespace
 
@@ -81,6 +143,10 @@ AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.si
         mayOccur_.at(byte) = occurrences_.at(byte) > 0 || character == U'-';
     }
     mayOccur_.at('\t') = false;  // a TAB ends the abbreviation, even if the user typed one
+    for (const char32_t letter : letters) {
+        signature_ = static_cast<AnagramSignature>(signature_ +
+                                                   Parts()[ByteOfCharacter(letter).value_or(0)]);
+    }
 }
 
 bool AnagramLetters::IsAnagram(std::string_view candidate) const {
@@ -107,20 +173,54 @@ bool AnagramLetters::IsHit(std::string_view recordText) const {
     return IsAnagram(candidate);
 }
 
-std::vector<std::int32_t> FindAnagrams(const RowList& rows, const AnagramLetters& letters,
-                                       WorkWatcher* watcher) {
+// Signs the rows that are not signed yet.
+void AnagramFinder::SignRowsBefore(std::int32_t end) {
+    if (end <= signedRows_) {
+        return;
+    }
+    signatures_.resize(static_cast<std::size_t>(rows_.RowCount()));
+    const SignatureParts& parts = Parts();
+    std::string_view text = rows_.TextOfRows(signedRows_, rows_.RowCount());
+    for (std::int32_t row = signedRows_; row < end; ++row) {
+        signatures_[static_cast<std::size_t>(row)] = SignatureOfBeginning(text, parts);
+        text.remove_prefix(rows_.RowText(row).size() + 1);
+    }
+    signedRows_ = end;
+}
+
+bool AnagramFinder::MayHaveHits(std::int32_t first, std::int32_t end, AnagramSignature wanted) {
+    if (isFirst_) {
+        return true;
+    }
+    SignRowsBefore(end);
+    return HasSignature(
+        std::span(signatures_)
+            .subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(end - first)),
+        wanted);
+}
+
+std::vector<std::int32_t> AnagramFinder::Find(const AnagramLetters& letters, WorkWatcher* watcher) {
+    const OnLeaving next([this] { isFirst_ = false; });
     std::vector<std::int32_t> hits;
-    for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
-        if (letters.IsHit(rows.RowText(row))) {
-            hits.push_back(row);
-            if (watcher != nullptr && !watcher->OnHit(row)) {
-                break;
+    for (std::int32_t row = 0; row < rows_.RowCount();) {
+        // The rows up to the next pause, including the one after which it comes.
+        const std::int32_t past = row % kRowsBetweenPauses;
+        const std::int32_t left = past == 0 ? 0 : kRowsBetweenPauses - past;
+        const std::int32_t end = std::min(row + left, rows_.RowCount() - 1) + 1;
+        const bool mayHaveHits = MayHaveHits(row, end, letters.Signature());
+        for (; mayHaveHits && row < end; ++row) {
+            if (letters.IsHit(rows_.RowText(row))) {
+                hits.push_back(row);
+                if (watcher != nullptr && !watcher->OnHit(row)) {
+                    return hits;
+                }
             }
         }
-        if (watcher != nullptr && row % kRowsBetweenPauses == 0) {
-            watcher->SetProgress(PercentOf(row, rows.RowCount()));
+        row = end;
+        if (watcher != nullptr && (end - 1) % kRowsBetweenPauses == 0) {
+            watcher->SetProgress(PercentOf(end - 1, rows_.RowCount()));
             if (!watcher->OnPause()) {
-                break;
+                return hits;
             }
         }
     }

@@ -7,7 +7,6 @@
 
 #include "base/scope.h"
 #include "base/windows1252.h"
-#include "search/anagram.h"
 #include "search/database_search.h"
 
 namespace brelex {
@@ -99,7 +98,10 @@ bool AnagramSession::Scan(const std::u32string& letters) {
     Begin(letters);
     view_.LetEventsRun();
     if (state_ == WorkState::Running) {
-        (void)FindAnagrams(*values_.AcronymList, AnagramLetters(letters), this);
+        if (!finder_) {
+            finder_.emplace(*values_.AcronymList);
+        }
+        (void)finder_->Find(AnagramLetters(letters), this);
     }
     return state_ == WorkState::Running;
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "base/long_work.h"
 #include "base/message_sink.h"
 #include "database/program_values.h"
+#include "search/anagram.h"
 #include "search/copied_rows.h"
 
 namespace brelex {
@@ -120,6 +122,7 @@ class AnagramSession final : private WorkWatcher {
     AnagramView& view_;
     MessageSink& messages_;
     std::function<void(std::int32_t)> goToRecord_;
+    std::optional<AnagramFinder> finder_;  // from the first search on
     AnagramDisplay display_;
     WorkState state_ = WorkState::Idle;
     std::u32string letters_;

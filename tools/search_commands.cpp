@@ -62,7 +62,7 @@ int RunAnagram(const std::string& database, const std::string& letters, bool jso
         return failure;
     }
     const RecordStore& store = opened.store;
-    const auto hits = FindAnagrams(store, AnagramLetters(typed), nullptr);
+    const auto hits = AnagramFinder(store).Find(AnagramLetters(typed), nullptr);
     if (json) {
         PrintJsonRecords(store, hits, out);
     } else {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/letter_case.h"
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "tests/support/fakes.h"
@@ -132,7 +133,13 @@ bool IsAnagramPlainly(const std::u32string& letters, const std::u32string& candi
            });
 }
 
-TEST(FindAnagrams, FindsWhatTheDefinitionFinds) {
+// One search of rows that have not been searched before.
+std::vector<std::int32_t> FindAnagrams(const RowList& rows, std::u32string_view letters,
+                                       WorkWatcher* watcher) {
+    return AnagramFinder(rows).Find(AnagramLetters(letters), watcher);
+}
+
+TEST(AnagramFinder, FindsWhatTheDefinitionFinds) {
     std::mt19937 random(5);
     const auto anyText = [&random](std::string_view letters, std::size_t below) {
         std::string text;
@@ -144,9 +151,11 @@ TEST(FindAnagrams, FindsWhatTheDefinitionFinds) {
     std::vector<std::string> records;
     records.reserve(1000);
     for (int i = 0; i < 1000; ++i) {
-        records.push_back(anyText("abAB1- ", 7) + (random() % 30 == 0 ? "" : "\tx"));
+        records.push_back(anyText("abAB1- ", random() % 10 == 0 ? 30 : 7) +
+                          (random() % 30 == 0 ? "" : "\tx"));
     }
     const FakeRows rows(records);
+    AnagramFinder finder(rows);
     std::vector<std::u32string> candidates;
     candidates.reserve(records.size());
     for (const std::string& record : records) {
@@ -163,22 +172,25 @@ TEST(FindAnagrams, FindsWhatTheDefinitionFinds) {
                 expected.push_back(static_cast<std::int32_t>(row));
             }
         }
-        ASSERT_EQ(FindAnagrams(rows, AnagramLetters(letters), nullptr), expected) << typed;
+        ASSERT_EQ(FindAnagrams(rows, letters, nullptr), expected) << typed;
+        ASSERT_EQ(finder.Find(AnagramLetters(letters), nullptr), expected) << typed;
         found += expected.size();
     }
     EXPECT_GT(found, 1000U);
 }
 
-TEST(FindAnagrams, AnyOrderOfAnAbbreviationFindsIt) {
+TEST(AnagramFinder, AnyOrderOfAnAbbreviationFindsIt) {
     std::mt19937 random(9);
     const FakeRows rows({"3GPP\ta", "ASCII\tb", "CD-ROM\tc", "I/O\td", "LISP\te", "R&D\tf",
-                         "TCP/IP\tg", "WYSIWYG\th", "cc-NUMA\ti"});
+                         "TCP/IP\tg", "WYSIWYG\th", "cc-NUMA\ti", "EIGHT-BY\tj", "SEVENER\tk",
+                         "AN-ABBREVIATION-OF-MANY-WORDS\tl"});
+    AnagramFinder finder(rows);
     for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
         std::string letters(GetAbbreviation(rows.RowText(row)));
         std::erase(letters, '-');
         for (int i = 0; i < 50; ++i) {
             std::shuffle(letters.begin(), letters.end(), random);
-            EXPECT_EQ(FindAnagrams(rows, AnagramLetters(DecodeUtf8(letters)), nullptr),
+            EXPECT_EQ(finder.Find(AnagramLetters(DecodeUtf8(letters)), nullptr),
                       std::vector<std::int32_t>{row});
         }
     }
@@ -190,35 +202,75 @@ FakeRows CpuAmong(int count, int at) {
     return FakeRows(records);
 }
 
-TEST(FindAnagrams, ReportsEvery100thEntryOf250As0And40And80Percent) {
+TEST(AnagramFinder, ReportsEvery100thEntryOf250As0And40And80Percent) {
     RecordingWatcher watcher;
-    (void)FindAnagrams(CpuAmong(250, 100), AnagramLetters(U"PUC"), &watcher);
+    (void)FindAnagrams(CpuAmong(250, 100), U"PUC", &watcher);
     EXPECT_EQ(watcher.events,
               (std::vector<std::string>{"0%", "pause", "hit 100", "40%", "pause", "80%", "pause"}));
 }
 
-TEST(FindAnagrams, RoundsHalvesToEven) {
+TEST(AnagramFinder, RoundsHalvesToEven) {
     RecordingWatcher watcher;
-    (void)FindAnagrams(CpuAmong(8000, 0), AnagramLetters(U"PUC"), &watcher);
+    (void)FindAnagrams(CpuAmong(8000, 0), U"PUC", &watcher);
     // 100 of 8000 are 1.25 %, 200 are 2.5 %, 600 are 7.5 %.
     EXPECT_EQ(watcher.percents[1], 1);
     EXPECT_EQ(watcher.percents[2], 2);
     EXPECT_EQ(watcher.percents[6], 8);
 }
 
-TEST(FindAnagrams, WorksThePercentageOutInDoublePrecision) {
+TEST(AnagramFinder, WorksThePercentageOutInDoublePrecision) {
     RecordingWatcher watcher;
-    (void)FindAnagrams(CpuAmong(20000, 0), AnagramLetters(U"PUC"), &watcher);
+    (void)FindAnagrams(CpuAmong(20000, 0), U"PUC", &watcher);
     // 10900 of 20000 are a little more than 54.5 % then, 11500 a little less than 57.5 %.
     EXPECT_EQ(watcher.percents[109], 55);
     EXPECT_EQ(watcher.percents[115], 57);
 }
 
-TEST(FindAnagrams, EndsWhenItsWatcherSaysSo) {
+TEST(AnagramFinder, EndsWhenItsWatcherSaysSo) {
     RecordingWatcher watcher;
     watcher.endsAtPause = 2;
-    EXPECT_TRUE(FindAnagrams(CpuAmong(500, 300), AnagramLetters(U"PUC"), &watcher).empty());
+    EXPECT_TRUE(FindAnagrams(CpuAmong(500, 300), U"PUC", &watcher).empty());
     EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "pause", "20%", "pause"}));
+}
+
+TEST(AnagramFinder, ReportsTheSameWhenItHasSearchedBefore) {
+    const FakeRows rows = CpuAmong(250, 100);
+    AnagramFinder finder(rows);
+    for (int search = 0; search < 4; ++search) {
+        RecordingWatcher watcher;
+        EXPECT_EQ(finder.Find(AnagramLetters(U"PUC"), &watcher), std::vector<std::int32_t>{100});
+        EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "pause", "hit 100", "40%",
+                                                            "pause", "80%", "pause"}));
+    }
+}
+
+TEST(AnagramFinder, FindsAllAfterASearchThatWasStopped) {
+    const FakeRows rows = CpuAmong(500, 300);
+    AnagramFinder finder(rows);
+    for (int search = 0; search < 3; ++search) {
+        RecordingWatcher watcher;
+        watcher.endsAtPause = 1 + search;
+        EXPECT_TRUE(finder.Find(AnagramLetters(U"PUC"), &watcher).empty());
+    }
+    EXPECT_EQ(finder.Find(AnagramLetters(U"PUC"), nullptr), std::vector<std::int32_t>{300});
+}
+
+TEST(AnagramFinder, FindsEveryByteInEitherCase) {
+    for (int byte = 1; byte < 256; ++byte) {
+        const auto letter = static_cast<char>(byte);
+        const auto other = static_cast<char>(SmallLetterOfByte(static_cast<unsigned char>(byte)));
+        if (letter == '-' || letter == '\t') {
+            continue;
+        }
+        const FakeRows rows({std::string("X") + letter + "\ta", std::string("x") + other + "\tb"});
+        AnagramFinder finder(rows);
+        const std::u32string typed = {U'X', CharacterOfByte(static_cast<unsigned char>(byte))};
+        for (int search = 0; search < 3; ++search) {
+            EXPECT_EQ(finder.Find(AnagramLetters(typed), nullptr),
+                      (std::vector<std::int32_t>{0, 1}))
+                << byte;
+        }
+    }
 }
 
 }  // namespace
