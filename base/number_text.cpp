@@ -157,10 +157,8 @@ std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
 
 int PercentOf(std::int32_t done, std::int32_t total) {
     assert(total > 0);
-    // The 32-bit Windows program would carry more digits from one step to the next.
-    const volatile double share = static_cast<double>(done) / total;
-    const volatile double percent = share * 100;
-    return static_cast<int>(std::nearbyint(percent));
+    const double share = static_cast<double>(done) / total;
+    return static_cast<int>(std::nearbyint(share * 100));
 }
 
 }  // namespace brelex

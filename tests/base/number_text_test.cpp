@@ -126,6 +126,9 @@ TEST(PercentOf, RoundsToTheNearestAndHalvesToEven) {
     EXPECT_EQ(PercentOf(5, 200), 2);      // 2.5
     EXPECT_EQ(PercentOf(199, 200), 100);  // 99.5
     EXPECT_EQ(PercentOf(2147483646, 2147483647), 100);
+    // With more digits than a double has between the steps, these would be halves.
+    EXPECT_EQ(PercentOf(10900, 20000), 55);
+    EXPECT_EQ(PercentOf(11500, 20000), 57);
 }
 
 TEST(FormatPlain, HasNoFixedDecimals) {
