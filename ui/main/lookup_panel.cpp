@@ -68,8 +68,9 @@ LookupPanel::LookupPanel(wxWindow& surface, const LayoutUnits& units, const Prog
       lblColHeaderBack(Named(new Backdrop(&surface), "lblColHeaderBack")),
       picColHeader(new ColumnHeader(lblColHeaderBack, units)),
       lstAcronyms(&CreateEntryListControl(surface, units.Pixels(kExpansionTextAt))) {
-    Named(&lstAcronyms->Window(), "lstAcronyms", "Entries");
+    // In this order: a list that has a name already reports each row to screen readers.
     lstAcronyms->SetRows(*values.AcronymList);
+    Named(&lstAcronyms->Window(), "lstAcronyms", "Entries");
     SetMaxBoxLength(static_cast<std::size_t>(std::max(values.Header.MaxAbbrvLength, 0)));
     LeadAccessKeysTo(window_, {{lblInstruction, txtAbbrv}});
     BindBox();
