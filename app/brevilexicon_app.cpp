@@ -11,6 +11,7 @@
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/system/modRunAtStartup.h"
 #include "platform/system/program_folder.h"
+#include "platform/window/font_reading.h"
 #include "toolkit/wx_text.h"
 
 namespace brelex {
@@ -24,6 +25,12 @@ float SecondsSinceMidnight() {
 }
 
 }  // namespace
+
+// The fonts are read while the toolkit initializes itself and reads the theme.
+bool BrevilexiconApp::Initialize(int& argumentCount, wxChar** arguments) {
+    StartReadingFonts();
+    return wxApp::Initialize(argumentCount, arguments);
+}
 
 bool BrevilexiconApp::OnInit() {
     SetAppName("brevilexicon");

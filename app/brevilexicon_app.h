@@ -12,6 +12,7 @@ namespace brelex {
 /// The program.
 class BrevilexiconApp final : public wxApp {
   public:
+    bool Initialize(int& argumentCount, wxChar** arguments) override;
     bool OnInit() override;
     int OnExit() override;
     bool OnExceptionInMainLoop() override;
