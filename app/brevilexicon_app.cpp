@@ -51,6 +51,12 @@ bool BrevilexiconApp::OnInit() {
     return true;
 }
 
+// The texts are English whatever the user's language is. The toolkit comes to the same answer, but
+// makes a table of all languages first.
+wxLayoutDirection BrevilexiconApp::GetLayoutDirection() const {
+    return wxLayout_LeftToRight;
+}
+
 int BrevilexiconApp::OnExit() {
     // What the user copied stays on the clipboard if the desktop keeps it. Asking for that runs an
     // event loop on GTK, so it waits until no window is left.

@@ -14,6 +14,7 @@ class BrevilexiconApp final : public wxApp {
   public:
     bool Initialize(int& argumentCount, wxChar** arguments) override;
     bool OnInit() override;
+    [[nodiscard]] wxLayoutDirection GetLayoutDirection() const override;
     int OnExit() override;
     bool OnExceptionInMainLoop() override;
     void OnUnhandledException() override;
