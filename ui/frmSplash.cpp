@@ -62,9 +62,7 @@ frmSplash::frmSplash(const AppInfo& info)
 }
 
 wxStaticText* frmSplash::NewLabel(const wxString& name, const wxString& text) {
-    auto* label = Named(new wxStaticText(this, wxID_ANY, wxEmptyString), name);
-    label->SetLabelText(text);
-    return label;
+    return Named(new wxStaticText(this, wxID_ANY, wxControl::EscapeMnemonics(text)), name);
 }
 
 // Without a title bar, only an outline separates the window from its background.
