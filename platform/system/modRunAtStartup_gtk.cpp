@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "base/app_info.h"
@@ -31,6 +32,11 @@ std::optional<fs::path> AutostartFile() {
     return fs::path(home) / ".config" / kName;
 }
 
+bool Contains(const fs::path& file, std::string_view text) {
+    const std::optional<ByteBuffer> content = ReadWholeFile(file);
+    return content && content->View() == text;
+}
+
 }  // namespace
 
 bool SetRunAtStartup(const std::string& appFolder, const std::string& programName, bool enable) {
@@ -42,10 +48,14 @@ bool SetRunAtStartup(const std::string& appFolder, const std::string& programNam
     if (!enable) {
         return fs::remove(*file, error);
     }
-    fs::create_directories(file->parent_path(), error);
     const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
                               "\nExec=\"" + EscapedForExecLine(appFolder + programName) +
                               "\" /minimize\n";
+    // Every start asks for the entry, and seldom is it not there yet.
+    if (Contains(*file, entry)) {
+        return true;
+    }
+    fs::create_directories(file->parent_path(), error);
     return !error && ReplaceFile(*file, entry);
 }
 

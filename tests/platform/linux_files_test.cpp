@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -347,6 +348,21 @@ TEST(SetRunAtStartupOnLinux, WritesTheAutostartEntryAndDeletesIt) {
     EXPECT_FALSE(fs::exists(file));
     EXPECT_FALSE(
         SetRunAtStartup("/opt/elsewhere/", "brevilexicon", false));  // there was nothing to delete
+}
+
+TEST(SetRunAtStartupOnLinux, WritesOnlyAnEntryThatDiffers) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    ASSERT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
+    const std::string entry = ReadText(file);
+    const fs::file_time_type longAgo = fs::last_write_time(file) - std::chrono::hours(1);
+    fs::last_write_time(file, longAgo);
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(fs::last_write_time(file), longAgo);
+    folder.Write("autostart/brevilexicon.desktop", entry + "Hidden=true\n");
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(ReadText(file), entry);
 }
 
 TEST(SetRunAtStartupOnLinux, NamesTheFileThatTheProgramIs) {
