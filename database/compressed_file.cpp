@@ -87,15 +87,15 @@ class Expander {
     }
 
   private:
-    // Moves to a buffer with room for twice as much output. Returns false if there is too much
-    // already, or memory is short.
+    // Moves to a buffer with room for twice as much output and what the rest expands to at least.
+    // Returns false if there is too much already, or memory is short.
     [[nodiscard]] bool Grow() {
         const std::size_t soFar = used_ - kRingBytes;
         if (soFar > mostBytes_) {
             return false;
         }
         const std::size_t rest = buffer_.Size() - next_;
-        const std::size_t room = std::min(2 * soFar, mostBytes_ + kMaxGroupOutput);
+        const std::size_t room = std::min(2 * soFar + rest, mostBytes_ + kMaxGroupOutput);
         ByteBuffer larger(kRingBytes + room + kGapBytes + rest);
         if (larger.IsNull()) {
             return false;
@@ -152,7 +152,7 @@ class Expander {
     void ExpandLastGroup() {
         char* const bytes = buffer_.Data();
         std::size_t flags = Byte(bytes[next_++]);
-        for (int item = 0; item < 8; ++item, flags >>= 1U) {
+        for (std::size_t item = 0; item < kItemsOfGroup; ++item, flags >>= 1U) {
             const bool literal = (flags & 1U) != 0;
             if (buffer_.Size() - next_ < (literal ? 1 : 2)) {
                 next_ = buffer_.Size();
