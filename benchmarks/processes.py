@@ -1,15 +1,18 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Times whole processes of a finished build and others in turn, and prints medians and ratios.
+"""Measures whole processes of a finished build and others in turn; prints medians and ratios.
 
   benchmarks/processes.py build/bench/bin [build/win32/bin]
 
 Acronyms.dat must be beside the programs. Compares brelex with look and sdcv, if they are installed.
-Under scripts/with_display it also times how long the windows take to appear, and with the second
+Under scripts/with_display it also measures how long the windows take to appear and to be painted,
+how long the hidden window takes to come back, how long the list takes to follow a key, and how much
+memory the programs use. It compares the keys with GoldenDict if that is installed. With the second
 folder it times the Windows program under Wine.
 """
 import collections
 import os
+import re
 import shutil
 import statistics
 import struct
@@ -19,6 +22,20 @@ import tempfile
 import time
 
 NOWHERE = os.open(os.devnull, os.O_RDWR)
+TITLE = "Brevilexicon ("
+WINE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../scripts/windows/wine32")
+
+
+def report(name, ours, theirs, unit):
+    ratio = statistics.median(x / y for x, y in zip(ours, theirs))
+    print(f"{name}: {statistics.median(ours):.2f} {unit} / {statistics.median(theirs):.2f} {unit}, "
+          f"ratio {ratio:.2f}")
+
+
+def in_turn(measure, ours, theirs, runs):
+    measure(ours), measure(theirs)
+    pairs = [(measure(ours), measure(theirs)) for _ in range(runs)]
+    return zip(*pairs)
 
 
 def milliseconds(command):
@@ -30,27 +47,12 @@ def milliseconds(command):
     return (time.perf_counter() - start) * 1000
 
 
-def pair(name, ours, theirs, measure, runs):
-    a, b = [], []
-    measure(ours), measure(theirs)
-    for _ in range(runs):
-        a.append(measure(ours))
-        b.append(measure(theirs))
-    ratios = [x / y for x, y in zip(a, b)]
-    print(f"{name}: {statistics.median(a):.2f} ms / {statistics.median(b):.2f} ms, "
-          f"ratio {statistics.median(ratios):.2f}")
-
-
-def start_of_window(timer, program, empty, runs):
-    def measure(command):
-        title = "Empty" if command is empty else "Brevilexicon ("
-        # Wine's server keeps a pipe open after its programs have ended.
-        with tempfile.TemporaryFile() as out:
-            subprocess.run([timer, title, *command], stdout=out, check=True)
-            out.seek(0)
-            return float(out.read())
-    pair(f"start to main window / empty frame ({program[-1].rpartition('/')[2]})", program, empty,
-         measure, runs)
+def output_of(command):
+    # Wine's server keeps a pipe open after its programs have ended.
+    with tempfile.TemporaryFile("w+") as out:
+        subprocess.run(command, stdout=out, check=True)
+        out.seek(0)
+        return [float(number) for number in out.read().split()]
 
 
 def write_stardict(folder, entries):
@@ -75,6 +77,10 @@ def write_stardict(folder, entries):
             out.write(content)
 
 
+def compare(name, ours, theirs):
+    report(name, *in_turn(milliseconds, ours, theirs, 200), "ms")
+
+
 def time_brelex(brelex, scratch):
     commands = {"lookup TCP": ["lookup", "TCP"], "search network": ["search", "network"],
                 "anagram MRA": ["anagram", "MRA"]}
@@ -88,24 +94,90 @@ def time_brelex(brelex, scratch):
     for peer, theirs in peers.items():
         if shutil.which(theirs[0]):
             for command, ours in commands.items():
-                pair(f"brelex {command} / {peer}", [brelex, *ours], theirs, milliseconds, 200)
+                compare(f"brelex {command} / {peer}", [brelex, *ours], theirs)
     for option in ("--version", "--help"):
-        pair(f"brelex {option} / true", [brelex, option], ["/bin/true"], milliseconds, 200)
+        compare(f"brelex {option} / true", [brelex, option], ["/bin/true"])
+
+
+def start_of_window(tools, program, empty):
+    def measure(command):
+        title = "Empty" if command is empty else TITLE
+        return output_of([os.path.join(tools, "window_timer"), title, *command])
+    ours, theirs = in_turn(measure, program, empty, 15)
+    for i, what in enumerate(["shown", "painted"]):
+        report(f"start until the window is {what} / empty frame ({os.path.basename(program[-1])})",
+               [run[i] for run in ours], [run[i] for run in theirs], "ms")
+
+
+# The inside of the lists of both programs, and the settings that make them start in a known state.
+OUR_LIST = ["20", "200", "300", "200"]
+THEIR_LIST = ["85", "60", "170", "60"]
+THEIR_SETTINGS = """<config><paths><path recursive="0">{}</path></paths><preferences>
+<enableTrayIcon>0</enableTrayIcon><checkForNewReleases>0</checkForNewReleases>
+<enableMainWindowHotkey>0</enableMainWindowHotkey><enableClipboardHotkey>0</enableClipboardHotkey>
+<enableScanPopup>0</enableScanPopup></preferences></config>
+"""
+
+
+def write_file(path, text):
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    with open(path, "w") as out:
+        out.write(text)
+
+
+def keys(tools, program, scratch):
+    """Uses the home of scripts/with_display, which is empty and goes with the display."""
+    home = os.environ["HOME"]
+    write_file(home + "/.config/gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=0\n")
+    runs = {"key to list": [TITLE, *OUR_LIST, *program]}
+    if shutil.which("goldendict"):
+        write_file(home + "/.goldendict/config", THEIR_SETTINGS.format(scratch))
+        runs["key to list of GoldenDict"] = ["GoldenDict", *THEIR_LIST, shutil.which("goldendict")]
+    for _ in range(2):
+        for name, command in runs.items():
+            times = output_of([os.path.join(tools, "key_timer"), *command])
+            print(f"{name}: median {statistics.median(times):.1f} ms, longest {max(times):.1f} ms")
+    os.remove(home + "/.config/gtk-3.0/settings.ini")
+
+
+def coming_back(tools, program):
+    for how, name in [("key", "hot key"), ("click", "click on the icon")]:
+        times = output_of([os.path.join(tools, "wake_timer"), how, TITLE, *program])
+        print(f"{name} until the hidden window is painted: median {statistics.median(times):.1f} ms, "
+              f"longest {max(times):.1f} ms")
+
+
+def memory(program, empty):
+    def measure(command):
+        process = subprocess.Popen(command)
+        time.sleep(2)  # by then everything that a start sets off has come to rest
+        with open(f"/proc/{process.pid}/smaps_rollup") as file:
+            sizes = dict(re.findall(r"^(\w+): +(\d+) kB", file.read(), re.M))
+        process.terminate()
+        process.wait()
+        return [int(sizes[name]) / 1024 for name in ("Rss", "Private_Dirty")]
+    ours, theirs = in_turn(measure, program, empty, 3)
+    for i, what in enumerate(["resident memory", "private memory"]):
+        report(f"{what} / empty frame", [run[i] for run in ours], [run[i] for run in theirs], "MiB")
+
+
+def time_windows(folder, windows, scratch):
+    program, empty = [os.path.join(folder, "brevilexicon")], [os.path.join(folder, "empty_frame")]
+    start_of_window(folder, program, empty)
+    coming_back(folder, program)
+    memory(program, empty)
+    keys(folder, program, scratch)
+    if windows:
+        start_of_window(folder, [WINE, os.path.join(windows, "brevilexicon.exe")],
+                        [WINE, os.path.join(windows, "empty_frame.exe")])
 
 
 def main():
-    folder = os.path.abspath(sys.argv[1])
+    folders = [os.path.abspath(folder) for folder in sys.argv[1:]]
     with tempfile.TemporaryDirectory() as scratch:
-        time_brelex(os.path.join(folder, "brelex"), scratch)
-    if os.environ.get("DISPLAY"):
-        timer = os.path.join(folder, "window_timer")
-        start_of_window(timer, [os.path.join(folder, "brevilexicon")],
-                        [os.path.join(folder, "empty_frame")], 15)
-        if len(sys.argv) > 2:
-            wine = os.path.join(os.path.dirname(__file__), "../scripts/windows/wine32")
-            folder = os.path.abspath(sys.argv[2])
-            start_of_window(timer, [wine, os.path.join(folder, "brevilexicon.exe")],
-                            [wine, os.path.join(folder, "empty_frame.exe")], 15)
+        time_brelex(os.path.join(folders[0], "brelex"), scratch)
+        if os.environ.get("DISPLAY"):
+            time_windows(folders[0], folders[1] if len(folders) > 1 else None, scratch)
 
 
 main()

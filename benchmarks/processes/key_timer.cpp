@@ -1,26 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include <X11/Xlib.h>
-#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <X11/extensions/Xdamage.h>
 #include <X11/keysym.h>
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <poll.h>
 #include <string_view>
-#include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
-// key_timer TITLE X Y WIDTH HEIGHT PROGRAM ARGS...: starts the program, waits for the window whose
-// title begins with TITLE, types words into it, and prints for each key the milliseconds until an
-// area of the window has changed for the first time, and for the last time. The area is in pixels
-// from the upper left corner of the window's inside. Ends the program.
+#include "benchmarks/processes/window_watch.h"
+
+// key_timer TITLE X Y WIDTH HEIGHT PROGRAM ARGS...: starts the program, types words into the window
+// whose title begins with TITLE, and prints for each key the milliseconds until an area of the
+// window has changed and then stays as it is. The area is in pixels from the upper left corner of
+// the window's inside. Ends the program.
 
 namespace {
 
@@ -38,54 +36,14 @@ constexpr std::array<std::string_view, 34> kWords = {
     "xml", "bit", "fax", "jpg", "kde", "mac", "nfs", "odb", "raid", "svg", "url", "vga",
     "zip", "api", "eof", "hub", "ide", "lcd", "mpe", "oem", "ppp",  "ssh"};
 
-int IgnoreError(Display* /*display*/, XErrorEvent* /*event*/) {
-    return 0;  // windows may vanish while we look at them
-}
-
 double Milliseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-bool HasTitle(Display* display, Window window, std::string_view beginning) {
-    char* name = nullptr;
-    const bool found = XFetchName(display, window, &name) != 0 && name != nullptr &&
-                       std::string_view(name).starts_with(beginning);
-    if (name != nullptr) {
-        XFree(name);
-    }
-    return found;
-}
-
-std::optional<Window> FindWindow(Display* display, Window top, std::string_view title) {
-    XWindowAttributes attributes{};
-    if (XGetWindowAttributes(display, top, &attributes) != 0 &&
-        attributes.map_state == IsViewable && HasTitle(display, top, title)) {
-        return top;
-    }
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
-    unsigned count = 0;
-    std::optional<Window> found;
-    if (XQueryTree(display, top, &root, &parent, &children, &count) != 0 && children != nullptr) {
-        for (unsigned i = 0; i < count && !found; ++i) {
-            found = FindWindow(display, children[i], title);
-        }
-        XFree(children);
-    }
-    return found;
-}
-
-// The time of one key until the first and until the last change.
-struct KeyTime {
-    double first = 0;
-    double last = 0;
-};
-
 // Watches an area of the screen.
-class Watch {
+class AreaWatch {
   public:
-    explicit Watch(Display* display) : display_(display) {
+    AreaWatch(Display* display, XRectangle area) : display_(display), area_(area) {
         int error = 0;
         if (XDamageQueryExtension(display, &firstEvent_, &error) == 0) {
             std::fputs("key_timer: the display has no damage extension\n", stderr);
@@ -93,8 +51,6 @@ class Watch {
         }
         XDamageCreate(display, DefaultRootWindow(display), XDamageReportRawRectangles);
     }
-
-    void SetArea(XRectangle area) { area_ = area; }
 
     // Waits for a change of the area until `end`.
     std::optional<Clock::time_point> NextChange(Clock::time_point end) {
@@ -133,7 +89,7 @@ class Watch {
 
     Display* display_;
     int firstEvent_ = 0;
-    XRectangle area_{0, 0, 32767, 32767};
+    XRectangle area_;
 };
 
 void PressKey(Display* display, KeySym key) {
@@ -143,7 +99,7 @@ void PressKey(Display* display, KeySym key) {
     XFlush(display);
 }
 
-std::optional<KeyTime> TimeKey(Display* display, Watch& watch, KeySym key) {
+std::optional<double> TimeKey(Display* display, AreaWatch& watch, KeySym key) {
     const auto start = Clock::now();
     PressKey(display, key);
     const auto first = watch.NextChange(start + kNoChange);
@@ -154,32 +110,15 @@ std::optional<KeyTime> TimeKey(Display* display, Watch& watch, KeySym key) {
     while (const auto further = watch.NextChange(last + kQuiet)) {
         last = *further;
     }
-    return KeyTime{Milliseconds(*first - start), Milliseconds(last - start)};
+    return Milliseconds(last - start);
 }
 
-int TimeKeys(Display* display, std::string_view title, XRectangle area) {
-    Watch watch(display);
-    const Window root = DefaultRootWindow(display);
-    std::optional<Window> window;
-    const auto end = Clock::now() + std::chrono::seconds(60);
-    while (!(window = FindWindow(display, root, title))) {
-        if (Clock::now() > end) {
-            return 1;
-        }
-        usleep(20000);
-    }
-    int x = 0;
-    int y = 0;
-    Window child = 0;
-    XTranslateCoordinates(display, *window, root, 0, 0, &x, &y, &child);
-    area.x = static_cast<short>(area.x + x);
-    area.y = static_cast<short>(area.y + y);
-    watch.SetArea(area);
+void TimeKeys(Display* display, AreaWatch& watch) {
     watch.WaitForQuiet(kSettled);
     for (const std::string_view word : kWords) {
         for (const char letter : word) {
             if (const auto time = TimeKey(display, watch, static_cast<KeySym>(letter))) {
-                std::printf("%.2f %.2f\n", time->first, time->last);
+                std::printf("%.2f\n", *time);
             }
         }
         for (std::size_t i = 0; i < word.size(); ++i) {
@@ -187,7 +126,6 @@ int TimeKeys(Display* display, std::string_view title, XRectangle area) {
             watch.WaitForQuiet(kQuiet);
         }
     }
-    return 0;
 }
 
 }  // namespace
@@ -196,22 +134,23 @@ int main(int argc, char** argv) {
     if (argc < 7) {
         return 2;
     }
-    Display* const display = XOpenDisplay(nullptr);
-    if (display == nullptr) {
-        return 2;
+    WindowWatch window(argv[1]);
+    const pid_t program = StartProgram(argv + 6);
+    const bool isShown = window.WaitFor([&] { return window.IsShown(); }, std::chrono::seconds(60));
+    if (isShown) {
+        Display* const display = window.XDisplay();
+        int x = 0;
+        int y = 0;
+        Window child = 0;
+        XTranslateCoordinates(display, window.Id(), DefaultRootWindow(display), 0, 0, &x, &y,
+                              &child);
+        const auto number = [&](int i) { return std::atoi(argv[i]); };
+        AreaWatch watch(
+            display,
+            {static_cast<short>(x + number(2)), static_cast<short>(y + number(3)),
+             static_cast<unsigned short>(number(4)), static_cast<unsigned short>(number(5))});
+        TimeKeys(display, watch);
     }
-    XSetErrorHandler(IgnoreError);
-    const auto number = [&](int i) { return std::atoi(argv[i]); };
-    const XRectangle area{static_cast<short>(number(2)), static_cast<short>(number(3)),
-                          static_cast<unsigned short>(number(4)),
-                          static_cast<unsigned short>(number(5))};
-    const pid_t child = fork();
-    if (child == 0) {
-        execv(argv[6], argv + 6);
-        _exit(127);
-    }
-    const int result = TimeKeys(display, argv[1], area);
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    return result;
+    EndProgram(program);
+    return isShown ? 0 : 1;
 }

@@ -1,71 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
-#include <string_view>
-#include <sys/wait.h>
-#include <unistd.h>
 
-// window_timer TITLE PROGRAM ARGS...: starts the program, prints the milliseconds until a window
-// whose title begins with TITLE appears on the screen, and ends the program.
+#include "benchmarks/processes/window_watch.h"
 
-namespace {
-
-using Clock = std::chrono::steady_clock;
-
-bool HasTitle(Display* display, Window window, std::string_view beginning) {
-    char* name = nullptr;
-    const bool found = XFetchName(display, window, &name) != 0 && name != nullptr &&
-                       std::string_view(name).starts_with(beginning);
-    if (name != nullptr) {
-        XFree(name);
-    }
-    return found;
-}
-
-int IgnoreError(Display* /*display*/, XErrorEvent* /*event*/) {
-    return 0;  // windows may vanish while we look at them
-}
-
-}  // namespace
+// window_timer TITLE PROGRAM ARGS...: starts the program and prints two times in milliseconds:
+// until a window whose title begins with TITLE appears on the screen, and until the program has
+// painted all of it. Then it ends the program.
 
 int main(int argc, char** argv) {
     if (argc < 3) {
         return 2;
     }
-    Display* const display = XOpenDisplay(nullptr);
-    if (display == nullptr) {
-        return 2;
-    }
-    XSetErrorHandler(IgnoreError);
-    const Window root = DefaultRootWindow(display);
-    XSelectInput(display, root, SubstructureNotifyMask);
-    XSync(display, False);
-    const auto start = Clock::now();
-    const pid_t child = fork();
-    if (child == 0) {
-        execv(argv[2], argv + 2);
-        _exit(127);
-    }
-    bool shown = false;
-    while (!shown && Clock::now() - start < std::chrono::seconds(20)) {
-        if (XPending(display) == 0) {
-            usleep(200);  // without asking the server anything, because it is busy with the program
-            continue;
-        }
-        XEvent event;
-        XNextEvent(display, &event);
-        if (event.type == CreateNotify && event.xcreatewindow.parent == root) {
-            XSelectInput(display, event.xcreatewindow.window, StructureNotifyMask);
-        } else if (event.type == MapNotify) {
-            shown = HasTitle(display, event.xmap.window, argv[1]);
-        }
-    }
-    const auto elapsed = Clock::now() - start;
-    kill(child, SIGTERM);
-    waitpid(child, nullptr, 0);
-    std::printf("%.1f\n", std::chrono::duration<double, std::milli>(elapsed).count());
-    return shown ? 0 : 1;
+    WindowWatch watch(argv[1]);
+    const auto start = std::chrono::steady_clock::now();
+    const auto passed = [start] {
+        return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+            .count();
+    };
+    constexpr std::chrono::seconds kPatience(20);
+    const pid_t program = StartProgram(argv + 2);
+    watch.WaitFor([&] { return watch.IsShown(); }, kPatience);
+    const double shown = passed();
+    const bool isPainted = watch.WaitFor([&] { return watch.IsPainted(); }, kPatience);
+    std::printf("%.1f %.1f\n", shown, passed());
+    EndProgram(program);
+    return isPainted ? 0 : 1;
 }
