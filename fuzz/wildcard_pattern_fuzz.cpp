@@ -30,7 +30,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (segment.empty()) {
             continue;
         }
-        const std::size_t found = brelex::FragmentSearch(segment, field).Find(field, 0);
+        std::size_t found = std::string_view::npos;
+        brelex::FragmentSearch(segment, field).VisitPlaces(field, 0, [&](std::size_t position) {
+            found = std::min(found, position);
+            return field.size();
+        });
         if (found == std::string_view::npos ? matches : found + segment.size() > field.size()) {
             std::abort();
         }

@@ -27,7 +27,7 @@ using std::chrono::milliseconds;
 
 // After this time without a change, the area is taken to be complete.
 constexpr milliseconds kQuiet{120};
-// After this time without a change, the program is taken to be ready for the first key.
+// After this time, the program is taken to be ready for the first key.
 constexpr milliseconds kSettled{4000};
 // A key that changes nothing is given up after this time.
 constexpr milliseconds kNoChange{400};
@@ -83,8 +83,9 @@ class AreaWatch {
         std::copy_n(reinterpret_cast<const char*>(&event), sizeof damage,
                     reinterpret_cast<char*>(&damage));
         const XRectangle& other = damage.area;
-        return other.x < area_.x + area_.width && area_.x < other.x + other.width &&
-               other.y < area_.y + area_.height && area_.y < other.y + other.height;
+        return damage.drawable == DefaultRootWindow(display_) && other.x < area_.x + area_.width &&
+               area_.x < other.x + other.width && other.y < area_.y + area_.height &&
+               area_.y < other.y + other.height;
     }
 
     Display* display_;
@@ -114,7 +115,6 @@ std::optional<double> TimeKey(Display* display, AreaWatch& watch, KeySym key) {
 }
 
 void TimeKeys(Display* display, AreaWatch& watch) {
-    watch.WaitForQuiet(kSettled);
     for (const std::string_view word : kWords) {
         for (const char letter : word) {
             if (const auto time = TimeKey(display, watch, static_cast<KeySym>(letter))) {
@@ -138,6 +138,7 @@ int main(int argc, char** argv) {
     const pid_t program = StartProgram(argv + 6);
     const bool isShown = window.WaitFor([&] { return window.IsShown(); }, std::chrono::seconds(60));
     if (isShown) {
+        window.WaitFor([] { return false; }, kSettled);
         Display* const display = window.XDisplay();
         int x = 0;
         int y = 0;
