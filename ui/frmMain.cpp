@@ -67,12 +67,14 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
            .selectedEntry = [this] { return SelectedEntry(); },
            .openAddress = [this](const std::string& target) { documents_.OpenAddress(target); },
            .onModal = [this](bool begins) { OnModal(begins); }}),
-      tray_(*this, {.isModalOpen = [this] { return IsModalOpen(); },
-                    .raiseModal = [this] { sideWindows_.RaiseModal(); },
-                    .onCommand = [this](Command command) { Run(command); }}),
+      icons_(AppIcons()),
+      tray_(*this, icons_,
+            {.isModalOpen = [this] { return IsModalOpen(); },
+             .raiseModal = [this] { sideWindows_.RaiseModal(); },
+             .onCommand = [this](Command command) { Run(command); }}),
       tmrCheckCommand(this) {
     SetName("frmMain");
-    SetIcons(AppIcons());
+    SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
     PlaceControls();
     BindEvents();

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <wx/frame.h>
+#include <wx/iconbndl.h>
 #include <wx/timer.h>
 
 #include "base/message_sink.h"
@@ -101,6 +102,7 @@ class frmMain final : public wxFrame {
     StatusStrip status_;
     Documents documents_;
     SideWindows sideWindows_;
+    wxIconBundle icons_;
     TrayPresence tray_;
     wxTimer tmrCheckCommand;
 };

@@ -7,16 +7,15 @@
 
 #include "base/app_info.h"
 #include "platform/window/bring_forward.h"
-#include "toolkit/app_icon.h"
 
 namespace brelex {
 
-TrayPresence::TrayPresence(wxFrame& window, TrayPresenceEvents events)
+TrayPresence::TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPresenceEvents events)
     : window_(window),
       events_(std::move(events)),
       behaviour_(*this),
       hotKey_(window, [this] { ActivateWindow(); }),
-      icon_(AddTrayIcon(AppIcons(), kAppTitle, EventsOfIcon())) {
+      icon_(AddTrayIcon(pictures, kAppTitle, EventsOfIcon())) {
     window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);

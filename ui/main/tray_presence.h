@@ -10,6 +10,7 @@
 
 class wxActivateEvent;
 class wxFrame;
+class wxIconBundle;
 class wxIconizeEvent;
 class wxShowEvent;
 
@@ -27,8 +28,9 @@ struct TrayPresenceEvents {
 /// minimized window, and the hot key that brings the window forward.
 class TrayPresence final : private TrayOwner {
   public:
-    /// Adds the icon and requests the hot key. `window` must outlive this object.
-    TrayPresence(wxFrame& window, TrayPresenceEvents events);
+    /// Adds the icon with these pictures and requests the hot key. `window` must outlive this
+    /// object.
+    TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPresenceEvents events);
     TrayPresence(const TrayPresence&) = delete;
     TrayPresence& operator=(const TrayPresence&) = delete;
     ~TrayPresence() override;
