@@ -3,6 +3,8 @@
 
 #include <wx/window.h>
 
+#include <windows.h>
+
 namespace brelex {
 
 void PaintFirst(wxWindow& window) {
@@ -10,8 +12,7 @@ void PaintFirst(wxWindow& window) {
 }
 
 void PaintNow(wxWindow& window) {
-    window.Refresh();
-    window.Update();
+    RedrawWindow(window.GetHWND(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 }  // namespace brelex
