@@ -64,6 +64,7 @@ frmSearch::frmSearch(wxTopLevelWindow* main, ProgramValues& values)
     textLimit_->Set(session_.TextLimit(SearchIn::Expansions));
     SetSideMargins(*txtSearchResult, kTextMarginPixels);
     DrawColumnHeader();
+    NeverFade(*this);
 }
 
 // Destroys the controls first, because they still send events while they are destroyed.

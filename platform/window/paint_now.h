@@ -13,4 +13,8 @@ void PaintFirst(wxWindow& window);
 /// run.
 void PaintNow(wxWindow& window);
 
+/// Lets the controls of a top-level window change their looks at once. Otherwise, a desktop may
+/// fade each change in, which means painting it a dozen times.
+void NeverFade(wxWindow& window);
+
 }  // namespace brelex

@@ -53,4 +53,17 @@ void PaintNow(wxWindow& window) {
     gdk_display_flush(gtk_widget_get_display(widget));
 }
 
+void NeverFade(wxWindow& window) {
+    constexpr const char* kClass = "never-fade";
+    GtkWidget* const widget = GTK_WIDGET(window.GetHandle());
+    GtkCssProvider* const rule = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(rule, ".never-fade, .never-fade * { transition: none; }", -1,
+                                    nullptr);
+    gtk_style_context_add_provider_for_screen(gtk_widget_get_screen(widget),
+                                              GTK_STYLE_PROVIDER(rule),
+                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(rule);
+    gtk_style_context_add_class(gtk_widget_get_style_context(widget), kClass);
+}
+
 }  // namespace brelex

@@ -15,4 +15,7 @@ void PaintNow(wxWindow& window) {
     RedrawWindow(window.GetHWND(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+// The toolkit's controls do not fade.
+void NeverFade(wxWindow& /*window*/) {}
+
 }  // namespace brelex
