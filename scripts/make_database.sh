@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # make_database.sh FOLDER: builds Acronyms.dat in the folder of the built programs from the entries in
-# data/ and the V.E.R.A. list in Debian's package dict-vera. It downloads the package and unpacks it
-# without installing it. If it cannot get the package, it builds the database from data/ alone.
+# data/ and the V.E.R.A. list in Debian's package dict-vera, corrected by data/vera-corrections.tsv. It
+# downloads the package and unpacks it without installing it. If it cannot get the package, it builds
+# the database from data/ alone.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -35,20 +36,26 @@ find_vera() {
     echo "$vera/vera.index"
 }
 
-inputs=(data/*.tsv)
+corrections=data/vera-corrections.tsv
+inputs=() options=()
+for list in data/*.tsv; do
+    [ "$list" = "$corrections" ] || inputs+=("$list")
+done
 if index=$(find_vera); then
     inputs+=("$index")
+    options=(--corrections "$corrections")
 else
     echo "make_database: cannot get the package dict-vera; using data/*.tsv alone" >&2
 fi
 
-newest=$(ls -t "${inputs[@]}" data/search-words.txt "$brelex" | head -1)
+newest=$(ls -t "${inputs[@]}" "$corrections" data/search-words.txt "$brelex" | head -1)
 stamp=$folder/.database-inputs
 if [ -f "$output" ] && [ ! "$newest" -nt "$output" ] &&
-    [ "$(cat "$stamp" 2>/dev/null)" = "${inputs[*]}" ]; then
+    [ "$(cat "$stamp" 2>/dev/null)" = "${options[*]} ${inputs[*]}" ]; then
     exit 0
 fi
 step "building the database"
-$emulator "$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" "${inputs[@]}" ||
+$emulator "$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" \
+    "${options[@]}" "${inputs[@]}" ||
     fail "could not build the database"
-echo "${inputs[*]}" > "$stamp"
+echo "${options[*]} ${inputs[*]}" > "$stamp"

@@ -78,6 +78,10 @@ void AddBuild(CLI::App& app, CommandLine& line) {
     command->add_option("-o,--output", request.output, "File to write (default: Acronyms.dat)")
         ->type_name("FILE");
     command
+        ->add_option("--corrections", request.corrections,
+                     "UTF-8 file of corrections to the dictd dictionaries")
+        ->type_name("FILE");
+    command
         ->add_option("INPUT", request.inputs,
                      "UTF-8 .tsv files (abbreviation, TAB, expansion) or dictd "
                      "dictionaries (NAME.index next to NAME.dict.dz)")

@@ -19,6 +19,7 @@
 #include "database/database_file.h"
 #include "database/szdd.h"
 #include "lookup/prefix_search.h"
+#include "tools/corrections.h"
 #include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
 #include "tools/open_database.h"
@@ -34,17 +35,18 @@ int Refuse(std::ostream& err, const std::string& reason) {
     return kFailed;
 }
 
-void ReadInput(const std::string& input, std::vector<std::string>& records, InputReport& report) {
+void ReadInput(const std::string& input, Corrections& corrections,
+               std::vector<std::string>& records, InputReport& report) {
     const fs::path path = PathOfUtf8(input);
     if (path.extension() == ".tsv") {
         ReadTsvFile(path, records, report);
     } else if (path.extension() == ".index") {
-        ReadDictdPair(path, records, report);
+        ReadDictdPair(path, records, report, &corrections);
     } else if (input.ends_with(".dict.dz")) {
         ReadDictdPair(fs::path(path).replace_extension().replace_extension(".index"), records,
-                      report);
+                      report, &corrections);
     } else if (path.extension() == ".dict") {
-        ReadDictdPair(fs::path(path).replace_extension(".index"), records, report);
+        ReadDictdPair(fs::path(path).replace_extension(".index"), records, report, &corrections);
     } else {
         report.errors.push_back(input +
                                 ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
@@ -70,11 +72,16 @@ std::string ReadRequest(const BuildRequest& request, DatabaseContent& content) {
 }
 
 // Reads the entries of all inputs. Also reports an error if they do not make a database.
-InputReport ReadInputs(const std::vector<std::string>& inputs, std::vector<std::string>& records) {
+InputReport ReadInputs(const BuildRequest& request, std::vector<std::string>& records) {
     InputReport report;
-    for (const std::string& input : inputs) {
-        ReadInput(input, records, report);
+    Corrections corrections;
+    if (!request.corrections.empty()) {
+        corrections.ReadFile(PathOfUtf8(request.corrections), report);
     }
+    for (const std::string& input : request.inputs) {
+        ReadInput(input, corrections, records, report);
+    }
+    corrections.ReportUnused(report);
     std::size_t blockBytes = 0;
     for (const std::string& record : records) {
         blockBytes += record.size() + 1;
@@ -178,7 +185,7 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
     if (const std::string fault = ReadRequest(request, content); !fault.empty()) {
         return Refuse(err, fault);
     }
-    InputReport report = ReadInputs(request.inputs, content.records);
+    InputReport report = ReadInputs(request, content.records);
     if (!report.errors.empty()) {
         for (const std::string& error : report.errors) {
             err << "brelex: " << error << "\n";

@@ -12,9 +12,10 @@ namespace brelex {
 /// The options and arguments of "brelex build".
 struct BuildRequest {
     std::string version = "1.0";
-    std::string date;        ///< in the form YYYY-MM-DD
-    std::string searchList;  ///< items separated by commas
-    std::string output;      ///< the file to write
+    std::string date;         ///< in the form YYYY-MM-DD
+    std::string searchList;   ///< items separated by commas
+    std::string output;       ///< the file to write
+    std::string corrections;  ///< a file of corrections to dictd dictionaries, or empty
     std::vector<std::string> inputs;
 };
 

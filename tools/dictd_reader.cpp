@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <system_error>
+#include <utility>
 #include <zlib.h>
 
 #include "base/file_io.h"
@@ -47,12 +48,12 @@ std::optional<std::string> TakeLastQuoted(std::string_view& text) {
     if (open == std::string_view::npos) {
         return std::nullopt;
     }
-    const std::string_view before = TrimBlanks(text.substr(0, open));
+    const std::string_view before = TrimWhitespace(text.substr(0, open));
     if (!before.ends_with(',')) {
         return std::nullopt;
     }
     std::string quoted(text.substr(open + 1, text.size() - open - 2));
-    text = TrimBlanks(before.substr(0, before.size() - 1));
+    text = TrimWhitespace(before.substr(0, before.size() - 1));
     return quoted;
 }
 
@@ -77,7 +78,7 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
         return;
     }
     for (const std::string& spelling : spellings) {
-        entries.push_back({spelling, std::string(rest)});
+        entries.push_back({std::string(TrimWhitespace(spelling)), std::string(rest)});
     }
 }
 
@@ -85,12 +86,13 @@ void AddSense(std::string_view headword, std::string_view text, std::vector<Dict
 // Only such lines are both indented and divided by a gap.
 std::optional<DictdEntry> EntryOnLine(std::string_view line) {
     constexpr std::string_view kGap = "    ";
-    const std::string_view text = TrimBlanks(line);
+    const std::string_view text = TrimWhitespace(line);
     const auto gap = text.find(kGap);
     if (!line.starts_with(kGap) || gap == std::string_view::npos) {
         return std::nullopt;
     }
-    return DictdEntry{std::string(text.substr(0, gap)), std::string(TrimBlanks(text.substr(gap)))};
+    return DictdEntry{std::string(text.substr(0, gap)),
+                      std::string(TrimWhitespace(text.substr(gap)))};
 }
 
 bool IsHeadword(std::string_view line) {
@@ -174,6 +176,21 @@ std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
     return dictionary.substr(static_cast<std::size_t>(*offset), static_cast<std::size_t>(*length));
 }
 
+void AddCorrected(const std::vector<DictdEntry>& entries, Corrections* corrections,
+                  const std::string& place, std::vector<std::string>& records,
+                  InputReport& report) {
+    for (const DictdEntry& entry : entries) {
+        std::optional<Corrections::Entry> corrected(std::in_place, entry.abbreviation,
+                                                    entry.expansion);
+        if (corrections != nullptr) {
+            corrected = corrections->Apply(std::move(*corrected));
+        }
+        if (corrected) {
+            AddEntry(corrected->first, corrected->second, place, records, report);
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<DictdEntry> EntriesOfArticle(std::string_view article) {
@@ -187,14 +204,14 @@ std::vector<DictdEntry> EntriesOfArticle(std::string_view article) {
     for (std::size_t i = 1; i < lines.size(); ++i) {
         if (auto entry = EntryOnLine(lines[i])) {
             further.push_back(std::move(*entry));
-        } else if (const std::string_view part = TrimBlanks(lines[i]); !part.empty()) {
+        } else if (const std::string_view part = TrimWhitespace(lines[i]); !part.empty()) {
             if (!text.empty()) {
                 text.push_back(' ');
             }
             text.append(part);
         }
     }
-    AddSense(TrimBlanks(lines.front()), text, entries);
+    AddSense(TrimWhitespace(lines.front()), text, entries);
     entries.insert(entries.end(), further.begin(), further.end());
     return entries;
 }
@@ -204,16 +221,16 @@ std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article) {
     std::vector<DictdEntry> entries;
     for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
         const bool expansionFollows =
-            lines[i + 1].starts_with(' ') && !TrimBlanks(lines[i + 1]).empty();
+            lines[i + 1].starts_with(' ') && !TrimWhitespace(lines[i + 1]).empty();
         if (IsHeadword(lines[i]) && expansionFollows) {
-            AddSense(lines[i], TrimBlanks(lines[i + 1]), entries);
+            AddSense(lines[i], TrimWhitespace(lines[i + 1]), entries);
         }
     }
     return entries;
 }
 
 void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
-                   InputReport& report) {
+                   InputReport& report, Corrections* corrections) {
     const std::string indexName = Utf8OfPath(indexPath);
     const fs::path dictionaryPath = DictionaryBeside(indexPath);
     const auto index = ReadWholeFile(indexPath);
@@ -239,9 +256,7 @@ void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
         if (entries.empty() && !header) {
             report.warnings.push_back(place + ": no expansion; entry left out");
         }
-        for (const DictdEntry& entry : entries) {
-            AddEntry(entry.abbreviation, entry.expansion, place, records, report);
-        }
+        AddCorrected(entries, corrections, place, records, report);
     }
 }
 

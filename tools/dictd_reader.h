@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/corrections.h"
 #include "tools/input_entries.h"
 
 namespace brelex {
@@ -21,15 +22,16 @@ struct DictdEntry {
 /// Returns the entries in one article of a dictd dictionary of acronyms. Usually there is one, with
 /// the headword on the first line and the wrapped expansion below. There are several if the article
 /// gives more than one spelling or contains further entries. A spelling in quotes at the end ("3D
-/// DDI") replaces the headword if it has the same letters. Omits entries without an expansion.
+/// DDI") replaces the headword if it has the same letters. Has no blanks or
+/// TABs around the parts. Omits entries without an expansion.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfArticle(std::string_view article);
 
 /// Returns the entries in a header article of the dictionary, which come after the article's text.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article);
 
 /// Reads the dictionary whose index is at `indexPath` (name.index, in the same folder as
-/// name.dict.dz or name.dict).
+/// name.dict.dz or name.dict). Applies the corrections, if there are any, to its entries.
 void ReadDictdPair(const std::filesystem::path& indexPath, std::vector<std::string>& records,
-                   InputReport& report);
+                   InputReport& report, Corrections* corrections = nullptr);
 
 }  // namespace brelex

@@ -87,8 +87,8 @@ void AddEntry(std::string_view abbreviation, std::string_view expansion, const s
     records.push_back(std::move(record));
 }
 
-void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& records,
-                 InputReport& report) {
+void ForEachLine(const std::filesystem::path& path, InputReport& report,
+                 const std::function<void(std::string_view, const std::string&)>& use) {
     const std::string name = Utf8OfPath(path);
     const auto file = ReadWholeFile(path);
     if (!file) {
@@ -105,17 +105,22 @@ void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& re
         if (text.ends_with('\r')) {
             text.remove_suffix(1);
         }
-        if (text.empty()) {
-            continue;
+        if (!text.empty()) {
+            use(text, name + ":" + std::to_string(line));
         }
-        const std::string place = name + ":" + std::to_string(line);
+    }
+}
+
+void ReadTsvFile(const std::filesystem::path& path, std::vector<std::string>& records,
+                 InputReport& report) {
+    ForEachLine(path, report, [&](std::string_view text, const std::string& place) {
         const std::size_t tab = text.find('\t');
         if (tab == std::string_view::npos) {
             report.errors.push_back(place + ": no TAB between abbreviation and expansion");
-            continue;
+            return;
         }
         AddEntry(text.substr(0, tab), text.substr(tab + 1), place, records, report);
-    }
+    });
 }
 
 }  // namespace brelex

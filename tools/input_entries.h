@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,11 @@ struct InputReport {
 /// hyphens.
 void AddEntry(std::string_view abbreviation, std::string_view expansion, const std::string& place,
               std::vector<std::string>& records, InputReport& report);
+
+/// Calls `use` with each line of the UTF-8 file `path` and its place, "file:line". Skips empty
+/// lines; accepts a byte order mark and CR LF. Reports an error if the file cannot be read.
+void ForEachLine(const std::filesystem::path& path, InputReport& report,
+                 const std::function<void(std::string_view line, const std::string& place)>& use);
 
 /// Reads the UTF-8 file `path`. Each line is an entry: abbreviation, TAB, expansion. Skips empty
 /// lines; accepts a byte order mark and CR LF.

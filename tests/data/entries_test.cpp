@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The entries in data/ themselves, as they are in the source tree.
+// The entries in data/ themselves, as they are in the source tree, and the package as corrected
+// there.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -12,12 +13,14 @@
 #include <gtest/gtest.h>
 
 #include "base/file_io.h"
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
 #include "search/search_list.h"
 #include "tests/data/entry_rules.h"
 #include "tools/build_command.h"
+#include "tools/corrections.h"
 #include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
 
@@ -28,6 +31,8 @@ const std::filesystem::path kData = DATA_FOLDER;
 // Where scripts/make_database.sh puts the entries of Debian's package, or the package itself.
 const std::filesystem::path kPackage =
     std::filesystem::exists(PACKAGE_INDEX) ? PACKAGE_INDEX : "/usr/share/dictd/vera.index";
+
+const std::filesystem::path kCorrections = kData / "vera-corrections.tsv";
 
 std::vector<std::string> LinesOf(const std::filesystem::path& path) {
     std::ifstream file(path);
@@ -41,7 +46,7 @@ std::vector<std::string> LinesOf(const std::filesystem::path& path) {
 std::vector<std::filesystem::path> EntryFiles() {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(kData)) {
-        if (entry.path().extension() == ".tsv") {
+        if (entry.path().extension() == ".tsv" && entry.path() != kCorrections) {
             files.push_back(entry.path());
         }
     }
@@ -58,6 +63,20 @@ void ForEachEntry(Check check) {
             check(line, file.filename().string() + ":" + std::to_string(++number) + ": " + line);
         }
     }
+}
+
+// The entries of the package (UTF-8) as the database gets them.
+std::vector<std::string> CorrectedPackage() {
+    Corrections corrections;
+    std::vector<std::string> records;
+    InputReport report;
+    corrections.ReadFile(kCorrections, report);
+    ReadDictdPair(kPackage, records, report, &corrections);
+    corrections.ReportUnused(report);
+    EXPECT_EQ(report.errors, std::vector<std::string>());
+    EXPECT_GT(records.size(), 10000U);
+    std::transform(records.begin(), records.end(), records.begin(), Utf8OfBytes);
+    return records;
 }
 
 TEST(Entries, ThereAreThreeThousandAndMore) {
@@ -123,19 +142,41 @@ TEST(Entries, AreNotInThePackageInTheSameWords) {
     if (!std::filesystem::exists(kPackage)) {
         GTEST_SKIP() << "the package is not there";
     }
-    std::vector<std::string> records;
-    InputReport report;
-    ReadDictdPair(kPackage, records, report);
-    ASSERT_GT(records.size(), 10000U);
     std::map<std::string, std::string> package;
-    for (const std::string& record : records) {
-        const std::string text = Utf8OfBytes(record);
+    for (const std::string& text : CorrectedPackage()) {
         package.try_emplace(ComparableText(GetAbbreviation(text), GetExpansion(text)), text);
     }
     ForEachEntry([&](const std::string& line, const std::string& place) {
         const auto found = package.find(ComparableText(GetAbbreviation(line), GetExpansion(line)));
         EXPECT_TRUE(found == package.end()) << place << " is there as " << found->second;
     });
+}
+
+TEST(Corrections, ChangeSomethingAndAreInTheOrderOfTheList) {
+    std::string before;
+    for (const std::string& line : LinesOf(kCorrections)) {
+        std::string_view rest = line;
+        std::string entry(TakePart(rest, '\t'));
+        entry += "\t" + std::string(TakePart(rest, '\t'));
+        EXPECT_NE(entry, rest) << "changes nothing";
+        EXPECT_TRUE(std::is_lt(CompareTexts(BytesOfUtf8(before).bytes, BytesOfUtf8(entry).bytes)))
+            << before << " stands before " << entry;
+        before = std::move(entry);
+    }
+}
+
+TEST(Corrections, MatchThePackageAndLeaveNoKnownFaults) {
+    if (!std::filesystem::exists(kPackage)) {
+        GTEST_SKIP() << "the package is not there";
+    }
+    for (const std::string& entry : CorrectedPackage()) {
+        for (const std::string_view part : {GetAbbreviation(entry), GetExpansion(entry)}) {
+            EXPECT_EQ(part, TrimWhitespace(part)) << "blanks around it: " << entry;
+            EXPECT_EQ(part.find_first_of("\t\r\n"), std::string_view::npos) << entry;
+        }
+        EXPECT_NE(TrimWhitespace(WithoutNotes(GetExpansion(entry))), "???") << entry;
+        EXPECT_TRUE(HasBalancedBrackets(GetExpansion(entry))) << entry;
+    }
 }
 
 TEST(Entries, HavePlausibleInitialsButForTheKnownOnes) {

@@ -189,6 +189,23 @@ std::string_view WithoutNotes(std::string_view expansion) {
     return expansion;
 }
 
+bool HasBalancedBrackets(std::string_view text) {
+    constexpr std::string_view kOpening = "([{";
+    constexpr std::string_view kClosing = ")]}";
+    std::string awaited;
+    for (const char c : text) {
+        if (const auto kind = kOpening.find(c); kind != std::string_view::npos) {
+            awaited.push_back(kClosing[kind]);
+        } else if (kClosing.find(c) != std::string_view::npos) {
+            if (!awaited.ends_with(c)) {
+                return false;
+            }
+            awaited.pop_back();
+        }
+    }
+    return awaited.empty();
+}
+
 std::string ComparableText(std::string_view abbreviation, std::string_view expansion) {
     return Kept(Folded(abbreviation), "+#") + "|" + Kept(Folded(WithoutNotes(expansion)), "+#");
 }

@@ -9,6 +9,10 @@ namespace brelex {
 /// An expansion (UTF-8) without the notes in parentheses at its end.
 [[nodiscard]] std::string_view WithoutNotes(std::string_view expansion);
 
+/// Whether each parenthesis and bracket that is opened is closed by its like, and the other way
+/// round.
+[[nodiscard]] bool HasBalancedBrackets(std::string_view text);
+
 /// Reduces an entry (UTF-8) to the characters that count when two entries are compared: letters,
 /// digits, "+" and "#" of both parts, ignoring case, accents and notes.
 [[nodiscard]] std::string ComparableText(std::string_view abbreviation, std::string_view expansion);

@@ -15,6 +15,14 @@ TEST(WithoutNotes, TakesNotesOffTheEnd) {
     EXPECT_EQ(WithoutNotes(""), "");
 }
 
+TEST(HasBalancedBrackets, KnowsThoseThatAreNotClosedOrNotOpened) {
+    EXPECT_TRUE(HasBalancedBrackets("Chip [set {a}] (IC, (x))"));
+    EXPECT_TRUE(HasBalancedBrackets(""));
+    EXPECT_FALSE(HasBalancedBrackets("HWE [stack]]"));
+    EXPECT_FALSE(HasBalancedBrackets("A (b"));
+    EXPECT_FALSE(HasBalancedBrackets("A (b] c)"));
+}
+
 TEST(ComparableText, LeavesCaseHyphensBlanksAccentsAndNotesOut) {
     EXPECT_EQ(ComparableText("RAM", "Random-Access Memory (IC)"),
               ComparableText("ram", "random access memory"));

@@ -54,6 +54,26 @@ TEST_F(CommandsTest, BuildSortsAndDropsDuplicates) {
     EXPECT_EQ(RunCheck(database_, out_, err_), 0) << out_.str();
 }
 
+TEST_F(CommandsTest, BuildCorrectsTheDictionariesButNotTheLists) {
+    folder_.Write("my.dict", "ABC\n  Alpha\n");
+    BuildRequest request;
+    request.inputs = {folder_.Write("my.index", "abc\tA\tM\n"),
+                      folder_.Write("own.tsv", "ABC\tAlpha\n")};
+    request.corrections = folder_.Write("changes.tsv", "ABC\tAlpha\tABC\tBeta\n");
+    ASSERT_EQ(Build(request), 0) << err_.str();
+    ASSERT_EQ(RunDump(database_, out_, err_), 0);
+    EXPECT_TRUE(Output().ends_with("\nABC\tAlpha\nABC\tBeta\n"));
+}
+
+TEST_F(CommandsTest, BuildRefusesACorrectionOfNoEntry) {
+    BuildRequest request;
+    request.corrections = folder_.Write("changes.tsv", "ABC\tAlpha\n");
+    EXPECT_EQ(Build(request), 2);
+    EXPECT_EQ(err_.str(),
+              "brelex: " + request.corrections + ":1: matches no entry of the dictionaries\n");
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(database_)));
+}
+
 TEST_F(CommandsTest, TheSameInputGivesTheSameBytes) {
     ASSERT_EQ(Build({}), 0);
     const std::string first = ReadText(PathOfUtf8(database_));

@@ -55,6 +55,15 @@ TEST(EntriesOfArticle, AFurtherEntryInTheArticleIsFound) {
                        {"TL;DR", "Too Long; Didn't Read (slang)"}}));
 }
 
+TEST(EntriesOfArticle, BlanksAndTabsAtTheEdgesAreNoPartOfTheEntry) {
+    EXPECT_EQ(EntriesOfArticle("HSV\n       \tHue Saturation Value \t\n \t\n"),
+              (Entries{{"HSV", "Hue Saturation Value"}}));
+    EXPECT_EQ(EntriesOfArticle("RIOCP\n       Rapid IO Check, \"RIO/CP \"\n"),
+              (Entries{{"RIO/CP", "Rapid IO Check"}}));
+    EXPECT_EQ(EntriesOfArticle("A\n  Alpha\n       B      \tBeta \t\n").back(),
+              (DictdEntry{"B", "Beta"}));
+}
+
 TEST(EntriesOfArticle, WithoutAnExpansionThereIsNoEntry) {
     EXPECT_EQ(EntriesOfArticle("VCSA\n       , \"vCSA\"\n       \n"), Entries());
     EXPECT_EQ(EntriesOfArticle("X\n"), Entries());
@@ -115,6 +124,17 @@ TEST_P(BadIndexTest, LineThatPointsNowhereIsRefusedWithItsNumber) {
 INSTANTIATE_TEST_SUITE_P(Lines, BadIndexTest,
                          testing::Values("b\tB\tK", "b\tzzzzzz\tA", "b\tA\tzzzzzz", "b\tA", "b",
                                          "b\t*\tA", "b\tA\t", "b\tAAAAAAAAAAAAAAA\tA"));
+
+TEST_F(ReadDictdPairTest, AppliesCorrections) {
+    folder_.Write("my.dict", "A\n  Alpha\nB\n  Beta\n");
+    folder_.Write("my.index", "b\tK\tJ\na\tA\tK\n");
+    const std::string list = folder_.Write("changes.tsv", "A\tAlpha\nB\tBeta\tB\t\u00DF\n");
+    Corrections corrections;
+    corrections.ReadFile(PathOfUtf8(list), report_);
+    ReadDictdPair(folder_.Path() / "my.index", records_, report_, &corrections);
+    EXPECT_EQ(report_.errors, std::vector<std::string>());
+    EXPECT_EQ(records_, std::vector<std::string>{"B\t\xDF"});
+}
 
 TEST_F(ReadDictdPairTest, AFolderWithAccentsInItsNameIsFine) {
     WriteCompressed("my.dict.dz", "A\n  Alpha\n");
