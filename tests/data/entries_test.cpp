@@ -2,8 +2,6 @@
 // The entries in data/ themselves, as they are in the source tree, and the package as corrected
 // there.
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 #include <string>
@@ -12,72 +10,18 @@
 
 #include <gtest/gtest.h>
 
-#include "base/file_io.h"
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
 #include "search/search_list.h"
+#include "tests/data/entry_files.h"
 #include "tests/data/entry_rules.h"
 #include "tools/build_command.h"
-#include "tools/corrections.h"
-#include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
 
 namespace brelex {
 namespace {
-
-const std::filesystem::path kData = DATA_FOLDER;
-// Where scripts/make_database.sh puts the entries of Debian's package, or the package itself.
-const std::filesystem::path kPackage =
-    std::filesystem::exists(PACKAGE_INDEX) ? PACKAGE_INDEX : "/usr/share/dictd/vera.index";
-
-const std::filesystem::path kCorrections = kData / "vera-corrections.tsv";
-
-std::vector<std::string> LinesOf(const std::filesystem::path& path) {
-    std::ifstream file(path);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(file, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
-std::vector<std::filesystem::path> EntryFiles() {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(kData)) {
-        if (entry.path().extension() == ".tsv" && entry.path() != kCorrections) {
-            files.push_back(entry.path());
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
-// Calls `check` with each line of each file and where it stands.
-template <typename Check>
-void ForEachEntry(Check check) {
-    for (const auto& file : EntryFiles()) {
-        int number = 0;
-        for (const std::string& line : LinesOf(file)) {
-            check(line, file.filename().string() + ":" + std::to_string(++number) + ": " + line);
-        }
-    }
-}
-
-// The entries of the package (UTF-8) as the database gets them.
-std::vector<std::string> CorrectedPackage() {
-    Corrections corrections;
-    std::vector<std::string> records;
-    InputReport report;
-    corrections.ReadFile(kCorrections, report);
-    ReadDictdPair(kPackage, records, report, &corrections);
-    corrections.ReportUnused(report);
-    EXPECT_EQ(report.errors, std::vector<std::string>());
-    EXPECT_GT(records.size(), 10000U);
-    std::transform(records.begin(), records.end(), records.begin(), Utf8OfBytes);
-    return records;
-}
 
 TEST(Entries, ThereAreThreeThousandAndMore) {
     int count = 0;
@@ -139,7 +83,7 @@ TEST(Entries, StandThereOnce) {
 }
 
 TEST(Entries, AreNotInThePackageInTheSameWords) {
-    if (!std::filesystem::exists(kPackage)) {
+    if (!HasPackage()) {
         GTEST_SKIP() << "the package is not there";
     }
     std::map<std::string, std::string> package;
@@ -154,7 +98,7 @@ TEST(Entries, AreNotInThePackageInTheSameWords) {
 
 TEST(Corrections, ChangeSomethingAndAreInTheOrderOfTheList) {
     std::string before;
-    for (const std::string& line : LinesOf(kCorrections)) {
+    for (const std::string& line : LinesOf(CorrectionsFile())) {
         std::string_view rest = line;
         std::string entry(TakePart(rest, '\t'));
         entry += "\t" + std::string(TakePart(rest, '\t'));
@@ -166,7 +110,7 @@ TEST(Corrections, ChangeSomethingAndAreInTheOrderOfTheList) {
 }
 
 TEST(Corrections, MatchThePackageAndLeaveNoKnownFaults) {
-    if (!std::filesystem::exists(kPackage)) {
+    if (!HasPackage()) {
         GTEST_SKIP() << "the package is not there";
     }
     for (const std::string& entry : CorrectedPackage()) {
@@ -180,7 +124,7 @@ TEST(Corrections, MatchThePackageAndLeaveNoKnownFaults) {
 }
 
 TEST(Entries, HavePlausibleInitialsButForTheKnownOnes) {
-    const std::vector<std::string> lines = LinesOf(kData / "unusual-initials.txt");
+    const std::vector<std::string> lines = LinesOf(DataFolder() / "unusual-initials.txt");
     std::set<std::string> unusual(lines.begin(), lines.end());
     EXPECT_FALSE(unusual.empty());
     ForEachEntry([&](const std::string& line, const std::string& place) {
@@ -194,7 +138,7 @@ TEST(Entries, HavePlausibleInitialsButForTheKnownOnes) {
 }
 
 TEST(SearchWords, FitTheHeaderAndFindSomething) {
-    const std::vector<std::string> words = LinesOf(kData / "search-words.txt");
+    const std::vector<std::string> words = LinesOf(DataFolder() / "search-words.txt");
     EXPECT_GE(words.size(), 40U);
     EXPECT_LE(words.size(), 60U);
     std::string commaSeparated;
