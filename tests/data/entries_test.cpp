@@ -62,6 +62,35 @@ TEST(Entries, EndInANoteThatIsClosed) {
     });
 }
 
+TEST(Entries, NameFieldsInTheirNotesAsTheListDoes) {
+    const std::vector<std::string> lines = LinesOf(DataFolder() / "fields.txt");
+    EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end()));
+    const std::set<std::string_view> fields(lines.begin(), lines.end());
+    EXPECT_EQ(fields.size(), lines.size()) << "a field is listed twice";
+    ForEachEntry([&](const std::string& line, const std::string& place) {
+        for (const std::string_view item : NoteItems(GetExpansion(line))) {
+            const bool small = !item.empty() && item.front() >= 'a' && item.front() <= 'z';
+            EXPECT_TRUE(!small || fields.contains(item))
+                << place << ": " << item << " is not in fields.txt";
+        }
+    });
+}
+
+TEST(Entries, WriteSmallWordsInSmallLettersButForTheKnownOnes) {
+    const std::vector<std::string> lines = LinesOf(DataFolder() / "unusual-capitals.txt");
+    std::set<std::string> unusual(lines.begin(), lines.end());
+    ForEachEntry([&](const std::string& line, const std::string& place) {
+        const std::string_view word = SmallWordInCapitals(GetExpansion(line));
+        if (!word.empty()) {
+            EXPECT_EQ(unusual.erase(std::string(WithoutNotes(line))), 1U)
+                << place << ": write " << word << " in small letters";
+        }
+    });
+    for (const std::string& line : unusual) {
+        ADD_FAILURE() << "no such entry, or its small words are usual: " << line;
+    }
+}
+
 TEST(Entries, AreInTheOrderOfTheList) {
     for (const auto& file : EntryFiles()) {
         const std::vector<std::string> lines = LinesOf(file);

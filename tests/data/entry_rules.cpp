@@ -8,6 +8,7 @@
 #include <set>
 #include <utility>
 
+#include "base/text.h"
 #include "base/windows1252.h"
 
 namespace brelex {
@@ -169,6 +170,34 @@ std::string Kept(const std::string& text, std::string_view alsoKept) {
     return kept;
 }
 
+void ReplaceAll(std::string& text, std::string_view old, std::string_view by) {
+    for (std::size_t at = text.find(old); at != std::string::npos;
+         at = text.find(old, at + by.size())) {
+        text.replace(at, old.size(), by);
+    }
+}
+
+void ReplaceEnd(std::string& text, std::string_view old, std::string_view by) {
+    if (text.ends_with(old)) {
+        text.replace(text.size() - old.size(), old.size(), by);
+    }
+}
+
+// Makes singular and plural, and American and British spelling, equal. The result is no word.
+std::string ComparableWord(std::string word) {
+    if (word.size() > 3 && !word.ends_with("ss")) {
+        ReplaceEnd(word, "s", "");
+    }
+    ReplaceEnd(word, "tre", "ter");  // centre, metre
+    ReplaceEnd(word, "bre", "ber");  // fibre
+    ReplaceEnd(word, "e", "");       // of boxes, also of "base" because of "bases"
+    ReplaceEnd(word, "y", "i");      // technologies
+    ReplaceAll(word, "z", "s");
+    ReplaceAll(word, "our", "or");
+    ReplaceAll(word, "enc", "ens");  // licence, defence
+    return word;
+}
+
 }  // namespace
 
 std::string_view WithoutNotes(std::string_view expansion) {
@@ -206,8 +235,55 @@ bool HasBalancedBrackets(std::string_view text) {
     return awaited.empty();
 }
 
+std::vector<std::string_view> NoteItems(std::string_view expansion) {
+    std::vector<std::string_view> items;
+    std::string_view notes = expansion.substr(WithoutNotes(expansion).size());
+    const auto isEdge = [](char c) { return c == ' ' || c == '(' || c == ')'; };
+    while (!notes.empty()) {
+        const std::size_t end = std::min(notes.find(", "), notes.find(") ("));
+        std::string_view item = notes.substr(0, end);
+        notes.remove_prefix(std::min(notes.size(), end == std::string_view::npos ? end : end + 2));
+        while (!item.empty() && isEdge(item.front())) {
+            item.remove_prefix(1);
+        }
+        while (!item.empty() && isEdge(item.back())) {
+            item.remove_suffix(1);
+        }
+        items.push_back(item);
+    }
+    return items;
+}
+
+std::string_view SmallWordInCapitals(std::string_view expansion) {
+    static const std::set<std::string_view> kWords = {"Of", "The", "For", "And", "In", "On", "To"};
+    std::string_view rest = WithoutNotes(expansion);
+    bool begins = true;
+    while (!rest.empty()) {
+        const std::string_view word = TakePart(rest, ' ');
+        if (!begins && !rest.empty() && kWords.contains(word)) {
+            return word;
+        }
+        begins = word.ends_with(':') || word.ends_with(',');
+    }
+    return {};
+}
+
 std::string ComparableText(std::string_view abbreviation, std::string_view expansion) {
-    return Kept(Folded(abbreviation), "+#") + "|" + Kept(Folded(WithoutNotes(expansion)), "+#");
+    static const std::set<std::string_view> kSmallWords = {"of", "the", "for", "and", "a",
+                                                           "in", "on",  "to",  "+"};
+    std::string text;
+    std::string folded = Folded(WithoutNotes(expansion));
+    std::replace_if(
+        folded.begin(), folded.end(),
+        [](char c) { return !IsLetter(c) && !IsDigit(c) && c != '+' && c != '#' && c != '\''; },
+        ' ');
+    for (std::string_view rest = folded; !rest.empty();) {
+        const std::string_view word = TakePart(rest, ' ');
+        if (!kSmallWords.contains(word)) {
+            text += ComparableWord(Kept(std::string(word), "+#"));
+        }
+    }
+    return Kept(Folded(abbreviation), "+#") + "|" + text;
 }
 
 bool HasPlausibleInitials(std::string_view abbreviation, std::string_view expansion) {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace brelex {
 
@@ -13,8 +14,17 @@ namespace brelex {
 /// round.
 [[nodiscard]] bool HasBalancedBrackets(std::string_view text);
 
-/// Reduces an entry (UTF-8) to the characters that count when two entries are compared: letters,
-/// digits, "+" and "#" of both parts, ignoring case, accents and notes.
+/// The items of the notes at the end of an expansion, which commas and blanks separate.
+[[nodiscard]] std::vector<std::string_view> NoteItems(std::string_view expansion);
+
+/// The first word within an expansion that title case writes in small letters, such as "Of", but
+/// that has a capital. Empty if there is none. The last word, and the first one of each part behind
+/// a colon or comma, may have a capital.
+[[nodiscard]] std::string_view SmallWordInCapitals(std::string_view expansion);
+
+/// Reduces an entry (UTF-8) to what counts when two entries are compared: letters, digits, "+" and
+/// "#" of both parts. Ignores case, accents and notes, and in the expansion also small words such
+/// as "of" and "&", plurals, and the difference between American and British spelling.
 [[nodiscard]] std::string ComparableText(std::string_view abbreviation, std::string_view expansion);
 
 /// Whether the letters of an abbreviation occur in order in its expansion (both UTF-8). Each must

@@ -31,6 +31,54 @@ TEST(ComparableText, LeavesCaseHyphensBlanksAccentsAndNotesOut) {
     EXPECT_NE(ComparableText("AB", "C"), ComparableText("A", "BC"));
 }
 
+struct SameWordsCase {
+    const char* one;
+    const char* other;
+};
+
+class SameWords : public testing::TestWithParam<SameWordsCase> {};
+
+TEST_P(SameWords, AreEqual) {
+    EXPECT_EQ(ComparableText("X", GetParam().one), ComparableText("X", GetParam().other));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, SameWords,
+    testing::Values(SameWordsCase{"Request & Response", "Request and Response"},
+                    SameWordsCase{"Request + Response", "Request and Response"},
+                    SameWordsCase{"Customer-Managed Encryption Keys",
+                                  "Customer Managed Encryption Key"},
+                    SameWordsCase{"Bases and Boxes", "Base Box"},
+                    SameWordsCase{"Quality of the Service", "Quality Service"},
+                    SameWordsCase{"The Technologies for a Life on Web", "Technology Life in Web"},
+                    SameWordsCase{"Organisation of Behaviour", "Organization of Behavior"},
+                    SameWordsCase{"Fibre Data Centre", "Fiber Data Centers"},
+                    SameWordsCase{"Public Licence", "Public License"},
+                    SameWordsCase{"Anti-Virus Data Base", "Antivirus Database"}));
+
+TEST(ComparableText, KeepsWordsApartThatMeanSomethingElse) {
+    EXPECT_NE(ComparableText("X", "Address"), ComparableText("X", "Addres"));
+    EXPECT_NE(ComparableText("X", "C++ Code"), ComparableText("X", "C Code"));
+    EXPECT_NE(ComparableText("X", "Call Distributor"), ComparableText("X", "Call Distribution"));
+}
+
+TEST(NoteItems, AreSeparatedByCommas) {
+    using Items = std::vector<std::string_view>;
+    EXPECT_EQ(NoteItems("Random Access Memory (memory, IC)"), (Items{"memory", "IC"}));
+    EXPECT_EQ(NoteItems("One (x86) (1,024 bytes)"), (Items{"x86", "1,024 bytes"}));
+    EXPECT_EQ(NoteItems("One (two) three"), Items());
+}
+
+TEST(SmallWordInCapitals, IsFoundWithinAnExpansion) {
+    EXPECT_EQ(SmallWordInCapitals("Quality Of Service (web)"), "Of");
+    EXPECT_EQ(SmallWordInCapitals("Mean Time to Recovery"), "");
+    EXPECT_EQ(SmallWordInCapitals("In Care Of (office)"), "");
+    EXPECT_EQ(SmallWordInCapitals("Master In, Slave Out"), "");
+    EXPECT_EQ(SmallWordInCapitals("Magic: The Gathering"), "");
+    EXPECT_EQ(SmallWordInCapitals("On Time, In Full"), "");
+    EXPECT_EQ(SmallWordInCapitals("Dual In-Line Package"), "");
+}
+
 struct InitialsCase {
     const char* abbreviation;
     const char* expansion;
