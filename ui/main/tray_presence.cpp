@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include <wx/app.h>
 #include <wx/frame.h>
 
 #include "base/app_info.h"
@@ -10,12 +11,10 @@
 
 namespace brelex {
 
-TrayPresence::TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPresenceEvents events)
+TrayPresence::TrayPresence(wxFrame& window, TrayPresenceEvents events)
     : window_(window),
       events_(std::move(events)),
-      behaviour_(*this),
-      hotKey_(window, [this] { ActivateWindow(); }),
-      icon_(AddTrayIcon(pictures, kAppTitle, EventsOfIcon())) {
+      behaviour_(*this) {
     window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
@@ -26,6 +25,13 @@ TrayPresence::~TrayPresence() {
     window_.Unbind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Unbind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Unbind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
+}
+
+void TrayPresence::Appear(const wxIconBundle& pictures) {
+    if (!hotKey_ && !wxTheApp->IsScheduledForDestruction(&window_)) {
+        hotKey_.emplace(window_, [this] { ActivateWindow(); });
+        icon_ = AddTrayIcon(pictures, kAppTitle, EventsOfIcon());
+    }
 }
 
 TrayEvents TrayPresence::EventsOfIcon() {
