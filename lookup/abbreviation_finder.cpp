@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "lookup/abbreviation_finder.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <optional>
+#include <string>
+#include <tuple>
+
+#include "base/letter_case.h"
+#include "database/record_text.h"
+
+namespace brelex {
+
+namespace {
+
+constexpr std::string_view kMarks = "-./";  // they do not count, and neither do blanks
+constexpr unsigned char kBlank = ' ';
+
+// The small letter of each byte, and a blank for each mark.
+std::array<unsigned char, 256> CountingBytes() {
+    std::array<unsigned char, 256> bytes{};
+    for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
+        bytes.at(byte) = SmallLetterOfByte(static_cast<unsigned char>(byte));
+    }
+    for (const char mark : kMarks) {
+        bytes.at(static_cast<unsigned char>(mark)) = kBlank;
+    }
+    return bytes;
+}
+
+const std::array<unsigned char, 256> kCountingBytes = CountingBytes();
+
+// The characters of a text that count.
+std::string KeyOf(std::string_view text) {
+    std::string key;
+    for (const char c : text) {
+        const unsigned char byte = kCountingBytes[static_cast<unsigned char>(c)];
+        if (byte != kBlank) {
+            key.push_back(static_cast<char>(byte));
+        }
+    }
+    return key;
+}
+
+// A bit for each character of the key. Some characters share one.
+std::uint64_t SignatureOf(std::string_view text) {
+    constexpr unsigned kBits = 64;
+    std::uint64_t signature = 0;
+    for (const char c : text) {
+        const unsigned char byte = kCountingBytes[static_cast<unsigned char>(c)];
+        if (byte != kBlank) {
+            signature |= std::uint64_t{1} << (byte % kBits);
+        }
+    }
+    return signature;
+}
+
+// The kinds of edits, most likely slip first.
+enum class Edit {
+    Exchanged,
+    TooManyOrMissing,
+    Wrong
+};
+
+// The edit that makes one key the other. Nothing if there is none.
+std::optional<Edit> EditBetween(std::string_view left, std::string_view right) {
+    const auto different = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+    const auto same = static_cast<std::size_t>(different.first - left.begin());
+    left.remove_prefix(same);
+    right.remove_prefix(same);
+    while (!left.empty() && !right.empty() && left.back() == right.back()) {
+        left.remove_suffix(1);
+        right.remove_suffix(1);
+    }
+    if (left.size() + right.size() == 1) {
+        return Edit::TooManyOrMissing;
+    }
+    if (left.size() == 1 && right.size() == 1) {
+        return Edit::Wrong;
+    }
+    if (left.size() == 2 && right.size() == 2 && left[0] == right[1] && left[1] == right[0]) {
+        return Edit::Exchanged;
+    }
+    return std::nullopt;
+}
+
+std::string_view AbbreviationOf(const RowList& rows, std::size_t row) {
+    return ColumnText(rows.RowText(static_cast<std::int32_t>(row)), 0);
+}
+
+}  // namespace
+
+AbbreviationFinder::AbbreviationFinder(const RowList& rows)
+    : rows_(rows),
+      signatures_(static_cast<std::size_t>(rows.RowCount())) {
+    for (std::size_t row = 0; row < signatures_.size(); ++row) {
+        signatures_[row] = SignatureOf(AbbreviationOf(rows, row));
+    }
+}
+
+std::vector<std::int32_t> AbbreviationFinder::Find(std::string_view text) const {
+    const std::uint64_t signature = SignatureOf(text);
+    const std::string key = KeyOf(text);
+    std::vector<std::int32_t> found;
+    for (std::size_t row = 0; row < signatures_.size(); ++row) {
+        if (signatures_[row] != signature) {
+            continue;
+        }
+        const std::string_view abbreviation = AbbreviationOf(rows_, row);
+        if (key.empty() ? abbreviation == text : KeyOf(abbreviation) == key) {
+            found.push_back(static_cast<std::int32_t>(row));
+        }
+    }
+    return found;
+}
+
+std::vector<std::string_view> AbbreviationFinder::FindSimilar(std::string_view text,
+                                                              std::size_t limit) const {
+    struct Similar {
+        std::tuple<bool, Edit> rank;
+        std::string key;
+        std::string_view abbreviation;
+    };
+
+    const std::uint64_t signature = SignatureOf(text);
+    const std::string key = KeyOf(text);
+    std::vector<Similar> similar;
+    for (std::size_t row = 0; row < signatures_.size() && !key.empty(); ++row) {
+        // An edit takes away one character at most, and adds one at most.
+        if (std::popcount(signatures_[row] ^ signature) > 2) {
+            continue;
+        }
+        const std::string_view abbreviation = AbbreviationOf(rows_, row);
+        std::string other = KeyOf(abbreviation);
+        const std::optional<Edit> edit = EditBetween(key, other);
+        if (edit && !other.empty()) {
+            similar.push_back({{other.front() != key.front(), *edit}, other, abbreviation});
+        }
+    }
+    std::stable_sort(similar.begin(), similar.end(),
+                     [](const Similar& a, const Similar& b) { return a.rank < b.rank; });
+    std::vector<std::string_view> abbreviations;
+    for (auto one = similar.begin(); one != similar.end() && abbreviations.size() < limit; ++one) {
+        const auto isSame = [one](const Similar& other) { return other.key == one->key; };
+        if (std::none_of(similar.begin(), one, isSame)) {
+            abbreviations.push_back(one->abbreviation);
+        }
+    }
+    return abbreviations;
+}
+
+}  // namespace brelex
