@@ -8,6 +8,7 @@
 #include "base/letter_case.h"
 #include "base/windows1252.h"
 #include "database/record_text.h"
+#include "search/loose_text.h"
 #include "search/whole_word.h"
 
 namespace brelex {
@@ -31,6 +32,39 @@ std::string SmallLettersOfBytes(std::string_view bytes) {
         return static_cast<char>(SmallLetterOfByte(static_cast<unsigned char>(c)));
     });
     return small;
+}
+
+// A part of the pattern that occurs in each hit as it is.
+struct FixedPart {
+    WildcardPattern::Segment bytes;
+    bool isAtStart = false;  // of the field
+    bool isAtEnd = false;
+};
+
+// The parts of the pattern that are not empty. In a loose pattern, a part ends where a separator
+// may be, because there can be more of them in the record.
+std::vector<FixedPart> FixedPartsOf(const WildcardPattern& pattern, bool loose) {
+    std::vector<FixedPart> parts;
+    const auto add = [&parts](const FixedPart& part) {
+        if (!part.bytes.empty()) {
+            parts.push_back(part);
+        }
+    };
+    const auto& segments = pattern.Segments();
+    for (auto segment = segments.begin(); segment != segments.end(); ++segment) {
+        FixedPart part{{}, segment == segments.begin()};
+        for (const WildcardPattern::ByteSet& bytes : *segment) {
+            if (loose && bytes[' ']) {
+                add(part);
+                part = {};
+            } else {
+                part.bytes.push_back(bytes);
+            }
+        }
+        part.isAtEnd = segment + 1 == segments.end();
+        add(part);
+    }
+    return parts;
 }
 
 // Takes pieces from all over the rows.
@@ -61,9 +95,11 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
     : rows_(rows),
       in_(request.in),
       matchCase_(request.matchCase),
-      pattern_(std::move(pattern)) {
+      loose_(request.loose),
+      pattern_(loose_ ? LoosePattern(pattern) : std::move(pattern)) {
     if (request.wholeWord) {
-        const std::string word = BytesOfUtf8(request.text).bytes;
+        const std::string bytes = BytesOfUtf8(request.text).bytes;
+        const std::string word = loose_ ? LooseText(bytes) : bytes;
         word_ = matchCase_ ? word : SmallLettersOfBytes(word);
     }
     if (rows.RowCount() == 0) {
@@ -72,22 +108,20 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
     // The bytes next to a field: the TAB between abbreviation and expansion, or the NUL at the end.
     const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
     const std::string sample = Sample(rows);
-    const auto& segments = pattern_.Segments();
-    for (auto segment = segments.begin(); segment != segments.end(); ++segment) {
-        if (segment->empty()) {
-            continue;
-        }
-        const std::size_t before = segment == segments.begin() ? 1 : 0;
-        const std::size_t behind = segment + 1 == segments.end() ? 1 : 0;
-        WildcardPattern::Segment fragment(before + segment->size() + behind, edge);
-        std::copy(segment->begin(), segment->end(), fragment.data() + before);
+    for (const FixedPart& part : FixedPartsOf(pattern_, loose_)) {
+        const std::size_t before = part.isAtStart ? 1 : 0;
+        const std::size_t behind = part.isAtEnd ? 1 : 0;
+        WildcardPattern::Segment fragment(before + part.bytes.size() + behind, edge);
+        std::copy(part.bytes.begin(), part.bytes.end(), fragment.data() + before);
         FragmentSearch search(std::move(fragment), sample);
         if (!rarest_ || search.ExpectedCandidates() < rarest_->ExpectedCandidates()) {
             rarest_ = std::move(search);
             edge_ = before;
         }
     }
-    if (segments.size() == 3 && segments.front().empty() && segments.back().empty() && !word_) {
+    const auto& segments = pattern_.Segments();
+    if (segments.size() == 3 && segments.front().empty() && segments.back().empty() && !word_ &&
+        !loose_) {
         onlyFragment_ = segments[1].size();
     }
 }
@@ -98,11 +132,30 @@ std::string_view RecordFinder::FieldOf(std::string_view recordText) const {
 
 bool RecordFinder::IsHit(std::string_view recordText) const {
     const std::string_view field = FieldOf(recordText);
+    return loose_ ? IsHitInField(LooseText(field)) : IsHitInField(field);
+}
+
+bool RecordFinder::IsHitInField(std::string_view field) const {
     if (!pattern_.Matches(field)) {
         return false;
     }
     return !word_ || IsWholeWord(matchCase_ ? std::string(field) : SmallLettersOfBytes(field),
                                  *word_, ComparisonMode::Binary);
+}
+
+std::string_view RecordFinder::MatchIn(std::string_view recordText) const {
+    const std::string_view field = FieldOf(recordText);
+    if (!loose_) {
+        return pattern_.Find(field).value_or(std::string_view());
+    }
+    const std::string looseField = LooseText(field);
+    const std::string_view match = pattern_.Find(looseField).value_or(std::string_view());
+    if (match.empty()) {
+        return {};
+    }
+    const auto position = static_cast<std::size_t>(match.data() - looseField.data());
+    const std::size_t begin = LengthBeforeLoosening(field, position);
+    return field.substr(begin, LengthBeforeLoosening(field, position + match.size()) - begin);
 }
 
 // Whether a fragment that makes up the whole pattern, found at `found`, lies in the field of this

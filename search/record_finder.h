@@ -26,6 +26,9 @@ class RecordFinder {
     /// Whether a record matches. This is the definition, applied to one record at a time.
     [[nodiscard]] bool IsHit(std::string_view recordText) const;
 
+    /// The part of a record that matches, the first of several. Requires a hit.
+    [[nodiscard]] std::string_view MatchIn(std::string_view recordText) const;
+
     /// Appends the matching rows from `first` up to but not including `last` to `hits`, in
     /// ascending order and at most `limit` of them. Requires 0 <= first, last <= RowCount() and a
     /// limit above 0. Searches the text of all rows at once for the rarest fragment of the pattern,
@@ -36,12 +39,14 @@ class RecordFinder {
   private:
     RecordFinder(const SearchRequest& request, const RowList& rows, WildcardPattern pattern);
 
+    [[nodiscard]] bool IsHitInField(std::string_view field) const;
     [[nodiscard]] std::string_view FieldOf(std::string_view recordText) const;
     [[nodiscard]] bool IsInField(std::string_view recordText, const char* found) const;
 
     const RowList& rows_;
     SearchIn in_;
     bool matchCase_;
+    bool loose_;  // the pattern and the word are for a LooseText
     WildcardPattern pattern_;
     std::optional<std::string>
         word_;  // the whole word to find, in lowercase if case does not matter

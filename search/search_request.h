@@ -25,6 +25,7 @@ struct SearchRequest {
     SearchPosition position = SearchPosition::Anywhere;
     bool matchCase = false;
     bool wholeWord = false;
+    bool loose = false;  ///< do not tell LooseSeparators apart, nor how many of them there are
 };
 
 }  // namespace brelex

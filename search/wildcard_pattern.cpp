@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/wildcard_pattern.h"
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <cstddef>
@@ -125,27 +126,36 @@ std::optional<WildcardPattern> WildcardPattern::Compile(std::u32string_view patt
 // The first segment must be at the beginning and the last at the end. Each of the others goes to
 // the first place after its predecessor where it fits. If that leaves too little for the rest, so
 // does every later place.
-bool WildcardPattern::Matches(std::string_view text) const {
+std::optional<std::string_view> WildcardPattern::Find(std::string_view text) const {
     const Segment& first = segments_.front();
     const Segment& last = segments_.back();
     if (segments_.size() == 1) {
-        return text.size() == first.size() && SegmentStandsAt(first, text, 0);
+        const bool matches = text.size() == first.size() && SegmentStandsAt(first, text, 0);
+        return matches ? std::optional(text) : std::nullopt;
     }
     if (text.size() < first.size() + last.size() || !SegmentStandsAt(first, text, 0)) {
-        return false;
+        return std::nullopt;
     }
     std::size_t position = first.size();
     const std::size_t end = text.size() - last.size();
+    std::size_t begin = first.empty() ? std::string_view::npos : 0;  // of the part to return
     for (auto segment = segments_.begin() + 1; segment != segments_.end() - 1; ++segment) {
         while (position + segment->size() <= end && !SegmentStandsAt(*segment, text, position)) {
             ++position;
         }
+        if (!segment->empty()) {
+            begin = std::min(begin, position);
+        }
         position += segment->size();
         if (position > end) {
-            return false;
+            return std::nullopt;
         }
     }
-    return SegmentStandsAt(last, text, end);
+    if (!SegmentStandsAt(last, text, end)) {
+        return std::nullopt;
+    }
+    begin = std::min(begin, end);
+    return text.substr(begin, (last.empty() ? position : text.size()) - begin);
 }
 
 }  // namespace brelex

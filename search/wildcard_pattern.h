@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace brelex {
@@ -31,14 +32,21 @@ class WildcardPattern {
     [[nodiscard]] static std::optional<WildcardPattern> Compile(std::u32string_view pattern,
                                                                 bool matchCase);
 
-    /// Whether the whole of `text` matches.
-    [[nodiscard]] bool Matches(std::string_view text) const;
-
     /// A set of bytes that match at one place of a text.
     using ByteSet = std::bitset<256>;
 
     /// The part between two stars: one set for each byte of the text.
     using Segment = std::vector<ByteSet>;
+
+    /// The pattern with these parts between its stars. Requires at least one.
+    explicit WildcardPattern(std::vector<Segment> segments) : segments_(std::move(segments)) {}
+
+    /// Whether the whole of `text` matches.
+    [[nodiscard]] bool Matches(std::string_view text) const { return Find(text).has_value(); }
+
+    /// The part of `text` that matches the pattern without the stars at its ends, if the whole of
+    /// `text` matches the pattern. The first of several such parts.
+    [[nodiscard]] std::optional<std::string_view> Find(std::string_view text) const;
 
     /// The parts between the stars. There is one more of them than there are stars, and any may be
     /// empty. A text that matches begins with the first, ends with the last, and contains the
@@ -46,6 +54,8 @@ class WildcardPattern {
     [[nodiscard]] const std::vector<Segment>& Segments() const { return segments_; }
 
   private:
+    WildcardPattern() = default;
+
     std::vector<Segment> segments_ = {{}};
 };
 

@@ -31,13 +31,15 @@ struct FindCase {
         SearchPosition position = kAnywhere;
         bool matchCase = false;
         bool wholeWord = false;
+        bool loose = false;
     } request;
 
     const char* record;
     bool hit;
 
     [[nodiscard]] SearchRequest Request() const {
-        return {request.text, request.in, request.position, request.matchCase, request.wholeWord};
+        return {request.text,      request.in,        request.position,
+                request.matchCase, request.wholeWord, request.loose};
     }
 };
 
@@ -155,6 +157,115 @@ INSTANTIATE_TEST_SUITE_P(
         FindCase{"NotFromTheRecordBefore", {"0a", kAbbreviations}, "ab\tc", false}),
     CaseName());
 
+// A search of expansions that does not tell hyphens, commas, apostrophes and blanks apart.
+struct LooseCase {
+    const char* name;
+    const char* text;
+    const char* expansion;
+    std::string_view match;  // empty: not a hit
+    SearchPosition position = kAnywhere;
+    bool wholeWord = false;
+};
+
+class LooseFinderTest : public testing::TestWithParam<LooseCase> {};
+
+TEST_P(LooseFinderTest, FindsTheWordsHoweverTheyAreSeparated) {
+    const LooseCase& row = GetParam();
+    const FakeRows rows({"A\t0", std::string("B\t") + row.expansion, "C\t0"});
+    const auto finder = RecordFinder::Compile(
+        {row.text, kExpansions, row.position, false, row.wholeWord, true}, rows);
+    ASSERT_TRUE(finder);
+    const std::vector<std::int32_t> expected(row.match.empty() ? 0 : 1, 1);
+    EXPECT_EQ(Hits(*finder, 0, 3, 3), expected);
+    if (!row.match.empty()) {
+        EXPECT_EQ(finder->MatchIn(rows.RowText(1)), row.match);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Separators, LooseFinderTest,
+    testing::Values(LooseCase{"ABlankIsAHyphen", "solid state drive", "a Solid-State Drive (NVMe)",
+                              "Solid-State Drive"},
+                    LooseCase{"AHyphenIsABlank", "end-to-end", "End to End", "End to End"},
+                    LooseCase{"ABlankIsACommaAndABlank", "build operate",
+                              "Build, Operate and Transfer", "Build, Operate"},
+                    LooseCase{"ACommaIsAHyphen", "a,b", "a-b", "a-b"},
+                    LooseCase{"ABlankIsAnApostrophe", "programmer s", "Programmer's Guide",
+                              "Programmer's"},
+                    LooseCase{"TheTypographicOneToo", "programmer's", "Programmer\x92s Guide",
+                              "Programmer\x92s"},
+                    LooseCase{"ARunIsAnyOtherRun", "a - b", "a,--' b", "a,--' b"},
+                    LooseCase{"NoSeparatorIsNotARun", "real time", "Realtime", ""},
+                    LooseCase{"ARunIsNotNone", "realtime", "Real-Time", ""},
+                    LooseCase{"OtherMarksAreNot", "a b", "a/b", ""},
+                    LooseCase{"SeparatorsAtTheEnds", " a ", "0-a,0", "-a,"},
+                    LooseCase{"NothingButASeparator", "-", "0, 0", ", "},
+                    LooseCase{"TheFirstOfSeveral", "a b", "x a b a-b", "a b"}),
+    CaseName());
+
+INSTANTIATE_TEST_SUITE_P(Positions, LooseFinderTest,
+                         testing::Values(LooseCase{"Beginning", "a b", "a-b c", "a-b", kBeginning},
+                                         LooseCase{"BeginningNot", "a b", "xa-b c", "", kBeginning},
+                                         LooseCase{"NotBehindASeparator", "a b", "-a-b c", "",
+                                                   kBeginning},
+                                         LooseCase{"Ending", "b c", "a-b--c", "b--c", kEnding},
+                                         LooseCase{"EndingNot", "b c", "a-b-cx", "", kEnding}),
+                         CaseName());
+
+INSTANTIATE_TEST_SUITE_P(
+    Wildcards, LooseFinderTest,
+    testing::Values(LooseCase{"QuestionMarkIsAWholeRun", "a?b", "0a, b0", "a, b"},
+                    LooseCase{"QuestionMarkIsALetter", "a?b c", "axb-c", "axb-c"},
+                    LooseCase{"AListWithASeparator", "real[-]time", "Real Time", "Real Time"},
+                    LooseCase{"AListWithSeparatorsOnly", "a[- ] b", "a,b", "a,b"},
+                    LooseCase{"AListWithALetter", "a[-x]b", "a  b", "a  b"},
+                    LooseCase{"ADigit", "rfc #", "RFC-1", "RFC-1"},
+                    LooseCase{"BetweenStars", "a b*[*]", "0a-b c*0", "a-b c*"}),
+    CaseName());
+
+INSTANTIATE_TEST_SUITE_P(WholeWords, LooseFinderTest,
+                         testing::Values(LooseCase{"TwoWords", "solid state",
+                                                   "the solid-state drive", "solid-state",
+                                                   kAnywhere, true},
+                                         LooseCase{"PartOfAWord", "solid st",
+                                                   "the solid-state drive", "", kAnywhere, true}),
+                         CaseName());
+
+struct MatchCase {
+    const char* name;
+    const char* text;
+    SearchPosition position;
+    const char* record;
+    std::string_view match;
+};
+
+class MatchInTest : public testing::TestWithParam<MatchCase> {};
+
+TEST_P(MatchInTest, IsTheFirstPartThatMatches) {
+    const FakeRows rows({GetParam().record});
+    const auto finder =
+        RecordFinder::Compile({GetParam().text, kExpansions, GetParam().position}, rows);
+    ASSERT_TRUE(finder);
+    EXPECT_EQ(finder->MatchIn(rows.RowText(0)), GetParam().match);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Positions, MatchInTest,
+    testing::Values(MatchCase{"Anywhere", "cces", kAnywhere, "A\tAccess, access", "cces"},
+                    MatchCase{"NotTheAbbreviation", "a", kAnywhere, "aaa\tbA", "A"},
+                    MatchCase{"Beginning", "a", kBeginning, "A\tAccess", "A"},
+                    MatchCase{"Ending", "s", kEnding, "A\tAccess", "s"},
+                    MatchCase{"Wildcards", "c?[a-f]", kAnywhere, "A\tAccess", "cce"},
+                    MatchCase{"UpToTheLastOfItsStars", "c*s[*]*", kAnywhere, "A\tAccess* s*",
+                              "ccess*"},
+                    MatchCase{"FromTheBeginningToTheLastOfItsStars", "a*s[*]", kBeginning,
+                              "A\tAccess* s*", "Access*"},
+                    MatchCase{"FromTheFirstOfItsStarsToTheEnd", "*c*[*]", kEnding, "A\tAccess* s*",
+                              "ccess* s*"},
+                    MatchCase{"WholeFieldByStars", "[*]*", kBeginning, "A\t*b", "*"},
+                    MatchCase{"Nothing", "[]x[]", kAnywhere, "A\txx", "x"}),
+    CaseName());
+
 TEST(RecordFinder, RefusesAMalformedPattern) {
     const FakeRows rows({"A\tb"});
     EXPECT_FALSE(RecordFinder::Compile({"[abc", kExpansions, kBeginning}, rows));
@@ -185,6 +296,7 @@ SearchRequest AnyRequest(std::mt19937& random) {
     request.position = kPositions.at(random() % 3);
     request.matchCase = random() % 2 == 0;
     request.wholeWord = random() % 4 == 0;
+    request.loose = random() % 4 == 0;
     return request;
 }
 
@@ -253,7 +365,7 @@ TEST(RecordFinder, FindsAsManyHitsAsWanted) {
         ASSERT_EQ(Hits(*finder, first, last, limit), expected) << request.text;
         cut += expected.size() == limit ? 1 : 0;
     }
-    EXPECT_GT(cut, 200);
+    EXPECT_GT(cut, 150);
 }
 
 TEST(RecordFinder, KeepsTheHitsThatItWasGiven) {
