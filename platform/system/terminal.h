@@ -10,6 +10,16 @@ namespace brelex {
 /// The program's arguments without its name, in UTF-8.
 [[nodiscard]] std::vector<std::string> Utf8Arguments(int argc, char** argv);
 
+/// What the standard output of the program can show.
+struct OutputTerminal {
+    int columns = 0;         ///< its width; 0 if it is a file or a pipe
+    bool hasStyles = false;  ///< understands the control sequences for bold text
+};
+
+/// Asks the standard output. On Windows, its window understands control sequences from then on, as
+/// long as a Utf8Terminal exists.
+[[nodiscard]] OutputTerminal StandardOutputTerminal();
+
 /// Makes the terminal show and deliver UTF-8 for the lifetime of this object.
 class Utf8Terminal {
   public:

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/terminal.h"
 
+#include <cstdlib>
+#include <string_view>
+
 #include <windows.h>
 #include <shellapi.h>
 
@@ -20,11 +23,30 @@ std::vector<std::string> Utf8Arguments(int /*argc*/, char** /*argv*/) {
     return arguments;
 }
 
-// The code pages belong to the terminal's window and outlive the program.
+OutputTerminal StandardOutputTerminal() {
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    CONSOLE_SCREEN_BUFFER_INFO window{};
+    DWORD mode = 0;
+    if (GetConsoleMode(output, &mode) == 0 || GetConsoleScreenBufferInfo(output, &window) == 0) {
+        return {};
+    }
+    // Before Windows 10 there are no control sequences.
+    const bool hasStyles = SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+    const char* const kind = std::getenv("TERM");  // only terminals from Unix set it
+    // The program ends each line before it reaches the last column, because some windows begin a
+    // new line there by themselves.
+    const int columns = window.srWindow.Right - window.srWindow.Left;
+    return {columns, hasStyles && (kind == nullptr || std::string_view(kind) != "dumb")};
+}
+
+// The code pages and the mode belong to the terminal's window and outlive the program.
 class Utf8Terminal::Before {
   public:
+    Before() { GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode); }
+
     UINT input = GetConsoleCP();
     UINT output = GetConsoleOutputCP();
+    DWORD mode = 0;  // 0 if the output is a file or a pipe
 };
 
 Utf8Terminal::Utf8Terminal() : before_(std::make_unique<Before>()) {
@@ -35,6 +57,9 @@ Utf8Terminal::Utf8Terminal() : before_(std::make_unique<Before>()) {
 Utf8Terminal::~Utf8Terminal() {
     SetConsoleCP(before_->input);
     SetConsoleOutputCP(before_->output);
+    if (before_->mode != 0) {
+        SetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), before_->mode);
+    }
 }
 
 }  // namespace brelex
