@@ -199,6 +199,24 @@ bool AnagramFinder::MayHaveHits(std::int32_t first, std::int32_t end, AnagramSig
         wanted);
 }
 
+// Looks at the rows from `first` up to but not including `end`. Returns whether the work goes on.
+bool AnagramFinder::FindAmong(std::int32_t first, std::int32_t end, const AnagramLetters& letters,
+                              WorkWatcher* watcher, std::vector<std::int32_t>& hits) {
+    if (!MayHaveHits(first, end, letters.Signature())) {
+        return true;
+    }
+    for (std::int32_t row = first; row < end; ++row) {
+        if (!letters.IsHit(rows_.RowText(row))) {
+            continue;
+        }
+        hits.push_back(row);
+        if (watcher != nullptr && !watcher->OnHit(row)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 std::vector<std::int32_t> AnagramFinder::Find(const AnagramLetters& letters, WorkWatcher* watcher) {
     const OnLeaving next([this] { isFirst_ = false; });
     std::vector<std::int32_t> hits;
@@ -206,23 +224,17 @@ std::vector<std::int32_t> AnagramFinder::Find(const AnagramLetters& letters, Wor
         // The rows up to the next pause, including the one after which it comes.
         const std::int32_t past = row % kRowsBetweenPauses;
         const std::int32_t left = past == 0 ? 0 : kRowsBetweenPauses - past;
-        const std::int32_t end = std::min(row + left, rows_.RowCount() - 1) + 1;
-        const bool mayHaveHits = MayHaveHits(row, end, letters.Signature());
-        for (; mayHaveHits && row < end; ++row) {
-            if (letters.IsHit(rows_.RowText(row))) {
-                hits.push_back(row);
-                if (watcher != nullptr && !watcher->OnHit(row)) {
-                    return hits;
-                }
-            }
+        const std::int32_t last = std::min(row + left, rows_.RowCount() - 1);
+        if (!FindAmong(row, last + 1, letters, watcher, hits)) {
+            break;
         }
-        row = end;
-        if (watcher != nullptr && (end - 1) % kRowsBetweenPauses == 0) {
-            watcher->SetProgress(PercentOf(end - 1, rows_.RowCount()));
+        if (watcher != nullptr && last % kRowsBetweenPauses == 0) {
+            watcher->SetProgress(PercentOf(last, rows_.RowCount()));
             if (!watcher->OnPause()) {
-                return hits;
+                break;
             }
         }
+        row = last + 1;
     }
     return hits;
 }

@@ -75,6 +75,9 @@ class AnagramFinder {
                                                  WorkWatcher* watcher);
 
   private:
+    [[nodiscard]] bool FindAmong(std::int32_t first, std::int32_t end,
+                                 const AnagramLetters& letters, WorkWatcher* watcher,
+                                 std::vector<std::int32_t>& hits);
     [[nodiscard]] bool MayHaveHits(std::int32_t first, std::int32_t end, AnagramSignature wanted);
     void SignRowsBefore(std::int32_t end);
 
