@@ -3,7 +3,7 @@
 
 namespace brelex {
 
-std::vector<PositionScan> VectorScans() {
+std::vector<FragmentScan> VectorScans() {
     return {};
 }
 
