@@ -2,10 +2,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <iostream>
 #include <limits>
 #include <map>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -14,9 +16,11 @@
 #include "platform/system/program_folder.h"
 #include "platform/system/terminal.h"
 #include "tools/build_command.h"
+#include "tools/lookup_command.h"
 #include "tools/open_database.h"
 #include "tools/query_commands.h"
 #include "tools/search_commands.h"
+#include "tools/visible_text.h"
 
 namespace {
 
@@ -25,15 +29,23 @@ std::string DatabaseBesideProgram() {
     return brelex::FindDatabaseIn(folder).value_or(folder + brelex::kDatabaseName);
 }
 
+// The terminal that the output goes to. Users who do not want any styles set NO_COLOR.
+brelex::OutputTerminal TerminalAsWanted() {
+    brelex::OutputTerminal terminal = brelex::StandardOutputTerminal();
+    const char* const noColor = std::getenv("NO_COLOR");
+    terminal.hasStyles = terminal.hasStyles && (noColor == nullptr || *noColor == '\0');
+    return terminal;
+}
+
 // The arguments of the command line.
 struct CommandLine {
     std::string database;  // from option -d, or empty
     brelex::BuildRequest build;
-    std::vector<std::string> texts;  // to look up
+    brelex::LookupOptions lookup;
     brelex::SearchOptions search;
-    std::string letters;  // for the anagram search
-    bool anagramsAsJson = false;
-    int code = brelex::kFailed;  // the exit code of the command, once it has run
+    std::string letters;           // for the anagram search
+    brelex::OutputOptions output;  // of any of these three
+    int code = brelex::kFailed;    // the exit code of the command, once it has run
 };
 
 std::string DatabaseOf(const CommandLine& line) {
@@ -94,19 +106,35 @@ void AddBuild(CLI::App& app, CommandLine& line) {
 void AddReport(CLI::App& app, CommandLine& line, const char* name, const char* description,
                int (*run)(const std::string&, std::ostream&, std::ostream&)) {
     app.add_subcommand(name, description)->callback([&line, run] {
-        line.code = run(DatabaseOf(line), std::cout, std::cerr);
+        if (line.output.terminal.columns == 0) {
+            line.code = run(DatabaseOf(line), std::cout, std::cerr);
+            return;
+        }
+        std::ostringstream report;
+        line.code = run(DatabaseOf(line), report, std::cerr);
+        std::cout << brelex::VisibleText(report.view(), "\t\n");
     });
 }
 
+void AddOutputOptions(CLI::App& command, brelex::OutputOptions& output) {
+    command.add_flag("-n,--number", output.numbers, "Print the number of each entry");
+    command.add_flag("--json", output.json, "Print a JSON array");
+}
+
 void AddLookup(CLI::App& app, CommandLine& line) {
-    CLI::App* const command =
-        app.add_subcommand("lookup", "Look up abbreviations by their first letters");
+    CLI::App* const command = app.add_subcommand("lookup", "Look up the meanings of abbreviations");
     command
-        ->add_option("TEXT", line.texts, "First letters of an abbreviation; - reads standard input")
+        ->add_option("TEXT", line.lookup.texts,
+                     "Abbreviation, with or without its hyphens, periods, slashes and blanks; - "
+                     "reads standard input")
         ->required()
         ->type_name("");
+    command->add_flag("--first", line.lookup.first,
+                      "Print the first entry that begins with the text, as typing it selects");
+    AddOutputOptions(*command, line.output);
     command->callback([&line] {
-        line.code = brelex::RunLookup(DatabaseOf(line), line.texts, std::cin, std::cout, std::cerr);
+        line.code = brelex::RunLookup(DatabaseOf(line), line.lookup, line.output, std::cin,
+                                      std::cout, std::cerr);
     });
 }
 
@@ -132,13 +160,17 @@ void AddSearch(CLI::App& app, CommandLine& line) {
                {"ending", SearchPosition::Ending}});
     command->add_flag("--match-case", options.request.matchCase, "Match case");
     command->add_flag("--whole-word", options.request.wholeWord, "Match whole words only");
+    command->add_flag(
+        "--loose", options.request.loose,
+        "Hyphens, commas, apostrophes and blanks, and runs of them, match each other");
     command->add_option("--from", options.from, "Number of the entry to start at (default: 1)")
         ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description(""))
         ->type_name("N");
     command->add_flag("--all", options.all, "Print every match, not just the first 500");
-    command->add_flag("--json", options.json, "Print a JSON array");
+    AddOutputOptions(*command, line.output);
     command->callback([&line] {
-        line.code = brelex::RunSearch(DatabaseOf(line), line.search, std::cout, std::cerr);
+        line.code =
+            brelex::RunSearch(DatabaseOf(line), line.search, line.output, std::cout, std::cerr);
     });
 }
 
@@ -148,10 +180,10 @@ void AddAnagram(CLI::App& app, CommandLine& line) {
     command->add_option("LETTERS", line.letters, "Letters of an abbreviation, in any order")
         ->required()
         ->type_name("");
-    command->add_flag("--json", line.anagramsAsJson, "Print a JSON array");
+    AddOutputOptions(*command, line.output);
     command->callback([&line] {
-        line.code = brelex::RunAnagram(DatabaseOf(line), line.letters, line.anagramsAsJson,
-                                       std::cout, std::cerr);
+        line.code =
+            brelex::RunAnagram(DatabaseOf(line), line.letters, line.output, std::cout, std::cerr);
     });
 }
 
@@ -167,6 +199,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     app.require_subcommand(1);
     app.fallthrough();
     CommandLine line;
+    line.output.terminal = TerminalAsWanted();
     app.add_option("-d,--database", line.database,
                    "Database file to read (default: Acronyms.dat in this program's folder)")
         ->type_name("FILE");

@@ -15,15 +15,18 @@ namespace {
 std::string JsonString(std::string_view bytes) {
     constexpr std::string_view kHexDigits = "0123456789abcdef";
     std::string text = "\"";
-    for (const char c : Utf8OfBytes(bytes)) {
+    for (const char c : bytes) {
         const auto code = static_cast<unsigned char>(c);
+        const char32_t character = CharacterOfByte(code);
+        // JSON demands it for the first kind. A terminal may obey the others.
+        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
         if (c == '"' || c == '\\') {
             text += {'\\', c};
-        } else if (code < 0x20) {
+        } else if (isControl) {
             text += "\\u00";
             text += {kHexDigits[code >> 4U], kHexDigits[code & 0xFU]};
         } else {
-            text.push_back(c);
+            text += Utf8OfBytes({&c, 1});
         }
     }
     return text + "\"";

@@ -11,8 +11,6 @@
 #include "base/windows1252.h"
 #include "database/database_check.h"
 #include "database/database_statistics.h"
-#include "database/record_number.h"
-#include "database/string_order.h"
 #include "lookup/prefix_search.h"
 #include "search/search_list.h"
 #include "tools/open_database.h"
@@ -66,16 +64,6 @@ std::string FieldText(const std::string& searchList, FieldSource /*source*/) {
         separator = ", ";
     }
     return text;
-}
-
-// Prints the line for one text. Returns whether any entry starts with its first character.
-bool PrintLookup(const RowList& rows, const std::string& text, std::ostream& out) {
-    const std::string bytes = BytesOfUtf8(text).bytes;
-    const std::int32_t row = FindFirstByPrefix(rows, bytes);
-    const std::string_view record = rows.RowText(row);
-    out << TextOf(RecordNumberOf(row)) << "\t" << Utf8OfBytes(record) << "\n";
-    return text.empty() ||
-           (!bytes.empty() && EqualIgnoringCase(record.substr(0, 1), bytes.substr(0, 1)));
 }
 
 // Prints the facts that the program's window shows, except those about the current run.
@@ -136,33 +124,6 @@ int RunCheck(const std::string& database, std::ostream& out, std::ostream& err) 
     }
     out << database << ": " << opened.store.RowCount() << " records, nothing wrong\n";
     return kFound;
-}
-
-int RunLookup(const std::string& database, const std::vector<std::string>& texts, std::istream& in,
-              std::ostream& out, std::ostream& err) {
-    OpenDatabase opened;
-    if (const int failure = Load(database, opened, err); failure != kFound) {
-        return failure;
-    }
-    if (opened.store.RowCount() == 0) {
-        return kNothingFound;
-    }
-    bool found = false;
-    for (const std::string& text : texts) {
-        if (text != "-") {
-            found |= PrintLookup(opened.store, text, out);
-            continue;
-        }
-        opened.store.MeasureOrder();  // for as many look-ups as there may be
-        std::string line;
-        while (std::getline(in, line)) {
-            if (line.ends_with('\r')) {
-                line.pop_back();
-            }
-            found |= PrintLookup(opened.store, line, out);
-        }
-    }
-    return found ? kFound : kNothingFound;
 }
 
 }  // namespace brelex

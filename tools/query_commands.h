@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <istream>
 #include <ostream>
 #include <string>
-#include <vector>
 
 namespace brelex {
 
@@ -21,11 +19,5 @@ int RunDump(const std::string& database, std::ostream& out, std::ostream& err);
 /// Prints the problems found in the database. Returns kFound if there are none, and kNothingFound
 /// if there are some or if the file can be read but not loaded.
 int RunCheck(const std::string& database, std::ostream& out, std::ostream& err);
-
-/// For each text, prints the record that typing it would select: its number (1-based), abbreviation
-/// and expansion, separated by TABs. The text "-" means the lines of `in`. Returns kNothingFound if
-/// no entry begins with even the first character of any text.
-int RunLookup(const std::string& database, const std::vector<std::string>& texts, std::istream& in,
-              std::ostream& out, std::ostream& err);
 
 }  // namespace brelex

@@ -2,19 +2,20 @@
 #include "tools/search_commands.h"
 
 #include <limits>
+#include <string_view>
 #include <variant>
 
 #include "base/windows1252.h"
+#include "database/record_text.h"
 #include "search/anagram.h"
 #include "search/database_search.h"
 #include "search/prepared_search.h"
-#include "tools/json_records.h"
 #include "tools/open_database.h"
 
 namespace brelex {
 
-int RunSearch(const std::string& database, const SearchOptions& options, std::ostream& out,
-              std::ostream& err) {
+int RunSearch(const std::string& database, const SearchOptions& options,
+              const OutputOptions& output, std::ostream& out, std::ostream& err) {
     if (options.request.text.empty()) {
         err << "brelex: the search text is empty\n";
         return kFailed;
@@ -30,15 +31,12 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
         return kFailed;
     }
     const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
-    const SearchOutcome outcome = SearchDatabase(std::get<RecordFinder>(prepared), store,
-                                                 RowOf(options.from), limit, nullptr);
-    if (options.json) {
-        PrintJsonRecords(store, outcome.hits, out);
-    } else {
-        for (const std::int32_t row : outcome.hits) {
-            out << Utf8OfBytes(store.RowText(row)) << "\n";
-        }
-    }
+    const auto& finder = std::get<RecordFinder>(prepared);
+    const SearchOutcome outcome =
+        SearchDatabase(finder, store, RowOf(options.from), limit, nullptr);
+    PrintRecords(
+        store, outcome.hits, output,
+        [&finder](std::string_view record) { return finder.MatchIn(record); }, out);
     if (outcome.hits.empty()) {
         err << kNothingFoundText << "\n";
     }
@@ -50,7 +48,7 @@ int RunSearch(const std::string& database, const SearchOptions& options, std::os
     return outcome.hits.empty() ? kNothingFound : kFound;
 }
 
-int RunAnagram(const std::string& database, const std::string& letters, bool json,
+int RunAnagram(const std::string& database, const std::string& letters, const OutputOptions& output,
                std::ostream& out, std::ostream& err) {
     const std::u32string typed = DecodeUtf8(letters);
     if (const auto refusal = AnagramRefusalOf(typed)) {
@@ -63,13 +61,8 @@ int RunAnagram(const std::string& database, const std::string& letters, bool jso
     }
     const RecordStore& store = opened.store;
     const auto hits = AnagramFinder(store).Find(AnagramLetters(typed), nullptr);
-    if (json) {
-        PrintJsonRecords(store, hits, out);
-    } else {
-        for (const std::int32_t row : hits) {
-            out << TextOf(RecordNumberOf(row)) << "\t" << Utf8OfBytes(store.RowText(row)) << "\n";
-        }
-    }
+    PrintRecords(
+        store, hits, output, [](std::string_view record) { return ColumnText(record, 0); }, out);
     err << "Number of possible rearrangements: " << RearrangementsText(typed, ",") << "\n";
     return hits.empty() ? kNothingFound : kFound;
 }

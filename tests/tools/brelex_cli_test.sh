@@ -27,6 +27,14 @@ contains() {
         failures=$((failures + 1))
     fi
 }
+# prints STREAM TEXT: checks that this is all of its output.
+prints() {
+    checks=$((checks + 1))
+    if [ "$(tr -d '\r' <"$folder/$1")" != "$2" ]; then
+        echo "FAILED: its $1 is not \"$2\":"; cat "$folder/$1"
+        failures=$((failures + 1))
+    fi
+}
 
 copy=$folder/$(basename "$brelex")
 cp "$brelex" "$copy"
@@ -56,22 +64,37 @@ expect 0 "info" "$brelex" info
 contains out "Version: 2.5"; contains out "ReleaseDate: 2005-02-03"; contains out "SearchListText: net, disk"
 expect 0 "dump" "$brelex" dump;                   contains out "RAM	Random Access Memory"
 expect 0 "check" "$brelex" check
-expect 0 "look-up" "$brelex" lookup ra;           contains out "2	RAM	Random Access Memory"
+expect 0 "look-up" "$brelex" lookup r.a.m.;       prints out "RAM	Random Access Memory"
+expect 0 "look-up with numbers" "$brelex" lookup -n ram; prints out "2	RAM	Random Access Memory"
+expect 0 "look-up as JSON" "$brelex" lookup --json ram
+contains out '{"recordNumber":2,"abbreviation":"RAM","expansion":"Random Access Memory"}'
+expect 1 "look-up of a beginning" "$brelex" lookup ra; prints out "RAM	Random Access Memory"
+contains err 'No entry has the abbreviation "ra"; typing it selects RAM.'
+contains err "Did you mean RAM?"
+expect 0 "look-up of several texts, of which one is found" "$brelex" lookup ra abc
+contains out "ABC	Alpha"
+expect 0 "what typing selects" "$brelex" lookup --first ra; prints out "RAM	Random Access Memory"
+prints err ""
 expect 0 "-d before the command" "$brelex" -d "$folder/ACRONYMS.dat" lookup abc
-contains out "1	ABC	Alpha"
+prints out "ABC	Alpha"
 cp "$folder/ACRONYMS.dat" "$folder/Wörter 字.dat"
-expect 0 "a file's name with any characters" "$brelex" -d "$folder/Wörter 字.dat" lookup ra
+expect 0 "a file's name with any characters" "$brelex" -d "$folder/Wörter 字.dat" lookup ram
 expect 0 "search" "$brelex" search 'access';      contains out "RAM	Random Access Memory"
 contains err "Number of Hits: 1"
 expect 0 "search with all options" "$brelex" search RAM --in abbreviations --position beginning \
-    --match-case --whole-word --from 2 --all --json
+    --match-case --whole-word --loose --from 2 --all --number --json
 contains out '{"recordNumber":2,"abbreviation":"RAM","expansion":"Random Access Memory"}'
+expect 0 "search with numbers" "$brelex" search -n 'access'; prints out "2	RAM	Random Access Memory"
+expect 1 "search with a hyphen too many" "$brelex" search 'random-access'
+expect 0 "search for words with other separators" "$brelex" search --loose 'random-access'
+prints out "RAM	Random Access Memory"
 expect 1 "search for a part of a word" "$brelex" search R --in abbreviations --whole-word
 expect 1 "search for what is not there" "$brelex" search zzz;  contains err "Search text is not found"
 expect 2 "a text that may not be searched for" "$brelex" search 'a*b'
 contains err "Free use of asterisk (*) in search text is not allowed."
-expect 0 "anagram" "$brelex" anagram mra;        contains out "2	RAM	Random Access Memory"
+expect 0 "anagram" "$brelex" anagram mra;        prints out "RAM	Random Access Memory"
 contains err "Number of possible rearrangements: 6"
+expect 0 "anagram with numbers" "$brelex" anagram -n mra; prints out "2	RAM	Random Access Memory"
 expect 0 "anagram as JSON" "$brelex" anagram --json mra; contains out '"recordNumber":2'
 expect 1 "anagram of what is not there" "$brelex" anagram xyz
 expect 2 "anagram of too little" "$brelex" anagram CC; contains err "Type at least 2 distinct letters"
@@ -97,7 +120,37 @@ if [ -e /dev/full ]; then
     expect 2 "a full disk" full_disk
     contains err "cannot write the output"
 fi
-standard_input() { printf 'r\n' | "$brelex" lookup -; }
-expect 0 "standard input" standard_input; contains out RAM
+standard_input() { printf 'ram\r\n\nABC' | "$brelex" lookup -; }
+expect 0 "standard input" standard_input; prints out "RAM	Random Access Memory
+ABC	Alpha"
+
+# On a terminal, which `script` provides. Its lines end in CR LF.
+if [ -z "$emulator" ] && script -qec true /dev/null >/dev/null 2>&1 </dev/null; then
+    on_terminal() { script -qec "stty cols 40; $1" /dev/null </dev/null | tr -d '\r'; }
+    bold=$(printf '\033[1m') plain=$(printf '\033[0m')
+    export TERM=xterm
+    unset NO_COLOR
+    expect 0 "look-up on a terminal" on_terminal "'$brelex' lookup ram"
+    prints out "${bold}RAM$plain       Random Access Memory"
+    expect 0 "NO_COLOR" on_terminal "NO_COLOR=1 '$brelex' lookup ram"
+    prints out "RAM       Random Access Memory"
+    expect 0 "an empty NO_COLOR" on_terminal "NO_COLOR= '$brelex' lookup ram"
+    contains out "$bold"
+    expect 0 "a dumb terminal" on_terminal "TERM=dumb '$brelex' lookup ram"
+    prints out "RAM       Random Access Memory"
+    expect 0 "no kind of terminal" on_terminal "env -u TERM '$brelex' lookup ram"
+    prints out "RAM       Random Access Memory"
+    # build refuses control characters, but a database from elsewhere may contain them.
+    printf 'EVIL\tA colorful~[31m expansion of its abbreviation\n' > "$folder/evil.tsv"
+    "$brelex" build -o "$folder/good.dat" "$folder/evil.tsv" >/dev/null
+    LC_ALL=C sed 's/~/\x1B/' "$folder/good.dat" >"$folder/evil.dat"
+    expect 0 "a control character on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' lookup evil"
+    prints out "${bold}EVIL$plain      A colorful␛[31m expansion of
+          its abbreviation"
+    expect 0 "a dump on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' dump"
+    prints out "EVIL	A colorful␛[31m expansion of its abbreviation"
+    expect 0 "a control character in a file" "$brelex" -d "$folder/evil.dat" dump
+    prints out "EVIL	A colorful$(printf '\033')[31m expansion of its abbreviation"
+fi
 echo "$((checks - failures)) of $checks checks passed"
 [ $failures = 0 ]

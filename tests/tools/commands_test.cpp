@@ -29,11 +29,6 @@ class CommandsTest : public testing::Test {
         return RunBuild(request, out_, err_);
     }
 
-    int Lookup(const std::vector<std::string>& texts, const std::string& input = "") {
-        std::istringstream in(input);
-        return RunLookup(database_, texts, in, out_, err_);
-    }
-
     std::string Output() {
         std::string text = out_.str();
         out_.str("");
@@ -146,28 +141,6 @@ TEST_F(CommandsTest, InfoOfADateThatIsNoneSaysSo) {
     EXPECT_NE(Output().find("ReleaseDate: not a date (1e+300)\n"), std::string::npos);
 }
 
-TEST_F(CommandsTest, LookupPrintsTheRowThatTypingSelects) {
-    ASSERT_EQ(Build({}), 0);
-    Output();
-    EXPECT_EQ(Lookup({"abcd", "ra", "AX"}), 0);
-    EXPECT_EQ(Output(), "2\tABCD\tLong\n3\tRAM\tRandom Access Memory\n1\tABC\tAlpha\n");
-}
-
-TEST_F(CommandsTest, LookupReadsLinesFromStandardInput) {
-    ASSERT_EQ(Build({}), 0);
-    Output();
-    EXPECT_EQ(Lookup({"-"}, "r\r\nabcd"), 0);
-    EXPECT_EQ(Output(), "3\tRAM\tRandom Access Memory\n2\tABCD\tLong\n");
-}
-
-TEST_F(CommandsTest, LookupOfWhatNoEntryBeginsWithExitsWithOne) {
-    ASSERT_EQ(Build({}), 0);
-    Output();
-    EXPECT_EQ(Lookup({"?"}), 1);
-    EXPECT_EQ(Output(), "1\tABC\tAlpha\n");
-    EXPECT_EQ(Lookup({"?", "r"}), 0);
-}
-
 TEST_F(CommandsTest, ALoadFailureGivesTheReasonAndExitsWithTwo) {
     folder_.Write("Acronyms.dat", ExpandedBytes({"ABC\tx"}));
     const std::string expected =
@@ -175,7 +148,6 @@ TEST_F(CommandsTest, ALoadFailureGivesTheReasonAndExitsWithTwo) {
     EXPECT_EQ(RunInfo(database_, out_, err_), 2);
     EXPECT_EQ(err_.str(), expected);
     EXPECT_EQ(RunDump(database_, out_, err_), 2);
-    EXPECT_EQ(Lookup({"A"}), 2);
     EXPECT_EQ(out_.str(), "");
 }
 

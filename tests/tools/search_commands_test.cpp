@@ -17,7 +17,7 @@ class SearchCommandTest : public testing::Test {
     int Search(const SearchOptions& options) {
         out_.str("");
         err_.str("");
-        return RunSearch(database_, options, out_, err_);
+        return RunSearch(database_, options, output_, out_, err_);
     }
 
     static SearchOptions For(const char* text) {
@@ -37,6 +37,7 @@ class SearchCommandTest : public testing::Test {
 
     TestFolder folder_;
     std::string database_;
+    OutputOptions output_;
     std::ostringstream out_;
     std::ostringstream err_;
 };
@@ -66,6 +67,37 @@ TEST_F(SearchCommandTest, TakesEveryOption) {
     EXPECT_EQ(Search(options), 1);
 }
 
+TEST_F(SearchCommandTest, PrintsNumbersIfWanted) {
+    output_.numbers = true;
+    EXPECT_EQ(Search(For("ACCESS")), 0);
+    EXPECT_EQ(out_.str(), "2\tRAM\tRandom Access Memory\n3\tRAS\tremote access\n");
+}
+
+TEST_F(SearchCommandTest, LooselyFindsWordsWithOtherSeparators) {
+    SearchOptions options = For("three letter");
+    EXPECT_EQ(Search(options), 1);
+    options.request.loose = true;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(), "TLA\tThree-Letter\tAbbreviation\n");
+    EXPECT_EQ(err_.str(), "Number of Hits: 1\n");
+}
+
+TEST_F(SearchCommandTest, ShowsTheMatchOnATerminal) {
+    output_.terminal = {80, true};
+    SearchOptions options = For("three letter");
+    options.request.loose = true;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(),
+              "TLA       \x1B[1mThree-Letter\x1B[0m\xE2\x90\x89"
+              "Abbreviation\n");
+    options.request.text = "la";
+    options.request.in = SearchIn::Abbreviations;
+    EXPECT_EQ(Search(options), 0);
+    EXPECT_EQ(out_.str(),
+              "T\x1B[1mLA\x1B[0m       Three-Letter\xE2\x90\x89"
+              "Abbreviation\n");
+}
+
 TEST_F(SearchCommandTest, SaysThatNothingIsFound) {
     EXPECT_EQ(Search(For("xyz")), 1);
     EXPECT_EQ(out_.str(), "");
@@ -74,7 +106,7 @@ TEST_F(SearchCommandTest, SaysThatNothingIsFound) {
 
 TEST_F(SearchCommandTest, PrintsJson) {
     SearchOptions options = For("c");
-    options.json = true;
+    output_.json = true;
     options.from = RecordNumber{1};
     EXPECT_EQ(Search(options), 0);
     EXPECT_EQ(out_.str(),
@@ -126,21 +158,31 @@ TEST_F(SearchCommandTest, AtTheLimitItSaysWhereToGoOn) {
 
 class AnagramCommandTest : public SearchCommandTest {
   protected:
-    int Anagram(const std::string& letters, bool json = false) {
+    int Anagram(const std::string& letters) {
         out_.str("");
         err_.str("");
-        return RunAnagram(database_, letters, json, out_, err_);
+        return RunAnagram(database_, letters, output_, out_, err_);
     }
 };
 
-TEST_F(AnagramCommandTest, PrintsTheNumberedRecordsFound) {
+TEST_F(AnagramCommandTest, PrintsTheRecordsFound) {
+    EXPECT_EQ(Anagram("mra"), 0);
+    EXPECT_EQ(out_.str(), "RAM\tRandom Access Memory\n");
+    EXPECT_EQ(err_.str(), "Number of possible rearrangements: 6\n");
+    output_.numbers = true;
     EXPECT_EQ(Anagram("mra"), 0);
     EXPECT_EQ(out_.str(), "2\tRAM\tRandom Access Memory\n");
-    EXPECT_EQ(err_.str(), "Number of possible rearrangements: 6\n");
-    EXPECT_EQ(Anagram("mra", true), 0);
+    output_.json = true;
+    EXPECT_EQ(Anagram("mra"), 0);
     EXPECT_EQ(out_.str(),
               "[\n{\"recordNumber\":2,\"abbreviation\":\"RAM\",\"expansion\":\"Random Access "
               "Memory\"}\n]\n");
+}
+
+TEST_F(AnagramCommandTest, ShowsTheAbbreviationInBoldOnATerminal) {
+    output_.terminal = {80, true};
+    EXPECT_EQ(Anagram("mra"), 0);
+    EXPECT_EQ(out_.str(), "\x1B[1mRAM\x1B[0m       Random Access Memory\n");
 }
 
 TEST_F(AnagramCommandTest, SaysByItsCodeThatNothingIsFound) {
