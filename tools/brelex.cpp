@@ -57,7 +57,7 @@ int RunBuild(const CommandLine& line) {
         std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
         return brelex::kFailed;
     }
-    return brelex::RunBuild(line.build, std::cout, std::cerr);
+    return brelex::RunBuild(line.build, std::cin, std::cout, std::cerr);
 }
 
 // Adds an option that accepts a few fixed words as its value.
@@ -95,8 +95,8 @@ void AddBuild(CLI::App& app, CommandLine& line) {
         ->type_name("FILE");
     command
         ->add_option("INPUT", request.inputs,
-                     "UTF-8 .tsv files (abbreviation, TAB, expansion) or dictd "
-                     "dictionaries (NAME.index next to NAME.dict.dz)")
+                     "UTF-8 .tsv files (abbreviation, TAB, expansion), - for such a list from "
+                     "standard input, or dictd dictionaries (NAME.index next to NAME.dict.dz)")
         ->required()
         ->type_name("");
     command->callback([&line] { line.code = RunBuild(line); });

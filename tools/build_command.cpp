@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <iterator>
 #include <limits>
 #include <system_error>
 #include <utility>
@@ -22,6 +23,7 @@
 #include "tools/corrections.h"
 #include "tools/dictd_reader.h"
 #include "tools/input_entries.h"
+#include "tools/input_file.h"
 #include "tools/open_database.h"
 
 namespace brelex {
@@ -35,23 +37,76 @@ int Refuse(std::ostream& err, const std::string& reason) {
     return kFailed;
 }
 
-void ReadInput(const std::string& input, Corrections& corrections,
-               std::vector<std::string>& records, InputReport& report) {
-    const fs::path path = PathOfUtf8(input);
-    if (path.extension() == ".tsv") {
-        ReadTsvFile(path, records, report);
-    } else if (path.extension() == ".index") {
-        ReadDictdPair(path, records, report, &corrections);
-    } else if (input.ends_with(".dict.dz")) {
-        ReadDictdPair(fs::path(path).replace_extension().replace_extension(".index"), records,
-                      report, &corrections);
-    } else if (path.extension() == ".dict") {
-        ReadDictdPair(fs::path(path).replace_extension(".index"), records, report, &corrections);
-    } else {
-        report.errors.push_back(input +
-                                ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
+// Prints the first of the messages and how many more there are.
+void Print(const std::vector<std::string>& messages, const char* kind, const char* beginning,
+           std::ostream& err) {
+    constexpr std::size_t kMostPrinted = 20;
+    for (std::size_t i = 0; i < std::min(messages.size(), kMostPrinted); ++i) {
+        err << beginning << messages[i] << "\n";
+    }
+    if (messages.size() > kMostPrinted) {
+        const std::size_t rest = messages.size() - kMostPrinted;
+        err << "brelex: " << rest << " more " << kind << (rest == 1 ? "\n" : "s\n");
     }
 }
+
+// Whether `name` ends in `ending`, which is in small letters, whatever the case of its own.
+bool HasEnding(std::string_view name, std::string_view ending) {
+    return name.size() >= ending.size() &&
+           std::equal(ending.begin(), ending.end(), name.end() - std::ssize(ending),
+                      [](char a, char b) { return AsciiCapital(a) == AsciiCapital(b); });
+}
+
+// Reads the inputs one after the other.
+class InputReader {
+  public:
+    InputReader(std::istream& standardInput, Corrections& corrections,
+                std::vector<std::string>& records, InputReport& report)
+        : standardInput_(standardInput),
+          corrections_(corrections),
+          records_(records),
+          report_(report) {}
+
+    void Read(const std::string& input) {
+        const fs::path path = PathOfUtf8(input);
+        if (input == kStandardStream) {
+            ReadStandardInput();
+        } else if (HasEnding(input, ".tsv")) {
+            ReadTsvFile(path, records_, report_);
+        } else if (HasEnding(input, ".index")) {
+            ReadDictdPair(path, records_, report_, &corrections_);
+        } else if (HasEnding(input, ".dict.dz")) {
+            ReadPairOf(fs::path(path).replace_extension());
+        } else if (HasEnding(input, ".dict")) {
+            ReadPairOf(path);
+        } else {
+            report_.errors.push_back(
+                input + ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
+        }
+    }
+
+  private:
+    void ReadStandardInput() {
+        if (standardInputIsRead_) {
+            report_.errors.emplace_back("standard input can be read only once");
+            return;
+        }
+        standardInputIsRead_ = true;
+        const std::string text{std::istreambuf_iterator<char>(standardInput_), {}};
+        ReadTsv("standard input", text, records_, report_);
+    }
+
+    void ReadPairOf(const fs::path& dictionary) {
+        const fs::path index = dictionary.filename().replace_extension(".index");
+        ReadDictdPair(FileBeside(dictionary, index), records_, report_, &corrections_);
+    }
+
+    std::istream& standardInput_;
+    Corrections& corrections_;
+    std::vector<std::string>& records_;
+    InputReport& report_;
+    bool standardInputIsRead_ = false;
+};
 
 // Sets the parts of the content that come from options. Returns an error text, or an empty text on
 // success.
@@ -72,14 +127,16 @@ std::string ReadRequest(const BuildRequest& request, DatabaseContent& content) {
 }
 
 // Reads the entries of all inputs. Also reports an error if they do not make a database.
-InputReport ReadInputs(const BuildRequest& request, std::vector<std::string>& records) {
+InputReport ReadInputs(const BuildRequest& request, std::istream& in,
+                       std::vector<std::string>& records) {
     InputReport report;
     Corrections corrections;
     if (!request.corrections.empty()) {
         corrections.ReadFile(PathOfUtf8(request.corrections), report);
     }
+    InputReader reader(in, corrections, records, report);
     for (const std::string& input : request.inputs) {
-        ReadInput(input, corrections, records, report);
+        reader.Read(input);
     }
     corrections.ReportUnused(report);
     std::size_t blockBytes = 0;
@@ -180,16 +237,14 @@ EncodedSearchList EncodeSearchList(std::string_view commaSeparated) {
     return {list, ""};
 }
 
-int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) {
+int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, std::ostream& err) {
     DatabaseContent content;
     if (const std::string fault = ReadRequest(request, content); !fault.empty()) {
         return Refuse(err, fault);
     }
-    InputReport report = ReadInputs(request, content.records);
+    InputReport report = ReadInputs(request, in, content.records);
     if (!report.errors.empty()) {
-        for (const std::string& error : report.errors) {
-            err << "brelex: " << error << "\n";
-        }
+        Print(report.errors, "error", "brelex: ", err);
         return kFailed;
     }
     const BuiltDatabase built = BuildDatabase(std::move(content));
@@ -197,9 +252,7 @@ int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err) 
     if (const std::string fault = Verify(built, file, report.warnings); !fault.empty()) {
         return Refuse(err, fault);
     }
-    for (const std::string& warning : report.warnings) {
-        err << "brelex: warning: " << warning << "\n";
-    }
+    Print(report.warnings, "warning", "brelex: warning: ", err);
     std::string why;
     if (!ReplaceFile(PathOfUtf8(request.output), file, &why)) {
         return Refuse(err, why);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <istream>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -33,8 +34,9 @@ struct EncodedSearchList {
 /// list is too long.
 [[nodiscard]] EncodedSearchList EncodeSearchList(std::string_view commaSeparated);
 
-/// Builds a database file from the inputs. Reports the result on `out`, errors and warnings on
-/// `err`. Returns the exit code: kFound, or kFailed if nothing was written.
-int RunBuild(const BuildRequest& request, std::ostream& out, std::ostream& err);
+/// Builds a database file from the inputs. The input "-" is the list that `in` delivers. Reports
+/// the result on `out`, errors and warnings on `err`. Returns the exit code: kFound, or kFailed if
+/// nothing was written.
+int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, std::ostream& err);
 
 }  // namespace brelex

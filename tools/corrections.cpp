@@ -3,7 +3,9 @@
 
 #include <string_view>
 
+#include "base/file_io.h"
 #include "base/text.h"
+#include "tools/input_file.h"
 
 namespace brelex {
 
@@ -29,9 +31,14 @@ bool CanBeStored(const Corrections::Entry& entry, const std::string& place, Inpu
 }  // namespace
 
 void Corrections::ReadFile(const std::filesystem::path& path, InputReport& report) {
-    ForEachLine(path, report, [&](std::string_view line, const std::string& place) {
-        AddLine(TrimWhitespace(line), place, report);
-    });
+    const auto file = ReadInputFile(path, report);
+    if (!file) {
+        return;
+    }
+    ForEachLine(Utf8OfPath(path), file->View(), report,
+                [&](std::string_view line, const std::string& place) {
+                    AddLine(TrimWhitespace(line), place, report);
+                });
 }
 
 void Corrections::AddLine(std::string_view line, const std::string& place, InputReport& report) {

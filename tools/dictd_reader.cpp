@@ -11,6 +11,7 @@
 
 #include "base/file_io.h"
 #include "base/text.h"
+#include "tools/input_file.h"
 
 namespace brelex {
 
@@ -118,14 +119,9 @@ std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
     return number;
 }
 
-// Returns the content of a gzip file (a dictzip file is one, too). Returns any other file
+// Expands the content of a gzip file (a dictzip file is one, too). Returns any other content
 // unchanged.
-std::optional<std::string> InflateFile(const fs::path& path) {
-    const std::optional<ByteBuffer> file = ReadWholeFile(path);
-    if (!file) {
-        return std::nullopt;
-    }
-    const std::string_view bytes = file->View();
+std::optional<std::string> Inflated(std::string_view bytes) {
     if (!bytes.starts_with("\x1f\x8b")) {
         return std::string(bytes);
     }
@@ -150,13 +146,12 @@ std::optional<std::string> InflateFile(const fs::path& path) {
 }
 
 fs::path DictionaryBeside(const fs::path& indexPath) {
-    fs::path compressed = indexPath;
-    compressed.replace_extension(".dict.dz");
+    const auto named = [&](const char* extension) {
+        return FileBeside(indexPath, fs::path(indexPath.filename()).replace_extension(extension));
+    };
+    fs::path compressed = named(".dict.dz");
     std::error_code error;
-    if (fs::exists(compressed, error)) {
-        return compressed;
-    }
-    return fs::path(indexPath).replace_extension(".dict");
+    return fs::exists(compressed, error) ? compressed : named(".dict");
 }
 
 // Finds the article for a line of the index (headword, offset, length, separated by TABs).
@@ -233,14 +228,14 @@ void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
                    InputReport& report, Corrections* corrections) {
     const std::string indexName = Utf8OfPath(indexPath);
     const fs::path dictionaryPath = DictionaryBeside(indexPath);
-    const auto index = ReadWholeFile(indexPath);
-    const auto dictionary = InflateFile(dictionaryPath);
-    if (!index) {
-        report.errors.push_back(indexName + ": cannot be read");
+    const auto index = ReadInputFile(indexPath, report);
+    const auto file = index ? ReadInputFile(dictionaryPath, report) : std::nullopt;
+    if (!file) {
         return;
     }
+    const auto dictionary = Inflated(file->View());
     if (!dictionary) {
-        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": cannot be read");
+        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": is damaged");
         return;
     }
     std::size_t lineNumber = 0;

@@ -59,8 +59,9 @@ void BuildFrom(benchmark::State& state, const std::filesystem::path& input) {
     request.output = Utf8OfPath(TemporaryPath("built.dat"));
     request.inputs = {Utf8OfPath(input)};
     for (auto _ : state) {
+        std::istringstream in;
         std::ostringstream out;
-        if (RunBuild(request, out, out) != 0) {
+        if (RunBuild(request, in, out, out) != 0) {
             std::abort();
         }
     }

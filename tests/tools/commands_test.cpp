@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <iomanip>
 #include <sstream>
 
@@ -26,7 +27,7 @@ class CommandsTest : public testing::Test {
             request.date = "2005-02-03";
         }
         request.output = database_;
-        return RunBuild(request, out_, err_);
+        return RunBuild(request, in_, out_, err_);
     }
 
     std::string Output() {
@@ -37,6 +38,7 @@ class CommandsTest : public testing::Test {
 
     TestFolder folder_;
     std::string database_ = folder_.Text() + "Acronyms.dat";
+    std::istringstream in_;
     std::ostringstream out_;
     std::ostringstream err_;
 };
@@ -67,6 +69,39 @@ TEST_F(CommandsTest, BuildRefusesACorrectionOfNoEntry) {
     EXPECT_EQ(err_.str(),
               "brelex: " + request.corrections + ":1: matches no entry of the dictionaries\n");
     EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(database_)));
+}
+
+TEST_F(CommandsTest, BuildReadsAListFromStandardInput) {
+    BuildRequest request;
+    request.inputs = {"-", folder_.Write("OWN.TSV", "CD\tTwo\n")};
+    in_.str("AB\tOne\n");
+    ASSERT_EQ(Build(request), 0) << err_.str();
+    Output();
+    ASSERT_EQ(RunDump(database_, out_, err_), 0);
+    EXPECT_EQ(Output(), "AB\tOne\nCD\tTwo\n");
+}
+
+TEST_F(CommandsTest, BuildReadsStandardInputOnlyOnce) {
+    BuildRequest request;
+    request.inputs = {"-", "-"};
+    in_.str("AB\tOne\nC\n");
+    EXPECT_EQ(Build(request), 2);
+    EXPECT_EQ(err_.str(),
+              "brelex: standard input:2: no TAB between abbreviation and expansion\n"
+              "brelex: standard input can be read only once\n");
+}
+
+TEST_F(CommandsTest, BuildPrintsTwentyErrorsAndCountsTheRest) {
+    std::string lines;
+    for (int i = 0; i < 22; ++i) {
+        lines += "AB\n";
+    }
+    BuildRequest request;
+    request.inputs = {folder_.Write("bad.tsv", lines)};
+    EXPECT_EQ(Build(request), 2);
+    EXPECT_EQ(std::ranges::count(err_.str(), '\n'), 21);
+    EXPECT_NE(err_.str().find("bad.tsv:20: no TAB"), std::string::npos);
+    EXPECT_TRUE(err_.str().ends_with("\nbrelex: 2 more errors\n")) << err_.str();
 }
 
 TEST_F(CommandsTest, TheSameInputGivesTheSameBytes) {
@@ -236,7 +271,7 @@ TEST_F(CommandsTest, AllBadLinesAreNamedAndNothingIsWritten) {
     request.inputs = {folder_.Write("bad.tsv", "A\tx\nB\nC\t\n")};
     EXPECT_EQ(Build(request), 2);
     EXPECT_NE(err_.str().find("bad.tsv:2: no TAB"), std::string::npos);
-    EXPECT_NE(err_.str().find("bad.tsv:3: the expansion is empty"), std::string::npos);
+    EXPECT_NE(err_.str().find("bad.tsv:3:3: the expansion is empty"), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(database_)));
 }
 

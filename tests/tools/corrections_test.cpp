@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadCorrection{"NoNewAbbreviation", "AB\tOld\t\tNew",
                                   "the abbreviation is empty"},
                     BadCorrection{"OutsideTheCodePage", "AB\tOld\tAB\t日本",
-                                  "the expansion contains a character outside Windows-1252"}),
+                                  "the expansion contains 日 (U+65E5), which"}),
     CaseName());
 
 }  // namespace

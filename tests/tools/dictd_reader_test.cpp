@@ -148,6 +148,13 @@ TEST_F(ReadDictdPairTest, AFolderWithAccentsInItsNameIsFine) {
     EXPECT_EQ(records_, std::vector<std::string>{"A\tAlpha"});
 }
 
+TEST_F(ReadDictdPairTest, FindsTheDictionaryWhateverTheCaseOfItsName) {
+    folder_.Write("MY.Dict", "A\n  Alpha\n");
+    folder_.Write("my.index", "a\tA\tK\n");
+    Read();
+    EXPECT_EQ(records_, std::vector<std::string>{"A\tAlpha"});
+}
+
 TEST_F(ReadDictdPairTest, AMissingHalfIsAnError) {
     folder_.Write("my.index", "a\tA\tK\n");
     Read();
@@ -161,7 +168,8 @@ TEST_F(ReadDictdPairTest, ADamagedCompressedFileIsAnError) {
     folder_.Write("my.dict.dz", whole.substr(0, whole.size() / 2));
     folder_.Write("my.index", "a\tA\tK\n");
     Read();
-    EXPECT_EQ(report_.errors.size(), 1U);
+    ASSERT_EQ(report_.errors.size(), 1U);
+    EXPECT_TRUE(report_.errors[0].ends_with("my.dict.dz: is damaged"));
 }
 
 TEST_F(ReadDictdPairTest, AnEntryWithoutExpansionIsLeftOutWithAWarning) {
