@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cerrno>
 #include <cstddef>
 #include <system_error>
 
@@ -98,24 +99,30 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
 bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why) {
     fs::path unfinished = path;
     unfinished += ".part";
-    const auto fail = [&](const std::string& reason) {
+    std::error_code error;
+    const auto fail = [&](const char* what, const std::string& reason) {
         std::error_code ignored;
+        fs::permissions(unfinished, fs::perms::owner_write, fs::perm_options::add, ignored);
         fs::remove(unfinished, ignored);
         if (why != nullptr) {
-            *why = reason;
+            *why = what + Utf8OfPath(path) + (reason.empty() ? "" : ": " + reason);
         }
         return false;
     };
-    std::error_code error;
     fs::remove(unfinished, error);
+    errno = 0;  // the streams leave the reason there
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
+    // Before the content is there, so that nobody can read it who may not.
+    if (const fs::file_status old = fs::status(path, error); fs::is_regular_file(old)) {
+        fs::permissions(unfinished, old.permissions(), error);
+    }
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     if (file.fail()) {
-        return fail("cannot write " + Utf8OfPath(unfinished));
+        return fail("cannot write ", errno != 0 ? std::generic_category().message(errno) : "");
     }
     fs::rename(unfinished, path, error);
-    return !error || fail("cannot replace " + Utf8OfPath(path) + ": " + error.message());
+    return !error || fail("cannot replace ", error.message());
 }
 
 }  // namespace brelex

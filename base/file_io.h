@@ -53,7 +53,8 @@ class FileReader {
 [[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);
 
 /// Replaces the file at `path` with one that contains `bytes`, in one step: a program that reads it
-/// meanwhile gets either the old content or the new. On failure, leaves the old file as it was,
+/// meanwhile gets either the old content or the new. The new file has the mode of the old one. On
+/// failure, leaves the old file as it was,
 /// describes the reason in `why` (may be null) and returns false.
 [[nodiscard]] bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes,
                                std::string* why = nullptr);

@@ -16,6 +16,7 @@
 #include "platform/system/program_folder.h"
 #include "platform/system/terminal.h"
 #include "tools/build_command.h"
+#include "tools/input_file.h"
 #include "tools/lookup_command.h"
 #include "tools/open_database.h"
 #include "tools/query_commands.h"
@@ -57,6 +58,11 @@ int RunBuild(const CommandLine& line) {
         std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
         return brelex::kFailed;
     }
+    // A control character must not end the input early on Windows.
+    brelex::UseBinaryInput();
+    if (line.build.output.name == brelex::kStandardStream) {
+        brelex::UseBinaryOutput();
+    }
     return brelex::RunBuild(line.build, std::cin, std::cout, std::cerr);
 }
 
@@ -77,7 +83,7 @@ void AddChoice(CLI::App& command, const char* name, const char* typeName, const 
 void AddBuild(CLI::App& app, CommandLine& line) {
     brelex::BuildRequest& request = line.build;
     request.date = BRELEX_DATA_DATE;
-    request.output = brelex::kDatabaseName;
+    request.output.name = brelex::kDatabaseName;
     CLI::App* const command = app.add_subcommand("build", "Build a database file");
     command->add_option("--version", request.version, "Version of the data (default: 1.0)")
         ->type_name("N.N");
@@ -87,8 +93,12 @@ void AddBuild(CLI::App& app, CommandLine& line) {
         ->add_option("--search-list", request.searchList,
                      "Suggested search texts, separated by commas")
         ->type_name("TEXTS");
-    command->add_option("-o,--output", request.output, "File to write (default: Acronyms.dat)")
+    command
+        ->add_option("-o,--output", request.output.name,
+                     "File to write, or - for standard output (default: Acronyms.dat)")
         ->type_name("FILE");
+    command->add_flag("--force", request.output.force,
+                      "Replace a file even if it is not a sound database");
     command
         ->add_option("--corrections", request.corrections,
                      "UTF-8 file of corrections to the dictd dictionaries")

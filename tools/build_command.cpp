@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iterator>
 #include <limits>
+#include <sstream>
 #include <system_error>
 #include <utility>
 
@@ -75,10 +76,8 @@ class InputReader {
             ReadTsvFile(path, records_, report_);
         } else if (HasEnding(input, ".index")) {
             ReadDictdPair(path, records_, report_, &corrections_);
-        } else if (HasEnding(input, ".dict.dz")) {
-            ReadPairOf(fs::path(path).replace_extension());
-        } else if (HasEnding(input, ".dict")) {
-            ReadPairOf(path);
+        } else if (HasEnding(input, ".dict.dz") || HasEnding(input, ".dict")) {
+            ReadDictdPair(IndexOfDictionary(path), records_, report_, &corrections_);
         } else {
             report_.errors.push_back(
                 input + ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
@@ -94,11 +93,6 @@ class InputReader {
         standardInputIsRead_ = true;
         const std::string text{std::istreambuf_iterator<char>(standardInput_), {}};
         ReadTsv("standard input", text, records_, report_);
-    }
-
-    void ReadPairOf(const fs::path& dictionary) {
-        const fs::path index = dictionary.filename().replace_extension(".index");
-        ReadDictdPair(FileBeside(dictionary, index), records_, report_, &corrections_);
     }
 
     std::istream& standardInput_;
@@ -189,6 +183,35 @@ std::string Verify(const BuiltDatabase& built, std::string_view file,
     return {};
 }
 
+// The files that a build reads.
+std::vector<fs::path> FilesOf(const BuildRequest& request) {
+    std::vector<fs::path> files;
+    const auto add = [&](const std::string& name) {
+        const fs::path path = PathOfUtf8(name);
+        files.push_back(path);
+        if (HasEnding(name, ".index")) {
+            files.push_back(DictionaryOfIndex(path));
+        } else if (HasEnding(name, ".dict") || HasEnding(name, ".dict.dz")) {
+            files.push_back(IndexOfDictionary(path));
+        }
+    };
+    std::ranges::for_each(request.inputs, add);
+    if (!request.corrections.empty()) {
+        add(request.corrections);
+    }
+    return files;
+}
+
+bool IsDatabase(const fs::path& path) {
+    OpenDatabase database;
+    std::ostringstream ignored;
+    return Load(Utf8OfPath(path), database, ignored) == kFound;
+}
+
+std::string Counted(std::size_t count, const std::string& things) {
+    return std::to_string(count) + " " + things + (count == 1 ? "" : "s");
+}
+
 EncodedSearchList Unstorable(std::string reason) {
     return {"", std::move(reason)};
 }
@@ -238,6 +261,11 @@ EncodedSearchList EncodeSearchList(std::string_view commaSeparated) {
 }
 
 int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, std::ostream& err) {
+    const std::string reason =
+        ReasonNotToWrite(request.output, FilesOf(request), "a sound database", IsDatabase);
+    if (!reason.empty()) {
+        return Refuse(err, reason);
+    }
     DatabaseContent content;
     if (const std::string fault = ReadRequest(request, content); !fault.empty()) {
         return Refuse(err, fault);
@@ -253,13 +281,15 @@ int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, s
         return Refuse(err, fault);
     }
     Print(report.warnings, "warning", "brelex: warning: ", err);
-    std::string why;
-    if (!ReplaceFile(PathOfUtf8(request.output), file, &why)) {
-        return Refuse(err, why);
+    if (const std::string fault = WriteOutput(request.output.name, file, out); !fault.empty()) {
+        return Refuse(err, fault);
     }
-    out << request.output << ": " << built.header.RecordCount << " records, "
-        << built.duplicatesDropped << " duplicates dropped, " << file.size() << " bytes ("
-        << built.expanded.size() << " expanded)\n";
+    const bool toStandardOutput = request.output.name == kStandardStream;
+    (toStandardOutput ? err : out)
+        << (toStandardOutput ? "standard output" : request.output.name) << ": "
+        << Counted(static_cast<std::size_t>(built.header.RecordCount), "record") << ", "
+        << Counted(built.duplicatesDropped, "duplicate") << " dropped, " << file.size()
+        << " bytes (" << built.expanded.size() << " expanded)\n";
     return kFound;
 }
 

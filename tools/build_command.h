@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/output_file.h"
+
 namespace brelex {
 
 /// The options and arguments of "brelex build".
@@ -15,7 +17,7 @@ struct BuildRequest {
     std::string version = "1.0";
     std::string date;         ///< in the form YYYY-MM-DD
     std::string searchList;   ///< items separated by commas
-    std::string output;       ///< the file to write
+    OutputRequest output;     ///< another database is replaced without force
     std::string corrections;  ///< a file of corrections to dictd dictionaries, or empty
     std::vector<std::string> inputs;
 };

@@ -145,15 +145,6 @@ std::optional<std::string> Inflated(std::string_view bytes) {
     return status == Z_STREAM_END ? std::optional(content) : std::nullopt;
 }
 
-fs::path DictionaryBeside(const fs::path& indexPath) {
-    const auto named = [&](const char* extension) {
-        return FileBeside(indexPath, fs::path(indexPath.filename()).replace_extension(extension));
-    };
-    fs::path compressed = named(".dict.dz");
-    std::error_code error;
-    return fs::exists(compressed, error) ? compressed : named(".dict");
-}
-
 // Finds the article for a line of the index (headword, offset, length, separated by TABs).
 std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
                                                    std::string_view dictionary) {
@@ -224,10 +215,28 @@ std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article) {
     return entries;
 }
 
+fs::path DictionaryOfIndex(const fs::path& index) {
+    const auto named = [&](const char* extension) {
+        return FileBeside(index, fs::path(index.filename()).replace_extension(extension));
+    };
+    fs::path compressed = named(".dict.dz");
+    std::error_code error;
+    return fs::exists(compressed, error) ? compressed : named(".dict");
+}
+
+fs::path IndexOfDictionary(const fs::path& dictionary) {
+    fs::path name = dictionary.filename();
+    const std::string extension = Utf8OfPath(name.extension());
+    if (extension == ".dz" || extension == ".DZ") {
+        name.replace_extension();
+    }
+    return FileBeside(dictionary, name.replace_extension(".index"));
+}
+
 void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
                    InputReport& report, Corrections* corrections) {
     const std::string indexName = Utf8OfPath(indexPath);
-    const fs::path dictionaryPath = DictionaryBeside(indexPath);
+    const fs::path dictionaryPath = DictionaryOfIndex(indexPath);
     const auto index = ReadInputFile(indexPath, report);
     const auto file = index ? ReadInputFile(dictionaryPath, report) : std::nullopt;
     if (!file) {

@@ -29,6 +29,11 @@ struct DictdEntry {
 /// Returns the entries in a header article of the dictionary, which come after the article's text.
 [[nodiscard]] std::vector<DictdEntry> EntriesOfHeaderArticle(std::string_view article);
 
+/// The other half of a dictionary, whatever the case of its name: NAME.dict.dz, or else NAME.dict,
+/// for NAME.index, and the other way round.
+[[nodiscard]] std::filesystem::path DictionaryOfIndex(const std::filesystem::path& index);
+[[nodiscard]] std::filesystem::path IndexOfDictionary(const std::filesystem::path& dictionary);
+
 /// Reads the dictionary whose index is at `indexPath` (name.index, in the same folder as
 /// name.dict.dz or name.dict). Applies the corrections, if there are any, to its entries.
 void ReadDictdPair(const std::filesystem::path& indexPath, std::vector<std::string>& records,

@@ -56,7 +56,7 @@ std::filesystem::path WriteTsv(const std::string& name, std::string_view tsv) {
 void BuildFrom(benchmark::State& state, const std::filesystem::path& input) {
     BuildRequest request;
     request.date = "2026-11-21";
-    request.output = Utf8OfPath(TemporaryPath("built.dat"));
+    request.output.name = Utf8OfPath(TemporaryPath("built.dat"));
     request.inputs = {Utf8OfPath(input)};
     for (auto _ : state) {
         std::istringstream in;
@@ -68,7 +68,7 @@ void BuildFrom(benchmark::State& state, const std::filesystem::path& input) {
     state.SetBytesProcessed(state.iterations() *
                             static_cast<std::int64_t>(std::filesystem::file_size(input)));
     std::filesystem::remove(input);
-    std::filesystem::remove(PathOfUtf8(request.output));
+    std::filesystem::remove(PathOfUtf8(request.output.name));
 }
 
 // All of "brelex build", then its parts.

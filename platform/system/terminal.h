@@ -19,6 +19,9 @@ struct OutputTerminal {
 /// Asks the standard output. On Windows, its window understands control sequences from then on, as
 /// long as a Utf8Terminal exists.
 [[nodiscard]] OutputTerminal StandardOutputTerminal();
+/// Lets standard input or output carry bytes as they are, where the system would change line ends.
+void UseBinaryInput();
+void UseBinaryOutput();
 
 /// Makes the terminal show and deliver UTF-8 for the lifetime of this object.
 class Utf8Terminal {

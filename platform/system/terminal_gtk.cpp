@@ -24,6 +24,10 @@ OutputTerminal StandardOutputTerminal() {
     return {isKnown ? size.ws_col : kUsualColumns,
             kind != nullptr && std::string_view(kind) != "dumb"};
 }
+// The system changes nothing here.
+void UseBinaryInput() {}
+
+void UseBinaryOutput() {}
 
 // Terminals here pass bytes through unchanged, and the bytes are UTF-8 anyway.
 class Utf8Terminal::Before {};

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/terminal.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
 #include <string_view>
 
 #include <windows.h>
@@ -21,6 +24,14 @@ std::vector<std::string> Utf8Arguments(int /*argc*/, char** /*argv*/) {
     }
     LocalFree(words);
     return arguments;
+}
+
+void UseBinaryInput() {
+    _setmode(_fileno(stdin), _O_BINARY);
+}
+
+void UseBinaryOutput() {
+    _setmode(_fileno(stdout), _O_BINARY);
 }
 
 OutputTerminal StandardOutputTerminal() {

@@ -34,7 +34,18 @@ TEST(ReplaceFile, AMissingFolderIsAFailure) {
     EXPECT_FALSE(ReplaceFile(path, "new"));
     std::string why;
     EXPECT_FALSE(ReplaceFile(path, "new", &why));
-    EXPECT_EQ(why, "cannot write " + Utf8OfPath(path) + ".part");
+    EXPECT_EQ(why, "cannot write " + Utf8OfPath(path) + ": No such file or directory");
+}
+
+TEST(ReplaceFile, KeepsTheModeOfTheOldFile) {
+    namespace fs = std::filesystem;
+    const TestFolder folder;
+    const fs::path path = folder.Path() / "file";
+    ASSERT_TRUE(ReplaceFile(path, "old"));
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+    const fs::perms before = fs::status(path).permissions();
+    ASSERT_TRUE(ReplaceFile(path, "new"));
+    EXPECT_EQ(fs::status(path).permissions(), before);
 }
 
 TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {

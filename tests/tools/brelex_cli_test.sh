@@ -152,5 +152,24 @@ if [ -z "$emulator" ] && script -qec true /dev/null >/dev/null 2>&1 </dev/null; 
     expect 0 "a control character in a file" "$brelex" -d "$folder/evil.dat" dump
     prints out "EVIL	A colorful$(printf '\033')[31m expansion of its abbreviation"
 fi
+piped_build() { printf 'ab\tOne\n' | "$brelex" build -o - - >"$folder/piped.dat"; }
+expect 0 "a build from standard input to standard output" piped_build
+contains err "standard output: 1 record, 0 duplicates dropped"
+expect 0 "a database from standard output" "$brelex" -d "$folder/piped.dat" lookup ab
+prints out "ab	One"
+expect 2 "a build into its input" "$brelex" build --force -o "$folder/list.tsv" "$folder/list.tsv"
+contains err "is an input"
+expect 2 "a build into another file" "$brelex" build -o "$folder/run" "$folder/list.tsv"
+contains err "--force replaces it"
+if [ -z "$emulator" ]; then
+    mkfifo "$folder/pipe"
+    expect 2 "a build into a pipe" "$brelex" build --force -o "$folder/pipe" "$folder/list.tsv"
+    contains err "is not a regular file"
+    ln -s piped.dat "$folder/link.dat"
+    expect 0 "a build into what a link leads to" "$brelex" build -o "$folder/link.dat" "$folder/list.tsv"
+    checks=$((checks + 1))
+    [ -L "$folder/link.dat" ] || { echo "FAILED: the link is gone"; failures=$((failures + 1)); }
+    expect 0 "the file behind the link" "$brelex" -d "$folder/piped.dat" lookup ram
+fi
 echo "$((checks - failures)) of $checks checks passed"
 [ $failures = 0 ]
