@@ -19,6 +19,7 @@
 #include "tools/input_file.h"
 #include "tools/lookup_command.h"
 #include "tools/open_database.h"
+#include "tools/parser_messages.h"
 #include "tools/query_commands.h"
 #include "tools/search_commands.h"
 #include "tools/visible_text.h"
@@ -224,10 +225,19 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     std::ios::sync_with_stdio(false);
     try {
         std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
+        if (const std::string fault = brelex::EncodingMessage(arguments); !fault.empty()) {
+            std::cerr << "brelex: " << fault << "\n";
+            return brelex::kFailed;
+        }
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
         app.parse(arguments);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : brelex::kFailed;
+        if (error.get_exit_code() != 0) {
+            std::cerr << "brelex: " << brelex::ParserMessage(app, error)
+                      << "\nRun with --help for more information.\n";
+            return brelex::kFailed;
+        }
+        line.code = app.exit(error);  // prints the help or the version
     }
 
     std::cout.flush();

@@ -47,10 +47,18 @@ expect 0 "help" "$brelex" --help;                 contains out lookup
 for command in build info dump check lookup search anagram; do
     expect 0 "help of $command" "$brelex" $command --help
 done
-expect 2 "no command" "$brelex"
+expect 2 "no command" "$brelex";                  contains err "brelex: name a command"
 expect 2 "unknown command" "$brelex" frobnicate
+contains err "brelex: there is no command frobnicate"
+expect 2 "misspelled command" "$brelex" -d x seach a
+contains err "brelex: there is no command seach; did you mean search?"
 expect 2 "unknown option" "$brelex" info --frobnicate
-expect 2 "search for nothing" "$brelex" search
+contains err "brelex: there is no option --frobnicate; write -- before arguments that begin with -"
+expect 2 "misspelled option" "$brelex" build --outptu=x list.tsv
+contains err "brelex: there is no option --outptu=x; did you mean --output?"
+expect 2 "option before a missing text" "$brelex" search -a; contains err "there is no option -a"
+expect 2 "too many arguments" "$brelex" info all; contains err "info does not take the argument all"
+expect 2 "search for nothing" "$brelex" search;   contains err "brelex: TEXT is required"
 expect 2 "look-up of nothing" "$brelex" lookup
 expect 2 "no database beside the program" "$brelex" info;   contains err "cannot read"
 expect 2 "build without input" "$brelex" build
@@ -119,6 +127,8 @@ if [ -e /dev/full ]; then
     full_disk() { "$brelex" dump >/dev/full; }
     expect 2 "a full disk" full_disk
     contains err "cannot write the output"
+    full_disk_for_help() { "$brelex" --help >/dev/full; }
+    expect 2 "a full disk for the help" full_disk_for_help
 fi
 standard_input() { printf 'ram\r\n\nABC' | "$brelex" lookup -; }
 expect 0 "standard input" standard_input; prints out "RAM	Random Access Memory
@@ -170,6 +180,12 @@ if [ -z "$emulator" ]; then
     checks=$((checks + 1))
     [ -L "$folder/link.dat" ] || { echo "FAILED: the link is gone"; failures=$((failures + 1)); }
     expect 0 "the file behind the link" "$brelex" -d "$folder/piped.dat" lookup ram
+fi
+if [ -z "$emulator" ]; then
+    expect 2 "an argument that is not UTF-8" "$brelex" search "$(printf 'l\351')"
+    contains err "brelex: argument 2 is not UTF-8"
+    cp "$folder/ACRONYMS.dat" "$folder/$(printf 'l\351.dat')"
+    expect 0 "a file whose name is not UTF-8" "$brelex" -d "$folder/$(printf 'l\351.dat')" info
 fi
 echo "$((checks - failures)) of $checks checks passed"
 [ $failures = 0 ]
