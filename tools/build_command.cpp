@@ -91,8 +91,9 @@ class InputReader {
             return;
         }
         standardInputIsRead_ = true;
-        const std::string text{std::istreambuf_iterator<char>(standardInput_), {}};
-        ReadTsv("standard input", text, records_, report_);
+        std::ostringstream text;
+        text << standardInput_.rdbuf();
+        ReadTsv("standard input", std::move(text).str(), records_, report_);
     }
 
     std::istream& standardInput_;

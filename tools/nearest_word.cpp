@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <numeric>
 
 namespace brelex {
 
@@ -11,8 +10,10 @@ namespace {
 
 // How many characters have to be inserted, deleted or replaced to make one text of the other.
 std::size_t ChangesBetween(std::string_view one, std::string_view other) {
-    std::vector<std::size_t> changes(other.size() + 1);
-    std::iota(changes.begin(), changes.end(), std::size_t{0});
+    std::vector<std::size_t> changes = {0};
+    while (changes.size() <= other.size()) {
+        changes.push_back(changes.size());
+    }
     for (std::size_t i = 0; i < one.size(); ++i) {
         std::size_t diagonal = i;
         changes[0] = i + 1;
