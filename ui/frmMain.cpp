@@ -67,12 +67,14 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
            .selectedEntry = [this] { return SelectedEntry(); },
            .openAddress = [this](const std::string& target) { documents_.OpenAddress(target); },
            .onModal = [this](bool begins) { OnModal(begins); }}),
-      tray_(*this, {.isModalOpen = [this] { return IsModalOpen(); },
-                    .raiseModal = [this] { sideWindows_.RaiseModal(); },
-                    .onCommand = [this](Command command) { Run(command); }}),
+      icons_(AppIcons()),
+      tray_(*this, icons_,
+            {.isModalOpen = [this] { return IsModalOpen(); },
+             .raiseModal = [this] { sideWindows_.RaiseModal(); },
+             .onCommand = [this](Command command) { Run(command); }}),
       tmrCheckCommand(this) {
     SetName("frmMain");
-    SetIcons(AppIcons());
+    SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
     PlaceControls();
     BindEvents();
@@ -111,7 +113,6 @@ void frmMain::PlaceControls() {
 }
 
 void frmMain::BindEvents() {
-    picToolbar->Bind(wxEVT_PAINT, &frmMain::OnFirstPaint, this);
     Bind(wxEVT_SHOW, &frmMain::OnShow, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmMain::OnClose, this);
     wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmMain::OnQueryEndSession, this);
@@ -215,13 +216,6 @@ void frmMain::PopUpListMenu(const wxPoint& place) {
     }
 }
 
-// The user waits for the window, not for its icon.
-void frmMain::OnFirstPaint(wxPaintEvent& event) {
-    picToolbar->Unbind(wxEVT_PAINT, &frmMain::OnFirstPaint, this);
-    CallAfter([this] { tray_.Appear(GetIcons()); });
-    event.Skip();
-}
-
 // The desktop forgets a window's band when the window is hidden (GTK on X11).
 void frmMain::OnShow(wxShowEvent& event) {
     if (event.IsShown() && IsStayOnTop && !IsModalOpen()) {
@@ -275,7 +269,6 @@ void frmMain::OnQueryEndSession(wxCloseEvent& event) {
 }
 
 void frmMain::OnCheckCommand(wxTimerEvent& /*event*/) {
-    tray_.Appear(GetIcons());  // the desktop may have shown nothing of the window yet
     if (surroundings_.commandLine == "/minimize") {
         tray_.MinimizeWindow();
     }

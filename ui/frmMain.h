@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <wx/frame.h>
+#include <wx/iconbndl.h>
 #include <wx/timer.h>
 
 #include "base/message_sink.h"
@@ -44,8 +45,8 @@ struct MainSurroundings {
 class frmMain final : public wxFrame {
   public:
     /// The database is loaded into `values`, which must outlive the window. When this returns, the
-    /// window is ready to be shown, and the program is registered to run at log-on. Its icon
-    /// follows as soon as the window is painted, and after half a second in any case.
+    /// window is ready to be shown, its icon is in place, and the program is registered to run at
+    /// log-on.
     frmMain(ProgramValues& values, const MainSurroundings& surroundings);
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
@@ -83,7 +84,6 @@ class frmMain final : public wxFrame {
     void PopUpListMenu(const wxPoint& place);
     [[nodiscard]] std::string_view SelectedEntry() const;
 
-    void OnFirstPaint(wxPaintEvent& event);
     void OnShow(wxShowEvent& event);
     void OnDoubleClick(wxMouseEvent& event);
     void OnClose(wxCloseEvent& event);
@@ -102,6 +102,7 @@ class frmMain final : public wxFrame {
     StatusStrip status_;
     Documents documents_;
     SideWindows sideWindows_;
+    wxIconBundle icons_;
     TrayPresence tray_;
     wxTimer tmrCheckCommand;
 };

@@ -75,17 +75,6 @@ TEST_F(MainWindowWithTray, MinimisingHidesTheWindowAndALeftClickBringsItBack) {
     EXPECT_TRUE(IsBack());
 }
 
-TEST_F(MainWindowWithTray, AWindowThatIsNeverPaintedHasAnIcon) {
-    ProgramValues values = startUp_->Values();
-    MainWindowTest::TearDown();
-    ASSERT_TRUE(WaitFor([] { return !ShowsTrayIcon(); }));
-    auto* const hidden =
-        new frmMain(values, {files_, desktop_, "brevilexicon", "",
-                             [](const std::string&, const std::string&, bool) { return true; }});
-    EXPECT_TRUE(WaitFor([] { return ShowsTrayIcon(); }));
-    hidden->Destroy();
-}
-
 class StayOnTopWithTray : public MainWindowWithTray {
   protected:
     void SetUp() override {

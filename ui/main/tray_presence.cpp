@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include <wx/app.h>
 #include <wx/frame.h>
 
 #include "base/app_info.h"
@@ -11,10 +10,12 @@
 
 namespace brelex {
 
-TrayPresence::TrayPresence(wxFrame& window, TrayPresenceEvents events)
+TrayPresence::TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPresenceEvents events)
     : window_(window),
       events_(std::move(events)),
-      behaviour_(*this) {
+      behaviour_(*this),
+      hotKey_(window, [this] { ActivateWindow(); }),
+      icon_(AddTrayIcon(pictures, kAppTitle, EventsOfIcon())) {
     window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
@@ -25,13 +26,6 @@ TrayPresence::~TrayPresence() {
     window_.Unbind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Unbind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Unbind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
-}
-
-void TrayPresence::Appear(const wxIconBundle& pictures) {
-    if (!hotKey_ && !wxTheApp->IsScheduledForDestruction(&window_)) {
-        hotKey_.emplace(window_, [this] { ActivateWindow(); });
-        icon_ = AddTrayIcon(pictures, kAppTitle, EventsOfIcon());
-    }
 }
 
 TrayEvents TrayPresence::EventsOfIcon() {

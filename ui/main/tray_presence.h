@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 #include "platform/desktop/hot_key.h"
 #include "platform/desktop/modSysTray.h"
@@ -29,14 +28,12 @@ struct TrayPresenceEvents {
 /// minimized window, and the hot key that brings the window forward.
 class TrayPresence final : private TrayOwner {
   public:
-    /// `window` must outlive this object.
-    TrayPresence(wxFrame& window, TrayPresenceEvents events);
+    /// Adds the icon with these pictures and requests the hot key. `window` must outlive this
+    /// object.
+    TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPresenceEvents events);
     TrayPresence(const TrayPresence&) = delete;
     TrayPresence& operator=(const TrayPresence&) = delete;
     ~TrayPresence() override;
-
-    /// Requests the hot key and adds the icon with these pictures, unless that was done before.
-    void Appear(const wxIconBundle& pictures);
 
     /// Minimizes the window. Hides it if its icon is on the screen.
     void MinimizeWindow() override;
@@ -66,7 +63,7 @@ class TrayPresence final : private TrayOwner {
     wxFrame& window_;
     TrayPresenceEvents events_;
     TrayBehaviour behaviour_;
-    std::optional<ActivationHotKey> hotKey_;
+    ActivationHotKey hotKey_;
     std::unique_ptr<TrayIcon> icon_;
 };
 
