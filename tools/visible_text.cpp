@@ -12,9 +12,8 @@ std::string VisibleText(std::string_view text, std::string_view kept) {
         const auto byte = static_cast<unsigned char>(text[i]);
         const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
         const bool isDelete = byte == 0x7F;
-        if (kept.find(text[i]) != std::string_view::npos) {
-            visible.push_back(text[i]);
-        } else if (byte < 0x20 || isDelete) {
+        const bool isKept = kept.find(text[i]) != std::string_view::npos;
+        if ((byte < 0x20 || isDelete) && !isKept) {
             // Unicode has a picture for each: U+2400 to U+241F, and U+2421.
             visible += "\xE2\x90";
             visible.push_back(static_cast<char>(0x80 + (isDelete ? 0x21 : byte)));
