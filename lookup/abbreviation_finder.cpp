@@ -44,15 +44,24 @@ std::string KeyOf(std::string_view text) {
     return key;
 }
 
-// A bit for each character of the key. Some characters share one.
-std::uint64_t SignatureOf(std::string_view text) {
+// A bit for each byte that counts, regardless of its case. Some share one.
+std::array<std::uint64_t, 256> SignatureBits() {
     constexpr unsigned kBits = 64;
+    std::array<std::uint64_t, 256> bits{};
+    for (std::size_t byte = 0; byte < bits.size(); ++byte) {
+        const unsigned char counting = kCountingBytes.at(byte);
+        bits.at(byte) = counting == kBlank ? 0 : std::uint64_t{1} << (counting % kBits);
+    }
+    return bits;
+}
+
+const std::array<std::uint64_t, 256> kSignatureBits = SignatureBits();
+
+// The bits of all characters of the key.
+std::uint64_t SignatureOf(std::string_view text) {
     std::uint64_t signature = 0;
     for (const char c : text) {
-        const unsigned char byte = kCountingBytes[static_cast<unsigned char>(c)];
-        if (byte != kBlank) {
-            signature |= std::uint64_t{1} << (byte % kBits);
-        }
+        signature |= kSignatureBits[static_cast<unsigned char>(c)];
     }
     return signature;
 }
