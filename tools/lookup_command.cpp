@@ -99,7 +99,6 @@ class Answers {
     }
 
     void SayThatThereIsNone(const std::string& text, std::string_view bytes) {
-        out_.flush();  // in a terminal, this comes after the answers before it
         err_ << "No entry has the abbreviation \"" << VisibleText(text) << "\"";
         if (rows_.RowCount() > 0) {
             const std::string_view record = rows_.RowText(FindFirstByPrefix(rows_, bytes));

@@ -135,13 +135,29 @@ expect 0 "standard input" standard_input; prints out "RAM	Random Access Memory
 ABC	Alpha"
 
 # On a terminal, which `script` provides. Its lines end in CR LF.
-if [ -z "$emulator" ] && script -qec true /dev/null >/dev/null 2>&1 </dev/null; then
-    on_terminal() { script -qec "stty cols 40; $1" /dev/null </dev/null | tr -d '\r'; }
+if script -qec true /dev/null >/dev/null 2>&1 </dev/null; then
+    on_terminal() (
+        set -o pipefail
+        script -qec "stty cols 40; $1" /dev/null </dev/null | tr -d '\r'
+    )
     bold=$(printf '\033[1m') plain=$(printf '\033[0m')
     export TERM=xterm
     unset NO_COLOR
+    expect 0 "bold text" on_terminal "'$brelex' lookup ram";  contains out "${bold}RAM$plain"
+fi
+# Wine's console takes control sequences for text that fills columns.
+if [ -z "$emulator" ] && [ -n "${bold:-}" ]; then
     expect 0 "look-up on a terminal" on_terminal "'$brelex' lookup ram"
     prints out "${bold}RAM$plain       Random Access Memory"
+    expect 1 "look-up of a beginning on a terminal" on_terminal "'$brelex' lookup ra"
+    prints out "No entry has the abbreviation \"ra\"; typing it selects RAM.
+Did you mean RAM?
+${bold}RA${plain}M       Random Access Memory"
+    expect 0 "messages between the answers" on_terminal "'$brelex' lookup abc ra"
+    prints out "${bold}ABC$plain       Alpha
+No entry has the abbreviation \"ra\"; typing it selects RAM.
+Did you mean RAM?
+${bold}RA${plain}M       Random Access Memory"
     expect 0 "NO_COLOR" on_terminal "NO_COLOR=1 '$brelex' lookup ram"
     prints out "RAM       Random Access Memory"
     expect 0 "an empty NO_COLOR" on_terminal "NO_COLOR= '$brelex' lookup ram"
