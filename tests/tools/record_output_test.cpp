@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/record_output.h"
 
+#include <numeric>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -32,10 +33,8 @@ std::string_view Bracketed(std::string_view record) {
 
 TEST_P(RecordOutputTest, IsLikeThis) {
     const FakeRows rows(GetParam().records);
-    std::vector<std::int32_t> hits;
-    for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
-        hits.push_back(row);
-    }
+    std::vector<std::int32_t> hits(GetParam().records.size());
+    std::iota(hits.begin(), hits.end(), 0);
     std::ostringstream out;
     PrintRecords(rows, hits, GetParam().options, Bracketed, out);
     EXPECT_EQ(out.str(), GetParam().output);

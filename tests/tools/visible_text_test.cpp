@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/visible_text.h"
 
+#include <string_view>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/named_case.h"
@@ -21,13 +23,11 @@ TEST_P(VisibleTextTest, ShowsControlCharactersAsSigns) {
     EXPECT_EQ(VisibleText(GetParam().text, GetParam().kept), GetParam().visible);
 }
 
-using namespace std::string_view_literals;
-
 INSTANTIATE_TEST_SUITE_P(
     Texts, VisibleTextTest,
     testing::Values(VisibleCase{"PlainTextStays", "a~ b", "a~ b"}, VisibleCase{"Empty", "", ""},
                     VisibleCase{"Escape", "a\x1B[31mb", "a\xE2\x90\x9B[31mb"},
-                    VisibleCase{"Nul", "\0"sv, "\xE2\x90\x80"},
+                    VisibleCase{"Nul", std::string_view("\0", 1), "\xE2\x90\x80"},
                     VisibleCase{"Tab", "a\tb",
                                 "a\xE2\x90\x89"
                                 "b"},
