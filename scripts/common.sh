@@ -42,6 +42,9 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux trayer xfwm4 metacity)
 
+# They open what brelex exports.
+dictionary_packages=(dictd sdcv)
+
 # Installs everything needed to build and run the Windows program: packages, wxWidgets and Wine.
 need_windows() {
     need_packages "${windows_packages[@]}" "$@"

@@ -16,6 +16,7 @@
 #include "platform/system/program_folder.h"
 #include "platform/system/terminal.h"
 #include "tools/build_command.h"
+#include "tools/export_command.h"
 #include "tools/input_file.h"
 #include "tools/lookup_command.h"
 #include "tools/open_database.h"
@@ -43,6 +44,7 @@ brelex::OutputTerminal TerminalAsWanted() {
 struct CommandLine {
     std::string database;  // from option -d, or empty
     brelex::BuildRequest build;
+    brelex::ExportRequest exported;
     brelex::LookupOptions lookup;
     brelex::SearchOptions search;
     std::string letters;           // for the anagram search
@@ -111,6 +113,31 @@ void AddBuild(CLI::App& app, CommandLine& line) {
         ->required()
         ->type_name("");
     command->callback([&line] { line.code = RunBuild(line); });
+}
+
+int RunExport(const CommandLine& line) {
+    // The formats have line ends of their own.
+    brelex::UseBinaryOutput();
+    return brelex::RunExport(DatabaseOf(line), line.exported, std::cout, std::cerr);
+}
+
+void AddExport(CLI::App& app, CommandLine& line) {
+    using brelex::ExportFormat;
+    CLI::App* const command = app.add_subcommand("export", "Write all entries for other programs");
+    AddChoice(*command, "--format", "FORMAT",
+              "Format of the file: tsv (default), csv, json, dictd or stardict",
+              line.exported.format,
+              {{"tsv", ExportFormat::Tsv},
+               {"csv", ExportFormat::Csv},
+               {"json", ExportFormat::Json},
+               {"dictd", ExportFormat::Dictd},
+               {"stardict", ExportFormat::Stardict}});
+    command
+        ->add_option("-o,--output", line.exported.output.name,
+                     "File to write (default: standard output)")
+        ->type_name("FILE");
+    command->add_flag("--force", line.exported.output.force, "Replace a file that is there");
+    command->callback([&line] { line.code = RunExport(line); });
 }
 
 // Adds a command that reads the database and has no options of its own.
@@ -217,6 +244,7 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     AddBuild(app, line);
     AddReport(app, line, "info", "Show facts about the database", brelex::RunInfo);
     AddReport(app, line, "dump", "Print all entries as UTF-8 TSV", brelex::RunDump);
+    AddExport(app, line);
     AddReport(app, line, "check", "Check the database for errors", brelex::RunCheck);
     AddLookup(app, line);
     AddSearch(app, line);

@@ -262,8 +262,8 @@ EncodedSearchList EncodeSearchList(std::string_view commaSeparated) {
 }
 
 int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, std::ostream& err) {
-    const std::string reason =
-        ReasonNotToWrite(request.output, FilesOf(request), "a sound database", IsDatabase);
+    static constexpr ReplaceableFile kDatabase = {"a sound database", IsDatabase};
+    const std::string reason = ReasonNotToWrite(request.output, FilesOf(request), &kDatabase);
     if (!reason.empty()) {
         return Refuse(err, reason);
     }

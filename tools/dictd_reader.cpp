@@ -145,7 +145,8 @@ std::optional<std::string> Inflated(std::string_view bytes) {
     return status == Z_STREAM_END ? std::optional(content) : std::nullopt;
 }
 
-// Finds the article for a line of the index (headword, offset, length, separated by TABs).
+// Finds the article for a line of the index (headword, offset, length, separated by TABs). A fourth
+// part, the headword as it is shown, is not needed: the article begins with it.
 std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
                                                    std::string_view dictionary) {
     const auto first = line.find('\t');
@@ -154,7 +155,8 @@ std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
         return std::nullopt;
     }
     const auto offset = DecodeBase64Number(line.substr(first + 1, second - first - 1));
-    const auto length = DecodeBase64Number(line.substr(second + 1));
+    const auto length =
+        DecodeBase64Number(line.substr(second + 1, line.find('\t', second + 1) - second - 1));
     if (!offset || !length || *offset > dictionary.size() ||
         *length > dictionary.size() - *offset) {
         return std::nullopt;

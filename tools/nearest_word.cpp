@@ -30,7 +30,8 @@ std::size_t ChangesBetween(std::string_view one, std::string_view other) {
 
 std::string NearestWord(std::string_view word, const std::vector<std::string>& known) {
     std::string nearest;
-    std::size_t fewest = std::max<std::size_t>(word.size() / 2, 1) + 1;
+    // Anything is near a word of two or three characters.
+    std::size_t fewest = word.size() > 3 ? word.size() / 2 + 1 : 1;
     for (const std::string& candidate : known) {
         const bool begins = word.size() > 2 && candidate.starts_with(word);
         const std::size_t changes = begins ? 0 : ChangesBetween(word, candidate);

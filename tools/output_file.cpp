@@ -12,8 +12,7 @@ namespace brelex {
 namespace fs = std::filesystem;
 
 std::string ReasonNotToWrite(const OutputRequest& output, const std::vector<fs::path>& inputs,
-                             const char* kind,
-                             const std::function<bool(const fs::path&)>& isReplaceable) {
+                             const ReplaceableFile* replaceable) {
     if (output.name == kStandardStream) {
         return {};
     }
@@ -38,8 +37,14 @@ std::string ReasonNotToWrite(const OutputRequest& output, const std::vector<fs::
         })) {
         return output.name + " is an input; it would be lost";
     }
-    if (!output.force && fs::file_size(path, error) != 0 && !isReplaceable(path)) {
-        return output.name + " is there and is not " + kind + "; --force replaces it";
+    if (output.force || fs::file_size(path, error) == 0) {
+        return {};
+    }
+    if (replaceable == nullptr) {
+        return output.name + " is there already; --force replaces it";
+    }
+    if (!replaceable->accepts(path)) {
+        return output.name + " is there and is not " + replaceable->kind + "; --force replaces it";
     }
     return {};
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -16,13 +15,18 @@ struct OutputRequest {
     bool force = false;
 };
 
+/// Whether the file may be replaced without force, and what it is not if it may not.
+struct ReplaceableFile {
+    const char* kind;
+    bool (*accepts)(const std::filesystem::path& path);
+};
+
 /// Why a command must not write `output`; an empty text if it may. It never replaces what is not a
-/// regular file, or a file that the command reads. Any other file that is neither empty nor what
-/// `isReplaceable` accepts, it replaces only by force; the reason then says that the file is not
-/// `kind`.
-[[nodiscard]] std::string ReasonNotToWrite(
-    const OutputRequest& output, const std::vector<std::filesystem::path>& inputs, const char* kind,
-    const std::function<bool(const std::filesystem::path&)>& isReplaceable);
+/// regular file, or a file that the command reads. Any other file that is neither empty nor
+/// `replaceable` (may be null), it replaces only by force.
+[[nodiscard]] std::string ReasonNotToWrite(const OutputRequest& output,
+                                           const std::vector<std::filesystem::path>& inputs,
+                                           const ReplaceableFile* replaceable = nullptr);
 
 /// Writes `bytes` to the file, in one step, or to `standardOutput`. Keeps the mode of the file it
 /// replaces; replaces what a link leads to and not the link. Returns the reason if that fails, or

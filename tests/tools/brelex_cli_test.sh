@@ -44,7 +44,7 @@ chmod +x "$brelex"
 printf 'RAM\tRandom Access Memory\nABC\tAlpha\n' > "$folder/list.tsv"
 
 expect 0 "help" "$brelex" --help;                 contains out lookup
-for command in build info dump check lookup search anagram; do
+for command in build export info dump check lookup search anagram; do
     expect 0 "help of $command" "$brelex" $command --help
 done
 expect 2 "no command" "$brelex";                  contains err "brelex: name a command"
@@ -71,6 +71,13 @@ contains out "2 records"
 expect 0 "info" "$brelex" info
 contains out "Version: 2.5"; contains out "ReleaseDate: 2005-02-03"; contains out "SearchListText: net, disk"
 expect 0 "dump" "$brelex" dump;                   contains out "RAM	Random Access Memory"
+expect 0 "export" "$brelex" export;               contains out "RAM	Random Access Memory"
+expect 0 "export to CSV" "$brelex" export --format csv -o "$folder/list.csv"
+checks=$((checks + 1))
+printf 'abbreviation,expansion\r\nABC,Alpha\r\nRAM,Random Access Memory\r\n' | cmp - "$folder/list.csv" ||
+    failures=$((failures + 1))
+expect 2 "export to a format of several files" "$brelex" export --format stardict
+expect 2 "export to an unknown format" "$brelex" export --format xml; contains err "xml"
 expect 0 "check" "$brelex" check
 expect 0 "look-up" "$brelex" lookup r.a.m.;       prints out "RAM	Random Access Memory"
 expect 0 "look-up with numbers" "$brelex" lookup -n ram; prints out "2	RAM	Random Access Memory"

@@ -125,6 +125,14 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadIndexTest,
                          testing::Values("b\tB\tK", "b\tzzzzzz\tA", "b\tA\tzzzzzz", "b\tA", "b",
                                          "b\t*\tA", "b\tA\t", "b\tAAAAAAAAAAAAAAA\tA"));
 
+TEST_F(ReadDictdPairTest, AcceptsAnIndexThatAlsoSpellsTheHeadwords) {
+    folder_.Write("my.dict", "A\n  Alpha\n");
+    folder_.Write("my.index", "a\tA\tK\tA\n");
+    Read();
+    EXPECT_EQ(report_.errors, std::vector<std::string>());
+    EXPECT_EQ(records_, std::vector<std::string>{"A\tAlpha"});
+}
+
 TEST_F(ReadDictdPairTest, AppliesCorrections) {
     folder_.Write("my.dict", "A\n  Alpha\nB\n  Beta\n");
     folder_.Write("my.index", "b\tK\tJ\na\tA\tK\n");

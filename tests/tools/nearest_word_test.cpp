@@ -24,6 +24,7 @@ TEST(NearestWord, MayBeOneThatBeginsWithIt) {
 TEST(NearestWord, IsNotAnyWordAtAll) {
     EXPECT_EQ(NearestWord("frobnicate", kKnown), "");
     EXPECT_EQ(NearestWord("", kKnown), "");
+    EXPECT_EQ(NearestWord("-x", {"-d", "-h"}), "");
     EXPECT_EQ(NearestWord("seach", {}), "");
 }
 
