@@ -37,7 +37,7 @@ std::string Tsv(const RowList& rows) {
 }
 
 std::string CsvField(std::string_view bytes) {
-    const std::string text = Utf8OfBytes(bytes);
+    std::string text = Utf8OfBytes(bytes);
     if (text.find_first_of(",\"\r\n") == std::string::npos) {
         return text;
     }
