@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <iterator>
 #include <limits>
 #include <sstream>
 #include <system_error>
@@ -21,9 +20,8 @@
 #include "database/database_file.h"
 #include "database/szdd.h"
 #include "lookup/prefix_search.h"
+#include "tools/build_inputs.h"
 #include "tools/corrections.h"
-#include "tools/dictd_reader.h"
-#include "tools/input_entries.h"
 #include "tools/input_file.h"
 #include "tools/open_database.h"
 
@@ -50,58 +48,6 @@ void Print(const std::vector<std::string>& messages, const char* kind, const cha
         err << "brelex: " << rest << " more " << kind << (rest == 1 ? "\n" : "s\n");
     }
 }
-
-// Whether `name` ends in `ending`, which is in small letters, whatever the case of its own.
-bool HasEnding(std::string_view name, std::string_view ending) {
-    return name.size() >= ending.size() &&
-           std::equal(ending.begin(), ending.end(), name.end() - std::ssize(ending),
-                      [](char a, char b) { return AsciiCapital(a) == AsciiCapital(b); });
-}
-
-// Reads the inputs one after the other.
-class InputReader {
-  public:
-    InputReader(std::istream& standardInput, Corrections& corrections,
-                std::vector<std::string>& records, InputReport& report)
-        : standardInput_(standardInput),
-          corrections_(corrections),
-          records_(records),
-          report_(report) {}
-
-    void Read(const std::string& input) {
-        const fs::path path = PathOfUtf8(input);
-        if (input == kStandardStream) {
-            ReadStandardInput();
-        } else if (HasEnding(input, ".tsv")) {
-            ReadTsvFile(path, records_, report_);
-        } else if (HasEnding(input, ".index")) {
-            ReadDictdPair(path, records_, report_, &corrections_);
-        } else if (HasEnding(input, ".dict.dz") || HasEnding(input, ".dict")) {
-            ReadDictdPair(IndexOfDictionary(path), records_, report_, &corrections_);
-        } else {
-            report_.errors.push_back(
-                input + ": neither a .tsv file nor a dictd dictionary (.index, .dict.dz)");
-        }
-    }
-
-  private:
-    void ReadStandardInput() {
-        if (standardInputIsRead_) {
-            report_.errors.emplace_back("standard input can be read only once");
-            return;
-        }
-        standardInputIsRead_ = true;
-        std::ostringstream text;
-        text << standardInput_.rdbuf();
-        ReadTsv("standard input", std::move(text).str(), records_, report_);
-    }
-
-    std::istream& standardInput_;
-    Corrections& corrections_;
-    std::vector<std::string>& records_;
-    InputReport& report_;
-    bool standardInputIsRead_ = false;
-};
 
 // Sets the parts of the content that come from options. Returns an error text, or an empty text on
 // success.
@@ -187,18 +133,12 @@ std::string Verify(const BuiltDatabase& built, std::string_view file,
 // The files that a build reads.
 std::vector<fs::path> FilesOf(const BuildRequest& request) {
     std::vector<fs::path> files;
-    const auto add = [&](const std::string& name) {
-        const fs::path path = PathOfUtf8(name);
-        files.push_back(path);
-        if (HasEnding(name, ".index")) {
-            files.push_back(DictionaryOfIndex(path));
-        } else if (HasEnding(name, ".dict") || HasEnding(name, ".dict.dz")) {
-            files.push_back(IndexOfDictionary(path));
-        }
-    };
-    std::ranges::for_each(request.inputs, add);
+    for (const std::string& input : request.inputs) {
+        const std::vector<fs::path> more = FilesOfInput(input);
+        files.insert(files.end(), more.begin(), more.end());
+    }
     if (!request.corrections.empty()) {
-        add(request.corrections);
+        files.push_back(PathOfUtf8(request.corrections));
     }
     return files;
 }
