@@ -55,10 +55,10 @@ TEST(Entries, CanBeStoredAndHavePlainAbbreviations) {
 
 TEST(Entries, EndInANoteThatIsClosed) {
     ForEachEntry([](const std::string& line, const std::string& place) {
-        EXPECT_EQ(std::count(line.begin(), line.end(), '('),
-                  std::count(line.begin(), line.end(), ')'))
-            << place;
-        EXPECT_LT(WithoutNotes(GetExpansion(line)).size(), GetExpansion(line).size()) << place;
+        EXPECT_TRUE(HasBalancedBrackets(GetExpansion(line)))
+            << place << ": a parenthesis is not closed, or not opened";
+        EXPECT_FALSE(NoteItems(GetExpansion(line)).empty())
+            << place << ": there is no note in parentheses at the end";
     });
 }
 
