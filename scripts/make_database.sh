@@ -55,7 +55,8 @@ if [ -f "$output" ] && [ ! "$newest" -nt "$output" ] &&
     exit 0
 fi
 step "building the database"
-$emulator "$brelex" build --search-list "$(paste -sd, data/search-words.txt)" -o "$output" \
+# The file is ours even if it is damaged.
+$emulator "$brelex" build --force --search-list "$(paste -sd, data/search-words.txt)" -o "$output" \
     "${options[@]}" "${inputs[@]}" ||
     fail "could not build the database"
 echo "${options[*]} ${inputs[*]}" > "$stamp"
