@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include "base/letter_case.h"
 #include "database/record_text.h"
@@ -42,6 +43,22 @@ std::string KeyOf(std::string_view text) {
         }
     }
     return key;
+}
+
+// Whether `key` is that of the record's abbreviation. Tells so at the first character that differs.
+bool HasKey(std::string_view record, std::string_view key) {
+    std::size_t same = 0;
+    for (std::size_t i = 0; i < record.size() && record[i] != '\t'; ++i) {
+        const unsigned char byte = kCountingBytes[static_cast<unsigned char>(record[i])];
+        if (byte == kBlank) {
+            continue;
+        }
+        if (same == key.size() || byte != static_cast<unsigned char>(key[same])) {
+            return false;
+        }
+        ++same;
+    }
+    return same == key.size();
 }
 
 // A bit for each byte that counts, regardless of its case. Some share one.
@@ -101,24 +118,33 @@ std::string_view AbbreviationOf(const RowList& rows, std::size_t row) {
 
 }  // namespace
 
-AbbreviationFinder::AbbreviationFinder(const RowList& rows)
-    : rows_(rows),
-      signatures_(static_cast<std::size_t>(rows.RowCount())) {
-    for (std::size_t row = 0; row < signatures_.size(); ++row) {
-        signatures_[row] = SignatureOf(AbbreviationOf(rows, row));
+void AbbreviationFinder::MakeSignatures() {
+    if (signatures_.empty()) {
+        signatures_.resize(static_cast<std::size_t>(rows_.RowCount()));
+        for (std::size_t row = 0; row < signatures_.size(); ++row) {
+            signatures_[row] = SignatureOf(AbbreviationOf(rows_, row));
+        }
     }
 }
 
-std::vector<std::int32_t> AbbreviationFinder::Find(std::string_view text) const {
+bool AbbreviationFinder::IsAbbreviation(std::size_t row, std::string_view text,
+                                        std::string_view key) const {
+    return key.empty() ? AbbreviationOf(rows_, row) == text
+                       : HasKey(rows_.RowText(static_cast<std::int32_t>(row)), key);
+}
+
+// Making signatures takes longer than a single search without them.
+std::vector<std::int32_t> AbbreviationFinder::Find(std::string_view text) {
+    if (std::exchange(hasSearched_, true)) {
+        MakeSignatures();
+    }
     const std::uint64_t signature = SignatureOf(text);
     const std::string key = KeyOf(text);
+    const auto count = static_cast<std::size_t>(rows_.RowCount());
     std::vector<std::int32_t> found;
-    for (std::size_t row = 0; row < signatures_.size(); ++row) {
-        if (signatures_[row] != signature) {
-            continue;
-        }
-        const std::string_view abbreviation = AbbreviationOf(rows_, row);
-        if (key.empty() ? abbreviation == text : KeyOf(abbreviation) == key) {
+    for (std::size_t row = 0; row < count; ++row) {
+        const bool isPossible = signatures_.empty() || signatures_[row] == signature;
+        if (isPossible && IsAbbreviation(row, text, key)) {
             found.push_back(static_cast<std::int32_t>(row));
         }
     }
@@ -126,13 +152,14 @@ std::vector<std::int32_t> AbbreviationFinder::Find(std::string_view text) const 
 }
 
 std::vector<std::string_view> AbbreviationFinder::FindSimilar(std::string_view text,
-                                                              std::size_t limit) const {
+                                                              std::size_t limit) {
     struct Similar {
         std::tuple<bool, Edit> rank;
         std::string key;
         std::string_view abbreviation;
     };
 
+    MakeSignatures();
     const std::uint64_t signature = SignatureOf(text);
     const std::string key = KeyOf(text);
     std::vector<Similar> similar;

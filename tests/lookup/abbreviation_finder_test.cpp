@@ -33,7 +33,9 @@ class FindAbbreviationTest : public testing::TestWithParam<FindCase> {};
 
 TEST_P(FindAbbreviationTest, FindsTheRowsInOrder) {
     const FakeRows rows(SampleRows());
-    EXPECT_EQ(AbbreviationFinder(rows).Find(GetParam().text), GetParam().rows);
+    AbbreviationFinder finder(rows);
+    EXPECT_EQ(finder.Find(GetParam().text), GetParam().rows);
+    EXPECT_EQ(finder.Find(GetParam().text), GetParam().rows) << "the second time";
 }
 
 INSTANTIATE_TEST_SUITE_P(
