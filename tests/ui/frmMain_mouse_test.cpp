@@ -166,8 +166,8 @@ TEST_F(FrmMainMouse, AWindowThatClosesUnderTheRightButtonShowsNoMenu) {
     bool opened = false;
     window_->Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent&) { opened = true; });
     frmMain* const window = std::exchange(window_, nullptr);
-    window->CallAfter([window] { window->Close(); });
-    window->List().onRightPress(0);
+    window->List().onRightPress(0);  // the menu comes a moment later
+    window->Close();
     EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
     EXPECT_FALSE(opened);
 }
