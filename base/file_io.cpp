@@ -5,6 +5,7 @@
 #include <cassert>
 #include <cerrno>
 #include <cstddef>
+#include <string>
 #include <system_error>
 
 #include "base/text.h"
@@ -23,6 +24,24 @@ bool SameIgnoringCase(std::string_view one, std::string_view other) {
 bool IsFile(const fs::path& path) {
     std::error_code error;
     return fs::is_regular_file(path, error);
+}
+
+bool IsThere(const fs::path& path) {
+    std::error_code error;
+    const fs::file_type type = fs::symlink_status(path, error).type();
+    return type != fs::file_type::not_found && type != fs::file_type::none;
+}
+
+// The path with ".part" behind it, or ".part2" and so on if somebody has a file of that name.
+fs::path FreeNameBeside(const fs::path& path) {
+    fs::path name;
+    int number = 1;
+    do {
+        name = path;
+        name += number == 1 ? ".part" : ".part" + std::to_string(number);
+        ++number;
+    } while (IsThere(name));
+    return name;
 }
 
 }  // namespace
@@ -97,8 +116,7 @@ std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
 }
 
 bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why) {
-    fs::path unfinished = path;
-    unfinished += ".part";
+    const fs::path unfinished = FreeNameBeside(path);
     std::error_code error;
     const auto fail = [&](const char* what, const std::string& reason) {
         std::error_code ignored;
@@ -109,7 +127,6 @@ bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why)
         }
         return false;
     };
-    fs::remove(unfinished, error);
     errno = 0;  // the streams leave the reason there
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
     // Before the content is there, so that nobody can read it who may not.

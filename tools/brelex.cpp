@@ -115,10 +115,24 @@ void AddBuild(CLI::App& app, CommandLine& line) {
     command->callback([&line] { line.code = RunBuild(line); });
 }
 
+// Runs a command and shows its report. A terminal gets no control characters but `kept`.
+template <typename Run>
+int ReportTo(const brelex::OutputTerminal& terminal, std::string_view kept, Run run) {
+    if (terminal.columns == 0) {
+        return run(std::cout);
+    }
+    std::ostringstream report;
+    const int code = run(report);
+    std::cout << brelex::VisibleText(report.view(), kept);
+    return code;
+}
+
 int RunExport(const CommandLine& line) {
     // The formats have line ends of their own.
     brelex::UseBinaryOutput();
-    return brelex::RunExport(DatabaseOf(line), line.exported, std::cout, std::cerr);
+    return ReportTo(line.output.terminal, "\t\r\n", [&line](std::ostream& out) {
+        return brelex::RunExport(DatabaseOf(line), line.exported, out, std::cerr);
+    });
 }
 
 void AddExport(CLI::App& app, CommandLine& line) {
@@ -144,13 +158,9 @@ void AddExport(CLI::App& app, CommandLine& line) {
 void AddReport(CLI::App& app, CommandLine& line, const char* name, const char* description,
                int (*run)(const std::string&, std::ostream&, std::ostream&)) {
     app.add_subcommand(name, description)->callback([&line, run] {
-        if (line.output.terminal.columns == 0) {
-            line.code = run(DatabaseOf(line), std::cout, std::cerr);
-            return;
-        }
-        std::ostringstream report;
-        line.code = run(DatabaseOf(line), report, std::cerr);
-        std::cout << brelex::VisibleText(report.view(), "\t\n");
+        line.code = ReportTo(line.output.terminal, "\t\n", [&line, run](std::ostream& out) {
+            return run(DatabaseOf(line), out, std::cerr);
+        });
     });
 }
 

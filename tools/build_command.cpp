@@ -79,7 +79,9 @@ InputReport ReadInputs(const BuildRequest& request, std::istream& in,
     for (const std::string& input : request.inputs) {
         reader.Read(input);
     }
-    corrections.ReportUnused(report);
+    if (report.errors.empty()) {  // or else a dictionary may be missing
+        corrections.ReportUnused(report);
+    }
     std::size_t blockBytes = 0;
     for (const std::string& record : records) {
         blockBytes += record.size() + 1;

@@ -2,8 +2,8 @@
 #include "tools/build_inputs.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
-#include <sstream>
 #include <string_view>
 #include <utility>
 
@@ -60,9 +60,17 @@ void InputReader::ReadStandardInput() {
         return;
     }
     standardInputIsRead_ = true;
-    std::ostringstream text;
-    text << standardInput_.rdbuf();
-    ReadTsv("standard input", std::move(text).str(), records_, report_);
+    std::string text;
+    std::string chunk(std::size_t{1} << 16U, '\0');
+    do {
+        standardInput_.read(chunk.data(), std::ssize(chunk));
+        text.append(chunk, 0, static_cast<std::size_t>(standardInput_.gcount()));
+    } while (standardInput_.good());
+    if (standardInput_.bad()) {
+        report_.errors.emplace_back("standard input cannot be read");
+        return;
+    }
+    ReadTsv("standard input", text, records_, report_);
 }
 
 std::vector<fs::path> FilesOfInput(const std::string& input) {

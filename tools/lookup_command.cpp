@@ -153,6 +153,10 @@ int RunLookup(const std::string& database, const LookupOptions& options,
                 answers.Add(line);
             }
         }
+        if (in.bad()) {
+            err << "brelex: standard input cannot be read\n";
+            return kFailed;
+        }
     }
     return answers.Finish();
 }

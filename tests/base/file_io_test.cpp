@@ -28,6 +28,16 @@ TEST(ReplaceFile, AFailureLeavesTheOldContentAndSaysWhy) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
+TEST(ReplaceFile, LeavesFilesAloneThatHaveTheNameOfAnUnfinishedOne) {
+    const TestFolder folder;
+    folder.Write("file.part", "precious");
+    folder.Write("file.part2", "too");
+    EXPECT_TRUE(ReplaceFile(folder.Path() / "file", "new"));
+    EXPECT_EQ(ReadText(folder.Path() / "file"), "new");
+    EXPECT_EQ(ReadText(folder.Path() / "file.part"), "precious");
+    EXPECT_EQ(ReadText(folder.Path() / "file.part2"), "too");
+}
+
 TEST(ReplaceFile, AMissingFolderIsAFailure) {
     const TestFolder folder;
     const auto path = folder.Path() / "no" / "file";

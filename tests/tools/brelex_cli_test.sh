@@ -137,6 +137,14 @@ if [ -e /dev/full ]; then
     full_disk_for_help() { "$brelex" --help >/dev/full; }
     expect 2 "a full disk for the help" full_disk_for_help
 fi
+if [ -z "$emulator" ]; then
+    folder_to_lookup() { "$brelex" lookup - <"$folder"; }
+    expect 2 "standard input that cannot be read" folder_to_lookup
+    contains err "brelex: standard input cannot be read"
+    folder_to_build() { "$brelex" build -o "$folder/unread.dat" "$folder/list.tsv" - <"$folder"; }
+    expect 2 "a build from standard input that cannot be read" folder_to_build
+    contains err "brelex: standard input cannot be read"
+fi
 standard_input() { printf 'ram\r\n\nABC' | "$brelex" lookup -; }
 expect 0 "standard input" standard_input; prints out "RAM	Random Access Memory
 ABC	Alpha"
@@ -181,6 +189,8 @@ ${bold}RA${plain}M       Random Access Memory"
     prints out "${bold}EVIL$plain      A colorful␛[31m expansion of
           its abbreviation"
     expect 0 "a dump on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' dump"
+    prints out "EVIL	A colorful␛[31m expansion of its abbreviation"
+    expect 0 "an export on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' export"
     prints out "EVIL	A colorful␛[31m expansion of its abbreviation"
     expect 0 "a control character in a file" "$brelex" -d "$folder/evil.dat" dump
     prints out "EVIL	A colorful$(printf '\033')[31m expansion of its abbreviation"
