@@ -24,6 +24,7 @@ OutputTerminal StandardOutputTerminal() {
     return {isKnown ? size.ws_col : kUsualColumns,
             kind != nullptr && std::string_view(kind) != "dumb"};
 }
+
 // The system changes nothing here.
 void UseBinaryInput() {}
 
