@@ -630,7 +630,8 @@ TEST_F(SearchWindowTest, TheButtonShowsAndHidesTheResultArea) {
 TEST_F(SearchWindowTest, AClickOnTheHeaderGivesTheResultTheFocus) {
     InSearchWindow([&] {
         Click("cmdExpandShrink");
-        ASSERT_TRUE(WaitFor([&] { return In("picColHeader").IsShownOnScreen(); }));
+        ASSERT_TRUE(WaitFor([&] { return search_->GetClientSize().y == search_->ExpandedHeight; }));
+        ASSERT_TRUE(StaysFor(100, [&] { return In("picColHeader").IsShownOnScreen(); }));
         Click("picColHeader");
         EXPECT_TRUE(WaitFor([&] { return wxWindow::FindFocus() == &In("txtSearchResult"); }));
     });

@@ -288,10 +288,13 @@ std::string SideWindowTest::Label(const char* name) const {
 }
 
 void SideWindowTest::Click(const char* name) {
-    const wxRect area = In(name).GetScreenRect();
-    // Where a check box has its text and not only room behind it.
-    user_.MouseMove(area.x + std::min(area.width / 2, 40), area.y + area.height / 2);
-    LetEventsArrive();
+    wxRect area;
+    do {  // the display may be moving the window
+        area = In(name).GetScreenRect();
+        // Where a check box has its text and not only room behind it.
+        user_.MouseMove(area.x + std::min(area.width / 2, 40), area.y + area.height / 2);
+        LetEventsArrive();
+    } while (In(name).GetScreenRect() != area);
     const ButtonReleases releases;
     user_.MouseClick();
     WaitFor([&] { return releases.Count() > 0; }, 1000);  // none from what is disabled
