@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tools/search_commands.h"
 
+#include <cstddef>
 #include <limits>
+#include <string>
 #include <string_view>
 #include <variant>
 
@@ -13,6 +15,21 @@
 #include "tools/open_database.h"
 
 namespace brelex {
+
+namespace {
+
+// Says what the window would say, in the terms of a terminal and without the way to the help.
+int Refuse(const Message& refusal, std::ostream& err) {
+    constexpr std::string_view kInWindow = "Either uncheck the 'Search Whole Word Only' option or";
+    std::string reason = refusal.text.substr(0, refusal.text.find("\n\n"));
+    if (const std::size_t at = reason.find(kInWindow); at != std::string::npos) {
+        reason.replace(at, kInWindow.size(), "Leave out --whole-word or");
+    }
+    err << "brelex: " << reason << "\n";
+    return kFailed;
+}
+
+}  // namespace
 
 int RunSearch(const std::string& database, const SearchOptions& options,
               const OutputOptions& output, std::ostream& out, std::ostream& err) {
@@ -27,8 +44,7 @@ int RunSearch(const std::string& database, const SearchOptions& options,
     const RecordStore& store = opened.store;
     const PreparedSearch prepared = PrepareSearch(options.request, store);
     if (const auto* const refusal = std::get_if<Message>(&prepared)) {
-        err << refusal->text << "\n";
-        return kFailed;
+        return Refuse(*refusal, err);
     }
     const std::int32_t limit = options.all ? std::numeric_limits<std::int32_t>::max() : kMaxHits;
     const auto& finder = std::get<RecordFinder>(prepared);
@@ -52,8 +68,7 @@ int RunAnagram(const std::string& database, const std::string& letters, const Ou
                std::ostream& out, std::ostream& err) {
     const std::u32string typed = DecodeUtf8(letters);
     if (const auto refusal = AnagramRefusalOf(typed)) {
-        err << refusal->text << "\n";
-        return kFailed;
+        return Refuse(*refusal, err);
     }
     OpenDatabase opened;
     if (const int failure = Load(database, opened, err); failure != kFound) {

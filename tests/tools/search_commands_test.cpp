@@ -125,14 +125,20 @@ TEST_F(SearchCommandTest, PrintsJson) {
     EXPECT_EQ(out_.str(), "[]\n");
 }
 
-TEST_F(SearchCommandTest, RefusesWithTheWindowsMessage) {
+TEST_F(SearchCommandTest, RefusesInTheTermsOfATerminal) {
     EXPECT_EQ(Search(For("a*b")), 2);
     EXPECT_EQ(err_.str(),
-              "Free use of asterisk (*) in search text is not allowed. Enclose it in square "
-              "brackets ([]) and then try again.\n\nRead Help for more information about search "
-              "patterns.\n");
+              "brelex: Free use of asterisk (*) in search text is not allowed. Enclose it in "
+              "square brackets ([]) and then try again.\n");
     EXPECT_EQ(Search(For("x[abc")), 2);
-    EXPECT_EQ(err_.str().rfind("The pattern string is invalid. ", 0), 0U);
+    EXPECT_EQ(err_.str().rfind("brelex: The pattern string is invalid. ", 0), 0U);
+    SearchOptions wholeWord = For("a?");
+    wholeWord.request.wholeWord = true;
+    EXPECT_EQ(Search(wholeWord), 2);
+    EXPECT_EQ(
+        err_.str(),
+        "brelex: Use of wildcards is not allowed, if you want to find whole words only. Leave "
+        "out --whole-word or remove all wildcards from the search text.\n");
     EXPECT_EQ(Search(For("")), 2);
     EXPECT_EQ(err_.str(), "brelex: the search text is empty\n");
     EXPECT_EQ(out_.str(), "");
@@ -193,7 +199,7 @@ TEST_F(AnagramCommandTest, SaysByItsCodeThatNothingIsFound) {
 
 TEST_F(AnagramCommandTest, RefusesLessThanTwoDistinctLetters) {
     EXPECT_EQ(Anagram("CC"), 2);
-    EXPECT_EQ(err_.str(), "Type at least 2 distinct letters\n");
+    EXPECT_EQ(err_.str(), "brelex: Type at least 2 distinct letters\n");
     EXPECT_EQ(Anagram(""), 2);
 }
 
