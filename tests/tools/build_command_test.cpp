@@ -9,40 +9,13 @@
 #include <gtest/gtest.h>
 
 #include "base/file_io.h"
-#include "tests/support/test_files.h"
+#include "tests/tools/commands_test_support.h"
 #include "tools/query_commands.h"
 
 namespace brelex {
 namespace {
 
-class BuildCommandTest : public testing::Test {
-  protected:
-    int Build(BuildRequest request) {
-        if (request.inputs.empty()) {
-            request.inputs = {folder_.Write(
-                "list.tsv", "RAM\tRandom Access Memory\nABC\tAlpha\nABC\tAlpha\nABCD\tLong\n")};
-        }
-        if (request.date.empty()) {
-            request.date = "2005-02-03";
-        }
-        if (request.output.name.empty()) {
-            request.output.name = database_;
-        }
-        return RunBuild(request, in_, out_, err_);
-    }
-
-    std::string Output() {
-        std::string text = out_.str();
-        out_.str("");
-        return text;
-    }
-
-    TestFolder folder_;
-    std::string database_ = folder_.Text() + "Acronyms.dat";
-    std::istringstream in_;
-    std::ostringstream out_;
-    std::ostringstream err_;
-};
+class BuildCommandTest : public CommandsTest {};
 
 TEST_F(BuildCommandTest, CorrectsTheDictionariesButNotTheLists) {
     folder_.Write("my.dict", "ABC\n  Alpha\n");
