@@ -42,6 +42,10 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
                   librsvg2-common util-linux trayer xfwm4 metacity)
 
+# They make packages, and list and check what is in them.
+package_packages=(git gzip file fakeroot dpkg-dev python3 librsvg2-bin base-files)
+windows_package_packages=(nsis wx3.2-headers libpng16-16)
+
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 

@@ -1,13 +1,18 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# make_database.sh FOLDER: builds Acronyms.dat in the folder of the built programs from the entries in
+# make_database.sh [--strict] FOLDER: builds Acronyms.dat in the folder of the built programs from the entries in
 # data/ and the V.E.R.A. list in Debian's package dict-vera, corrected by data/vera-corrections.tsv. It
 # downloads the package and unpacks it without installing it. If it cannot get the package, it builds
-# the database from data/ alone.
+# the database from data/ alone; with --strict, which packages are made with, it fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
+strict=
+if [ "${1:-}" = --strict ]; then
+    strict=yes
+    shift
+fi
 folder=${1:?folder of the built programs}
 brelex=$folder/brelex emulator=
 if [ -f "$brelex.exe" ]; then
@@ -45,6 +50,7 @@ if index=$(find_vera); then
     inputs+=("$index")
     options=(--corrections "$corrections")
 else
+    [ -z "$strict" ] || fail "cannot get the package dict-vera"
     echo "make_database: cannot get the package dict-vera; using data/*.tsv alone" >&2
 fi
 

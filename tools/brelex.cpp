@@ -18,6 +18,7 @@
 #include "tools/build_command.h"
 #include "tools/export_command.h"
 #include "tools/input_file.h"
+#include "tools/licenses_command.h"
 #include "tools/lookup_command.h"
 #include "tools/open_database.h"
 #include "tools/parser_messages.h"
@@ -242,11 +243,18 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     const brelex::Utf8Terminal terminal;
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);
+    CommandLine line;
+    app.add_flag_callback(
+        "--licenses",
+        [&line] {
+            line.code = brelex::RunLicenses(brelex::ProgramFolder(), std::cout, std::cerr);
+            throw CLI::Success();  // ends the parsing, as --version does: no command is needed
+        },
+        "Print the licenses of the program and the database, and exit");
     // On Windows, too, "/x" is a text to look up or the path of a file.
     app.allow_windows_style_options(false);
     app.require_subcommand(1);
     app.fallthrough();
-    CommandLine line;
     line.output.terminal = TerminalAsWanted();
     app.add_option("-d,--database", line.database,
                    "Database file to read (default: Acronyms.dat in this program's folder)")
@@ -275,7 +283,9 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
                       << "\nRun with --help for more information.\n";
             return brelex::kFailed;
         }
-        line.code = app.exit(error);  // prints the help or the version
+        if (error.get_name() != "Success") {
+            line.code = app.exit(error);  // prints the help or the version
+        }
     }
 
     std::cout.flush();

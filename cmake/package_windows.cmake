@@ -1,0 +1,4 @@
+# SPDX-License-Identifier: MIT
+set(CPACK_GENERATOR ZIP External)
+set(CPACK_PACKAGE_FILE_NAME "brevilexicon-${PROJECT_VERSION}-windows")
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY ON)
