@@ -15,6 +15,10 @@ the terminal and to scripts, and builds databases from your own lists.
 The database of more than 25,000 entries is part of the package. Nothing is
 looked up on the network.")
 
+if(NOT BRELEX_PACKAGING)
+  return()
+endif()
+
 # What the distribution wants to know about the package.
 string(TIMESTAMP changelog_date "%a, %d %b %Y %H:%M:%S +0000" UTC)  # SOURCE_DATE_EPOCH, if it is set
 set(debian_documents "${CMAKE_BINARY_DIR}/debian")

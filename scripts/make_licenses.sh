@@ -35,8 +35,7 @@ copyright_of() { text_of "$doc/$1/copyright"; }
 # that format.
 license_in() {
     copyright_of "$1" | awk -v start="License: $2" '
-        isText && /^[^ ]/ { exit }
-        isText && /^$/ { exit }
+        /^$/ || /^[^ ]/ { isText = 0 }
         isText { sub(/^ /, ""); sub(/^\. ?$/, ""); print }
         before == "" && $0 == start { isText = 1 }
         /^The text is not/ { print }
@@ -47,7 +46,7 @@ license_in() {
 runtime_exception() {
     copyright_of "$1" | awk '
         /^GCC RUNTIME LIBRARY EXCEPTION/ { isText = 1 }
-        isText && /^libquadmath/ { exit }
+        /^libquadmath/ { isText = 0 }
         isText || /^The text is not/ { print }'
 }
 

@@ -47,6 +47,13 @@ expect 0 "help" "$brelex" --help;                 contains out lookup
 for command in build export info dump check lookup search anagram; do
     expect 0 "help of $command" "$brelex" $command --help
 done
+expect 2 "licenses that are missing" "$brelex" --licenses
+contains err "brelex: cannot read"
+contains err "Licenses.txt"
+printf 'One license\r\nAnother\n' >"$folder/Licenses.txt"
+expect 0 "licenses" "$brelex" --licenses;         prints out $'One license\nAnother'
+expect 0 "licenses before a command" "$brelex" --licenses info
+prints out $'One license\nAnother'
 expect 2 "no command" "$brelex";                  contains err "brelex: name a command"
 expect 2 "unknown command" "$brelex" frobnicate
 contains err "brelex: there is no command frobnicate"
