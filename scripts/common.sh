@@ -51,6 +51,9 @@ package_test_packages=(lintian desktop-file-utils appstream mandoc mmdebstrap bu
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 
+# They check the manual pages and run the completion files.
+documentation_packages=(mandoc bash-completion fish zsh)
+
 # Installs everything needed to build and run the Windows program: packages, wxWidgets and Wine.
 need_windows() {
     need_packages "${windows_packages[@]}" "$@"
