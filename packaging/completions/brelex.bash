@@ -6,10 +6,10 @@
 # answers take the case of what was typed: otherwise readline could shorten the word. An abbreviation
 # with other characters than these would have to be quoted.
 _brelex_abbreviations() {
-    local case='A-Z a-z'
+    local case='A-Z a-z' database=${2//[\\\"\']/}  # as on the line, but without quoting
     [[ $cur =~ ^[A-Za-z0-9./+_-]+$ ]] || return
     [[ $cur == *[A-Z]* ]] && case='a-z A-Z'
-    mapfile -t COMPREPLY < <("${1/#\~/$HOME}" ${2:+-d "${2/#\~/$HOME}"} search \
+    mapfile -t COMPREPLY < <("${1/#\~/$HOME}" ${database:+-d "${database/#\~/$HOME}"} search \
         --in abbreviations --position beginning --all -- "$cur" 2>/dev/null |
         cut -f 1 | grep -x '[A-Za-z0-9./+_-]*' | tr $case | LC_ALL=C sort -u)
 }

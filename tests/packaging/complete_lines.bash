@@ -9,9 +9,11 @@ done
 compopt() { :; }  # has no effect on what is offered, and fails outside of a completion
 while IFS= read -r COMP_LINE; do
     COMP_POINT=${#COMP_LINE}
-    # Bash treats the signs between an option and its value as words of their own.
+    # Bash treats the signs between an option and its value as words of their own. A
+    # quoted blank does not end a word.
     words=${COMP_LINE//=/ = }
-    read -ra COMP_WORDS <<<"$words"
+    read -ra COMP_WORDS <<<"${words//\\ /$'\1'}"
+    COMP_WORDS=("${COMP_WORDS[@]//$'\1'/\\ }")
     [[ $COMP_LINE != *' ' ]] || COMP_WORDS+=("")
     COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
     COMPREPLY=()

@@ -34,7 +34,8 @@ END
 printf 'RAT\tRemote Access Tool\n' >other.tsv
 brelex build -o "$folder/bin/Acronyms.dat" list.tsv >/dev/null 2>&1 || exit 1
 brelex build -o other.dat other.tsv >/dev/null 2>&1 || exit 1
-touch 'with blank.dat' dictionary.index dictionary.dict.dz notes.txt book.hlp rabbit
+cp other.dat 'with blank.dat'
+touch dictionary.index dictionary.dict.dz notes.txt book.hlp rabbit
 
 # offers LINE WORD...: the shell offers exactly these words at the end of the line.
 lines=() kinds=() expectations=()
@@ -105,6 +106,7 @@ offers 'brelex lookup --json ram ra/' ra/ca
 offers_nothing 'brelex lookup r?'
 offers 'brelex lookup -d other.dat ra' rat
 offers 'brelex -d other.dat lookup ra' rat
+offers 'brelex -d with\ blank.dat lookup ra' rat
 offers 'brelex lookup --database=other.dat ra' rat
 
 offers 'brelex-help -' $(grep -o '"--[a-z]*"' "$sources/help/brelex_help.cpp" | tr -d '"')
