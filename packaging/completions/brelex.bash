@@ -58,7 +58,7 @@ _brelex() {
         local options='-h --help'
         [[ $command == build ]] || options+=' -d --database'
         case $command in
-            '') options+=' --version' ;;
+            '') options+=' --version --licenses' ;;
             build) options+=' --version --date --search-list -o --output --force --corrections' ;;
             export) options+=' --format -o --output --force' ;;
             lookup) options+=' --first -n --number --json' ;;

@@ -55,6 +55,7 @@ complete -c brelex -n 'not __brelex_is build' -s d -l database -r \
     -ka '(__fish_complete_suffix .dat)' -d 'Database file to read'
 
 complete -c brelex -n __brelex_is -l version -d 'Print the version and exit'
+complete -c brelex -n __brelex_is -l licenses -d 'Print all licenses and exit'
 complete -c brelex -n __brelex_is -a build -d 'Build a database file'
 complete -c brelex -n __brelex_is -a info -d 'Show facts about the database'
 complete -c brelex -n __brelex_is -a dump -d 'Print all entries'
