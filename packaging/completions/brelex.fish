@@ -33,8 +33,10 @@ end
 
 # Prints the abbreviations that begin with the current word, each with its expansion.
 function __brelex_abbreviations
-    set -l words (commandline -opc)
+    # Fish has not yet replaced the sign for the home folder.
+    set -l words (commandline -opc | string replace -r '^~/' "$HOME/")
     set -l text (commandline -ct)
+    command -q $words[1]; or return
     string match -qr '^[\w./+-]+$' -- $text; or return
     set -l database
     for i in (seq 2 (count $words))

@@ -18,7 +18,7 @@ while IFS= read -r COMP_LINE; do
     COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
     COMPREPLY=()
     command=${COMP_WORDS[0]}
-    completer=$(complete -p "$command" | sed 's/.*-F \([^ ]*\).*/\1/')
+    completer=$(complete -p "${command##*/}" | sed 's/.*-F \([^ ]*\).*/\1/')
     "$completer" "$command" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
     [ ${#COMPREPLY[@]} = 0 ] || printf '%s\n' "${COMPREPLY[@]}"
     echo

@@ -108,6 +108,8 @@ offers 'brelex lookup -d other.dat ra' rat
 offers 'brelex -d other.dat lookup ra' rat
 offers 'brelex -d with\ blank.dat lookup ra' rat
 offers 'brelex lookup --database=other.dat ra' rat
+offers '~/bin/brelex lookup -d ~/files/other.dat ra' rat
+offers_nothing '~/brelex lookup ra'
 
 offers 'brelex-help -' $(grep -o '"--[a-z]*"' "$sources/help/brelex_help.cpp" | tr -d '"')
 offers_files 'brelex-help ' book.hlp
