@@ -3,8 +3,8 @@
 # which loads this file when it is first needed.
 
 # _brelex_abbreviations PROGRAM DATABASE: completes an abbreviation. Look-ups ignore case, so the
-# answers take the case of what was typed: otherwise readline could shorten the word. An abbreviation
-# with other characters than these would have to be quoted.
+# answers take the case of what was typed: otherwise readline could shorten the word. An
+# abbreviation with other characters than these would have to be quoted.
 _brelex_abbreviations() {
     local case='A-Z a-z' database=${2//[\\\"\']/}  # as on the line, but without quoting
     [[ $cur =~ ^[A-Za-z0-9./+_-]+$ ]] || return
@@ -71,7 +71,9 @@ _brelex() {
     fi
 
     case $command in
-        '') COMPREPLY=($(compgen -W 'build info dump export check lookup search anagram' -- "$cur")) ;;
+        '')
+            local commands='build info dump export check lookup search anagram'
+            COMPREPLY=($(compgen -W "$commands" -- "$cur")) ;;
         build) _filedir '@(tsv|index|dict|dict.dz)' ;;
         lookup) _brelex_abbreviations "$1" "$database" ;;
     esac

@@ -72,7 +72,7 @@ complete -c brelex -n '__brelex_is build' -l date -x -d 'Release date of the dat
 complete -c brelex -n '__brelex_is build' -l search-list -x -d 'Suggested search texts'
 complete -c brelex -n '__brelex_is build' -s o -l output -r \
     -ka '(__fish_complete_suffix .dat)' -d 'File to write'
-complete -c brelex -n '__brelex_is build' -l force -d 'Replace a file that is not a sound database'
+complete -c brelex -n '__brelex_is build' -l force -d 'Replace a file that is no database'
 complete -c brelex -n '__brelex_is build' -l corrections -r -F -d 'Corrections to the dictionaries'
 complete -c brelex -n '__brelex_is build' \
     -ka '(__fish_complete_suffix .tsv)'
@@ -82,10 +82,12 @@ complete -c brelex -n '__brelex_is export' -l format -x -a 'tsv csv json dictd s
 complete -c brelex -n '__brelex_is export' -s o -l output -r -F -d 'File to write'
 complete -c brelex -n '__brelex_is export' -l force -d 'Replace a file that is there'
 
-complete -c brelex -n '__brelex_is lookup' -l first -d 'Print the first entry that begins with the text'
+complete -c brelex -n '__brelex_is lookup' -l first \
+    -d 'Print the first entry that begins with the text'
 complete -c brelex -n '__brelex_is lookup' -a '(__brelex_abbreviations)'
 
-complete -c brelex -n '__brelex_is search' -l in -x -a 'abbreviations expansions' -d 'What to search'
+complete -c brelex -n '__brelex_is search' -l in -x -a 'abbreviations expansions' \
+    -d 'What to search'
 complete -c brelex -n '__brelex_is search' -l position -x -a 'anywhere beginning ending' \
     -d 'Where the text must be'
 complete -c brelex -n '__brelex_is search' -l match-case -d 'Match case'

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# manual_pages_test.sh BRELEX: checks the form of the manual pages, and that they describe each command
-# and option that brelex and brelex-help have. Exits 77 if mandoc is not installed.
+# manual_pages_test.sh BRELEX: checks the form of the manual pages, and that they describe each
+# command and option that brelex and brelex-help have. Exits 77 if mandoc is not installed.
 set -u
+export LC_ALL=C.UTF-8
 brelex=$1
 command -v mandoc >/dev/null || { echo "mandoc is not installed"; exit 77; }
 cd "$(dirname "$0")/../.." || exit 1
@@ -13,7 +14,7 @@ for page in brelex brelex-help brevilexicon; do
     checks=$((checks + 2))
     messages=$(mandoc -T lint -W warning "docs/$page.1" 2>&1) && [ -z "$messages" ] ||
         fails "docs/$page.1:"$'\n'"$messages"
-    wide=$(mandoc -T utf8 -O width=80 "docs/$page.1" | sed 's/.\x08//g' | LC_ALL=C.UTF-8 grep -E '.{81}')
+    wide=$(mandoc -T utf8 -O width=80 "docs/$page.1" | sed 's/.\x08//g' | grep -E '.{81}')
     [ -z "$wide" ] || fails "docs/$page.1 is wider than 80 columns:"$'\n'"$wide"
 done
 
@@ -22,7 +23,7 @@ has() {
     checks=$((checks + 1))
     grep -qE -- "(^\.| )$2( |$)" <<<"$1" || fails "the manual page lacks $3"
 }
-# has_options COMMAND TEXT: all options in the help of the command (or in that of brelex) are in TEXT.
+# has_options COMMAND TEXT: all options in the help of the command, or of brelex, are in TEXT.
 has_options() {
     local name words
     for name in $("$brelex" $1 --help | sed -n 's/^  \(-[^ ]*\) .*/\1/p' | tr ',' ' '); do

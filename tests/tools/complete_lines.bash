@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# complete_lines.bash FOLDER: reads command lines and prints what bash offers at their ends, with the
-# completion files in FOLDER. An empty line ends each answer.
+# complete_lines.bash FOLDER: reads command lines and prints what bash offers at their ends, with
+# the completion files in FOLDER. An empty line ends each answer.
 . /usr/share/bash-completion/bash_completion
 for file in "$1"/*.bash; do
     . "$file"
@@ -9,8 +9,8 @@ done
 compopt() { :; }  # has no effect on what is offered, and fails outside of a completion
 while IFS= read -r COMP_LINE; do
     COMP_POINT=${#COMP_LINE}
-    # Bash treats the signs between an option and its value as words of their own. A
-    # quoted blank does not end a word.
+    # Bash treats the sign between an option and its value as a word of its own. A quoted blank
+    # does not end a word.
     words=${COMP_LINE//=/ = }
     read -ra COMP_WORDS <<<"${words//\\ /$'\1'}"
     COMP_WORDS=("${COMP_WORDS[@]//$'\1'/\\ }")

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# completions_test.sh SHELL BRELEX: compares what SHELL (bash, fish or zsh) offers on the command lines
-# of brelex and brelex-help with what these programs accept. It asks brelex itself for its commands,
-# options and values. Exits 77 if the shell is not installed.
+# completions_test.sh SHELL BRELEX: compares what SHELL (bash, fish or zsh) offers on the command
+# lines of brelex and brelex-help with what these programs accept. It asks brelex itself for its
+# commands, options and values. Exits 77 if the shell is not installed.
 set -u
 shell=$1
 brelex=$2
@@ -39,7 +39,10 @@ touch dictionary.index dictionary.dict.dz notes.txt book.hlp rabbit
 
 # offers LINE WORD...: the shell offers exactly these words at the end of the line.
 lines=() kinds=() expectations=()
-ask() { kinds+=("$1") lines+=("$2"); shift 2; expectations+=("$(printf '%s\n' "$@" | LC_ALL=C sort -u)"); }
+ask() {
+    kinds+=("$1") lines+=("$2"); shift 2
+    expectations+=("$(printf '%s\n' "$@" | LC_ALL=C sort -u)")
+}
 offers() { ask words "$@"; }
 offers_nothing() { ask words "$1" ""; }
 # offers_file LINE NAME: this file is among what the shell offers.
@@ -48,7 +51,7 @@ offers_file() { ask file "$1" "$2"; }
 # below them.
 offers_files() { ask files "$@"; }
 
-# options_of [COMMAND]: prints the options in the help of a command, each with the kind of its value.
+# options_of [COMMAND]: prints the options in a command's help, each with the kind of its value.
 options_of() {
     brelex "$@" --help | sed -n 's/^  \(-[^ ]*\) \([A-Z][^ ]*\)\? .*/\1 \2/p'
 }
@@ -83,7 +86,10 @@ for command in $commands; do
     done <<<"$options"
 done
 # Guards against a help whose form has changed.
-[ "$(wc -w <<<"$commands")" -ge 8 ] && [ $found -ge 35 ] || { echo "FAILED: only $found options"; exit 1; }
+if [ "$(wc -w <<<"$commands")" -lt 8 ] || [ $found -lt 35 ]; then
+    echo "FAILED: found only $found options of these commands: $commands"
+    exit 1
+fi
 
 offers_files 'brelex -d ' other.dat 'with blank.dat'
 offers_files 'brelex build ' list.tsv other.tsv dictionary.index dictionary.dict.dz
@@ -121,7 +127,7 @@ case $shell in
     zsh) no_settings=-f ;;
 esac
 printf '%s\n' "${lines[@]}" | timeout 100 "$shell" $no_settings \
-    "$sources/tests/packaging/complete_lines.$shell" "$sources/packaging/completions" \
+    "$sources/tests/tools/complete_lines.$shell" "$sources/packaging/completions" \
     >"$folder/answers" 2>"$folder/messages"
 if [ -s "$folder/messages" ]; then
     echo "FAILED: $shell says:"; cat "$folder/messages"
