@@ -30,3 +30,31 @@ foreach(program ${programs})
        SYMBOLIC)
   install(FILES "${CMAKE_BINARY_DIR}/links/${program}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endforeach()
+
+# The manual pages, compressed, as man finds them fastest and Debian wants them.
+find_program(GZIP gzip REQUIRED)
+set(manual_pages)
+foreach(program ${programs})
+  set(source "${CMAKE_SOURCE_DIR}/docs/${program}.1")
+  set(page "${CMAKE_BINARY_DIR}/share/man/man1/${program}.1.gz")
+  add_custom_command(OUTPUT "${page}"
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${CMAKE_BINARY_DIR}/share/man/man1"
+    COMMAND "${GZIP}" -9nc "${source}" > "${page}"
+    DEPENDS "${source}"
+    VERBATIM)
+  list(APPEND manual_pages "${page}")
+endforeach()
+add_custom_target(manual_pages ALL DEPENDS ${manual_pages})
+install(FILES ${manual_pages} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+
+# What the shells complete. Debian's zsh has a folder of its own for packages.
+set(completions "${CMAKE_SOURCE_DIR}/packaging/completions")
+set(BRELEX_ZSH_FOLDER "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions" CACHE STRING
+    "Folder for the completions of zsh, relative to the prefix")
+foreach(program brelex brelex-help)
+  install(FILES "${completions}/${program}.bash" RENAME "${program}"
+          DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+  install(FILES "${completions}/${program}.fish"
+          DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
+endforeach()
+install(FILES "${completions}/_brelex" DESTINATION "${BRELEX_ZSH_FOLDER}")

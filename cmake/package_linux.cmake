@@ -5,6 +5,7 @@ set(CPACK_PACKAGE_FILE_NAME
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS bash-completion)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Brevilexicon tells you what an abbreviation stands for. Type its first
 letters, and the list is there. It also searches the expansions with
@@ -24,7 +25,6 @@ string(TIMESTAMP changelog_date "%a, %d %b %Y %H:%M:%S +0000" UTC)  # SOURCE_DAT
 set(debian_documents "${CMAKE_BINARY_DIR}/debian")
 configure_file(packaging/debian/copyright "${debian_documents}/copyright" @ONLY)
 configure_file(packaging/debian/changelog.in "${debian_documents}/changelog" @ONLY)
-find_program(GZIP gzip REQUIRED)
 execute_process(COMMAND "${GZIP}" -9nf changelog WORKING_DIRECTORY "${debian_documents}"
                 COMMAND_ERROR_IS_FATAL ANY)
 install(FILES "${debian_documents}/copyright" "${debian_documents}/changelog.gz"
