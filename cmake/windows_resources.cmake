@@ -2,22 +2,22 @@
 # windows_resources(PROGRAM DESCRIPTION [TOOLKIT]): gives a Windows program its icon, version
 # information and manifest. With TOOLKIT it also adds the toolkit's own resources (cursors).
 enable_language(RC)
-find_program(RSVG_CONVERT rsvg-convert)
 find_program(ICOTOOL icotool)
 set(program_ico "${CMAKE_BINARY_DIR}/brevilexicon.ico")
 if(RSVG_CONVERT AND ICOTOOL)
   set(pictures)
   set(small)
   foreach(size 16 20 24 32 40 48 64 128)
+    icon_drawing(${size} drawing)
     list(APPEND pictures COMMAND "${RSVG_CONVERT}" -w ${size} -h ${size} -o icon${size}.png
-                                 "${CMAKE_SOURCE_DIR}/assets/icon.svg")
+                                 "${drawing}")
     list(APPEND small icon${size}.png)
   endforeach()
   add_custom_command(OUTPUT "${program_ico}"
     ${pictures}
     COMMAND "${RSVG_CONVERT}" -w 256 -h 256 -o icon256.png "${CMAKE_SOURCE_DIR}/assets/icon.svg"
     COMMAND "${ICOTOOL}" -c -o "${program_ico}" ${small} --raw=icon256.png
-    DEPENDS "${CMAKE_SOURCE_DIR}/assets/icon.svg"
+    DEPENDS "${CMAKE_SOURCE_DIR}/assets/icon.svg" "${CMAKE_SOURCE_DIR}/assets/icon-small.svg"
     WORKING_DIRECTORY "${CMAKE_BINARY_DIR}"
     COMMENT "Drawing the program's icon" VERBATIM)
   add_custom_target(program_ico DEPENDS "${program_ico}")

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "toolkit/app_icon.h"
 
+#include "embedded/kIconSmallSvg.h"
 #include "embedded/kIconSvg.h"
 
 namespace brelex {
 
 wxBitmapBundle AppIcon(int size) {
-    return wxBitmapBundle::FromSVG(kIconSvg, wxSize(size, size));
+    constexpr int kSmall = 24;  // cmake/icons.cmake has the same limit
+    return wxBitmapBundle::FromSVG(size <= kSmall ? kIconSmallSvg : kIconSvg, wxSize(size, size));
 }
 
 wxIconBundle AppIcons() {
