@@ -17,21 +17,3 @@ add_custom_command(OUTPUT "${read_me}"
   DEPENDS "${CMAKE_SOURCE_DIR}/help/ReadMe.txt"
   VERBATIM)
 add_custom_target(help_book ALL DEPENDS "${help_book}" "${read_me}")
-
-# On Linux a MIME type and a desktop entry tell the desktop which program shows the book. A build
-# tree contains both in its share/, which you can add to XDG_DATA_DIRS.
-if(NOT WIN32)
-  set(HELP_PROGRAM "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/brelex-help")
-  set(share "${CMAKE_BINARY_DIR}/share")
-  configure_file("${CMAKE_SOURCE_DIR}/packaging/linux/brelex-help.desktop.in"
-                 "${share}/applications/brelex-help.desktop" @ONLY)
-  configure_file("${CMAKE_SOURCE_DIR}/packaging/linux/brelex-help-type.xml"
-                 "${share}/mime/packages/brelex-help-type.xml" COPYONLY)
-  # This is what update-desktop-database would write.
-  file(WRITE "${share}/applications/mimeinfo.cache"
-       "[MIME Cache]\napplication/x-brelex-help=brelex-help.desktop;\n")
-  find_program(UPDATE_MIME_DATABASE update-mime-database)
-  if(UPDATE_MIME_DATABASE)
-    execute_process(COMMAND "${UPDATE_MIME_DATABASE}" "${share}/mime" ERROR_QUIET)
-  endif()
-endif()

@@ -19,7 +19,7 @@ namespace brelex {
 namespace {
 
 const char* const kContentType = "application/x-brelex-help";
-const char* const kPlaceForProgram = "@HELP_PROGRAM@";
+const char* const kPlaceForCommand = "@HELP_COMMAND@";
 
 struct UnrefObject {
     void operator()(GDesktopAppInfo* object) const { g_object_unref(object); }
@@ -60,8 +60,8 @@ bool MakeDefault(const std::filesystem::path& entry) {
 
 bool Register(const std::filesystem::path& data, const std::string& program) {
     std::string entry = kHelpDesktopEntry;
-    entry.replace(entry.find(kPlaceForProgram), std::string_view(kPlaceForProgram).size(),
-                  EscapedForExecLine(program));
+    entry.replace(entry.find(kPlaceForCommand), std::string_view(kPlaceForCommand).size(),
+                  '"' + EscapedForExecLine(program) + '"');
     return Write(MimeTypePath(data), kHelpMimeType) && UpdateMimeDatabase(data) &&
            Write(DesktopEntryPath(data), entry) && MakeDefault(DesktopEntryPath(data));
 }
