@@ -8,6 +8,9 @@ namespace brelex {
 /// The application title, in captions and messages.
 inline constexpr const char* kAppTitle = "Brevilexicon";
 
+/// What Linux desktops call the application: the name of its desktop entry and of its icon.
+inline constexpr const char* kApplicationId = "example.brevilexicon.Brevilexicon";
+
 /// What the program says about itself. Texts are UTF-8.
 struct AppInfo {
     int majorVersion = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/modRunAtStartup.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -32,9 +33,36 @@ std::optional<fs::path> AutostartFile() {
     return fs::path(home) / ".config" / kName;
 }
 
-bool Contains(const fs::path& file, std::string_view text) {
-    const std::optional<ByteBuffer> content = ReadWholeFile(file);
-    return content && content->View() == text;
+// Whether desktops keep their own settings of an autostart entry in a line, such as "Hidden=true".
+bool IsDesktopsOwn(std::string_view line) {
+    const std::string_view key = line.substr(0, line.find_first_of(" \t="));
+    return key == "Hidden" || key == "X-GNOME-Autostart-enabled" ||
+           key == "X-GNOME-Autostart-Delay" || key == "X-MATE-Autostart-enabled" ||
+           key == "X-MATE-Autostart-Delay" || key.starts_with("X-KDE-autostart-");
+}
+
+// The lines of an entry in which a desktop keeps its own settings.
+std::string DesktopsLines(std::string_view entry) {
+    std::string lines;
+    bool isMainGroup = false;
+    while (!entry.empty()) {
+        const std::string_view line = entry.substr(0, entry.find('\n'));
+        entry.remove_prefix(std::min(line.size() + 1, entry.size()));
+        if (line.starts_with('[')) {
+            isMainGroup = line.starts_with("[Desktop Entry]");
+        } else if (isMainGroup && IsDesktopsOwn(line)) {
+            lines.append(line).append("\n");
+        }
+    }
+    return lines;
+}
+
+// TryExec keeps the desktop from complaining about an entry whose program was removed.
+std::string Entry(const std::string& program) {
+    return std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
+           "\nComment=" BRELEX_DESCRIPTION "\nExec=\"" + EscapedForExecLine(program) +
+           "\" /minimize\nTryExec=" + EscapedForDesktopEntry(program) + "\nIcon=" + kApplicationId +
+           "\n";
 }
 
 }  // namespace
@@ -48,11 +76,11 @@ bool SetRunAtStartup(const std::string& appFolder, const std::string& programNam
     if (!enable) {
         return fs::remove(*file, error);
     }
-    const std::string entry = std::string("[Desktop Entry]\nType=Application\nName=") + kAppTitle +
-                              "\nExec=\"" + EscapedForExecLine(appFolder + programName) +
-                              "\" /minimize\n";
+    const std::optional<ByteBuffer> old = ReadWholeFile(*file);
+    const std::string entry =
+        Entry(appFolder + programName) + (old ? DesktopsLines(old->View()) : std::string());
     // Every start asks for the entry, and seldom is it not there yet.
-    if (Contains(*file, entry)) {
+    if (old && old->View() == entry) {
         return true;
     }
     fs::create_directories(file->parent_path(), error);

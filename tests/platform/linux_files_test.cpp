@@ -341,7 +341,10 @@ TEST(SetRunAtStartupOnLinux, WritesTheAutostartEntryAndDeletesIt) {
     const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
     EXPECT_EQ(ReadText(file),
               "[Desktop Entry]\nType=Application\nName=Brevilexicon\n"
-              "Exec=\"/opt/Brevi Lexicon/brevilexicon\" /minimize\n");
+              "Comment=Offline dictionary of computer acronyms and abbreviations\n"
+              "Exec=\"/opt/Brevi Lexicon/brevilexicon\" /minimize\n"
+              "TryExec=/opt/Brevi Lexicon/brevilexicon\n"
+              "Icon=example.brevilexicon.Brevilexicon\n");
     EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", "brevilexicon", true));
     EXPECT_NE(ReadText(file).find("/opt/elsewhere/"), std::string::npos);
     EXPECT_TRUE(SetRunAtStartup("/opt/elsewhere/", "brevilexicon", false));
@@ -360,9 +363,72 @@ TEST(SetRunAtStartupOnLinux, WritesOnlyAnEntryThatDiffers) {
     fs::last_write_time(file, longAgo);
     EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
     EXPECT_EQ(fs::last_write_time(file), longAgo);
-    folder.Write("autostart/brevilexicon.desktop", entry + "Hidden=true\n");
+    folder.Write("autostart/brevilexicon.desktop", entry + "Terminal=true\n");
     EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
     EXPECT_EQ(ReadText(file), entry);
+}
+
+struct SwitchCase {
+    const char* name;
+    const char* line;
+};
+
+class EntrySwitchedOffByTheDesktop : public testing::TestWithParam<SwitchCase> {};
+
+TEST_P(EntrySwitchedOffByTheDesktop, StaysSwitchedOff) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    const std::string line = std::string(GetParam().line) + "\n";
+    ASSERT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
+    const std::string entry = ReadText(file);
+    // As a desktop writes it: with lines of its own among ours.
+    const std::string ours = entry.substr(entry.find('\n') + 1);
+    folder.Write("autostart/brevilexicon.desktop",
+                 "[Desktop Entry]\n" + line + "StartupNotify=false\n" + ours);
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(ReadText(file), entry + line);
+    // Now nothing differs.
+    const fs::file_time_type longAgo = fs::last_write_time(file) - std::chrono::hours(1);
+    fs::last_write_time(file, longAgo);
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(fs::last_write_time(file), longAgo);
+    // The program may have moved since.
+    EXPECT_TRUE(SetRunAtStartup("/usr/lib/brevilexicon/", "brevilexicon", true));
+    const std::string moved = ReadText(file);
+    EXPECT_NE(moved.find("\nTryExec=/usr/lib/brevilexicon/brevilexicon\n"), std::string::npos);
+    EXPECT_TRUE(moved.ends_with("\n" + line)) << moved;
+    // The program's own switch deletes the entry with all settings.
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", false));
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(ReadText(file), entry);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Desktops, EntrySwitchedOffByTheDesktop,
+    testing::Values(SwitchCase{"Hidden", "Hidden=true"}, SwitchCase{"WithBlanks", "Hidden = true"},
+                    SwitchCase{"Gnome", "X-GNOME-Autostart-enabled=false"},
+                    SwitchCase{"Mate", "X-MATE-Autostart-enabled=false"},
+                    SwitchCase{"Kde", "X-KDE-autostart-condition=a:b:c:false"}),
+    CaseName());
+
+TEST(SetRunAtStartupOnLinux, KeepsNothingElseOfAFile) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    ASSERT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    const fs::path file = folder.Path() / "autostart/brevilexicon.desktop";
+    const std::string entry = ReadText(file);
+    for (const std::string other :
+         {"", "\n", "\n\n", "Hidden=true\n", "[Other]\nHidden=true\n",
+          "[Desktop Entry]\n[Other]\nHidden=true", "[Desktop Entry]\n#Hidden=true\nHiddenTruth=1\n",
+          "[Desktop Entry]\nExec=/bin/false\nHidden[de]=true"}) {
+        folder.Write("autostart/brevilexicon.desktop", other);
+        EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+        EXPECT_EQ(ReadText(file), entry) << other;
+    }
+    folder.Write("autostart/brevilexicon.desktop", "[Desktop Entry]\nHidden=true");
+    EXPECT_TRUE(SetRunAtStartup("/opt/", "brevilexicon", true));
+    EXPECT_EQ(ReadText(file), entry + "Hidden=true\n") << "the last line needs no end";
 }
 
 TEST(SetRunAtStartupOnLinux, NamesTheFileThatTheProgramIs) {
@@ -384,7 +450,18 @@ TEST(SetRunAtStartupOnLinux, ReservedCharactersOfThePathAreEscaped) {
     const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
     EXPECT_TRUE(SetRunAtStartup("/a\"b`c$d\\e%f/", "brevilexicon", true));
     EXPECT_NE(ReadText(folder.Path() / "autostart/brevilexicon.desktop")
-                  .find("Exec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f/brevilexicon\" /minimize\n"),
+                  .find("Exec=\"/a\\\\\"b\\\\`c\\\\$d\\\\\\\\e%%f/brevilexicon\" /minimize\n"
+                        "TryExec=/a\"b`c$d\\\\e%f/brevilexicon\n"),
+              std::string::npos);
+}
+
+TEST(SetRunAtStartupOnLinux, ALineBreakInThePathBeginsNoLineOfTheEntry) {
+    const TestFolder folder;
+    const Environment configuration("XDG_CONFIG_HOME", folder.Path().string());
+    EXPECT_TRUE(SetRunAtStartup("/a\nExec=b\r\tc/", "brevilexicon", true));
+    EXPECT_NE(ReadText(folder.Path() / "autostart/brevilexicon.desktop")
+                  .find("\nExec=\"/a\\nExec=b\\r\\tc/brevilexicon\" /minimize\n"
+                        "TryExec=/a\\nExec=b\\r\\tc/brevilexicon\n"),
               std::string::npos);
 }
 
