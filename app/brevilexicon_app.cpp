@@ -5,8 +5,10 @@
 #include <wx/datetime.h>
 
 #include "app/exception_report.h"
+#include "base/app_info.h"
 #include "database/program_values.h"
 #include "platform/desktop/command_line.h"
+#include "platform/desktop/program_identity.h"
 #include "platform/desktop/wx_folder_picker.h"
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/system/modRunAtStartup.h"
@@ -29,12 +31,14 @@ float SecondsSinceMidnight() {
 // The fonts are read while the toolkit initializes itself and reads the theme.
 bool BrevilexiconApp::Initialize(int& argumentCount, wxChar** arguments) {
     StartReadingFonts();
+    SetDesktopEntry(kApplicationId);
     return wxApp::Initialize(argumentCount, arguments);
 }
 
 bool BrevilexiconApp::OnInit() {
     SetAppName("brevilexicon");
     SetAppDisplayName(kAppTitle);
+    SetSpokenProgramName(kAppTitle);
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
     frmMain* const main =

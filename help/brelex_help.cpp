@@ -11,6 +11,7 @@
 #include "base/app_info.h"
 #include "help/help_viewer.h"
 #include "platform/desktop/help_association.h"
+#include "platform/desktop/program_identity.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/system/program_folder.h"
 #include "toolkit/wx_text.h"
@@ -20,8 +21,14 @@ namespace brelex {
 // Not in the unnamed namespace, because the toolkit's macro defines a function that returns it.
 class HelpApp final : public wxApp {
   public:
+    bool Initialize(int& argumentCount, wxChar** arguments) override {
+        SetDesktopEntry(kProgram);
+        return wxApp::Initialize(argumentCount, arguments);
+    }
+
     bool OnInit() override {
-        SetAppName("brelex-help");
+        SetAppName(kProgram);
+        SetSpokenProgramName(kHelpTitle);
         const wxString argument = Argument(1);
         if (argument == "--register" || argument == "--unregister") {
             done_ = OpenHelpFilesWith(argument == "--register"
@@ -41,6 +48,8 @@ class HelpApp final : public wxApp {
     }
 
   private:
+    static constexpr const char* kProgram = "brelex-help";
+
     static wxString BookBesideProgram() { return WxText(ProgramFolder() + kHelpFileName); }
 
     // Returns an argument. Empty if there is none.

@@ -11,6 +11,8 @@
 
 #include <gtk/gtk.h>
 
+#include "base/app_info.h"
+
 namespace brelex {
 
 namespace {
@@ -263,8 +265,9 @@ class StatusNotifier::Item {
         if (name == "Status") {
             return g_variant_new_string("Active");
         }
-        // The name of the icon stays empty, because we supply the picture.
-        return g_variant_new_string(name == "Id"      ? "brevilexicon"
+        // The name of the icon stays empty, because we supply the picture. The theme of the host
+        // might not have the name, for example if the program is not installed.
+        return g_variant_new_string(name == "Id"      ? kApplicationId
                                     : name == "Title" ? tip_.c_str()
                                                       : "");
     }

@@ -228,7 +228,7 @@ class StatusNotifierItem : public MainWindowTest {
 };
 
 TEST_F(StatusNotifierItem, SaysWhatItIs) {
-    EXPECT_EQ(host_.Property("Id"), "(<'brevilexicon'>,)");
+    EXPECT_EQ(host_.Property("Id"), "(<'example.brevilexicon.Brevilexicon'>,)");
     EXPECT_EQ(host_.Property("Title"), "(<'Brevilexicon'>,)");
     EXPECT_EQ(host_.Property("Status"), "(<'Active'>,)");
     EXPECT_EQ(host_.Property("Category"), "(<'ApplicationStatus'>,)");
