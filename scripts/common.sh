@@ -47,6 +47,8 @@ package_packages=(git gzip file fakeroot dpkg-dev python3 librsvg2-bin base-file
 windows_package_packages=(nsis wx3.2-headers libpng16-16)
 package_test_packages=(lintian desktop-file-utils appstream mandoc mmdebstrap bubblewrap xdotool
                        xclip)
+# They draw the icons for Linux and check what a desktop gets.
+desktop_packages=(librsvg2-bin desktop-file-utils appstream imagemagick)
 
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)

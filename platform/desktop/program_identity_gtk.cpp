@@ -5,12 +5,22 @@
 
 namespace brelex {
 
+namespace {
+
+const char* SpokenName(AtkObject* /*program*/) {
+    return g_get_application_name();
+}
+
+}  // namespace
+
 void SetDesktopEntry(const char* id) {
     g_set_prgname(id);
 }
 
 void SetSpokenProgramName(const char* name) {
-    atk_object_set_name(atk_get_root(), name);
+    g_set_application_name(name);
+    // GTK (3.24) always answers with the name that SetDesktopEntry sets.
+    ATK_OBJECT_GET_CLASS(atk_get_root())->get_name = &SpokenName;
 }
 
 }  // namespace brelex

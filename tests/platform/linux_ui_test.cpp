@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the windows ask of an X11 desktop.
+#include <cstddef>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -11,7 +12,9 @@
 
 #include <gtk/gtk.h>
 
+#include "base/app_info.h"
 #include "platform/desktop/help_association.h"
+#include "platform/desktop/program_identity.h"
 #include "platform/list/text_columns.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
@@ -69,6 +72,42 @@ TEST(HelpRegistration, MakesTheViewerTheUsersAndTakesThatBack) {
     EXPECT_FALSE(std::filesystem::exists(type));
     EXPECT_EQ(ReadText(defaults).find("x-brelex-help"), std::string::npos);
     EXPECT_TRUE(OpenHelpFilesWith(""));  // nothing to take back
+}
+
+TEST(SetSpokenProgramName, IsTheNameThatScreenReadersHave) {
+    SetSpokenProgramName("A Program");
+    EXPECT_STREQ(atk_object_get_name(atk_get_root()), "A Program");
+}
+
+// The build tree's share/ contains the icon theme of the program.
+TEST(SymbolicIcon, TakesTheColorOfTheText) {
+    constexpr int kSize = 16;
+    GtkIconInfo* const info = gtk_icon_theme_lookup_icon(
+        gtk_icon_theme_get_default(), (std::string(kApplicationId) + "-symbolic").c_str(), kSize,
+        GTK_ICON_LOOKUP_FORCE_SIZE);
+    ASSERT_NE(info, nullptr) << "XDG_DATA_DIRS lacks the share/ of the build tree";
+    const GdkRGBA red{1, 0, 0, 1};
+    GdkPixbuf* const picture =
+        gtk_icon_info_load_symbolic(info, &red, nullptr, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(gdk_pixbuf_get_width(picture), kSize);
+    int opaque = 0;
+    for (int i = 0; i < kSize * kSize; ++i) {
+        const guchar* const pixel =
+            gdk_pixbuf_read_pixels(picture) +
+            static_cast<std::ptrdiff_t>(i / kSize) * gdk_pixbuf_get_rowstride(picture) +
+            static_cast<std::ptrdiff_t>(i % kSize) * 4;
+        if (pixel[3] == 255) {
+            ++opaque;
+            EXPECT_EQ((std::vector<int>{pixel[0], pixel[1], pixel[2]}),
+                      (std::vector<int>{255, 0, 0}))
+                << "pixel " << i;
+        }
+    }
+    EXPECT_GT(opaque, 100);
+    EXPECT_LT(opaque, 200) << "the letter is cut out";
+    g_object_unref(picture);
+    g_object_unref(info);
 }
 
 // What the box and the list show, as GTK draws the window.
