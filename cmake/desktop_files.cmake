@@ -11,7 +11,6 @@
 #   BRELEX_MIME_TYPE        the MIME type, for share/mime/packages
 #   BRELEX_ICON_THEME       the folder "hicolor", for share/icons
 set(BRELEX_APPLICATION_ID "example.brevilexicon.Brevilexicon")
-set(BRELEX_RELEASE_DATE "2026-11-22" CACHE STRING "Release date of this version, YYYY-MM-DD")
 
 set(BRELEX_SHARE "${CMAKE_BINARY_DIR}/share")
 set(BRELEX_METAINFO "${BRELEX_SHARE}/metainfo/${BRELEX_APPLICATION_ID}.metainfo.xml")

@@ -7,7 +7,9 @@ file(GLOB help_pages RELATIVE "${CMAKE_SOURCE_DIR}/help" CONFIGURE_DEPENDS
 list(TRANSFORM help_pages PREPEND "${CMAKE_SOURCE_DIR}/help/" OUTPUT_VARIABLE help_sources)
 set(help_book "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Brelex.hlp")
 add_custom_command(OUTPUT "${help_book}"
-  COMMAND "${CMAKE_COMMAND}" -E tar cf "${help_book}" --format=zip ${help_pages}
+  # A fixed time: the same pages give the same bytes.
+  COMMAND "${CMAKE_COMMAND}" -E env TZ=UTC "${CMAKE_COMMAND}" -E tar cf "${help_book}" --format=zip
+          "--mtime=2000-01-01 00:00:00 UTC" ${help_pages}
   WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}/help"
   DEPENDS ${help_sources}
   VERBATIM)

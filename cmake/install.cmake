@@ -58,3 +58,9 @@ foreach(program brelex brelex-help)
           DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
 endforeach()
 install(FILES "${completions}/_brelex" DESTINATION "${BRELEX_ZSH_FOLDER}")
+
+# What the desktop finds (cmake/desktop_files.cmake).
+install(FILES ${BRELEX_DESKTOP_ENTRIES} DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${BRELEX_METAINFO}" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+install(FILES "${BRELEX_MIME_TYPE}" DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
+install(DIRECTORY "${BRELEX_ICON_THEME}" DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")
