@@ -13,7 +13,7 @@ wxBitmapBundle AppIcon(int size) {
 
 wxIconBundle AppIcons() {
     wxIconBundle icons;
-    for (const int size : {16, 32, 48, 64}) {
+    for (const int size : {16, 20, 24, 32, 48, 64}) {
         wxIcon icon;
         icon.CopyFromBitmap(AppIcon(size).GetBitmap(wxSize(size, size)));
         icons.AddIcon(icon);

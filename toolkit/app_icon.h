@@ -9,7 +9,7 @@ namespace brelex {
 /// The program's icon, drawn sharply at any size.
 [[nodiscard]] wxBitmapBundle AppIcon(int size);
 
-/// The icon in the sizes that window managers ask for.
+/// The icon in the sizes that window managers and notification areas ask for.
 [[nodiscard]] wxIconBundle AppIcons();
 
 }  // namespace brelex
