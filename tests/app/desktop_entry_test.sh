@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 # desktop_entry_test.sh ENTRY HELP: does what a desktop does with the desktop entry of the program and
 # with that of its help. It starts what they name and matches the windows to the entries. Requires a
-# display of its own.
+# display of its own. The entries may also be installed ones, if PATH has their programs.
 set -u
 entry=$1 help_entry=$2
 folder=$(mktemp -d)
@@ -66,7 +66,7 @@ end
 
 # In PATH there are only links to the programs, and a link knows where its program has the book.
 program=$(command_of "$entry" "Desktop Action help" | tr -d '"')
-ln -s "$program" "$folder/brelex-help"
+ln -s "$(command -v "$program")" "$folder/brelex-help"
 start "env PATH=\"$folder:\$PATH\" brelex-help"
 belongs "Brevilexicon Help" "$help_entry"
 end
