@@ -22,7 +22,7 @@ as_user() {
     local user=()
     [ "$(id -u)" != 0 ] || user=(setpriv --reuid 65534 --regid 65534 --clear-groups)
     "${user[@]}" env -u XDG_RUNTIME_DIR -u DBUS_SESSION_BUS_ADDRESS HOME="$folder/home" \
-        XDG_CONFIG_HOME="$folder/home/.config" TMPDIR=/tmp "$@"
+        XDG_CONFIG_HOME="$folder/home/.config" TMPDIR="$folder/home" "$@"
 }
 chmod 777 "$folder/home"
 

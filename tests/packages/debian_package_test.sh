@@ -84,8 +84,10 @@ grep -q "application/x-brelex-help=.*brelex-help" "$root/usr/share/applications/
 [ -f "$root/usr/share/icons/hicolor/scalable/apps/$id.svg" ] || fail "the icon is not there"
 [ -f "$root/usr/share/metainfo/$id.metainfo.xml" ] || fail "the AppStream data is not there"
 
-step "removing and purging it"
+step "removing it, and purging it"
 apt remove brevilexicon || fail "the package cannot be removed"
+equal "the files after the removal" "$(files)" "$before"
+apt install /packages/new.deb || fail "the package cannot be installed again"
 apt purge brevilexicon || fail "the package cannot be purged"
 equal "the files after the purge" "$(files)" "$before"
 # Homes belong to their users. The entry names a program that is gone, so desktops ignore it.

@@ -34,9 +34,8 @@ look_up_in_window() {
     xdotool type --delay 30 'sbom'
     xdotool key Return
     await "the entry did not open" is_active '^Current Selection'
-    xdotool key ctrl+c
     await "the entry did not arrive on the clipboard" \
-        clipboard_has 'SBOM = Software Bill of Materials'
+        copied 'SBOM = Software Bill of Materials'
     xdotool key Escape
     await "the entry did not close" is_active '^Brevilexicon \('
     xdotool key alt+F4
@@ -50,4 +49,8 @@ look_up_in_window() {
 
 is_active() { [[ $(xdotool getactivewindow getwindowname) =~ $1 ]]; }
 
-clipboard_has() { [[ $(timeout 2 xclip -selection clipboard -o) == "$1"* ]]; }
+# Presses the key until the window has it: it may be in front before it has the keyboard.
+copied() {
+    xdotool key ctrl+c
+    [[ $(timeout 2 xclip -selection clipboard -o) == "$1"* ]]
+}
