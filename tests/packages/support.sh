@@ -47,7 +47,11 @@ look_up_in_window() {
     fail "the program did not end when its window was closed"
 }
 
-is_active() { [[ $(xdotool getactivewindow getwindowname) =~ $1 ]]; }
+# The window is in front, and the keys go to it, which is a moment later.
+is_active() {
+    [[ $(xdotool getactivewindow getwindowname) =~ $1 ]] &&
+        [[ $(xdotool getwindowfocus getwindowname) =~ $1 ]]
+}
 
 # Presses the key until the window has it: it may be in front before it has the keyboard.
 copied() {
