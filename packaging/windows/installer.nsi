@@ -41,7 +41,8 @@ InstallDir "$LOCALAPPDATA\Programs\Brevilexicon"
 !include WordFunc.nsh
 !include "${FILES}"
 
-!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Brevilexicon"
+!define UNINSTALL_KEYS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define UNINSTALL_KEY "${UNINSTALL_KEYS}\Brevilexicon"
 !define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
 !define CLASSES "Software\Classes"
 !define HELP_TYPE "Brevilexicon.Help"
@@ -76,9 +77,8 @@ VIAddVersionKey Comments "${DESCRIPTION}"
 ; --- The pages.
 !define MUI_ABORTWARNING
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE_PICTURE}"
-!define MUI_FINISHPAGE_NOAUTOCLOSE
 !define MUI_UNFINISHPAGE_NOAUTOCLOSE
-!define MUI_COMPONENTSPAGE_SMALLDESC
+!define MUI_COMPONENTSPAGE_NODESC
 
 Page custom ShowUsersPage LeaveUsersPage
 
@@ -318,34 +318,46 @@ FunctionEnd
   File "${SOURCE}/${name}"
 !macroend
 
+; ${Errors} also clears the flag.
 !macro ReplaceFile name
   ${If} $Failed == ""
     ClearErrors
     ${If} ${FileExists} "$INSTDIR\${name}"
       Rename "$INSTDIR\${name}" "${STAGE}\old\${name}"
     ${EndIf}
-    ${IfNot} ${Errors}
-      Rename "${STAGE}\new\${name}" "$INSTDIR\${name}"
-    ${EndIf}
     ${If} ${Errors}
       StrCpy $Failed "${name}"
+    ${Else}
+      Rename "${STAGE}\new\${name}" "$INSTDIR\${name}"
+      ${If} ${Errors}
+        StrCpy $Failed "${name}"
+      ${EndIf}
     ${EndIf}
   ${EndIf}
 !macroend
 
 !macro ReturnFile name
-  ${IfNot} ${FileExists} "${STAGE}\new\${name}"
-    Delete "$INSTDIR\${name}"
-  ${EndIf}
   ${If} ${FileExists} "${STAGE}\old\${name}"
+    Delete "$INSTDIR\${name}"
     Rename "${STAGE}\old\${name}" "$INSTDIR\${name}"
+  ${ElseIfNot} ${FileExists} "${STAGE}\new\${name}"
+    Delete "$INSTDIR\${name}"  ; it is new
   ${EndIf}
 !macroend
 
-Section "Brevilexicon" SectionProgram
+; An installation that did not come to its end, because the power failed for example, left the old files
+; there.
+!macro RescueFile name
+  ${If} ${FileExists} "${STAGE}\old\${name}"
+    !insertmacro ReturnFile "${name}"
+  ${EndIf}
+!macroend
+
+Section "Brevilexicon (required)" SectionProgram
   SectionIn RO
   Call EndPrograms
   SetOutPath "$INSTDIR"
+  !insertmacro ForEachFile RescueFile
   RMDir /r "${STAGE}"
   SetOutPath "${STAGE}\old"
   SetOutPath "${STAGE}\new"
@@ -379,22 +391,18 @@ Section "Brevilexicon" SectionProgram
   Call WriteUninstallEntry
 SectionEnd
 
-Section /o "Desktop shortcut" SectionDesktop
+Section /o "Shortcut on the desktop"
   CreateShortCut "$DESKTOP\Brevilexicon.lnk" "$INSTDIR\brevilexicon.exe" "" "" "" SW_SHOWNORMAL "" \
       "${DESCRIPTION}"
 SectionEnd
 
-!insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
-  !insertmacro MUI_DESCRIPTION_TEXT ${SectionProgram} "The program, its companion for the terminal, the \
-      database, the help and an entry in the Start menu."
-  !insertmacro MUI_DESCRIPTION_TEXT ${SectionDesktop} "A shortcut on the desktop."
-!insertmacro MUI_FUNCTION_DESCRIPTION_END
-
-; Also runs if the user cancels, or if a file cannot be unpacked.
+; Also runs if a file cannot be unpacked. Folders that contain anything stay.
 Function .onInstFailed
   SetOutPath "$TEMP"
-  RMDir /r "${STAGE}"
-  RMDir "$INSTDIR"  ; if it is empty
+  RMDir /r "${STAGE}\new"
+  RMDir "${STAGE}\old"
+  RMDir "${STAGE}"
+  RMDir "$INSTDIR"
 FunctionEnd
 
 ; A database that is neither the new one nor the one that was installed is the user's own. It stays

@@ -52,10 +52,15 @@ Section un.Brevilexicon
   ${EndIf}
   Delete "$SMPROGRAMS\Brevilexicon.lnk"
   Delete "$DESKTOP\Brevilexicon.lnk"
-  DeleteRegKey SHCTX "${UNINSTALL_KEY}"
   Delete "$INSTDIR\uninstall.exe"
+  RMDir /r "${STAGE}"  ; an installation may have failed
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"  ; stays if it contains anything of the user's
+  ${If} $AllUsers = 0
+    RMDir "$LOCALAPPDATA\Programs"  ; the same
+  ${EndIf}
+  DeleteRegKey SHCTX "${UNINSTALL_KEY}"
+  DeleteRegKey /ifempty SHCTX "${UNINSTALL_KEYS}"
 SectionEnd
 
 ; A copy elsewhere may have registered itself since.
