@@ -56,11 +56,11 @@ Section un.Brevilexicon
   RMDir /r "${STAGE}"  ; an installation may have failed
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"  ; stays if it contains anything of the user's
-  ${If} $AllUsers = 0
-    RMDir "$LOCALAPPDATA\Programs"  ; the same
-  ${EndIf}
   DeleteRegKey SHCTX "${UNINSTALL_KEY}"
-  DeleteRegKey /ifempty SHCTX "${UNINSTALL_KEYS}"
+  ${If} $AllUsers = 0  ; a new user has neither of these yet
+    RMDir "$LOCALAPPDATA\Programs"
+    DeleteRegKey /ifempty HKCU "${UNINSTALL_KEYS}"
+  ${EndIf}
 SectionEnd
 
 ; A copy elsewhere may have registered itself since.

@@ -15,7 +15,7 @@ classes='HKCU\Software\Classes'
 value() {
     local which=(/v "$2")
     [ -n "$2" ] || which=(/ve)
-    answer reg query "$1" "${which[@]}" | sed -n 's/.* REG_[A-Z]* *//p'
+    answer reg query "$1" "${which[@]}" | iconv -f IBM437 -t UTF-8 | sed -n 's/.* REG_[A-Z]* *//p'
 }
 
 set_value() {
