@@ -59,6 +59,7 @@ Var Given      ; the folder of the switch /D, or empty
 Var Installed  ; the folder of the copy that this one replaces, or empty
 Var ForMe      ; the choices on the page "Users"
 Var ForAll
+Var OwnDatabase
 Var Failed     ; the first file that could not be replaced or removed, or empty
 
 !include "${__FILEDIR__}/running.nsh"
@@ -89,6 +90,7 @@ Page custom ShowUsersPage LeaveUsersPage
 !define MUI_LICENSEPAGE_BUTTON "&Next >"
 !insertmacro MUI_PAGE_LICENSE "${LICENSES}"
 
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW NameNextButton
 !insertmacro MUI_PAGE_COMPONENTS
 
 !define MUI_PAGE_CUSTOMFUNCTION_PRE SkipFolderPage
@@ -280,7 +282,13 @@ Function LeaveUsersPage
   ${EndIf}
 FunctionEnd
 
-; What is installed is replaced where it is.
+; What is installed is replaced where it is. Then the page for the folder does not come.
+Function NameNextButton
+  ${If} $Installed != ""
+    SendMessage $mui.Button.Next ${WM_SETTEXT} 0 "STR:&Install"
+  ${EndIf}
+FunctionEnd
+
 Function SkipFolderPage
   ${If} $Installed != ""
     Abort
@@ -356,6 +364,8 @@ FunctionEnd
 Section "Brevilexicon (required)" SectionProgram
   SectionIn RO
   Call EndPrograms
+  DetailPrint "Unpacking the files"
+  SetDetailsPrint none
   SetOutPath "$INSTDIR"
   !insertmacro ForEachFile RescueFile
   RMDir /r "${STAGE}"
@@ -365,6 +375,7 @@ Section "Brevilexicon (required)" SectionProgram
   !insertmacro ForEachFile UnpackFile
   WriteUninstaller "${STAGE}\new\uninstall.exe"
   ${If} ${Errors}
+    SetDetailsPrint both
     MessageBox MB_OK|MB_ICONSTOP "Cannot write to the folder $\"$INSTDIR$\". Nothing was changed." /SD IDOK
     SetErrorLevel ${EXIT_FAILED}
     Abort "Cannot write to the folder $\"$INSTDIR$\"."
@@ -376,6 +387,7 @@ Section "Brevilexicon (required)" SectionProgram
   ${If} $Failed != ""
     !insertmacro ForEachFile ReturnFile
     !insertmacro ReturnFile "uninstall.exe"
+    SetDetailsPrint both
     MessageBox MB_OK|MB_ICONSTOP "Cannot replace the file $\"$INSTDIR\$Failed$\". Nothing was changed." \
         /SD IDOK
     SetErrorLevel ${EXIT_FAILED}
@@ -384,11 +396,17 @@ Section "Brevilexicon (required)" SectionProgram
   Call KeepOwnDatabase
   SetOutPath "$INSTDIR"
   RMDir /r "${STAGE}"
+  SetDetailsPrint both
 
   CreateShortCut "$SMPROGRAMS\Brevilexicon.lnk" "$INSTDIR\brevilexicon.exe" "" "" "" SW_SHOWNORMAL "" \
       "${DESCRIPTION}"
   Call RegisterHelp
   Call WriteUninstallEntry
+  ${If} $OwnDatabase != ""
+    DetailPrint "Your own Acronyms.dat is now $OwnDatabase."
+    MessageBox MB_OK|MB_ICONINFORMATION "Acronyms.dat was not the database that came with the program. \
+        It is still there, with the name $\"$OwnDatabase$\". To use it again, rename it." /SD IDOK
+  ${EndIf}
 SectionEnd
 
 Section /o "Shortcut on the desktop"
@@ -406,8 +424,9 @@ Function .onInstFailed
 FunctionEnd
 
 ; A database that is neither the new one nor the one that was installed is the user's own. It stays
-; beside the new one, under another name.
+; beside the new one. Leaves its new name in $OwnDatabase.
 Function KeepOwnDatabase
+  StrCpy $OwnDatabase ""
   StrCpy $R0 "${STAGE}\old\Acronyms.dat"
   ${IfNot} ${FileExists} $R0
     Return
@@ -419,15 +438,12 @@ Function KeepOwnDatabase
     Return
   ${EndIf}
   StrCpy $R2 1
-  StrCpy $R3 "Acronyms-own.dat"
-  ${DoWhile} ${FileExists} "$INSTDIR\$R3"
+  StrCpy $OwnDatabase "Acronyms-own.dat"
+  ${DoWhile} ${FileExists} "$INSTDIR\$OwnDatabase"
     IntOp $R2 $R2 + 1
-    StrCpy $R3 "Acronyms-own-$R2.dat"
+    StrCpy $OwnDatabase "Acronyms-own-$R2.dat"
   ${Loop}
-  Rename $R0 "$INSTDIR\$R3"
-  DetailPrint "Your own Acronyms.dat is now $R3."
-  MessageBox MB_OK|MB_ICONINFORMATION "Acronyms.dat was not the database that came with the program. \
-      It is still there, with the name $\"$R3$\". To use it again, rename it." /SD IDOK
+  Rename $R0 "$INSTDIR\$OwnDatabase"
 FunctionEnd
 
 ; For one user, the viewer registers itself. For all users, it is only one of the programs that Windows
