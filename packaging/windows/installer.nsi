@@ -132,9 +132,7 @@ Function .onInit
     Quit
   ${EndIf}
 
-  ${If} $INSTDIR != "$LOCALAPPDATA\Programs\Brevilexicon"
-    StrCpy $Given $INSTDIR
-  ${EndIf}
+  Call ReadGivenFolder
   StrCpy $AllUsers 0
   StrCpy $Chosen 0
   StrCpy $Elevated 0
@@ -168,6 +166,25 @@ Function .onInit
       Quit
     ${EndIf}
     StrCpy $Chosen 1
+  ${EndIf}
+FunctionEnd
+
+; NSIS takes the folder of /D out of the command line that scripts see, and ignores one that it cannot use.
+Function ReadGivenFolder
+  StrCpy $Given ""
+  System::Call 'kernel32::GetCommandLineW() w .r0'
+  ClearErrors
+  ${WordFind} $0 " /D=" "E+1}" $1
+  ${If} ${Errors}
+    Return
+  ${EndIf}
+  StrCpy $Given $INSTDIR
+  StrCpy $0 "$LOCALAPPDATA\Programs\Brevilexicon"
+  ${If} $Given == $0
+  ${AndIf} $1 != $0
+    MessageBox MB_OK|MB_ICONSTOP "Cannot install in the folder $\"$1$\"." /SD IDOK
+    SetErrorLevel ${EXIT_FAILED}
+    Quit
   ${EndIf}
 FunctionEnd
 

@@ -216,6 +216,9 @@ test_own_database() {
 test_other_folder() {
     exits 4 "installation in a second folder" "$setup" /S '/D=C:\Elsewhere'
     check "nothing is in the second folder" test ! -e "$WINEPREFIX/drive_c/Elsewhere"
+    touch "$WINEPREFIX/drive_c/file"
+    exits 2 "installation in a folder that cannot exist" "$setup" /S '/D=C:\file\folder'
+    rm "$WINEPREFIX/drive_c/file"
 }
 
 test_removal() {
@@ -257,6 +260,23 @@ test_all_users() {
     same_as_before "removal for all users"
 }
 
+uninstaller_is_closed() { ! is_shown 'Brevilexicon Uninstall'; }
+
+# The same with the pages, as most people do it: always the first button.
+test_pages() {
+    record before
+    wine "$setup" 2>/dev/null & local pages=$!
+    await is_active "Brevilexicon"
+    check "the pages lead to an installation" press_until "alt+n alt+i" test -e "$place/uninstall.exe"
+    check "the last page starts the program" press_until alt+f is_active "Brevilexicon ("
+    check "the installer ends" await ended $pages
+    wine "$installed\\uninstall.exe"
+    await is_active "Brevilexicon Uninstall"
+    check "the pages lead to a removal" press_until alt+u is_gone HKCU
+    check "the uninstaller ends" press_until alt+c uninstaller_is_closed
+    same_as_before "removal with the pages"
+}
+
 # The prefix may have been used before: no log-on entry. Another program opens help files.
 wine reg delete "$run_key" /v Brevilexicon /f >/dev/null 2>&1
 set_value "$classes\\.hlp" "" Other.Help
@@ -273,4 +293,5 @@ test_own_database
 test_other_folder
 test_removal
 test_all_users
+test_pages
 finish

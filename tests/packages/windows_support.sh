@@ -54,6 +54,19 @@ await() {
     return 1
 }
 
+# press_until KEYS COMMAND...: presses the keys, separated by blanks, until the command succeeds, at most 30
+# seconds.
+press_until() {
+    local keys=$1; shift
+    for _ in $(seq 60); do
+        "$@" 2>/dev/null && return
+        # shellcheck disable=SC2086: a list of keys
+        xdotool key $keys
+        sleep 0.5
+    done
+    return 1
+}
+
 ended() { ! kill -0 "$1"; }
 # The window is active once the keys go to it, which is a moment after it comes to the front.
 is_active() {
