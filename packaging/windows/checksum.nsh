@@ -17,7 +17,8 @@
     ${If} $1 = -1
       Return
     ${EndIf}
-    System::Call 'advapi32::CryptAcquireContextW(*p .r2, p 0, p 0, i ${PROV_RSA_AES}, i ${CRYPT_VERIFYCONTEXT})'
+    System::Call 'advapi32::CryptAcquireContextW(*p .r2, p 0, p 0, i ${PROV_RSA_AES}, \
+        i ${CRYPT_VERIFYCONTEXT})'
     System::Call 'advapi32::CryptCreateHash(p r2, i ${CALG_SHA_256}, p 0, i 0, *p .r3)'
     System::Alloc ${CHUNK_BYTES}
     Pop $4
@@ -31,7 +32,8 @@
       System::Call 'advapi32::CryptHashData(p r3, p r4, i r6, i 0)'
     ${Loop}
     ${If} $5 <> 0
-      System::Call 'advapi32::CryptGetHashParam(p r3, i ${HP_HASHVAL}, p r4, *i ${HASH_BYTES}, i 0) i .r5'
+      System::Call 'advapi32::CryptGetHashParam(p r3, i ${HP_HASHVAL}, p r4, *i ${HASH_BYTES}, \
+          i 0) i .r5'
     ${EndIf}
     ${If} $5 <> 0
       ${For} $5 0 31

@@ -1,7 +1,7 @@
 ; SPDX-License-Identifier: MIT
 ; Gets administrator rights when they are needed, by starting this program once more with them.
 
-Var SetupMutex  ; shows that an installer runs
+Var SetupMutex  ; shows that an installer runs; 0 in the uninstaller
 
 !macro ElevationFunctions un
   ; Leaves 1 in $1 if this process has administrator rights, otherwise 0.
@@ -26,8 +26,10 @@ Var SetupMutex  ; shows that an installer runs
       StrCpy $R9 "/S $R9"
     ${EndIf}
     ; The record for ShellExecuteEx, which is asked for the handle of the new process.
-    System::Call '*(i 60, i 0x40, p $HWNDPARENT, w "runas", w "$EXEPATH", w "/Elevated $R9", p 0, i 1, p 0, p 0, p 0, p 0, i 0, p 0, p 0) p .r1'
+    System::Call '*(i 60, i 0x40, p $HWNDPARENT, w "runas", w "$EXEPATH", w "/Elevated $R9", p 0, \
+        i 1, p 0, p 0, p 0, p 0, i 0, p 0, p 0) p .r1'
     HideWindow
+    System::Call 'kernel32::CloseHandle(p $SetupMutex)'  ; from now on that one runs
     System::Call 'shell32::ShellExecuteExW(p r1) i .r2'
     System::Call '*$1(i, i, p, p, p, p, p, i, p, p, p, p, i, p, p .r3)'
     System::Free $1
@@ -48,7 +50,6 @@ Var SetupMutex  ; shows that an installer runs
 
 ; Like StartElevated, with the switches of the installer. A folder must be the last of them.
 Function RestartElevated
-  System::Call 'kernel32::CloseHandle(p $SetupMutex)'
   StrCpy $R9 "/AllUsers"
   ${If} $Given != ""
     StrCpy $R9 "/AllUsers /D=$Given"

@@ -84,7 +84,7 @@ VIAddVersionKey Comments "${DESCRIPTION}"
 Page custom ShowUsersPage LeaveUsersPage
 
 !define MUI_PAGE_HEADER_TEXT "License"
-!define MUI_PAGE_HEADER_SUBTEXT "Brevilexicon is free software. You may use it and pass it on under these terms."
+!define MUI_PAGE_HEADER_SUBTEXT "You may use and pass on Brevilexicon under these terms."
 !define MUI_LICENSEPAGE_TEXT_TOP "Press Page Down to see the rest."
 !define MUI_LICENSEPAGE_TEXT_BOTTOM "You need not accept these terms to use the program."
 !define MUI_LICENSEPAGE_BUTTON "&Next >"
@@ -104,7 +104,8 @@ Page custom ShowUsersPage LeaveUsersPage
 !define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
 !insertmacro MUI_PAGE_FINISH
 
-!define MUI_UNCONFIRMPAGE_TEXT_TOP "Brevilexicon will be removed from this folder. Files that you put there yourself stay."
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "Brevilexicon will be removed from this folder. Files that you \
+    put there yourself stay."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 
@@ -169,7 +170,8 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; NSIS takes the folder of /D out of the command line that scripts see, and ignores one that it cannot use.
+; NSIS takes the folder of /D out of the command line that scripts see. It ignores a folder that it cannot
+; use.
 Function ReadGivenFolder
   StrCpy $Given ""
   System::Call 'kernel32::GetCommandLineW() w .r0'
@@ -236,263 +238,6 @@ Function GiveFolder
   ${EndIf}
 FunctionEnd
 
-; --- The pages that the toolkit of the installer does not have.
-
-Function ShowUsersPage
-  ${If} $Chosen = 1
-    Abort
-  ${EndIf}
-  !insertmacro MUI_HEADER_TEXT "Users" "Choose who gets Brevilexicon."
-  nsDialogs::Create 1018
-  Pop $0
-  ${NSD_CreateRadioButton} 0 8u 100% 12u "Install for &me only"
-  Pop $ForMe
-  ${NSD_CreateLabel} 12u 21u 95% 12u "Needs no administrator rights."
-  Pop $0
-  ${NSD_CreateRadioButton} 0 44u 100% 12u "Install for &all users of this computer"
-  Pop $ForAll
-  ${NSD_CreateLabel} 12u 57u 95% 12u "Needs administrator rights. Windows may ask for your consent or a password."
-  Pop $0
-  !insertmacro ReadInstalled HKCU $R1 $R2
-  !insertmacro ReadInstalled HKLM $R3 $R4
-  ${If} $R1 != ""
-    ${NSD_CreateLabel} 0 84u 100% 20u "Version $R2 is installed for you in:$\r$\n$R1"
-    Pop $0
-  ${EndIf}
-  ${If} $R3 != ""
-    ${NSD_CreateLabel} 0 110u 100% 20u "Version $R4 is installed for all users in:$\r$\n$R3"
-    Pop $0
-  ${EndIf}
-  ${If} $AllUsers = 1
-    ${NSD_Check} $ForAll
-    ${NSD_SetFocus} $ForAll
-  ${Else}
-    ${NSD_Check} $ForMe
-    ${NSD_SetFocus} $ForMe
-  ${EndIf}
-  ${NSD_OnClick} $ForMe ShowShield
-  ${NSD_OnClick} $ForAll ShowShield
-  Push 0
-  Call ShowShield
-  nsDialogs::Show
-  SendMessage $mui.Button.Next ${BCM_SETSHIELD} 0 0
-FunctionEnd
-
-; The shield on a button tells that Windows will ask for administrator rights.
-Function ShowShield
-  Pop $0
-  ${NSD_GetState} $ForAll $0
-  Call IsAdministrator
-  ${If} $0 = ${BST_CHECKED}
-  ${AndIf} $1 = 0
-    SendMessage $mui.Button.Next ${BCM_SETSHIELD} 0 1
-  ${Else}
-    SendMessage $mui.Button.Next ${BCM_SETSHIELD} 0 0
-  ${EndIf}
-FunctionEnd
-
-Function LeaveUsersPage
-  ${NSD_GetState} $ForAll $AllUsers
-  Call SettleUsers
-  ${If} $0 <> 0
-    Abort  ; stays on the page
-  ${EndIf}
-FunctionEnd
-
-; What is installed is replaced where it is. Then the page for the folder does not come.
-Function NameNextButton
-  ${If} $Installed != ""
-    SendMessage $mui.Button.Next ${WM_SETTEXT} 0 "STR:&Install"
-  ${EndIf}
-FunctionEnd
-
-Function SkipFolderPage
-  ${If} $Installed != ""
-    Abort
-  ${EndIf}
-FunctionEnd
-
-; The files of the program have names, such as ReadMe.txt, that files of the user may have as well.
-Function LeaveFolderPage
-  ${DirState} "$INSTDIR" $0
-  ${If} $0 = 1
-  ${AndIfNot} ${FileExists} "$INSTDIR\brevilexicon.exe"
-    MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION|MB_DEFBUTTON2 "The folder contains other files. Files with \
-        the names of the program's files will be replaced." IDOK mixed
-    Abort
-    mixed:
-  ${EndIf}
-FunctionEnd
-
-; The program runs with the rights of the user who is logged on, not with those of the installer.
-Function StartProgram
-  ${If} $AllUsers = 1
-    Exec '"$WINDIR\explorer.exe" "$INSTDIR\brevilexicon.exe"'
-  ${Else}
-    Exec '"$INSTDIR\brevilexicon.exe"'
-  ${EndIf}
-FunctionEnd
-
-; --- Installing.
-
-; The new files are unpacked beside the old ones and then change places with them. If that fails, the
-; old ones return.
-!define STAGE "$INSTDIR\~setup"
-
-!macro UnpackFile name
-  File "${SOURCE}/${name}"
-!macroend
-
-; ${Errors} also clears the flag.
-!macro ReplaceFile name
-  ${If} $Failed == ""
-    ClearErrors
-    ${If} ${FileExists} "$INSTDIR\${name}"
-      Rename "$INSTDIR\${name}" "${STAGE}\old\${name}"
-    ${EndIf}
-    ${If} ${Errors}
-      StrCpy $Failed "${name}"
-    ${Else}
-      Rename "${STAGE}\new\${name}" "$INSTDIR\${name}"
-      ${If} ${Errors}
-        StrCpy $Failed "${name}"
-      ${EndIf}
-    ${EndIf}
-  ${EndIf}
-!macroend
-
-!macro ReturnFile name
-  ${If} ${FileExists} "${STAGE}\old\${name}"
-    Delete "$INSTDIR\${name}"
-    Rename "${STAGE}\old\${name}" "$INSTDIR\${name}"
-  ${ElseIfNot} ${FileExists} "${STAGE}\new\${name}"
-    Delete "$INSTDIR\${name}"  ; it is new
-  ${EndIf}
-!macroend
-
-; An installation that did not come to its end, because the power failed for example, left the old files
-; there.
-!macro RescueFile name
-  ${If} ${FileExists} "${STAGE}\old\${name}"
-    !insertmacro ReturnFile "${name}"
-  ${EndIf}
-!macroend
-
-Section "Brevilexicon (required)" SectionProgram
-  SectionIn RO
-  Call EndPrograms
-  DetailPrint "Unpacking the files"
-  SetDetailsPrint none
-  SetOutPath "$INSTDIR"
-  !insertmacro ForEachFile RescueFile
-  RMDir /r "${STAGE}"
-  SetOutPath "${STAGE}\old"
-  SetOutPath "${STAGE}\new"
-  ClearErrors
-  !insertmacro ForEachFile UnpackFile
-  WriteUninstaller "${STAGE}\new\uninstall.exe"
-  ${If} ${Errors}
-    SetDetailsPrint both
-    MessageBox MB_OK|MB_ICONSTOP "Cannot write to the folder $\"$INSTDIR$\". Nothing was changed." /SD IDOK
-    SetErrorLevel ${EXIT_FAILED}
-    Abort "Cannot write to the folder $\"$INSTDIR$\"."
-  ${EndIf}
-
-  StrCpy $Failed ""
-  !insertmacro ForEachFile ReplaceFile
-  !insertmacro ReplaceFile "uninstall.exe"
-  ${If} $Failed != ""
-    !insertmacro ForEachFile ReturnFile
-    !insertmacro ReturnFile "uninstall.exe"
-    SetDetailsPrint both
-    MessageBox MB_OK|MB_ICONSTOP "Cannot replace the file $\"$INSTDIR\$Failed$\". Nothing was changed." \
-        /SD IDOK
-    SetErrorLevel ${EXIT_FAILED}
-    Abort "Cannot replace the file $\"$INSTDIR\$Failed$\"."
-  ${EndIf}
-  Call KeepOwnDatabase
-  SetOutPath "$INSTDIR"
-  RMDir /r "${STAGE}"
-  SetDetailsPrint both
-
-  CreateShortCut "$SMPROGRAMS\Brevilexicon.lnk" "$INSTDIR\brevilexicon.exe" "" "" "" SW_SHOWNORMAL "" \
-      "${DESCRIPTION}"
-  Call RegisterHelp
-  Call WriteUninstallEntry
-  ${If} $OwnDatabase != ""
-    DetailPrint "Your own Acronyms.dat is now $OwnDatabase."
-    MessageBox MB_OK|MB_ICONINFORMATION "Acronyms.dat was not the database that came with the program. \
-        It is still there, with the name $\"$OwnDatabase$\". To use it again, rename it." /SD IDOK
-  ${EndIf}
-SectionEnd
-
-Section /o "Shortcut on the desktop"
-  CreateShortCut "$DESKTOP\Brevilexicon.lnk" "$INSTDIR\brevilexicon.exe" "" "" "" SW_SHOWNORMAL "" \
-      "${DESCRIPTION}"
-SectionEnd
-
-; Also runs if a file cannot be unpacked. Folders that contain anything stay.
-Function .onInstFailed
-  SetOutPath "$TEMP"
-  RMDir /r "${STAGE}\new"
-  RMDir "${STAGE}\old"
-  RMDir "${STAGE}"
-  RMDir "$INSTDIR"
-FunctionEnd
-
-; A database that is neither the new one nor the one that was installed is the user's own. It stays
-; beside the new one. Leaves its new name in $OwnDatabase.
-Function KeepOwnDatabase
-  StrCpy $OwnDatabase ""
-  StrCpy $R0 "${STAGE}\old\Acronyms.dat"
-  ${IfNot} ${FileExists} $R0
-    Return
-  ${EndIf}
-  Call FileChecksum
-  ReadRegStr $R2 SHCTX "${UNINSTALL_KEY}" "DatabaseChecksum"
-  ${If} $R1 == "${DATABASE_SHA256}"
-  ${OrIf} $R1 == $R2
-    Return
-  ${EndIf}
-  StrCpy $R2 1
-  StrCpy $OwnDatabase "Acronyms-own.dat"
-  ${DoWhile} ${FileExists} "$INSTDIR\$OwnDatabase"
-    IntOp $R2 $R2 + 1
-    StrCpy $OwnDatabase "Acronyms-own-$R2.dat"
-  ${Loop}
-  Rename $R0 "$INSTDIR\$OwnDatabase"
-FunctionEnd
-
-; For one user, the viewer registers itself. For all users, it is only one of the programs that Windows
-; offers for this type of file, because the type may belong to another program.
-Function RegisterHelp
-  ${If} $AllUsers = 0
-    ExecWait '"$INSTDIR\brelex-help.exe" --register'
-  ${Else}
-    WriteRegStr HKLM "${CLASSES}\${HELP_TYPE}" "" "Brevilexicon help"
-    WriteRegStr HKLM "${CLASSES}\${HELP_TYPE}\shell\open\command" "" \
-        '"$INSTDIR\brelex-help.exe" "%1"'
-    WriteRegStr HKLM "${CLASSES}\.hlp\OpenWithProgids" "${HELP_TYPE}" ""
-  ${EndIf}
-FunctionEnd
-
-Function WriteUninstallEntry
-  SectionGetSize ${SectionProgram} $R0
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayName" "Brevilexicon"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "Publisher" "${PUBLISHER}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\brevilexicon.exe,0"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "Comments" "${DESCRIPTION}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "Contact" "${SUPPORT_ADDRESS}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "URLInfoAbout" "${HOME_PAGE}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "HelpLink" "${HOME_PAGE}"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
-  WriteRegStr SHCTX "${UNINSTALL_KEY}" "DatabaseChecksum" "${DATABASE_SHA256}"
-  WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" $R0
-  WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoModify" 1
-  WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoRepair" 1
-FunctionEnd
-
+!include "${__FILEDIR__}/pages.nsh"
+!include "${__FILEDIR__}/installing.nsh"
 !include "${__FILEDIR__}/uninstaller.nsh"

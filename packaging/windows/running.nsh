@@ -12,7 +12,8 @@ Var Rounds
 ; A file that is being run or read cannot be opened for writing.
 !macro FindIfBusy name
   ${If} $BusyFile == ""
-    System::Call 'kernel32::CreateFileW(w "$INSTDIR\${name}", i 0x40000000, i 0, p 0, i 3, i 0, p 0) p .r0 ?e'
+    System::Call 'kernel32::CreateFileW(w "$INSTDIR\${name}", i 0x40000000, i 0, p 0, i 3, i 0, \
+        p 0) p .r0 ?e'
     Pop $1
     ${If} $0 <> -1
       System::Call 'kernel32::CloseHandle(p r0)'

@@ -2,6 +2,7 @@
 ; The uninstaller. It removes what the installer created, and nothing else.
 
 Function un.onInit
+  StrCpy $SetupMutex 0
   StrCpy $Elevated 0
   ${GetParameters} $R0
   ${GetOptions} $R0 "/Elevated" $R1
@@ -45,8 +46,8 @@ Section un.Brevilexicon
   StrCpy $Failed ""
   !insertmacro ForEachFile RemoveFile
   ${If} $Failed != ""
-    MessageBox MB_OK|MB_ICONSTOP "Cannot remove the file $\"$INSTDIR\$Failed$\". Restart Windows and try \
-        again." /SD IDOK
+    MessageBox MB_OK|MB_ICONSTOP "Cannot remove the file $\"$INSTDIR\$Failed$\". Restart Windows and \
+        try again." /SD IDOK
     SetErrorLevel ${EXIT_FAILED}
     Abort "Cannot remove the file $\"$INSTDIR\$Failed$\"."
   ${EndIf}
