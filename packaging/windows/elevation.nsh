@@ -36,6 +36,7 @@ Var SetupMutex  ; shows that an installer runs; 0 in the uninstaller
     ${If} $2 = 0
     ${OrIf} $3 = 0
       ShowWindow $HWNDPARENT ${SW_SHOW}
+      BringToFront
       Return
     ${EndIf}
     System::Call 'kernel32::WaitForSingleObject(p r3, i -1)'

@@ -21,13 +21,10 @@ contents >"$folder/before"
 use_programs() {
     check "brelex answers $1" answers "$place/brelex.exe"
     start "$place/brevilexicon.exe"
-    check "the window shows an entry $1" looks_up ram "$known_first"
-    xdotool key F1
-    check "the help opens $1" await is_active "Brevilexicon Help"
-    xdotool key Escape
-    await is_active "Brevilexicon ("
-    xdotool key alt+F4
-    check "the program ends $1" await ended "$program"
+    check "the window shows an entry $1" looks_up "r a m" "$known_first"
+    check "the help opens $1" press_until F1 is_active "Brevilexicon Help"
+    press_until Escape is_active "Brevilexicon ("
+    check "the program ends $1" press_until alt+F4 ended "$program"
     contents | diff "$folder/before" -
     equal "changes of the files $1" $? 0
 }

@@ -54,15 +54,17 @@ await() {
     return 1
 }
 
-# press_until KEYS COMMAND...: presses the keys, separated by blanks, until the command succeeds, at most 30
-# seconds.
+# press_until KEYS COMMAND...: presses the keys, separated by blanks, until the command succeeds. Tries again
+# every two seconds, at most 15 times, because keys get lost while a window is still coming up.
 press_until() {
     local keys=$1; shift
-    for _ in $(seq 60); do
-        "$@" 2>/dev/null && return
-        # shellcheck disable=SC2086: a list of keys
-        xdotool key $keys
-        sleep 0.5
+    for _ in $(seq 15); do
+        # shellcheck disable=SC2086  # a list of keys
+        xdotool key --delay 100 $keys
+        for _ in $(seq 40); do
+            "$@" 2>/dev/null && return
+            sleep 0.05
+        done
     done
     return 1
 }
@@ -95,14 +97,11 @@ has_copied() {
     [ "$(xclip -selection clipboard -o)" = "$1" ]
 }
 
-# looks_up ABBREVIATION ENTRY: types into the main window and opens the viewer of the selected entry.
+# looks_up KEYS ENTRY: types into the main window and opens the viewer of the selected entry.
 looks_up() {
-    xdotool type --delay 40 "$1"
-    # The list selects the entry a moment after the key.
-    xdotool key --delay 200 Return
-    await is_active "Current Selection" && await has_copied "$2" || return 1
-    xdotool key Escape
-    await is_active "Brevilexicon ("
+    press_until "ctrl+a $1 Return" is_active "Current Selection" || return 1
+    await has_copied "$2" || return 1
+    press_until Escape is_active "Brevilexicon ("
 }
 
 # A line of the database that the program comes with.
