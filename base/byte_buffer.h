@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <new>
 #include <string_view>
 
 namespace brelex {
@@ -13,12 +12,10 @@ class ByteBuffer {
   public:
     ByteBuffer() = default;
 
-    /// Allocates `size` bytes. The buffer IsNull if there is no free block of that size.
+    /// Allocates `size` bytes.
     explicit ByteBuffer(std::size_t size)
-        : bytes_(new (std::nothrow) char[size]),
-          size_(bytes_ == nullptr ? 0 : size) {}
-
-    [[nodiscard]] bool IsNull() const { return bytes_ == nullptr; }
+        : bytes_(std::make_unique_for_overwrite<char[]>(size)),
+          size_(size) {}
 
     [[nodiscard]] char* Data() { return bytes_.get(); }
 

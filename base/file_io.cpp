@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cerrno>
 #include <cstddef>
 #include <string>
 #include <system_error>
@@ -24,24 +23,6 @@ bool SameIgnoringCase(std::string_view one, std::string_view other) {
 bool IsFile(const fs::path& path) {
     std::error_code error;
     return fs::is_regular_file(path, error);
-}
-
-bool IsThere(const fs::path& path) {
-    std::error_code error;
-    const fs::file_type type = fs::symlink_status(path, error).type();
-    return type != fs::file_type::not_found && type != fs::file_type::none;
-}
-
-// The path with ".part" behind it, or ".part2" and so on if somebody has a file of that name.
-fs::path FreeNameBeside(const fs::path& path) {
-    fs::path name;
-    int number = 1;
-    do {
-        name = path;
-        name += number == 1 ? ".part" : ".part" + std::to_string(number);
-        ++number;
-    } while (IsThere(name));
-    return name;
 }
 
 }  // namespace
@@ -103,43 +84,20 @@ bool FileReader::Read(char* bytes, std::size_t count) {
     return file_.gcount() == static_cast<std::streamsize>(count);
 }
 
+bool FileReader::IsAtEnd() {
+    return file_.peek() == std::ifstream::traits_type::eof() && !file_.bad();
+}
+
 std::optional<ByteBuffer> ReadWholeFile(const fs::path& path) {
     FileReader file(path);
     if (!file.IsOpen()) {
         return std::nullopt;
     }
     ByteBuffer bytes(file.Size());
-    if (bytes.IsNull() || !file.Read(bytes.Data(), bytes.Size())) {
+    if (!file.Read(bytes.Data(), bytes.Size()) || !file.IsAtEnd()) {
         return std::nullopt;
     }
     return bytes;
-}
-
-bool ReplaceFile(const fs::path& path, std::string_view bytes, std::string* why) {
-    const fs::path unfinished = FreeNameBeside(path);
-    std::error_code error;
-    const auto fail = [&](const char* what, const std::string& reason) {
-        std::error_code ignored;
-        fs::permissions(unfinished, fs::perms::owner_write, fs::perm_options::add, ignored);
-        fs::remove(unfinished, ignored);
-        if (why != nullptr) {
-            *why = what + Utf8OfPath(path) + (reason.empty() ? "" : ": " + reason);
-        }
-        return false;
-    };
-    errno = 0;  // the streams leave the reason there
-    std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
-    // Before the content is there, so that nobody can read it who may not.
-    if (const fs::file_status old = fs::status(path, error); fs::is_regular_file(old)) {
-        fs::permissions(unfinished, old.permissions(), error);
-    }
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (file.fail()) {
-        return fail("cannot write ", errno != 0 ? std::generic_category().message(errno) : "");
-    }
-    fs::rename(unfinished, path, error);
-    return !error || fail("cannot replace ", error.message());
 }
 
 }  // namespace brelex

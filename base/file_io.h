@@ -42,21 +42,18 @@ class FileReader {
     /// read.
     [[nodiscard]] bool Read(char* bytes, std::size_t count);
 
+    /// Whether the file ends where reading has got to. If it does not after Size() bytes, it has
+    /// grown since it was opened.
+    [[nodiscard]] bool IsAtEnd();
+
   private:
     std::ifstream file_;
     std::size_t size_ = 0;
     bool isOpen_ = false;
 };
 
-/// The whole content of a file. Nothing if it cannot be read, is longer than 2 GiB or does not fit
-/// into memory.
+/// The whole content of a file. Nothing if it cannot be read, is longer than 2 GiB or changes its
+/// length meanwhile.
 [[nodiscard]] std::optional<ByteBuffer> ReadWholeFile(const std::filesystem::path& path);
-
-/// Replaces the file at `path` with one that contains `bytes`, in one step: a program that reads it
-/// meanwhile gets either the old content or the new. The new file has the mode of the old one. On
-/// failure, leaves the old file as it was,
-/// describes the reason in `why` (may be null) and returns false.
-[[nodiscard]] bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes,
-                               std::string* why = nullptr);
 
 }  // namespace brelex

@@ -88,7 +88,7 @@ class Expander {
 
   private:
     // Moves to a buffer with room for twice as much output and what the rest expands to at least.
-    // Returns false if there is too much already, or memory is short.
+    // Returns false if there is too much already.
     [[nodiscard]] bool Grow() {
         const std::size_t soFar = used_ - kRingBytes;
         if (soFar > mostBytes_) {
@@ -97,9 +97,6 @@ class Expander {
         const std::size_t rest = buffer_.Size() - next_;
         const std::size_t room = std::min(2 * soFar + rest, mostBytes_ + kMaxGroupOutput);
         ByteBuffer larger(kRingBytes + room + kGapBytes + rest);
-        if (larger.IsNull()) {
-            return false;
-        }
         std::memcpy(larger.Data(), buffer_.Data(), used_);
         std::memcpy(larger.Data() + larger.Size() - rest, buffer_.Data() + next_, rest);
         buffer_ = std::move(larger);
@@ -206,9 +203,6 @@ std::optional<CompressedFile> CompressedFile::Fill(std::size_t length, ReadNext&
     file.buffer_ = ByteBuffer(
         file.hasSignature_ ? kRingBytes + std::max(ExpectedBytes(header, rest), rest) + kGapBytes
                            : length);
-    if (file.buffer_.IsNull()) {
-        return std::nullopt;
-    }
     file.dataAt_ = file.buffer_.Size() - rest;
     if (!file.hasSignature_) {
         std::copy_n(header.begin(), headBytes, file.buffer_.Data());
@@ -224,15 +218,19 @@ std::optional<CompressedFile> CompressedFile::Read(const std::filesystem::path& 
     if (!reader.IsOpen()) {
         return std::nullopt;
     }
-    return Fill(reader.Size(), [&](char* to, std::size_t count) { return reader.Read(to, count); });
+    auto file =
+        Fill(reader.Size(), [&](char* to, std::size_t count) { return reader.Read(to, count); });
+    return reader.IsAtEnd() ? std::move(file) : std::nullopt;
 }
 
-std::optional<CompressedFile> CompressedFile::Copy(std::string_view file) {
-    return Fill(file.size(), [rest = file](char* to, std::size_t count) mutable {
+CompressedFile CompressedFile::Copy(std::string_view file) {
+    auto copy = Fill(file.size(), [rest = file](char* to, std::size_t count) mutable {
         rest.copy(to, count);
         rest.remove_prefix(count);
         return true;
     });
+    assert(copy);
+    return std::move(*copy);
 }
 
 std::optional<ExpandedFile> CompressedFile::Expand(std::size_t mostBytes) && {

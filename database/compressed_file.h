@@ -40,11 +40,11 @@ class ExpandedFile {
 /// system, only once.
 class CompressedFile {
   public:
-    /// Reads a file. Nothing if it cannot be read or does not fit into memory.
+    /// Reads a file. Nothing if it cannot be read or changes its length meanwhile.
     [[nodiscard]] static std::optional<CompressedFile> Read(const std::filesystem::path& path);
 
-    /// Copies the content of a file. Nothing if it does not fit into memory.
-    [[nodiscard]] static std::optional<CompressedFile> Copy(std::string_view file);
+    /// Copies the content of a file.
+    [[nodiscard]] static CompressedFile Copy(std::string_view file);
 
     /// How many bytes the compressed file has.
     [[nodiscard]] std::size_t Length() const { return length_; }
@@ -52,7 +52,7 @@ class CompressedFile {
     /// Expands the file like the Windows function LZCopy: leaves bytes without the signature
     /// unchanged, takes the length that the header declares as a hint only, and returns what came
     /// out so far if the stream ends early. Nothing if the result would be longer than `mostBytes`,
-    /// which is at most kMaxExpandedBytes, or does not fit into memory.
+    /// which is at most kMaxExpandedBytes.
     [[nodiscard]] std::optional<ExpandedFile> Expand(std::size_t mostBytes = kMaxExpandedBytes) &&;
 
   private:

@@ -63,9 +63,7 @@ LoadFailure ReadDatabase(CompressedFile file, DatabaseHeader& header, RecordStor
 }
 
 LoadFailure ReadDatabase(std::string_view file, DatabaseHeader& header, RecordStore& store) {
-    auto compressed = CompressedFile::Copy(file);
-    return compressed ? ReadDatabase(std::move(*compressed), header, store)
-                      : LoadFailure::CannotDecode;
+    return ReadDatabase(CompressedFile::Copy(file), header, store);
 }
 
 }  // namespace brelex

@@ -22,18 +22,16 @@ struct RecordBlock {
     ByteBuffer filledUp;  // has the bytes if the file has too few of them
 };
 
-// What is missing is filled up with zeros; it stays missing if there is not the memory for that.
+// What is missing is filled up with zeros.
 RecordBlock RecordBlockOf(std::string_view file, std::size_t length) {
     RecordBlock block{file.substr(std::min(kHeaderBytes, file.size()), length), {}};
     if (block.bytes.size() == length) {
         return block;
     }
     block.filledUp = ByteBuffer(length);
-    if (!block.filledUp.IsNull()) {
-        char* const rest = std::copy(block.bytes.begin(), block.bytes.end(), block.filledUp.Data());
-        std::fill(rest, block.filledUp.Data() + length, '\0');
-        block.bytes = block.filledUp.View();
-    }
+    char* const rest = std::copy(block.bytes.begin(), block.bytes.end(), block.filledUp.Data());
+    std::fill(rest, block.filledUp.Data() + length, '\0');
+    block.bytes = block.filledUp.View();
     return block;
 }
 

@@ -122,8 +122,7 @@ class GroupWriter {
 }  // namespace
 
 std::optional<ExpandedFile> ExpandSzdd(std::string_view file, std::size_t mostBytes) {
-    auto compressed = CompressedFile::Copy(file);
-    return compressed ? std::move(*compressed).Expand(mostBytes) : std::nullopt;
+    return CompressedFile::Copy(file).Expand(mostBytes);
 }
 
 std::string CompressSzdd(std::string_view bytes) {

@@ -2,10 +2,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <limits>
 #include <map>
+#include <new>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -236,10 +238,18 @@ void AddAnagram(CLI::App& app, CommandLine& line) {
     });
 }
 
+// The library calls this when an allocation fails. It ends the program at once, because an
+// exception would not always arrive: streams swallow it and then lack a part of the output.
+[[noreturn]] void EndForLackOfMemory() {
+    std::fputs("brelex: not enough memory\n", stderr);
+    std::_Exit(brelex::kFailed);
+}
+
 }  // namespace
 
-// Apart from the parser's errors, the only possible exception here is "out of memory".
+// The only exceptions here are the parser's errors.
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
+    std::set_new_handler(EndForLackOfMemory);
     const brelex::Utf8Terminal terminal;
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);

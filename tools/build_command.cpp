@@ -224,7 +224,8 @@ int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, s
         return Refuse(err, fault);
     }
     Print(report.warnings, "warning", "brelex: warning: ", err);
-    if (const std::string fault = WriteOutput(request.output.name, file, out); !fault.empty()) {
+    if (const std::string fault = WriteOutputs({{request.output.name, file}}, out);
+        !fault.empty()) {
         return Refuse(err, fault);
     }
     const bool toStandardOutput = request.output.name == kStandardStream;

@@ -141,13 +141,16 @@ int RunExport(const std::string& database, const ExportRequest& request, std::os
             return Refuse(err, reason);
         }
     }
+    std::vector<OutputFile> outputs;
     for (const DictionaryFile& file : files) {
-        const std::string name = stem + file.ending;
-        if (const std::string fault = WriteOutput(name, file.bytes, out); !fault.empty()) {
-            return Refuse(err, fault);
-        }
-        if (!toStandardOutput) {
-            err << name << ": " << file.bytes.size() << " bytes\n";
+        outputs.push_back({stem + file.ending, file.bytes});
+    }
+    if (const std::string fault = WriteOutputs(outputs, out); !fault.empty()) {
+        return Refuse(err, fault);
+    }
+    if (!toStandardOutput) {
+        for (const OutputFile& output : outputs) {
+            err << output.name << ": " << output.bytes.size() << " bytes\n";
         }
     }
     return opened.store.RowCount() > 0 ? kFound : kNothingFound;

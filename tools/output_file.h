@@ -28,10 +28,15 @@ struct ReplaceableFile {
                                            const std::vector<std::filesystem::path>& inputs,
                                            const ReplaceableFile* replaceable = nullptr);
 
-/// Writes `bytes` to the file, in one step, or to `standardOutput`. Keeps the mode of the file it
-/// replaces; replaces what a link leads to and not the link. Returns the reason if that fails, or
-/// an empty text.
-[[nodiscard]] std::string WriteOutput(const std::string& name, std::string_view bytes,
-                                      std::ostream& standardOutput);
+/// A file (UTF-8), or "-" for standard output, and what it is to contain.
+struct OutputFile {
+    std::string name;
+    std::string_view bytes;
+};
+
+/// Writes either all of the files or none. Keeps the mode of a file that it replaces; replaces what
+/// a link leads to and not the link. Returns the reason if that fails, or an empty text.
+[[nodiscard]] std::string WriteOutputs(const std::vector<OutputFile>& outputs,
+                                       std::ostream& standardOutput);
 
 }  // namespace brelex

@@ -16,6 +16,7 @@
 #include "database/database_check.h"
 #include "database/szdd.h"
 #include "lookup/prefix_search.h"
+#include "platform/system/replace_file.h"
 #include "tools/build_command.h"
 #include "tools/input_entries.h"
 

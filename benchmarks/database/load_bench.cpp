@@ -12,6 +12,7 @@
 #include "database/database_file.h"
 #include "database/modDataLoader.h"
 #include "database/szdd.h"
+#include "platform/system/replace_file.h"
 #include "platform/system/system_temporary_files.h"
 
 namespace brelex {

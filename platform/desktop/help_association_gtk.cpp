@@ -13,6 +13,7 @@
 #include "embedded/kHelpDesktopEntry.h"
 #include "embedded/kHelpMimeType.h"
 #include "platform/system/exec_line_gtk.h"
+#include "platform/system/replace_file.h"
 
 namespace brelex {
 

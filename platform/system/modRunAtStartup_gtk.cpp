@@ -12,6 +12,7 @@
 #include "base/app_info.h"
 #include "base/file_io.h"
 #include "platform/system/exec_line_gtk.h"
+#include "platform/system/replace_file.h"
 
 namespace brelex {
 

@@ -1,31 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/system_temporary_files.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 
 #include "platform/system/temporary_folder_gtk.h"
+#include "platform/system/write_all_gtk.h"
 
 namespace brelex {
-
-namespace {
-
-bool WriteAll(int file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
-}  // namespace
 
 std::string SystemTemporaryFiles::GetTempFolder() const {
     return TemporaryFolder();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/system_temporary_files.h"
 
-#include <algorithm>
 #include <array>
 #include <filesystem>
 
@@ -9,6 +8,7 @@
 
 #include "base/file_io.h"
 #include "platform/system/wide_text.h"
+#include "platform/system/write_all_msw.h"
 
 namespace brelex {
 
@@ -29,14 +29,7 @@ bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_vie
     if (handle == INVALID_HANDLE_VALUE) {
         return false;
     }
-    constexpr std::size_t kChunk = std::size_t{1} << 24U;
-    bool written = true;
-    while (written && !bytes.empty()) {
-        const auto count = static_cast<DWORD>(std::min(bytes.size(), kChunk));
-        DWORD done = 0;
-        written = WriteFile(handle, bytes.data(), count, &done, nullptr) != 0 && done == count;
-        bytes.remove_prefix(count);
-    }
+    const bool written = WriteAll(handle, bytes);
     return CloseHandle(handle) != 0 && written;
 }
 

@@ -1,62 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "base/file_io.h"
 
+#include <fstream>
+#include <system_error>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/test_files.h"
 
 namespace brelex {
 namespace {
-
-TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOne) {
-    const TestFolder folder;
-    const auto path = folder.Path() / "file";
-    EXPECT_TRUE(ReplaceFile(path, "old"));
-    EXPECT_TRUE(ReplaceFile(path, "new"));
-    EXPECT_EQ(ReadText(path), "new");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
-}
-
-TEST(ReplaceFile, AFailureLeavesTheOldContentAndSaysWhy) {
-    const TestFolder folder;
-    const auto path = folder.Path() / "file";
-    std::filesystem::create_directory(path);  // cannot be replaced by a file
-    std::string why;
-    EXPECT_FALSE(ReplaceFile(path, "new", &why));
-    EXPECT_TRUE(why.starts_with("cannot replace " + Utf8OfPath(path) + ": ")) << why;
-    EXPECT_TRUE(std::filesystem::is_directory(path));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
-}
-
-TEST(ReplaceFile, LeavesFilesAloneThatHaveTheNameOfAnUnfinishedOne) {
-    const TestFolder folder;
-    folder.Write("file.part", "precious");
-    folder.Write("file.part2", "too");
-    EXPECT_TRUE(ReplaceFile(folder.Path() / "file", "new"));
-    EXPECT_EQ(ReadText(folder.Path() / "file"), "new");
-    EXPECT_EQ(ReadText(folder.Path() / "file.part"), "precious");
-    EXPECT_EQ(ReadText(folder.Path() / "file.part2"), "too");
-}
-
-TEST(ReplaceFile, AMissingFolderIsAFailure) {
-    const TestFolder folder;
-    const auto path = folder.Path() / "no" / "file";
-    EXPECT_FALSE(ReplaceFile(path, "new"));
-    std::string why;
-    EXPECT_FALSE(ReplaceFile(path, "new", &why));
-    EXPECT_EQ(why, "cannot write " + Utf8OfPath(path) + ": No such file or directory");
-}
-
-TEST(ReplaceFile, KeepsTheModeOfTheOldFile) {
-    namespace fs = std::filesystem;
-    const TestFolder folder;
-    const fs::path path = folder.Path() / "file";
-    ASSERT_TRUE(ReplaceFile(path, "old"));
-    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
-    const fs::perms before = fs::status(path).permissions();
-    ASSERT_TRUE(ReplaceFile(path, "new"));
-    EXPECT_EQ(fs::status(path).permissions(), before);
-}
 
 TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
     const TestFolder folder;
@@ -90,6 +43,34 @@ TEST(FileReader, AFileThatIsCutMeanwhileIsNotReadInPart) {
     EXPECT_TRUE(file.Read(bytes.data(), 3));
     std::filesystem::resize_file(folder.Path() / "file", 9);
     EXPECT_FALSE(file.Read(bytes.data(), 7));
+}
+
+TEST(FileReader, AFileThatGrowsMeanwhileDoesNotEndWhereItDid) {
+    const TestFolder folder;
+    folder.Write("file", "0123456789");
+    FileReader file(folder.Path() / "file");
+    ASSERT_TRUE(file.IsOpen());
+    std::string bytes(10, ' ');
+    EXPECT_TRUE(file.Read(bytes.data(), 10));
+    EXPECT_TRUE(file.IsAtEnd());
+    FileReader grown(folder.Path() / "file");
+    std::ofstream(folder.Path() / "file", std::ios::app) << "x";
+    EXPECT_TRUE(grown.Read(bytes.data(), 10));
+    EXPECT_FALSE(grown.IsAtEnd());
+}
+
+TEST(FileReader, AFileThatIsReplacedMeanwhileIsReadToItsEnd) {
+    const TestFolder folder;
+    folder.Write("file", "0123456789");
+    folder.Write("other", "abc");
+    FileReader file(folder.Path() / "file");
+    ASSERT_TRUE(file.IsOpen());
+    std::error_code inUse;  // Windows does not replace a file that is open
+    std::filesystem::rename(folder.Path() / "other", folder.Path() / "file", inUse);
+    std::string bytes(10, ' ');
+    EXPECT_TRUE(file.Read(bytes.data(), 10));
+    EXPECT_EQ(bytes, "0123456789");
+    EXPECT_TRUE(file.IsAtEnd());
 }
 
 TEST(FileReader, DoesNotOpenWhatIsNoFile) {

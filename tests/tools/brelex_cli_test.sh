@@ -134,7 +134,7 @@ truncate -s 2000M "$folder/huge.dat"  # takes up no disk space
 limited() { ( [ -n "$emulator" ] || ulimit -v 1000000; "$@" ); }
 if limited "$brelex" --version >/dev/null 2>&1; then
     expect 2 "a file that does not fit into memory" limited "$brelex" -d "$folder/huge.dat" info
-    contains err "cannot read"
+    prints err "brelex: not enough memory"
 fi
 rm "$folder/huge.dat"
 if [ -e /dev/full ]; then

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "base/file_io.h"
+#include "platform/system/replace_file.h"
 #include "tests/support/test_files.h"
 
 namespace brelex {
