@@ -59,17 +59,45 @@ std::string DatabaseOf(const CommandLine& line) {
     return line.database.empty() ? DatabaseBesideProgram() : line.database;
 }
 
+// Runs a command and shows its report. A terminal gets no control characters but `kept`.
+template <typename Run>
+int ReportTo(const brelex::OutputTerminal& terminal, std::string_view kept, Run run) {
+    if (terminal.columns == 0) {
+        return run(std::cout);
+    }
+    std::ostringstream report;
+    const int code = run(report);
+    std::cout << brelex::VisibleText(report.view(), kept);
+    return code;
+}
+
 int RunBuild(const CommandLine& line) {
     if (!line.database.empty()) {
         std::cerr << "brelex: build does not read a database; name the file to write with -o\n";
         return brelex::kFailed;
     }
+    const bool toStandardOutput = line.build.output.name == brelex::kStandardStream;
+    if (toStandardOutput && line.output.terminal.columns > 0) {
+        std::cerr << "brelex: a terminal cannot show a database; name the file to write with -o\n";
+        return brelex::kFailed;
+    }
     // A control character must not end the input early on Windows.
     brelex::UseBinaryInput();
-    if (line.build.output.name == brelex::kStandardStream) {
+    if (toStandardOutput) {
         brelex::UseBinaryOutput();
     }
-    return brelex::RunBuild(line.build, std::cin, std::cout, std::cerr);
+    return ReportTo(line.output.terminal, "\n", [&line](std::ostream& out) {
+        return brelex::RunBuild(line.build, std::cin, out, std::cerr);
+    });
+}
+
+// Refuses the arguments of an option that are texts and not UTF-8. The names of files may be.
+void AcceptTexts(CLI::Option& option) {
+    option.check(CLI::Validator(
+        [](const std::string& text) {
+            return std::string(brelex::IsUtf8(text) ? "" : "is not UTF-8");
+        },
+        ""));
 }
 
 // Adds an option that accepts a few fixed words as its value.
@@ -118,18 +146,6 @@ void AddBuild(CLI::App& app, CommandLine& line) {
     command->callback([&line] { line.code = RunBuild(line); });
 }
 
-// Runs a command and shows its report. A terminal gets no control characters but `kept`.
-template <typename Run>
-int ReportTo(const brelex::OutputTerminal& terminal, std::string_view kept, Run run) {
-    if (terminal.columns == 0) {
-        return run(std::cout);
-    }
-    std::ostringstream report;
-    const int code = run(report);
-    std::cout << brelex::VisibleText(report.view(), kept);
-    return code;
-}
-
 int RunExport(const CommandLine& line) {
     // The formats have line ends of their own.
     brelex::UseBinaryOutput();
@@ -174,12 +190,12 @@ void AddOutputOptions(CLI::App& command, brelex::OutputOptions& output) {
 
 void AddLookup(CLI::App& app, CommandLine& line) {
     CLI::App* const command = app.add_subcommand("lookup", "Look up the meanings of abbreviations");
-    command
-        ->add_option("TEXT", line.lookup.texts,
-                     "Abbreviation, with or without its hyphens, periods, slashes and blanks; - "
-                     "reads standard input")
-        ->required()
-        ->type_name("");
+    AcceptTexts(*command
+                     ->add_option("TEXT", line.lookup.texts,
+                                  "Abbreviation, with or without its hyphens, periods, slashes and "
+                                  "blanks; - reads standard input")
+                     ->required()
+                     ->type_name(""));
     command->add_flag("--first", line.lookup.first,
                       "Print the first entry that begins with the text, as typing it selects");
     AddOutputOptions(*command, line.output);
@@ -194,12 +210,12 @@ void AddSearch(CLI::App& app, CommandLine& line) {
     using brelex::SearchPosition;
     brelex::SearchOptions& options = line.search;
     CLI::App* const command = app.add_subcommand("search", "Find the entries that match a text");
-    command
-        ->add_option("TEXT", options.request.text,
-                     "Text to find: ? is any character, # any digit, [a-n] a range, "
-                     "[!a-n] anything outside it")
-        ->required()
-        ->type_name("");
+    AcceptTexts(*command
+                     ->add_option("TEXT", options.request.text,
+                                  "Text to find: ? is any character, # any digit, [a-n] a range, "
+                                  "[!a-n] anything outside it")
+                     ->required()
+                     ->type_name(""));
     AddChoice(*command, "--in", "PART", "What to search: abbreviations or expansions (default)",
               options.request.in,
               {{"abbreviations", SearchIn::Abbreviations}, {"expansions", SearchIn::Expansions}});
@@ -228,9 +244,10 @@ void AddSearch(CLI::App& app, CommandLine& line) {
 void AddAnagram(CLI::App& app, CommandLine& line) {
     CLI::App* const command =
         app.add_subcommand("anagram", "Find abbreviations made of these letters");
-    command->add_option("LETTERS", line.letters, "Letters of an abbreviation, in any order")
-        ->required()
-        ->type_name("");
+    AcceptTexts(
+        *command->add_option("LETTERS", line.letters, "Letters of an abbreviation, in any order")
+             ->required()
+             ->type_name(""));
     AddOutputOptions(*command, line.output);
     command->callback([&line] {
         line.code =
@@ -251,6 +268,8 @@ void AddAnagram(CLI::App& app, CommandLine& line) {
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
     std::set_new_handler(EndForLackOfMemory);
     const brelex::Utf8Terminal terminal;
+    std::ios::sync_with_stdio(false);  // gives the streams new buffers, so it comes first
+    const brelex::VisibleOutput visibleMessages(std::cerr);
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
     app.set_version_flag("--version", "brelex " BRELEX_VERSION);
     CommandLine line;
@@ -268,7 +287,13 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     line.output.terminal = TerminalAsWanted();
     app.add_option("-d,--database", line.database,
                    "Database file to read (default: Acronyms.dat in this program's folder)")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        // As an empty variable of a script gives it.
+        ->check(CLI::Validator(
+            [](const std::string& name) {
+                return std::string(name.empty() ? "the name of the file is empty" : "");
+            },
+            ""));
     AddBuild(app, line);
     AddReport(app, line, "info", "Show facts about the database", brelex::RunInfo);
     AddReport(app, line, "dump", "Print all entries as UTF-8 TSV", brelex::RunDump);
@@ -278,7 +303,6 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
     AddSearch(app, line);
     AddAnagram(app, line);
 
-    std::ios::sync_with_stdio(false);
     try {
         std::vector<std::string> arguments = brelex::Utf8Arguments(argc, argv);
         if (const std::string fault = brelex::EncodingMessage(arguments); !fault.empty()) {

@@ -7,10 +7,11 @@
 #include <optional>
 #include <system_error>
 #include <utility>
-#include <zlib.h>
 
 #include "base/file_io.h"
 #include "base/text.h"
+#include "database/compressed_file.h"
+#include "tools/gzip_content.h"
 #include "tools/input_file.h"
 
 namespace brelex {
@@ -119,32 +120,6 @@ std::optional<std::uint64_t> DecodeBase64Number(std::string_view text) {
     return number;
 }
 
-// Expands the content of a gzip file (a dictzip file is one, too). Returns any other content
-// unchanged.
-std::optional<std::string> Inflated(std::string_view bytes) {
-    if (!bytes.starts_with("\x1f\x8b")) {
-        return std::string(bytes);
-    }
-    z_stream stream{};
-    stream.next_in = reinterpret_cast<const Bytef*>(bytes.data());
-    stream.avail_in = static_cast<uInt>(bytes.size());
-    constexpr int kGzip = 16;  // added to the window size to expect a gzip header
-    if (inflateInit2(&stream, MAX_WBITS + kGzip) != Z_OK) {
-        return std::nullopt;
-    }
-    std::string content;
-    std::string chunk(std::size_t{1} << 16U, '\0');
-    int status = Z_OK;
-    while (status == Z_OK) {
-        stream.next_out = reinterpret_cast<Bytef*>(chunk.data());
-        stream.avail_out = static_cast<uInt>(chunk.size());
-        status = inflate(&stream, Z_NO_FLUSH);
-        content.append(chunk, 0, chunk.size() - stream.avail_out);
-    }
-    inflateEnd(&stream);
-    return status == Z_STREAM_END ? std::optional(content) : std::nullopt;
-}
-
 // Finds the article for a line of the index (headword, offset, length, separated by TABs). A fourth
 // part, the headword as it is shown, is not needed: the article begins with it.
 std::optional<std::string_view> ArticleOfIndexLine(std::string_view line,
@@ -244,15 +219,15 @@ void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
     if (!file) {
         return;
     }
-    const auto dictionary = Inflated(file->View());
-    if (!dictionary) {
-        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": is damaged");
+    const GzipContent dictionary = ExpandGzip(file->View(), kMaxExpandedBytes);
+    if (!dictionary.fault.empty()) {
+        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": " + dictionary.fault);
         return;
     }
     std::size_t lineNumber = 0;
     for (const std::string_view line : SplitLines(index->View())) {
         const std::string place = indexName + ":" + std::to_string(++lineNumber);
-        const auto article = ArticleOfIndexLine(line, *dictionary);
+        const auto article = ArticleOfIndexLine(line, dictionary.bytes);
         if (!article) {
             report.errors.push_back(place + ": does not point into the dictionary");
             continue;

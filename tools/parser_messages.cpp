@@ -53,6 +53,8 @@ std::string UnknownOption(const CLI::App& app, const std::string& word) {
     return "there is no option " + word + (suggestion.empty() ? hint : suggestion);
 }
 
+}  // namespace
+
 bool IsUtf8(std::string_view text) {
     constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
     std::size_t inText = 0;
@@ -63,8 +65,6 @@ bool IsUtf8(std::string_view text) {
     const std::u32string characters = DecodeUtf8(text);
     return static_cast<std::size_t>(std::ranges::count(characters, U'\uFFFD')) == inText;
 }
-
-}  // namespace
 
 std::string ParserMessage(const CLI::App& app, const CLI::ParseError& error) {
     const std::vector<std::string> unknown = app.remaining(true);

@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brelex {
@@ -10,6 +11,8 @@ namespace brelex {
 /// What is wrong with a command line that the parser refused. Names the word that is to blame and
 /// the nearest known one.
 [[nodiscard]] std::string ParserMessage(const CLI::App& app, const CLI::ParseError& error);
+
+[[nodiscard]] bool IsUtf8(std::string_view text);
 
 /// What is wrong with arguments that are not UTF-8. Empty if they are, or name files that exist:
 /// where paths are bytes, files have such names, too.

@@ -86,6 +86,7 @@ printf 'abbreviation,expansion\r\nABC,Alpha\r\nRAM,Random Access Memory\r\n' | c
 expect 2 "export to a format of several files" "$brelex" export --format stardict
 expect 2 "export to an unknown format" "$brelex" export --format xml; contains err "xml"
 expect 0 "check" "$brelex" check
+expect 2 "an empty name of the database" "$brelex" -d "" info; contains err "the name of the file is empty"
 expect 0 "look-up" "$brelex" lookup r.a.m.;       prints out "RAM	Random Access Memory"
 expect 0 "look-up with numbers" "$brelex" lookup -n ram; prints out "2	RAM	Random Access Memory"
 expect 0 "look-up as JSON" "$brelex" lookup --json ram
@@ -197,6 +198,8 @@ ${bold}RA${plain}M       Random Access Memory"
           its abbreviation"
     expect 0 "a dump on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' dump"
     prints out "EVIL	A colorful␛[31m expansion of its abbreviation"
+    expect 2 "a database to a terminal" on_terminal "'$brelex' build -o - '$folder/list.tsv'"
+    contains out "a terminal cannot show a database"
     expect 0 "an export on a terminal" on_terminal "'$brelex' -d '$folder/evil.dat' export"
     prints out "EVIL	A colorful␛[31m expansion of its abbreviation"
     expect 0 "a control character in a file" "$brelex" -d "$folder/evil.dat" dump
@@ -220,11 +223,34 @@ if [ -z "$emulator" ]; then
     checks=$((checks + 1))
     [ -L "$folder/link.dat" ] || { echo "FAILED: the link is gone"; failures=$((failures + 1)); }
     expect 0 "the file behind the link" "$brelex" -d "$folder/piped.dat" lookup ram
+    ln -s nowhere "$folder/dangling.dat"
+    expect 2 "a build into a link that leads nowhere" "$brelex" build -o "$folder/dangling.dat" "$folder/list.tsv"
+    contains err "is a link that leads nowhere"
+    expect 2 "a pipe as database" timeout 10 "$brelex" -d "$folder/pipe" info
+    contains err "cannot read"
+    mkfifo "$folder/pipe.tsv"
+    expect 2 "a pipe as input" timeout 10 "$brelex" build -o "$folder/x.dat" "$folder/pipe.tsv"
+    contains err "cannot be read"
 fi
 if [ -z "$emulator" ]; then
     expect 2 "an argument that is not UTF-8" "$brelex" search "$(printf 'l\351')"
     contains err "brelex: argument 2 is not UTF-8"
     cp "$folder/ACRONYMS.dat" "$folder/$(printf 'l\351.dat')"
+    in_folder() ( cd "$folder" && "$@" )
+    expect 2 "a text that is not UTF-8, but the name of a file" \
+        in_folder "$brelex" search "$(printf 'l\351.dat')"
+    contains err "brelex: TEXT: is not UTF-8"
+    evil=$(printf 'x\033]0;title\a\302\233')
+    for command in "-d $evil info" "$evil" "info $evil" "info --$evil" "search --in $evil a" \
+        "search a*$evil" "build -o $evil/x $evil.tsv" "build --version $evil $folder/list.tsv" \
+        "build --date $evil $folder/list.tsv" "build --search-list $evil $folder/list.tsv"; do
+        # shellcheck disable=SC2086  # the words of the command
+        expect 2 "control characters in: $command" "$brelex" $command
+        checks=$((checks + 1))
+        if LC_ALL=C grep -q "$(printf '[\033\a]\|\302\233')" "$folder/err"; then
+            echo "FAILED: they reach the terminal"; failures=$((failures + 1))
+        fi
+    done
     expect 0 "a file whose name is not UTF-8" "$brelex" -d "$folder/$(printf 'l\351.dat')" info
 fi
 echo "$((checks - failures)) of $checks checks passed"

@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
                    {"RA\xFF"},
                    1,
                    kRam,
-                   "No entry has the abbreviation \"RA\xFF\"; typing it selects RAM.\n"
+                   "No entry has the abbreviation \"RA\uFFFD\"; typing it selects RAM.\n"
                    "Did you mean RAM?\n"},
         LookupCase{"AControlSequence",
                    {"-"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/visible_text.h"
 
+#include <sstream>
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -43,8 +44,31 @@ INSTANTIATE_TEST_SUITE_P(
                     VisibleCase{"OtherCharactersStay", "\xC2\xA0\xC3\xA9\xE2\x82\xAC",
                                 "\xC2\xA0\xC3\xA9\xE2\x82\xAC"},
                     VisibleCase{"KeptOnesStay", "a\tb\r\n", "a\tb\xE2\x90\x8D\n", "\t\n"},
-                    VisibleCase{"ACharacterCutOff", "\xC2", "\xC2"}),
+                    VisibleCase{"ACharacterCutOff", "\xC2", "\uFFFD"}),
     CaseName());
+
+TEST(VisibleText, BytesThatAreNotUtf8BecomeReplacementCharacters) {
+    // The first is a control character in Latin-1.
+    EXPECT_EQ(VisibleText("\x9B"
+                          "31m l\xE9 \xC3"),
+              "\uFFFD31m l\uFFFD \uFFFD");
+    EXPECT_EQ(VisibleText("\uFFFD \u00E9 \u5B57 \U0001F600"), "\uFFFD \u00E9 \u5B57 \U0001F600");
+}
+
+TEST(VisibleOutput, WritesWholeLinesWithoutControlCharacters) {
+    std::ostringstream stream;
+    std::streambuf* const before = stream.rdbuf();
+    {
+        const VisibleOutput visible(stream);
+        stream << "cannot read \x1B]0;x\a" << std::flush << '\t' << "\nthe \xC2";
+        stream << "\x9B rest" << std::flush;
+        EXPECT_EQ(static_cast<std::stringbuf*>(before)->str(),
+                  "cannot read \u241B]0;x\u2407\u2409\n");
+    }
+    EXPECT_EQ(stream.rdbuf(), before);
+    EXPECT_EQ(static_cast<std::stringbuf*>(before)->str(),
+              "cannot read \u241B]0;x\u2407\u2409\nthe \uFFFD rest");
+}
 
 }  // namespace
 }  // namespace brelex
