@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "base/windows1252.h"
@@ -63,13 +64,34 @@ void CheckBlock(const DatabaseHeader& header, const RecordStore& store,
     }
 }
 
+// The control character in a text, apart from TABs, or nothing. Windows-1252 leaves five bytes to
+// control characters, too.
+std::optional<unsigned char> ControlCharacterIn(std::string_view text) {
+    const auto found = std::find_if(text.begin(), text.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        const char32_t character = CharacterOfByte(byte);
+        return byte != '\t' && (character < 0x20 || (character >= 0x7F && character < 0xA0));
+    });
+    return found == text.end() ? std::nullopt : std::optional(static_cast<unsigned char>(*found));
+}
+
+std::string HexDigits(unsigned char byte) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    return {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+}
+
 void CheckRecords(const RecordStore& store, std::vector<std::string>& lines) {
     Findings malformed(lines, "records without TAB");
+    Findings controls(lines, "records with control characters");
     Findings disorder(lines, "records out of order");
     for (std::int32_t row = 0; row < store.RowCount(); ++row) {
         const std::string_view text = store.RowText(row);
         if (text.find('\t') == std::string_view::npos) {
             malformed.Add(RecordName(row) + " has no TAB");
+        }
+        if (const auto control = ControlCharacterIn(text)) {
+            controls.Add(RecordName(row) + " contains the control character " +
+                         HexDigits(*control));
         }
         if (row > 0 && std::is_gt(CompareTexts(store.RowText(row - 1), text))) {
             disorder.Add(RecordName(row) +
@@ -111,13 +133,25 @@ void CheckStatistics(const DatabaseHeader& header, const RecordStore& store,
 // so that all of a very long one would take forever.
 constexpr std::size_t kMostTypedBytes = 100;
 
+// How many steps the look-ups may take on average for each record. In a good database, they take a
+// few dozen. In a small one, all may take as many as they need.
+constexpr std::int64_t kMostStepsPerRecord = 1000;
+constexpr std::int64_t kStepsOfSmallDatabase = 1'000'000;
+
 // A prefix that the previous record shares leads to the same row, so each is looked up only once in
 // a run of records.
 void CheckReachability(const RecordStore& store, const PrefixFinder& find,
                        std::vector<std::string>& lines) {
     Findings unreachable(lines, "unreachable beginnings");
+    const std::int64_t mostSteps = kStepsOfSmallDatabase + kMostStepsPerRecord * store.RowCount();
+    std::int64_t steps = 0;
     std::string_view previous;
     for (std::int32_t row = 0; row < store.RowCount(); ++row) {
+        if (steps > mostSteps) {
+            lines.push_back("the beginnings from " + RecordName(row) +
+                            " on were not looked up: that takes too many steps in this order");
+            return;
+        }
         const std::string_view abbreviation = GetAbbreviation(store.RowText(row));
         const auto shared =
             static_cast<std::size_t>(std::mismatch(abbreviation.begin(), abbreviation.end(),
@@ -128,7 +162,7 @@ void CheckReachability(const RecordStore& store, const PrefixFinder& find,
         const std::size_t most = std::min(abbreviation.size(), kMostTypedBytes);
         for (std::size_t bytes = shared + 1; bytes <= most; ++bytes) {
             const std::string_view beginning = abbreviation.substr(0, bytes);
-            const std::string_view found = store.RowText(find(store, beginning));
+            const std::string_view found = store.RowText(find(store, beginning, &steps));
             if (!EqualIgnoringCase(found.substr(0, bytes), beginning)) {
                 unreachable.Add("typing " + Utf8OfBytes(beginning) + " does not reach " +
                                 RecordName(row));
@@ -144,6 +178,9 @@ std::vector<std::string> CheckDatabase(const DatabaseHeader& header, const Recor
     std::vector<std::string> lines;
     CheckBlock(header, store, lines);
     CheckRecords(store, lines);
+    if (const auto control = ControlCharacterIn(header.SearchListText)) {
+        lines.push_back("the search list contains the control character " + HexDigits(*control));
+    }
     CheckStatistics(header, store, lines);
     CheckReachability(store, find, lines);
     return lines;

@@ -41,13 +41,15 @@ Comparison CompareRow(const RowList& rows, std::int32_t row, std::string_view te
 // Finds the first row that begins with the text if the rows, cut to its length, are in ascending
 // order. All rows of the current range share the beginning that its two ends share with the text,
 // so these bytes are not compared again.
-std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view text) {
+std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view text,
+                                        std::int64_t& steps) {
     std::int32_t low = 0;
     std::int32_t count = rows.RowCount();
     std::size_t sameAtLow = 0;
     std::size_t sameAtEnd = 0;
     bool endBegins = false;  // whether the row after the range begins with the text
     while (count > 0) {
+        ++steps;
         const std::int32_t half = count / 2;
         const auto [order, same] =
             CompareRow(rows, low + half, text, std::min(sameAtLow, sameAtEnd));
@@ -66,10 +68,12 @@ std::optional<std::int32_t> FindInOrder(const RowList& rows, std::string_view te
 
 // Finds a row by bisection and then steps back row by row. Rows with accents can be out of order
 // when they are cut, so this exact procedure defines the result.
-std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view text) {
+std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view text,
+                                           std::int64_t& steps) {
     std::int32_t low = 0;
     std::int32_t high = rows.RowCount() - 1;
     while (low <= high) {
+        ++steps;
         std::int32_t mid = low + (high - low) / 2;
         const auto order = CompareRow(rows, mid, text, 0).order;
         if (std::is_gt(order)) {
@@ -79,6 +83,7 @@ std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view
         } else {
             while (mid > 0 && std::is_eq(CompareRow(rows, mid - 1, text, 0).order)) {
                 --mid;
+                ++steps;
             }
             return mid;
         }
@@ -88,14 +93,16 @@ std::optional<std::int32_t> FindStepByStep(const RowList& rows, std::string_view
 
 }  // namespace
 
-std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text) {
+std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text, std::int64_t* steps) {
+    std::int64_t uncounted = 0;
+    std::int64_t& counted = steps != nullptr ? *steps : uncounted;
     const std::size_t ascending = rows.AscendingPrefixBytes();
     std::string_view probe = text.substr(0, text.find('\0'));
     for (; !probe.empty(); probe.remove_suffix(1)) {
         // If the rows are in order, both give the same row. But the first method avoids one step
         // for each row of a run, which can be tens of thousands of rows long in a million entries.
-        const auto row =
-            probe.size() <= ascending ? FindInOrder(rows, probe) : FindStepByStep(rows, probe);
+        const auto row = probe.size() <= ascending ? FindInOrder(rows, probe, counted)
+                                                   : FindStepByStep(rows, probe, counted);
         if (row) {
             return *row;
         }

@@ -15,7 +15,10 @@ namespace brelex {
 /// byte dropped from the end of the text.
 ///
 /// Requires rows sorted by CompareTexts. Accents can put rows out of order once they are cut to a
-/// prefix. Such rows may be missed.
-[[nodiscard]] std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text);
+/// prefix. Such rows may be missed. The number of steps can then be that of the rows.
+///
+/// Adds the number of steps to `steps`, unless that is null.
+[[nodiscard]] std::int32_t FindFirstByPrefix(const RowList& rows, std::string_view text,
+                                             std::int64_t* steps = nullptr);
 
 }  // namespace brelex

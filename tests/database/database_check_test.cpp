@@ -60,6 +60,49 @@ TEST(CheckDatabase, ARecordWithoutTabIsNamed) {
                          "record 1 has no TAB"));
 }
 
+TEST(CheckDatabase, EachRecordWithAControlCharacterIsNamed) {
+    const auto lines = Findings([](DatabaseHeader& header, std::string& block) {
+        block[5] = '\x1B';
+        block[14] = '\n';
+        block[23] = '\x9D';  // Windows-1252 has no character there
+        header.SearchListText[1] = '\x7F';
+    });
+    EXPECT_TRUE(Contains(lines, "record 1 contains the control character 1B"));
+    EXPECT_TRUE(Contains(lines, "record 2 contains the control character 0A"));
+    EXPECT_TRUE(Contains(lines, "record 3 contains the control character 9D"));
+    EXPECT_TRUE(Contains(lines, "the search list contains the control character 7F"));
+}
+
+TEST(CheckDatabase, RecordsInABadOrderDoNotTakeStepsWithoutEnd) {
+    // Whoever looks up A lands in the first half and goes back to its beginning. It has to be
+    // looked up for every other record of the second half.
+    constexpr std::size_t kHalf = 10000;
+    const std::string expanded = ExpandedBytes(NumberedRecords(1));
+    std::string block;
+    for (std::size_t i = 0; i < kHalf; ++i) {
+        block += std::string("AA\tx\0", 5);
+    }
+    for (std::size_t i = 0; i < kHalf / 2; ++i) {
+        block += std::string("B\tx\0A\tx\0", 8);
+    }
+    DatabaseHeader header = DecodeHeader(expanded);
+    header.RecordCount = 2 * kHalf;
+    header.DataSize = static_cast<std::int32_t>(block.size());
+    RecordStore store;
+    ASSERT_EQ(ReadDatabase(CompressSzdd(EncodeHeader(header) + block), header, store),
+              LoadFailure::None);
+    std::int64_t steps = 0;
+    const auto lines = CheckDatabase(
+        header, store, [&](const RowList& rows, std::string_view text, std::int64_t* counted) {
+            const std::int64_t before = *counted;
+            const std::int32_t row = FindFirstByPrefix(rows, text, counted);
+            steps += *counted - before;
+            return row;
+        });
+    EXPECT_LT(steps, 30'000'000);
+    EXPECT_TRUE(Contains(lines, " on were not looked up: "));
+}
+
 TEST(CheckDatabase, EachWrongStatisticIsNamed) {
     const auto lines = Findings([](DatabaseHeader& header, std::string&) {
         header.MaxAbbrvLength = 77;
@@ -91,9 +134,9 @@ int LookupsOfCheck(const std::vector<std::string>& records) {
     EXPECT_EQ(ReadDatabase(DatabaseBytes(records), header, store), LoadFailure::None);
     int lookups = 0;
     EXPECT_EQ(CheckDatabase(header, store,
-                            [&](const RowList& rows, std::string_view text) {
+                            [&](const RowList& rows, std::string_view text, std::int64_t* steps) {
                                 ++lookups;
-                                return FindFirstByPrefix(rows, text);
+                                return FindFirstByPrefix(rows, text, steps);
                             }),
               std::vector<std::string>());
     return lookups;
