@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/interface.h"
 
@@ -14,6 +15,10 @@ class TemporaryFiles : public Interface {
     /// The user's temporary folder according to the system, ending in the separator. It need not
     /// exist. Empty if the system names none.
     [[nodiscard]] virtual std::string GetTempFolder() const = 0;
+
+    /// The folders to try, in this order, when the temporary folder does not take the file: another
+    /// user may have put something there that cannot be removed. Each ends in the separator.
+    [[nodiscard]] virtual std::vector<std::string> OtherFolders() const { return {}; }
 
     /// Creates a file that only this user can read, and writes `bytes` to it. First removes
     /// whatever has that name; of a link, the link itself. Returns false if the file cannot be

@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <system_error>
 
 #include "base/byte_buffer.h"
 #include "base/file_io.h"
+#include "base/scope.h"
 #include "database/modCRC32.h"
 #include "database/modDataLoader.h"
 
@@ -38,13 +40,16 @@ RecordBlock RecordBlockOf(std::string_view file, std::size_t length) {
 }  // namespace
 
 bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, WorkWatcher& watcher) {
-    const std::filesystem::path temporary = PathOfUtf8(values.TempFilePath);
-    std::error_code ignored;
-    std::filesystem::remove(temporary, ignored);  // one that was left behind proves nothing
     // Where this fails, the CRC will tell.
-    (void)ExpandIntoTemporaryFile(values, files);
-    const auto file = ReadWholeFile(temporary);
-    std::filesystem::remove(temporary, ignored);
+    const auto expanded = ExpandIntoTemporaryFile(values.DatabasePath, values.TempFolder, files);
+    const std::filesystem::path temporary =
+        PathOfUtf8((expanded ? expanded->folder : values.TempFolder) + kTempFileName);
+    const OnLeaving removed([&temporary] {
+        std::error_code ignored;
+        std::filesystem::remove(temporary, ignored);
+    });
+    // What stands there if that failed proves nothing.
+    const auto file = expanded ? ReadWholeFile(temporary) : std::nullopt;
     const auto length = static_cast<std::size_t>(std::max(values.Header.DataSize, 0));
     const RecordBlock block = RecordBlockOf(file ? file->View() : std::string_view(), length);
     return GetCRCFromByteArray(block.bytes, &watcher) == values.Header.DataCRC &&

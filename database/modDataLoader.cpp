@@ -4,10 +4,13 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "base/file_io.h"
 #include "base/number_text.h"
@@ -24,17 +27,31 @@ bool ReportFailure(LoadFailure failure, MessageSink& messages) {
 
 }  // namespace
 
-std::optional<ExpandedDatabase> ExpandIntoTemporaryFile(const ProgramValues& values,
+std::optional<ExpandedIntoFile> ExpandIntoTemporaryFile(const std::string& databasePath,
+                                                        const std::string& firstFolder,
                                                         TemporaryFiles& files) {
-    auto file = CompressedFile::Read(PathOfUtf8(values.DatabasePath));
+    auto file = CompressedFile::Read(PathOfUtf8(databasePath));
     if (!file) {
         return std::nullopt;
     }
     auto database = ExpandDatabase(std::move(*file));
-    if (!database || !files.WriteNewFile(values.TempFilePath, database->content.View())) {
+    if (!database) {
         return std::nullopt;
     }
-    return database;
+    const std::string_view bytes = database->content.View();
+    std::vector<std::string> folders = files.OtherFolders();
+    folders.insert(folders.begin(), firstFolder);
+    for (std::size_t i = 0; i < folders.size(); ++i) {
+        const std::string path = folders[i] + kTempFileName;
+        if (files.WriteNewFile(path, bytes)) {
+            return ExpandedIntoFile{std::move(*database), std::move(folders[i])};
+        }
+        if (i + 1 < folders.size()) {
+            std::error_code ignored;
+            std::filesystem::remove(PathOfUtf8(path), ignored);  // what was written of it
+        }
+    }
+    return std::nullopt;
 }
 
 bool LoadDatabase(ProgramValues& values, RecordStore& store,
@@ -45,10 +62,13 @@ bool LoadDatabase(ProgramValues& values, RecordStore& store,
     }
     values.TempFilePath = values.TempFolder + kTempFileName;
 
-    auto database = ExpandIntoTemporaryFile(values, surroundings.files);
-    if (!database) {
+    auto expanded =
+        ExpandIntoTemporaryFile(values.DatabasePath, values.TempFolder, surroundings.files);
+    if (!expanded) {
         return ReportFailure(LoadFailure::CannotDecode, surroundings.messages);
     }
+    values.TempFolder = expanded->folder;
+    values.TempFilePath = values.TempFolder + kTempFileName;
     const auto onHeader = [&values, &surroundings] {
         const std::int32_t recordCount = values.Header.RecordCount;
         values.RecordCount = std::max(recordCount, 0);  // only a damaged header has less than none
@@ -59,8 +79,8 @@ bool LoadDatabase(ProgramValues& values, RecordStore& store,
                                             FormatGrouped(recordCount, values.groupSeparator) +
                                             " records). Please, wait...");
     };
-    const LoadFailure failure = ReadExpandedDatabase(std::move(*database), values.Header, store,
-                                                     surroundings.progress, onHeader);
+    const LoadFailure failure = ReadExpandedDatabase(std::move(expanded->database), values.Header,
+                                                     store, surroundings.progress, onHeader);
     if (failure != LoadFailure::None) {
         return ReportFailure(failure, surroundings.messages);
     }

@@ -28,15 +28,22 @@ struct LoaderSurroundings {
 ///
 /// The expanded file is also written to the temporary file, which is deleted as soon as the header
 /// is accepted. The loader never reads it: the records come from memory. But a database whose
-/// temporary file cannot be written is refused, and that of a refused database stays.
+/// temporary file cannot be written in any folder is refused, and that of a refused database stays.
 [[nodiscard]] bool LoadDatabase(ProgramValues& values, RecordStore& store,
                                 const LoaderSurroundings& surroundings);
 
-/// Expands the file at `values.DatabasePath` both into memory and into the temporary file. Nothing
-/// if it cannot be read or expanded, or if the temporary file cannot be written completely. What
-/// was written then stays.
-[[nodiscard]] std::optional<ExpandedDatabase> ExpandIntoTemporaryFile(const ProgramValues& values,
-                                                                      TemporaryFiles& files);
+/// What a database file expands to, and the temporary file that has it, too.
+struct ExpandedIntoFile {
+    ExpandedDatabase database;
+    std::string folder;  ///< of the temporary file; ends in the separator
+};
+
+/// Expands the file at `databasePath` both into memory and into the temporary file. That is
+/// in `firstFolder`, or if it cannot be written there, in another folder. Nothing if it cannot be
+/// read or expanded, or if no temporary file can be written completely. What was written then
+/// stays.
+[[nodiscard]] std::optional<ExpandedIntoFile> ExpandIntoTemporaryFile(
+    const std::string& databasePath, const std::string& firstFolder, TemporaryFiles& files);
 
 /// The `LoadingTime` between two readings of the clock in seconds since midnight, rounded to two
 /// decimals. Negative if midnight was in between.

@@ -13,6 +13,10 @@ std::string SystemTemporaryFiles::GetTempFolder() const {
     return TemporaryFolder();
 }
 
+std::vector<std::string> SystemTemporaryFiles::OtherFolders() const {
+    return TemporaryFolders();
+}
+
 bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
     unlink(path.c_str());  // if this fails, so does the next call
     constexpr mode_t kOwnerOnly = 0600;

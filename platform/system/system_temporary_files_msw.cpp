@@ -21,6 +21,10 @@ std::string SystemTemporaryFiles::GetTempFolder() const {
     return Utf8OfAnsi(folder.data());
 }
 
+std::vector<std::string> SystemTemporaryFiles::OtherFolders() const {
+    return {};
+}
+
 bool SystemTemporaryFiles::WriteNewFile(const std::string& path, std::string_view bytes) {
     const std::filesystem::path file = PathOfUtf8(path);
     DeleteFileW(file.c_str());

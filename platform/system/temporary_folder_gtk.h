@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace brelex {
 
@@ -10,5 +11,9 @@ namespace brelex {
 /// relative path is ignored, because it would mean a different folder at each start. Ends in the
 /// separator. Empty if no folder is suitable.
 [[nodiscard]] std::string TemporaryFolder();
+
+/// All of these folders that are suitable, and behind them those that only the user can write to:
+/// $XDG_CACHE_HOME, ~/.cache and the home.
+[[nodiscard]] std::vector<std::string> TemporaryFolders();
 
 }  // namespace brelex

@@ -87,6 +87,15 @@ TEST_F(IntegrityCheckTest, AFullDiskFails) {
     EXPECT_FALSE(IsIntact());
 }
 
+TEST_F(IntegrityCheckTest, PassesWhereAnotherFolderTakesTheTemporaryFile) {
+    const TestFolder other;
+    std::filesystem::create_directories(PathOfUtf8(values_.TempFilePath + "/x"));
+    files_.otherFolders = {other.Text()};
+    WorkWatcher nobody;
+    EXPECT_TRUE(IsDataIntact(values_, files_, nobody));
+    EXPECT_TRUE(std::filesystem::is_empty(other.Path()));
+}
+
 TEST_F(IntegrityCheckTest, AnOldTemporaryFileDoesNotStandInForAMissingDatabase) {
     std::filesystem::remove(PathOfUtf8(values_.DatabasePath));
     temp_.Write(kTempFileName, ExpandedBytes(kRecords));

@@ -77,6 +77,18 @@ TEST_F(LoadDatabaseTest, DeletesTheTemporaryFileAfterReading) {
     EXPECT_FALSE(TemporaryFileExists());
 }
 
+TEST_F(LoadDatabaseTest, AnotherFolderServesIfTheFirstDoesNotTakeTheFile) {
+    const TestFolder other;
+    // Stands for a name that somebody else has taken.
+    std::filesystem::create_directories(PathOfUtf8(temp_.Text() + kTempFileName + "/x"));
+    files_.otherFolders = {temp_.Text(), folder_.Text() + "missing/", other.Text()};
+    ASSERT_TRUE(Load(DatabaseBytes({"ABC\tx"})));
+    EXPECT_EQ(values_.TempFolder, other.Text());
+    EXPECT_EQ(values_.TempFilePath, other.Text() + kTempFileName);
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(values_.TempFilePath)));
+    EXPECT_TRUE(messages_.shown.empty());
+}
+
 TEST_F(LoadDatabaseTest, SeveralExpansionsAreSeveralRecordsInFileOrder) {
     ASSERT_TRUE(Load(DatabaseBytes({"ABC\tTwo", "ABC\tOne", "ABC\tThree"})));
     EXPECT_EQ(store_.RowText(0), "ABC\tOne");

@@ -184,6 +184,17 @@ TEST_F(TempFolderOfAnotherUser, IsNotWhereTheLockIs) {
     EXPECT_FALSE(fs::is_empty(folder_.Path() / "open"));
 }
 
+TEST_F(TempFolderOfAnotherUser, LeavesOtherFoldersToTry) {
+    const Environment home("HOME", folder_.Text() + "open");
+    const Environment cache("XDG_CACHE_HOME", std::nullopt);
+    EXPECT_EQ(AsOrdinaryUser([&] {
+                  const std::vector<std::string> expected = {folder_.Text() + "open/", "/tmp/",
+                                                             folder_.Text() + "open/"};
+                  return SystemTemporaryFiles().OtherFolders() == expected ? 1 : 0;
+              }),
+              1);
+}
+
 class TemporaryFileOnLinux : public testing::Test {
   protected:
     TestFolder folder_;

@@ -63,8 +63,11 @@ class FakeTemporaryFiles final : public TemporaryFiles {
 
     [[nodiscard]] std::string GetTempFolder() const override { return folder_; }
 
+    [[nodiscard]] std::vector<std::string> OtherFolders() const override { return otherFolders; }
+
     [[nodiscard]] bool WriteNewFile(const std::string& path, std::string_view bytes) override;
 
+    std::vector<std::string> otherFolders;
     std::vector<std::string> written;
     bool diskIsFull = false;
     bool memoryIsFull = false;  ///< writing throws an exception
