@@ -255,18 +255,28 @@ void AddAnagram(CLI::App& app, CommandLine& line) {
     });
 }
 
+int SayThatMemoryIsShort() {
+    std::fputs("brelex: not enough memory\n", stderr);
+    return brelex::kFailed;
+}
+
 // The library calls this when an allocation fails. It ends the program at once, because an
 // exception would not always arrive: streams swallow it and then lack a part of the output.
 [[noreturn]] void EndForLackOfMemory() {
-    std::fputs("brelex: not enough memory\n", stderr);
-    std::_Exit(brelex::kFailed);
+    std::_Exit(SayThatMemoryIsShort());
 }
+
+struct MemoryGuard {
+    MemoryGuard() { std::set_new_handler(EndForLackOfMemory); }
+};
+
+// Before all other objects, because the parser's allocate, too.
+[[gnu::init_priority(101)]] const MemoryGuard memoryGuard;
 
 }  // namespace
 
 // The only exceptions here are the parser's errors.
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see above
-    std::set_new_handler(EndForLackOfMemory);
     const brelex::Utf8Terminal terminal;
     std::ios::sync_with_stdio(false);  // gives the streams new buffers, so it comes first
     const brelex::VisibleOutput visibleMessages(std::cerr);
@@ -320,6 +330,8 @@ int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): see abo
         if (error.get_name() != "Success") {
             line.code = app.exit(error);  // prints the help or the version
         }
+    } catch (const std::bad_alloc&) {
+        return SayThatMemoryIsShort();  // thrown where there was something to undo
     }
 
     std::cout.flush();

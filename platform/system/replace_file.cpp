@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -26,81 +27,111 @@ fs::path FreeNameBeside(const fs::path& path) {
     return name;
 }
 
-// Keeps what is at a path under another name until the path's new file is there to stay.
+// Keeps what is at a path under another name. Puts it back at the end, unless it is given up.
 class OldFile {
   public:
-    explicit OldFile(const fs::path& path) : path_(path) {}
+    explicit OldFile(fs::path path) : path_(std::move(path)) {}
 
     OldFile(const OldFile&) = delete;
     OldFile& operator=(const OldFile&) = delete;
 
     ~OldFile() {
-        std::error_code ignored;
-        if (!kept_.empty()) {
-            fs::remove(kept_, ignored);
+        std::error_code error;
+        if (isReplaced_ && !isThere_) {
+            fs::remove(path_, error);
+        } else if (isReplaced_) {
+            fs::rename(kept_, path_,
+                       error);  // if that fails, it is better under that name than lost
+        } else if (isThere_) {
+            fs::remove(kept_, error);
         }
     }
 
-    [[nodiscard]] std::string Keep() {
+    [[nodiscard]] std::error_code Keep() {
         std::error_code error;
         if (fs::symlink_status(path_, error).type() == fs::file_type::not_found) {
             return {};
         }
-        const fs::path name = FreeNameBeside(path_);
-        fs::create_hard_link(path_, name, error);
+        kept_ = FreeNameBeside(path_);
+        fs::create_hard_link(path_, kept_, error);
         if (error) {  // not every file system has links
-            fs::copy_file(path_, name, error);
+            fs::copy_file(path_, kept_, error);
         }
-        if (!error) {
-            kept_ = name;
-        }
-        return error ? error.message() : std::string();
+        isThere_ = !error;
+        return error;
     }
 
-    void Restore() {
+    void SetReplaced() { isReplaced_ = true; }
+
+    [[nodiscard]] std::error_code GiveUp() {
         std::error_code error;
-        if (kept_.empty()) {
-            fs::remove(path_, error);
-            return;
+        isReplaced_ = false;
+        if (std::exchange(isThere_, false)) {
+            fs::remove(kept_, error);
         }
-        fs::rename(kept_, path_, error);
-        kept_.clear();  // if that has failed, the old file is better under that name than lost
+        return error;
     }
+
+    [[nodiscard]] const fs::path& Name() const { return kept_; }
 
   private:
     fs::path path_;
-    fs::path kept_;  // the other name; empty if there is none
+    fs::path kept_;  // the other name
+    bool isThere_ = false;
+    bool isReplaced_ = false;
 };
+
+// What a lack of memory leaves half done has to be undone. So for a while it throws an exception,
+// even in a program that otherwise ends at once.
+class MemoryExceptions {
+  public:
+    MemoryExceptions() : before_(std::set_new_handler(nullptr)) {}
+
+    MemoryExceptions(const MemoryExceptions&) = delete;
+    MemoryExceptions& operator=(const MemoryExceptions&) = delete;
+
+    ~MemoryExceptions() { std::set_new_handler(before_); }
+
+  private:
+    std::new_handler before_;
+};
+
+std::string Failure(const char* what, const fs::path& path, const std::string& reason) {
+    return what + Utf8OfPath(path) + ": " + reason;
+}
 
 // Returns what failed, or an empty text.
 std::string Replace(const std::vector<FileToWrite>& files) {
-    const auto failure = [](const char* what, const FileToWrite& file, const std::string& reason) {
-        return what + Utf8OfPath(file.path) + ": " + reason;
-    };
+    const MemoryExceptions exceptions;
     std::deque<UnfinishedFile> unfinished;
     for (const FileToWrite& file : files) {
         const std::string reason = unfinished.emplace_back(file.path).Write(file.bytes);
         if (!reason.empty()) {
-            return failure("cannot write ", file, reason);
+            return Failure("cannot write ", file.path, reason);
         }
     }
     std::deque<OldFile> old;
     for (std::size_t i = 0; i + 1 < files.size(); ++i) {  // nothing can fail after the last one
-        const std::string reason = old.emplace_back(files[i].path).Keep();
-        if (!reason.empty()) {
-            return failure("cannot replace ", files[i], reason);
+        if (const std::error_code error = old.emplace_back(files[i].path).Keep()) {
+            return Failure("cannot replace ", files[i].path, error.message());
         }
     }
     for (std::size_t i = 0; i < files.size(); ++i) {
         const std::string reason = unfinished[i].TakePlace();
         if (!reason.empty()) {
-            for (std::size_t before = 0; before < i; ++before) {
-                old[before].Restore();
-            }
-            return failure("cannot replace ", files[i], reason);
+            return Failure("cannot replace ", files[i].path, reason);
+        }
+        if (i < old.size()) {
+            old[i].SetReplaced();
         }
     }
-    return {};
+    std::string remains;
+    for (OldFile& file : old) {
+        if (const std::error_code error = file.GiveUp()) {
+            remains = Failure("cannot remove the old ", file.Name(), error.message());
+        }
+    }
+    return remains;
 }
 
 }  // namespace
