@@ -95,9 +95,18 @@ bool IsMeant(const char* path) {
     return plan.path == nullptr || (path != nullptr && std::strstr(path, plan.path) != nullptr);
 }
 
+// A connection can have the number of a file that was closed in a way that nobody sees here.
+bool IsRegular(int file) {
+    struct stat status {};
+
+    return syscall(SYS_fstat, file, &status) == 0 && S_ISREG(status.st_mode);
+}
+
 bool IsMeant(int file) {
-    const bool known = file >= 0 && file < kMostFiles && counted[file];
-    return file != STDERR_FILENO && (plan.path == nullptr || known);
+    if (plan.path == nullptr) {
+        return file != STDERR_FILENO;
+    }
+    return file >= 0 && file < kMostFiles && counted[file] && IsRegular(file);
 }
 
 bool StrikesPath(std::string_view call, const char* path) {
@@ -238,6 +247,7 @@ ssize_t sendfile(int to, int from, off_t* offset, size_t size) {
 int close(int file) {
     const bool strikes = StrikesFile("close", file);
     const int error = errno;
+    Opened(file, nullptr);  // the next one with this number need not be meant
     const int result = NEXT(close)(file);
     errno = strikes ? error : errno;
     return strikes ? -1 : result;
@@ -246,6 +256,7 @@ int close(int file) {
 int fclose(FILE* file) {
     const bool strikes = StrikesFile("close", fileno(file));
     const int error = errno;
+    Opened(fileno(file), nullptr);
     const int result = NEXT(fclose)(file);
     errno = strikes ? error : errno;
     return strikes ? EOF : result;
