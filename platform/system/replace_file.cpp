@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/file_io.h"
+#include "platform/system/held_signals.h"
 #include "platform/system/unfinished_file.h"
 
 namespace brelex {
@@ -110,6 +111,7 @@ std::string Replace(const std::vector<FileToWrite>& files) {
             return Failure("cannot write ", file.path, reason);
         }
     }
+    const HeldSignals signals;
     std::deque<OldFile> old;
     for (std::size_t i = 0; i + 1 < files.size(); ++i) {  // nothing can fail after the last one
         if (const std::error_code error = old.emplace_back(files[i].path).Keep()) {

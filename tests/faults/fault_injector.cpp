@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
 // A library that is loaded before all others (LD_PRELOAD) and makes calls of the C library fail.
-// The environment says which:
-//   FAULT_CALL     allocation, open, read, write, close, sync, stat, rename, link, unlink, mode,
-//   lock FAULT_NUMBER   the first of these calls that fails, from 1 FAULT_LASTING  if set, all
-//   later ones fail, too FAULT_ERROR    the error number; 0 for a read or write that only moves a
-//   part of the bytes FAULT_PATH     if set, only files count whose path contains this text
-//   FAULT_LEAST    if set, only allocations of so many bytes or more count
-//   FAULT_MARK     a file that is created when a call fails
+// These variables of the environment say which:
+//
+// - FAULT_CALL: allocation, open, read, write, close, sync, stat, rename, link, unlink, mode, lock
+// - FAULT_NUMBER: the first of these calls that fails, from 1
+// - FAULT_LASTING: if set, all later ones fail, too
+// - FAULT_ERROR: the error number; 0 for a read or write that only moves a part of the bytes
+// - FAULT_SIGNAL: if set, the call does not fail, but the program gets this signal before it
+// - FAULT_PATH: if set, only files count whose path contains this text
+// - FAULT_LEAST: if set, only allocations of so many bytes or more count
+// - FAULT_MARK: a file that is created when a call fails
+//
 // Standard error always works, so that the program can say what it noticed.
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -40,6 +45,7 @@ struct Plan {
     long number = 0;
     bool lasting = false;
     int error = 0;
+    int signal = 0;
     const char* path = nullptr;
     size_t least = 0;
     const char* mark = nullptr;
@@ -63,6 +69,7 @@ struct PlanReader {
         read.number = NumberFrom("FAULT_NUMBER");
         read.lasting = std::getenv("FAULT_LASTING") != nullptr;
         read.error = static_cast<int>(NumberFrom("FAULT_ERROR"));
+        read.signal = static_cast<int>(NumberFrom("FAULT_SIGNAL"));
         read.path = std::getenv("FAULT_PATH");
         read.least = static_cast<size_t>(NumberFrom("FAULT_LEAST"));
         read.mark = std::getenv("FAULT_MARK");
@@ -86,6 +93,10 @@ bool Strikes(std::string_view call) {
     if (plan.mark != nullptr) {
         const long mark = syscall(SYS_openat, AT_FDCWD, plan.mark, O_WRONLY | O_CREAT, 0600);
         syscall(SYS_close, mark);
+    }
+    if (plan.signal != 0) {
+        kill(getpid(), plan.signal);
+        return false;
     }
     errno = plan.error;
     return true;

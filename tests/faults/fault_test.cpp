@@ -36,6 +36,7 @@ struct Settings {
     int starts = 0;
     int right = 0;
     int messages = 0;
+    int signals = 0;
 };
 
 Settings& TheSettings() {
@@ -47,6 +48,7 @@ struct Fault {
     const char* call;
     int error;  // 0 for a call that moves only a part of the bytes
     bool lasting;
+    int signal = 0;  // what the program gets instead of an error
 };
 
 // Whether trying again overcomes the fault.
@@ -108,7 +110,9 @@ class FaultTest : public testing::TestWithParam<Command> {
             }
             ++TheSettings().starts;
             Judge(result, fault, TextOf(fault, number));
-            ++(result.Code() == kFailed ? TheSettings().messages : TheSettings().right);
+            ++(result.Code() == kFailed   ? TheSettings().messages
+               : WIFEXITED(result.status) ? TheSettings().right
+                                          : TheSettings().signals);
             if (HasFailure()) {
                 return;
             }
@@ -158,6 +162,9 @@ class FaultTest : public testing::TestWithParam<Command> {
         setenv("FAULT_NUMBER", std::to_string(number).c_str(), 1);
         setenv("FAULT_ERROR", std::to_string(fault.error).c_str(), 1);
         setenv("FAULT_MARK", "mark", 1);
+        if (fault.signal != 0) {
+            setenv("FAULT_SIGNAL", std::to_string(fault.signal).c_str(), 1);
+        }
         if (fault.lasting) {
             setenv("FAULT_LASTING", "1", 1);
         }
@@ -175,13 +182,17 @@ class FaultTest : public testing::TestWithParam<Command> {
 
     void Judge(Result result, const Fault& fault, const std::string& what) {
         SCOPED_TRACE(what + "; standard error: " + result.err);
-        ASSERT_TRUE(WIFEXITED(result.status)) << "signal " << WTERMSIG(result.status);
+        const int signal = WIFSIGNALED(result.status) ? WTERMSIG(result.status) : 0;
+        ASSERT_TRUE(signal == 0 || signal == fault.signal) << "signal " << signal;
         if (std::string_view(fault.call) == "unlink") {
             result.files.erase("old.idx.old");  // this one cannot be removed
         }
         // All the files or none, and nothing else.
         if (result.files != before_) {
             EXPECT_EQ(result.files, expected_.files);
+        }
+        if (signal != 0) {
+            return;
         }
         if (result.Code() == kFailed) {
             EXPECT_NE(result.err.find("brelex: "), std::string::npos) << "no reason";
@@ -200,6 +211,7 @@ class FaultTest : public testing::TestWithParam<Command> {
 
 using AllocationFaults = FaultTest;
 using FileFaults = FaultTest;
+using SignalFaults = FaultTest;
 
 TEST_P(AllocationFaults, EndWithAMessage) {
     FailOneAfterTheOther({"allocation", ENOMEM, false}, TheSettings().allocationStep);
@@ -217,6 +229,18 @@ TEST_P(FileFaults, EndWithTheRightResultOrAMessage) {
         {"sync", EINTR, false},    {"stat", EIO, false},      {"stat", EACCES, true},
         {"rename", EACCES, false}, {"link", EPERM, false},    {"link", EPERM, true},
         {"mode", EPERM, false},    {"unlink", EACCES, false},
+    };
+    for (const Fault& fault : faults) {
+        FailOneAfterTheOther(fault, 1);
+    }
+}
+
+TEST_P(SignalFaults, LeaveAllFilesNewOrAllAsTheyWere) {
+    const std::vector<Fault> faults = {
+        {"open", 0, false, SIGTERM},   {"write", 0, false, SIGKILL}, {"sync", 0, false, SIGTERM},
+        {"write", 0, false, SIGTERM},  {"sync", 0, false, SIGINT},   {"link", 0, false, SIGTERM},
+        {"rename", 0, false, SIGTERM}, {"rename", 0, false, SIGINT}, {"unlink", 0, false, SIGHUP},
+        {"close", 0, false, SIGTERM},
     };
     for (const Fault& fault : faults) {
         FailOneAfterTheOther(fault, 1);
@@ -255,6 +279,7 @@ std::vector<Command> Commands() {
 
 INSTANTIATE_TEST_SUITE_P(Commands, AllocationFaults, testing::ValuesIn(Commands()), CaseName());
 INSTANTIATE_TEST_SUITE_P(Commands, FileFaults, testing::ValuesIn(Commands()), CaseName());
+INSTANTIATE_TEST_SUITE_P(Commands, SignalFaults, testing::ValuesIn(Commands()), CaseName());
 
 }  // namespace
 }  // namespace brelex
@@ -267,8 +292,9 @@ int main(int argc, char** argv) {
     }
     const int result = RUN_ALL_TESTS();
     if (settings.starts > 0) {
-        std::printf("%d starts with a fault; %d right results, %d messages\n", settings.starts,
-                    settings.right, settings.messages);
+        std::printf(
+            "%d starts with a fault: %d right results, %d messages, %d ended by our signal\n",
+            settings.starts, settings.right, settings.messages, settings.signals);
     }
     return result;
 }
