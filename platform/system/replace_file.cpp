@@ -41,8 +41,8 @@ class OldFile {
         if (isReplaced_ && !isThere_) {
             fs::remove(path_, error);
         } else if (isReplaced_) {
-            fs::rename(kept_, path_,
-                       error);  // if that fails, it is better under that name than lost
+            // If that fails, the old content is better under that name than lost.
+            fs::rename(kept_, path_, error);
         } else if (isThere_) {
             fs::remove(kept_, error);
         }

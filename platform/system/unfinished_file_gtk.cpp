@@ -89,8 +89,8 @@ bool TakeModeOf(const fs::path& old, int file) {
 
 // So that the name, too, survives a power cut. By now the file is in its place, and a failure would
 // not change that.
-void SyncFolderOf(const fs::path& place) {
-    const int folder = open(FolderOf(place).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+void SyncFolder(const fs::path& path) {
+    const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder != kNone) {
         fsync(folder);
         close(folder);
@@ -123,6 +123,7 @@ std::string UnfinishedFile::Write(std::string_view bytes) {
 }
 
 std::string UnfinishedFile::TakePlace() {
+    const fs::path folder = FolderOf(place_);  // nothing may throw once the file is in its place
     const int file = static_cast<int>(file_);
     if (name_.empty()) {
         const std::string openFile = LinkToOpenFile(file);
@@ -146,7 +147,7 @@ std::string UnfinishedFile::TakePlace() {
         return ReasonOf(errno);
     }
     name_.clear();
-    SyncFolderOf(place_);
+    SyncFolder(folder);
     return {};
 }
 
