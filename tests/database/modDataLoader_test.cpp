@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <new>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -86,6 +87,12 @@ TEST_F(LoadDatabaseTest, AnotherFolderServesIfTheFirstDoesNotTakeTheFile) {
     EXPECT_EQ(values_.TempFolder, other.Text());
     EXPECT_EQ(values_.TempFilePath, other.Text() + kTempFileName);
     EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(values_.TempFilePath)));
+    EXPECT_TRUE(messages_.shown.empty());
+}
+
+TEST_F(LoadDatabaseTest, AShortageOfMemoryIsNotCalledCorruption) {
+    files_.memoryIsFull = true;
+    EXPECT_THROW((void)Load(DatabaseBytes({"ABC\tx"})), std::bad_alloc);
     EXPECT_TRUE(messages_.shown.empty());
 }
 
