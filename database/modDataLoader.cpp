@@ -39,8 +39,12 @@ std::optional<ExpandedIntoFile> ExpandIntoTemporaryFile(const std::string& datab
         return std::nullopt;
     }
     const std::string_view bytes = database->content.View();
-    std::vector<std::string> folders = files.OtherFolders();
-    folders.insert(folders.begin(), firstFolder);
+    std::vector<std::string> folders = {firstFolder};
+    for (std::string& folder : files.OtherFolders()) {
+        if (folder != firstFolder) {
+            folders.push_back(std::move(folder));
+        }
+    }
     for (std::size_t i = 0; i < folders.size(); ++i) {
         const std::string path = folders[i] + kTempFileName;
         if (files.WriteNewFile(path, bytes)) {
