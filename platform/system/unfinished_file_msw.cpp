@@ -17,8 +17,10 @@ namespace {
 constexpr std::intptr_t kNone = -1;  // as INVALID_HANDLE_VALUE
 constexpr const char* kEnding = ".part";
 
+// In the words that all systems share, as far as there are any. The system's own are in the user's
+// code page.
 std::string ReasonOf(DWORD error) {
-    return std::system_category().message(static_cast<int>(error));
+    return std::system_category().default_error_condition(static_cast<int>(error)).message();
 }
 
 HANDLE HandleOf(std::intptr_t file) {
