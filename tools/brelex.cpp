@@ -271,7 +271,7 @@ struct MemoryGuard {
 };
 
 // Before all other objects, because the parser's allocate, too.
-[[gnu::init_priority(101)]] const MemoryGuard memoryGuard;
+[[gnu::init_priority(101)]] const MemoryGuard kMemoryGuard;
 
 }  // namespace
 

@@ -30,12 +30,16 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+// What the C library calls its own functions.
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" {
 void* __libc_malloc(size_t size);
 void* __libc_calloc(size_t count, size_t size);
 void* __libc_realloc(void* block, size_t size);
 void* __libc_memalign(size_t alignment, size_t size);
 }
+
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 namespace {
 
@@ -79,7 +83,7 @@ struct PlanReader {
     }
 };
 
-const PlanReader reader;
+const PlanReader kReader;
 
 // Counts a call and says whether it is to fail.
 bool Strikes(std::string_view call) {
@@ -159,9 +163,8 @@ size_t Shortened(size_t size) {
 
 }  // namespace
 
-// The declarations of the C library say that many of these never get a null pointer or throw.
-#pragma GCC diagnostic ignored "-Wmissing-declarations"
-
+// The library's own names of the parameters do not matter.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 void* malloc(size_t size) {
@@ -342,3 +345,5 @@ int flock(int file, int operation) {
 }
 
 }  // extern "C"
+
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
