@@ -4,6 +4,7 @@
 #include <wx/app.h>
 
 #include "app/configured_app_info.h"
+#include "base/scope.h"
 #include "database/locate_database.h"
 #include "database/modDataLoader.h"
 #include "platform/system/user_locale.h"
@@ -21,11 +22,15 @@ frmMain* StartUp::Run(const StartUpSurroundings& surroundings) {
         return nullptr;
     }
     auto* const splash = new frmSplash(values_.info);
+    // Also if memory runs out: GTK would leave a message that is wholly in front of it empty.
+    const OnLeaving closed([splash] {
+        splash->Hide();
+        splash->Destroy();
+    });
     splash->Show();
     splash->WaitUntilSeen();
     frmMain* const main =
         Load(*splash, surroundings) ? new frmMain(values_, surroundings) : nullptr;
-    splash->Destroy();
     wxTheApp->SetTopWindow(main);
     return main;
 }
