@@ -210,24 +210,17 @@ fs::path IndexOfDictionary(const fs::path& dictionary) {
     return FileBeside(dictionary, name.replace_extension(".index"));
 }
 
-void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
-                   InputReport& report, Corrections* corrections) {
-    const std::string indexName = Utf8OfPath(indexPath);
-    const fs::path dictionaryPath = DictionaryOfIndex(indexPath);
-    const auto index = ReadInputFile(indexPath, report);
-    const auto file = index ? ReadInputFile(dictionaryPath, report) : std::nullopt;
-    if (!file) {
-        return;
-    }
-    const GzipContent dictionary = ExpandGzip(file->View(), kMaxExpandedBytes);
-    if (!dictionary.fault.empty()) {
-        report.errors.push_back(Utf8OfPath(dictionaryPath) + ": " + dictionary.fault);
+void ReadDictd(const NamedBytes& index, const NamedBytes& dictionary,
+               std::vector<std::string>& records, InputReport& report, Corrections* corrections) {
+    const GzipContent articles = ExpandGzip(dictionary.bytes, kMaxExpandedBytes);
+    if (!articles.fault.empty()) {
+        report.errors.push_back(dictionary.name + ": " + articles.fault);
         return;
     }
     std::size_t lineNumber = 0;
-    for (const std::string_view line : SplitLines(index->View())) {
-        const std::string place = indexName + ":" + std::to_string(++lineNumber);
-        const auto article = ArticleOfIndexLine(line, dictionary.bytes);
+    for (const std::string_view line : SplitLines(index.bytes)) {
+        const std::string place = index.name + ":" + std::to_string(++lineNumber);
+        const auto article = ArticleOfIndexLine(line, articles.bytes);
         if (!article) {
             report.errors.push_back(place + ": does not point into the dictionary");
             continue;
@@ -238,6 +231,17 @@ void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
             report.warnings.push_back(place + ": no expansion; entry left out");
         }
         AddCorrected(entries, corrections, place, records, report);
+    }
+}
+
+void ReadDictdPair(const fs::path& indexPath, std::vector<std::string>& records,
+                   InputReport& report, Corrections* corrections) {
+    const fs::path dictionaryPath = DictionaryOfIndex(indexPath);
+    const auto index = ReadInputFile(indexPath, report);
+    const auto dictionary = index ? ReadInputFile(dictionaryPath, report) : std::nullopt;
+    if (dictionary) {
+        ReadDictd({Utf8OfPath(indexPath), index->View()},
+                  {Utf8OfPath(dictionaryPath), dictionary->View()}, records, report, corrections);
     }
 }
 

@@ -34,8 +34,20 @@ struct DictdEntry {
 [[nodiscard]] std::filesystem::path DictionaryOfIndex(const std::filesystem::path& index);
 [[nodiscard]] std::filesystem::path IndexOfDictionary(const std::filesystem::path& dictionary);
 
+/// A file in memory, and the name by which problems in it are reported (UTF-8).
+struct NamedBytes {
+    std::string name;
+    std::string_view bytes;
+};
+
+/// Reads a dictionary from the content of its two files, of which the dictionary may be a gzip
+/// file. Applies the corrections, if there are any, to its entries.
+void ReadDictd(const NamedBytes& index, const NamedBytes& dictionary,
+               std::vector<std::string>& records, InputReport& report,
+               Corrections* corrections = nullptr);
+
 /// Reads the dictionary whose index is at `indexPath` (name.index, in the same folder as
-/// name.dict.dz or name.dict). Applies the corrections, if there are any, to its entries.
+/// name.dict.dz or name.dict).
 void ReadDictdPair(const std::filesystem::path& indexPath, std::vector<std::string>& records,
                    InputReport& report, Corrections* corrections = nullptr);
 
