@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// replay FOLDER: passes every file of a corpus to a fuzz target that was built without a fuzzer.
+// replay FOLDER...: passes every file of a corpus to a fuzz target that was built without a fuzzer.
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -11,17 +11,19 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 int main(int argc, char** argv) {  // then it fails, as it should
-    if (argc != 2) {
-        std::cerr << "usage: replay FOLDER\n";
+    if (argc < 2) {
+        std::cerr << "usage: replay FOLDER...\n";
         return 2;
     }
     int files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(argv[1])) {
-        if (const auto file = brelex::ReadWholeFile(entry.path())) {
-            const std::string_view bytes = file->View();
-            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
-                                   bytes.size());
-            ++files;
+    for (int folder = 1; folder < argc; ++folder) {
+        for (const auto& entry : std::filesystem::directory_iterator(argv[folder])) {
+            if (const auto file = brelex::ReadWholeFile(entry.path())) {
+                const std::string_view bytes = file->View();
+                LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                       bytes.size());
+                ++files;
+            }
         }
     }
     std::cout << files << " files replayed\n";

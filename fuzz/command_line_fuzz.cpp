@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+// Input: a byte for the columns of the terminal (0: a pipe), a byte for its styles (0: none), the
+// arguments (UTF-8), a NUL after each, one more NUL, the standard input. The files listed below can
+// be named. An input with a path to any other folder is passed over.
+#include "tools/command_line.h"
+
+#include <sstream>
+
+#include "database/database_builder.h"
+#include "database/szdd.h"
+#include "fuzz/fuzz_support.h"
+#include "tools/open_database.h"
+
+namespace brelex {
+
+namespace {
+
+// A database of these records, which need not be in order or have a TAB.
+std::string DatabaseOf(const std::vector<std::string_view>& records) {
+    DatabaseHeader header = ComputeStatistics(records);
+    std::string block;
+    for (const std::string_view record : records) {
+        block.append(record).push_back('\0');
+    }
+    header.DataSize = static_cast<std::int32_t>(block.size());
+    return CompressSzdd(EncodeHeader(header) + block);
+}
+
+void WriteFiles(const FuzzFolder& folder) {
+    folder.Clear();
+    folder.Write("Acronyms.dat",
+                 DatabaseOf({"ABC\tAtanasoff-Berry Computer", "PS/2\tPersonal System/2",
+                             "RAM\tRandom Access Memory", "RAM\tRemote Area Monitoring",
+                             "TCP/IP\tTransmission Control Protocol / Internet Protocol (a suite)",
+                             "\xC9"
+                             "cole\tschool"}));
+    folder.Write("bad.dat", DatabaseOf({"", "no tab",
+                                        "\x1B]0;title\x07\t\x9B"
+                                        "2J",
+                                        "B\t\r\n\x7F", "A\t\x81\xAD\xFF", "\t"}));
+    folder.Write("damaged.dat", "SZDD");
+    folder.Write("list.tsv", "ABC\tAmerican Broadcasting Company\nXML\tmarkup\n");
+    folder.Write("d.index", "ABC\tA\tQ\n00-database-info\tQ\tQ\n");
+    folder.Write("d.dict", "ABC\n   alpha beta\nXYZ\n    omega\n");
+    folder.Write("corrections.tsv", "ABC\talpha beta\tABC\tbeta\n");
+    folder.Write("Licenses.txt", "licenses\n");
+}
+
+// Makes a folder the current one until it goes out of scope.
+class InFolder {
+  public:
+    explicit InFolder(const FuzzFolder& folder) : before_(std::filesystem::current_path()) {
+        std::filesystem::current_path(folder.Path());
+    }
+
+    InFolder(const InFolder&) = delete;
+    InFolder& operator=(const InFolder&) = delete;
+
+    ~InFolder() {
+        std::error_code ignored;
+        std::filesystem::current_path(before_, ignored);
+    }
+
+  private:
+    std::filesystem::path before_;
+};
+
+// The arguments, or none if one of them may name a file elsewhere.
+std::vector<std::string> ArgumentsOf(FuzzInput& input) {
+    std::vector<std::string> arguments;
+    for (std::string_view word = input.Text(); !word.empty(); word = input.Text()) {
+        if (word.find_first_of("/\\:") != std::string_view::npos ||
+            word.find("..") != std::string_view::npos) {
+            return {};
+        }
+        arguments.emplace_back(word);
+    }
+    return arguments;
+}
+
+// Nothing in a database can make a terminal do anything.
+void RequireHarmless(std::string text) {
+    for (const std::string_view style : {"\x1B[1m", "\x1B[0m"}) {
+        for (std::size_t at = text.find(style); at != std::string::npos; at = text.find(style)) {
+            text.erase(at, style.size());
+        }
+    }
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+        const bool isControl = byte < 0x20 || byte == 0x7F || (byte == 0xC2 && next < 0xA0);
+        Require(!isControl || byte == '\n' || byte == '\t' || byte == '\r',
+                "a terminal gets no control characters");
+    }
+}
+
+}  // namespace
+
+}  // namespace brelex
+
+// Runs the command line.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const brelex::FuzzFolder folder;
+    static bool isChanged = true;
+    brelex::FuzzInput input(data, size);
+    const int columns = static_cast<int>(input.Byte());
+    const bool hasStyles = input.Byte() != 0;
+    const std::vector<std::string> arguments = brelex::ArgumentsOf(input);
+    if (std::exchange(isChanged, false)) {
+        brelex::WriteFiles(folder);
+    }
+    for (const std::string& argument : arguments) {
+        isChanged = isChanged || argument == "build" || argument == "export";
+    }
+    const brelex::InFolder here(folder);
+    std::istringstream in{std::string(input.Rest())};
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code =
+        brelex::RunCommandLine(arguments, {in, out, err, {columns, hasStyles}, folder.PathOf("")});
+    brelex::Require(code >= brelex::kFound && code <= brelex::kFailed,
+                    "an exit code has a meaning");
+    brelex::Require(code != brelex::kFailed || err.str().starts_with("brelex: ") ||
+                        err.str().find("\nbrelex: ") != std::string::npos,
+                    "a failure has a reason");
+    if (columns > 0) {
+        brelex::RequireHarmless(out.str());
+    }
+    return 0;
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// Input: a byte for how the dictionary is stored (0: as it is, otherwise as a gzip file made of it,
+// with that level of compression), the index, a NUL, the dictionary.
+#include <zlib.h>
+
+#include "fuzz/fuzz_support.h"
+#include "tools/dictd_reader.h"
+
+namespace brelex {
+
+namespace {
+
+std::string GzipFileOf(std::string_view bytes, int level) {
+    constexpr int kWindowOfGzip = MAX_WBITS + 16;
+    constexpr int kMemory = 8;
+    z_stream stream{};
+    Require(deflateInit2(&stream, level, Z_DEFLATED, kWindowOfGzip, kMemory, Z_DEFAULT_STRATEGY) ==
+                Z_OK,
+            "zlib compresses");
+    std::string input(bytes);
+    std::string file(deflateBound(&stream, static_cast<uLong>(input.size())), '\0');
+    stream.next_in = reinterpret_cast<Bytef*>(input.data());
+    stream.avail_in = static_cast<uInt>(input.size());
+    stream.next_out = reinterpret_cast<Bytef*>(file.data());
+    stream.avail_out = static_cast<uInt>(file.size());
+    Require(deflate(&stream, Z_FINISH) == Z_STREAM_END, "a gzip file has the length foretold");
+    file.resize(stream.total_out);
+    deflateEnd(&stream);
+    return file;
+}
+
+struct ReadEntries {
+    std::vector<std::string> records;
+    InputReport report;
+};
+
+ReadEntries Read(std::string_view index, std::string_view dictionary) {
+    ReadEntries read;
+    ReadDictd({"a.index", index}, {"a.dict", dictionary}, read.records, read.report);
+    return read;
+}
+
+void RequireStorable(const std::string& record) {
+    const std::size_t tab = record.find('\t');
+    Require(tab != std::string::npos && tab > 0 && tab + 1 < record.size(),
+            "a record has an abbreviation and an expansion");
+    Require(record.find_first_of(std::string_view("\0\n\r\x1b", 4)) == std::string::npos,
+            "a record is free of control characters");
+}
+
+void CheckArticle(std::string_view article) {
+    for (const auto& entries : {EntriesOfArticle(article), EntriesOfHeaderArticle(article)}) {
+        for (const DictdEntry& entry : entries) {
+            Require(!entry.expansion.empty(), "an entry has an expansion");
+            Require(article.find(entry.abbreviation) != std::string_view::npos,
+                    "an abbreviation stands in the article");
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace brelex
+
+// Reads the dictionary. It does not matter whether it is compressed.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    brelex::FuzzInput input(data, size);
+    const int level = static_cast<int>(input.Byte() % 10);
+    const std::string_view index = input.Text();
+    const std::string_view dictionary = input.Rest();
+    const brelex::ReadEntries read = brelex::Read(index, dictionary);
+    std::for_each(read.records.begin(), read.records.end(), brelex::RequireStorable);
+    const bool isCompressed = dictionary.starts_with("\x1f\x8b");
+    if (level > 0 && !isCompressed) {
+        const auto same = brelex::Read(index, brelex::GzipFileOf(dictionary, level));
+        brelex::Require(same.records == read.records && same.report.errors == read.report.errors &&
+                            same.report.warnings == read.report.warnings,
+                        "a compressed dictionary has the same entries");
+    }
+    brelex::CheckArticle(dictionary);
+    return 0;
+}

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Input: a byte of options (1: abbreviations, 2: match case, 4: whole word, 8: loose, the next two
+// bits: the position), a byte for the first row, one for the last, one for the limit, the search
+// text (UTF-8), a NUL, the rows as lines.
+#include "search/record_finder.h"
+
+#include "database/record_text.h"
+#include "fuzz/fuzz_support.h"
+#include "fuzz/plain_search.h"
+#include "search/database_search.h"
+
+namespace brelex {
+
+namespace {
+
+using Rows = std::vector<std::int32_t>;
+
+SearchRequest RequestOf(unsigned options, std::string_view text) {
+    constexpr SearchPosition kPositions[] = {SearchPosition::Anywhere, SearchPosition::Beginning,
+                                             SearchPosition::Ending, SearchPosition::Anywhere};
+    SearchRequest request;
+    request.text = text;
+    request.in = (options & 1U) != 0 ? SearchIn::Abbreviations : SearchIn::Expansions;
+    request.matchCase = (options & 2U) != 0;
+    request.wholeWord = (options & 4U) != 0;
+    request.loose = (options & 8U) != 0;
+    request.position = kPositions[options >> 4U & 3U];
+    return request;
+}
+
+// Follows a search and compares its hits with those expected.
+class HitWatcher final : public WorkWatcher {
+  public:
+    explicit HitWatcher(const Rows& expected) : expected_(expected) {}
+
+    bool OnHit(std::int32_t row) override {
+        Require(told_ < expected_.size() && row == expected_[told_], "each hit is told in turn");
+        ++told_;
+        return true;
+    }
+
+    [[nodiscard]] std::size_t Told() const { return told_; }
+
+  private:
+    const Rows& expected_;
+    std::size_t told_ = 0;
+};
+
+void CheckHit(const RecordFinder& finder, const SearchRequest& request, std::string_view record) {
+    const bool isHit = finder.IsHit(record);
+    if (const auto expected = IsPlainHit(request, record)) {
+        Require(isHit == *expected, "a record is a hit if it is one by definition");
+    }
+    if (isHit) {
+        const std::string_view match = finder.MatchIn(record);
+        Require(match.empty() || (match.data() >= record.data() &&
+                                  match.data() + match.size() <= record.data() + record.size()),
+                "what matches is a part of the record");
+    }
+}
+
+// The rows of `all` from `first` on up to but not including `last`, at most `limit` of them.
+Rows Part(const Rows& all, std::int32_t first, std::int32_t last, std::size_t limit) {
+    Rows part;
+    for (const std::int32_t row : all) {
+        if (row >= first && row < last && part.size() < limit) {
+            part.push_back(row);
+        }
+    }
+    return part;
+}
+
+void CheckWholeSearch(const RecordFinder& finder, const RowList& rows, std::int32_t first,
+                      std::int32_t limit, const Rows& all) {
+    const Rows hits = Part(all, first, rows.RowCount(), all.size());
+    const Rows expected = Part(hits, 0, rows.RowCount(), static_cast<std::size_t>(limit));
+    HitWatcher watcher(expected);
+    for (WorkWatcher* const who :
+         {static_cast<WorkWatcher*>(nullptr), static_cast<WorkWatcher*>(&watcher)}) {
+        const SearchOutcome outcome = SearchDatabase(finder, rows, first, limit, who);
+        Require(outcome.hits == expected, "a search returns the hits up to its limit");
+        Require(outcome.limitReached == (hits.size() > expected.size()),
+                "a search tells that there are more hits");
+        Require(!outcome.limitReached || outcome.nextPosition == hits[expected.size()],
+                "a search goes on at the next hit");
+    }
+    Require(watcher.Told() == expected.size(), "all hits are told");
+}
+
+}  // namespace
+
+}  // namespace brelex
+
+// Searches all rows, a range of them and with a limit, and compares with the definition of a hit.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    brelex::FuzzInput input(data, size);
+    const unsigned options = input.Byte();
+    const unsigned from = input.Byte();
+    const unsigned to = input.Byte();
+    const auto limit = static_cast<std::int32_t>(input.Byte() % 16);
+    const brelex::SearchRequest request = brelex::RequestOf(options, input.Text());
+    brelex::RecordStore rows;
+    brelex::FillWithLines(input.Rest(), rows);
+    const auto finder = brelex::RecordFinder::Compile(request, rows);
+    brelex::Require(finder.has_value() == brelex::IsPlainPattern(request.text, request.matchCase),
+                    "a search text is refused only if it is no pattern");
+    if (!finder) {
+        return 0;
+    }
+    brelex::Rows hits;
+    for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
+        brelex::CheckHit(*finder, request, rows.RowText(row));
+        if (finder->IsHit(rows.RowText(row))) {
+            hits.push_back(row);
+        }
+    }
+    const auto count = static_cast<unsigned>(rows.RowCount());
+    const auto first = static_cast<std::int32_t>(from % (count + 1));
+    const auto last = std::max(first, static_cast<std::int32_t>(count - to % (count + 1)));
+    brelex::Rows found;
+    const std::size_t most = static_cast<std::size_t>(limit) + 1;
+    finder->FindHits(first, last, most, found);
+    brelex::Require(found == brelex::Part(hits, first, last, most),
+                    "a range of rows has the hits that its records are");
+    brelex::CheckWholeSearch(*finder, rows, first, limit, hits);
+    brelex::CheckWholeSearch(*finder, rows, 0, rows.RowCount(), hits);
+    return 0;
+}
