@@ -50,6 +50,9 @@ package_test_packages=(lintian desktop-file-utils appstream mandoc mmdebstrap bu
 # They draw the icons for Linux and check what a desktop gets.
 desktop_packages=(librsvg2-bin desktop-file-utils appstream imagemagick)
 
+# They build the fuzz targets, and tell which lines they reach.
+fuzz_packages=(clang llvm-14 bsdextrautils)
+
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 
