@@ -97,8 +97,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (built.code != brelex::kFound) {
         brelex::Require(built.code == brelex::kFailed && built.file.empty(),
                         "a build that fails writes nothing");
-        brelex::Require(built.messages.find("brelex: ") != std::string::npos &&
-                            built.messages.find("would refuse") == std::string::npos,
+        brelex::Require(built.messages.starts_with("brelex: ") &&
+                            !built.messages.starts_with("brelex: the program would refuse"),
                         "a build fails for a reason that its input gives");
         return 0;
     }

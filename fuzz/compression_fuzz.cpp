@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Input: two bytes for how far apart copies of the text are, then the text.
+// Input: two bytes whose highest bit says whether there is a copy of the text, and the rest how
+// many bytes are between the two; then the text.
 #include "database/szdd.h"
 #include "fuzz/fuzz_support.h"
 
-// Compresses and expands again. The copies let matches reach back as far as they can.
+// Compresses and expands again. A copy lets matches reach back as far as they can.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     brelex::FuzzInput input(data, size);
-    const std::size_t gap = input.TwoBytes() % (2 * brelex::kRingBytes);
+    const unsigned copy = input.TwoBytes();
+    const std::size_t gap = copy % (2 * brelex::kRingBytes);
     std::string text(input.Rest());
-    if (gap > 0) {
+    if (copy >> 15U != 0) {
         // Bytes that follow no pattern soon, so that they do not compress.
         std::minstd_rand random(static_cast<std::uint32_t>(gap));
         for (std::size_t i = 0; i < gap; ++i) {

@@ -52,8 +52,8 @@ void CheckArticle(std::string_view article) {
     for (const auto& entries : {EntriesOfArticle(article), EntriesOfHeaderArticle(article)}) {
         for (const DictdEntry& entry : entries) {
             Require(!entry.expansion.empty(), "an entry has an expansion");
-            Require(article.find(entry.abbreviation) != std::string_view::npos,
-                    "an abbreviation stands in the article");
+            Require((entry.abbreviation + entry.expansion).find('\n') == std::string::npos,
+                    "the lines of an entry are joined");
         }
     }
 }

@@ -2,42 +2,57 @@
 // Input: a byte whose lowest bit says whether case matters, the pattern in UTF-8, a NUL, the field.
 #include "search/wildcard_pattern.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
-
-#include "base/windows1252.h"
+#include "fuzz/fuzz_support.h"
+#include "fuzz/plain_search.h"
 #include "search/fragment_search.h"
 
-// Compiles and matches. A text without a fragment of the pattern must not match.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+namespace brelex {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view input(reinterpret_cast<const char*>(data), size);
-    if (input.empty()) {
-        return 0;
-    }
-    const bool matchCase = (data[0] & 1U) != 0;
-    const std::string_view text = input.substr(1, input.find('\0', 1) - 1);
-    const std::string_view field = input.substr(std::min(input.size(), text.size() + 2));
-    const auto pattern = brelex::WildcardPattern::Compile(brelex::DecodeUtf8(text), matchCase);
-    if (!pattern) {
-        return 0;
-    }
-    const bool matches = pattern->Matches(field);
-    for (const auto& segment : pattern->Segments()) {
+namespace {
+
+// What matches contains each fragment of the pattern, and a fragment is found within the field.
+void FindFragments(const WildcardPattern& pattern, std::string_view field) {
+    for (const WildcardPattern::Segment& segment : pattern.Segments()) {
         if (segment.empty()) {
             continue;
         }
         std::size_t found = std::string_view::npos;
-        brelex::FragmentSearch(segment, field).VisitPlaces(field, 0, [&](std::size_t position) {
+        FragmentSearch(segment, field).VisitPlaces(field, 0, [&](std::size_t position) {
             found = std::min(found, position);
             return field.size();
         });
-        if (found == std::string_view::npos ? matches : found + segment.size() > field.size()) {
-            std::abort();
+        if (found == std::string_view::npos) {
+            Require(!pattern.Matches(field), "what matches contains all fragments");
+        } else {
+            Require(found + segment.size() <= field.size(), "a fragment is in the field");
         }
     }
+}
+
+}  // namespace
+
+}  // namespace brelex
+
+// Compiles and matches, and compares with the definition of a pattern.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    brelex::FuzzInput input(data, size);
+    const bool matchCase = (input.Byte() & 1U) != 0;
+    const std::u32string text = brelex::DecodeUtf8(input.Text());
+    const std::string_view field = input.Rest();
+    const auto pattern = brelex::WildcardPattern::Compile(text, matchCase);
+    const auto parts = brelex::PlainParts(brelex::Folded(text, matchCase));
+    brelex::Require(pattern.has_value() == parts.has_value(), "a pattern is valid or not");
+    if (!pattern) {
+        return 0;
+    }
+    const auto match = pattern->Find(field);
+    brelex::Require(match.has_value() ==
+                        brelex::PlainMatches(
+                            *parts, brelex::Folded(brelex::CharactersOfBytes(field), matchCase)),
+                    "a text matches as the wildcards say");
+    brelex::Require(!match || (match->data() >= field.data() &&
+                               match->data() + match->size() <= field.data() + field.size()),
+                    "what matches is a part of the field");
+    brelex::FindFragments(*pattern, field);
     return 0;
 }
