@@ -18,6 +18,8 @@ namespace {
 // A database of these records, which need not be in order or have a TAB.
 std::string DatabaseOf(const std::vector<std::string_view>& records) {
     DatabaseHeader header = ComputeStatistics(records);
+    header.Version = 1;
+    header.SearchListText = "memory1\x1B[2J";
     std::string block;
     for (const std::string_view record : records) {
         block.append(record).push_back('\0');
@@ -34,15 +36,21 @@ void WriteFiles(const FuzzFolder& folder) {
                              "TCP/IP\tTransmission Control Protocol / Internet Protocol (a suite)",
                              "\xC9"
                              "cole\tschool"}));
-    folder.Write("bad.dat", DatabaseOf({"", "no tab",
-                                        "\x1B]0;title\x07\t\x9B"
-                                        "2J",
-                                        "B\t\r\n\x7F", "A\t\x81\xAD\xFF", "\t"}));
+    folder.Write("bad.dat",
+                 DatabaseOf({"", "no tab",
+                             "\x1B]0;title\x07\t\x9B"
+                             "2J",
+                             "B\t\r\n\x7F", "A\t\x81\xAD\xFF", "\"A,\\\t\"b\",c", "\t"}));
     folder.Write("damaged.dat", "SZDD");
+    constexpr std::size_t kManyRecords = 520;  // more than a search returns
+    folder.Write("many.dat", DatabaseOf(std::vector<std::string_view>(kManyRecords, "A\ta b")));
     folder.Write("list.tsv", "ABC\tAmerican Broadcasting Company\nXML\tmarkup\n");
     folder.Write("d.index", "ABC\tA\tQ\n00-database-info\tQ\tQ\n");
     folder.Write("d.dict", "ABC\n   alpha beta\nXYZ\n    omega\n");
     folder.Write("corrections.tsv", "ABC\talpha beta\tABC\tbeta\n");
+    folder.Write("bad.tsv",
+                 "\xEF\xBB\xBF"
+                 "A\tb\tc\nA\tb\nA\tb\nA\tb\t\t\x1B\nno tab\n");
     folder.Write("Licenses.txt", "licenses\n");
 }
 
@@ -94,6 +102,32 @@ void RequireHarmless(std::string text) {
     }
 }
 
+// A JSON array: brackets in pairs, and texts without control characters and with known escapes.
+void RequireJson(std::string_view text) {
+    constexpr std::string_view kEscapable = "\"\\/bfnrtu";
+    std::string open;  // the brackets that are to be closed
+    bool isInText = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (isInText) {
+            Require(static_cast<unsigned char>(c) >= 0x20 && c != 0x7F,
+                    "a text in JSON has no control characters");
+            if (c == '\\') {
+                ++i;
+                Require(i < text.size() && kEscapable.find(text[i]) != std::string_view::npos,
+                        "JSON knows the escape");
+            }
+        } else if (c == '[' || c == '{') {
+            open.push_back(c == '[' ? ']' : '}');
+        } else if (c == ']' || c == '}') {
+            Require(open.ends_with(c), "brackets in JSON are pairs");
+            open.pop_back();
+        }
+        isInText = isInText != (c == '"');
+    }
+    Require(open.empty() && !isInText, "JSON is complete");
+}
+
 }  // namespace
 
 }  // namespace brelex
@@ -123,6 +157,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     brelex::Require(code != brelex::kFailed || err.str().starts_with("brelex: ") ||
                         err.str().find("\nbrelex: ") != std::string::npos,
                     "a failure has a reason");
+    if (out.str().starts_with("[")) {  // no entry of these databases begins like that
+        brelex::RequireJson(out.str());
+    }
     const bool isDatabase = out.str().starts_with(brelex::kSzddSignature);  // from "build -o -"
     if (columns > 0 && !isDatabase) {
         brelex::RequireHarmless(out.str());
