@@ -5,7 +5,9 @@
 #include "tools/command_line.h"
 
 #include <sstream>
+#include <type_traits>
 
+#include "base/windows1252.h"
 #include "database/database_builder.h"
 #include "database/szdd.h"
 #include "fuzz/fuzz_support.h"
@@ -73,12 +75,18 @@ class InFolder {
     std::filesystem::path before_;
 };
 
+// Where paths are not bytes, the system passes nothing but UTF-8 to a program.
+bool CanBeArgument(std::string_view word) {
+    constexpr bool kPathsAreBytes = std::is_same_v<std::filesystem::path::value_type, char>;
+    return kPathsAreBytes || DecodeUtf8(word).find(U'\uFFFD') == std::u32string::npos;
+}
+
 // The arguments, or none if one of them may name a file elsewhere.
 std::vector<std::string> ArgumentsOf(FuzzInput& input) {
     std::vector<std::string> arguments;
     for (std::string_view word = input.Text(); !word.empty(); word = input.Text()) {
         if (word.find_first_of("/\\:") != std::string_view::npos ||
-            word.find("..") != std::string_view::npos) {
+            word.find("..") != std::string_view::npos || !CanBeArgument(word)) {
             return {};
         }
         arguments.emplace_back(word);

@@ -107,10 +107,6 @@ inline std::u32string Folded(const std::u32string& text, bool matchCase) {
     return matchCase ? text : SmallLetters(text);
 }
 
-inline bool IsPlainPattern(std::string_view text, bool matchCase) {
-    return PlainParts(Folded(DecodeUtf8(text), matchCase)).has_value();
-}
-
 /// Whether the first occurrence of a word is a whole word.
 inline bool HasPlainWord(std::u32string_view field, std::u32string_view word) {
     constexpr std::u32string_view kDelimiters = U" ,:;./\\(){}[]-_+!?'\"~@#$";
@@ -139,28 +135,50 @@ inline std::u32string PlainLooseText(const std::u32string& text) {
     return loose;
 }
 
-/// Whether a record is a hit by definition. Nothing for a loose search with wildcards, which is
-/// defined only by its pattern.
-inline std::optional<bool> IsPlainHit(const SearchRequest& request, std::string_view record) {
-    std::u32string text = DecodeUtf8(request.text);
-    std::u32string field = CharactersOfBytes(
-        request.in == SearchIn::Abbreviations ? GetAbbreviation(record) : GetExpansion(record));
-    // Bytes stand for the whole word, up to the first that the code page lacks.
-    std::u32string word = CharactersOfBytes(BytesOfUtf8(request.text).bytes);
-    if (request.loose) {
-        if (text.find_first_of(U"*?#[") != std::u32string::npos) {
+/// Decides by definition which records are hits of a search.
+class PlainSearch {
+  public:
+    explicit PlainSearch(const SearchRequest& request)
+        : request_(request),
+          // Bytes stand for the whole word, up to the first that the code page lacks.
+          word_(Folded(Loosened(CharactersOfBytes(BytesOfUtf8(request.text).bytes)),
+                       request.matchCase)) {
+        const std::u32string text = DecodeUtf8(request.text);
+        isValid_ = PlainParts(Folded(text, request.matchCase)).has_value();
+        hasWildcards_ = text.find_first_of(U"*?#[") != std::u32string::npos;
+        const std::u32string pattern =
+            (request.position == SearchPosition::Beginning ? U"" : U"*") + Loosened(text) +
+            (request.position == SearchPosition::Ending ? U"" : U"*");
+        parts_ = PlainParts(Folded(pattern, request.matchCase)).value_or(std::vector<PlainPart>());
+    }
+
+    /// Whether the search text is a pattern.
+    [[nodiscard]] bool IsValid() const { return isValid_; }
+
+    /// Whether a record is a hit. Nothing for a loose search with wildcards, which is defined only
+    /// by its pattern. Requires a valid search.
+    [[nodiscard]] std::optional<bool> IsHit(std::string_view record) const {
+        if (request_.loose && hasWildcards_) {
             return std::nullopt;
         }
-        text = PlainLooseText(text);
-        field = PlainLooseText(field);
-        word = PlainLooseText(word);
+        const std::u32string field =
+            Folded(Loosened(CharactersOfBytes(request_.in == SearchIn::Abbreviations
+                                                  ? GetAbbreviation(record)
+                                                  : GetExpansion(record))),
+                   request_.matchCase);
+        return PlainMatches(parts_, field) && (!request_.wholeWord || HasPlainWord(field, word_));
     }
-    text = (request.position == SearchPosition::Beginning ? U"" : U"*") + text +
-           (request.position == SearchPosition::Ending ? U"" : U"*");
-    field = Folded(field, request.matchCase);
-    const auto parts = PlainParts(Folded(text, request.matchCase));
-    return parts && PlainMatches(*parts, field) &&
-           (!request.wholeWord || HasPlainWord(field, Folded(word, request.matchCase)));
-}
+
+  private:
+    [[nodiscard]] std::u32string Loosened(const std::u32string& text) const {
+        return request_.loose ? PlainLooseText(text) : text;
+    }
+
+    const SearchRequest& request_;
+    std::u32string word_;
+    bool isValid_ = false;
+    bool hasWildcards_ = false;
+    std::vector<PlainPart> parts_;
+};
 
 }  // namespace brelex

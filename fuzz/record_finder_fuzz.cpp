@@ -46,9 +46,10 @@ class HitWatcher final : public WorkWatcher {
     std::size_t told_ = 0;
 };
 
-void CheckHit(const RecordFinder& finder, const SearchRequest& request, std::string_view record) {
+// Returns whether the record is a hit.
+bool CheckHit(const RecordFinder& finder, const PlainSearch& search, std::string_view record) {
     const bool isHit = finder.IsHit(record);
-    if (const auto expected = IsPlainHit(request, record)) {
+    if (const auto expected = search.IsHit(record)) {
         Require(isHit == *expected, "a record is a hit if it is one by definition");
     }
     if (isHit) {
@@ -57,6 +58,7 @@ void CheckHit(const RecordFinder& finder, const SearchRequest& request, std::str
                                   match.data() + match.size() <= record.data() + record.size()),
                 "what matches is a part of the record");
     }
+    return isHit;
 }
 
 // The rows of `all` from `first` on up to but not including `last`, at most `limit` of them.
@@ -101,16 +103,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const brelex::SearchRequest request = brelex::RequestOf(options, input.Text());
     brelex::RecordStore rows;
     brelex::FillWithLines(input.Rest(), rows);
+    const brelex::PlainSearch search(request);
     const auto finder = brelex::RecordFinder::Compile(request, rows);
-    brelex::Require(finder.has_value() == brelex::IsPlainPattern(request.text, request.matchCase),
+    brelex::Require(finder.has_value() == search.IsValid(),
                     "a search text is refused only if it is no pattern");
     if (!finder) {
         return 0;
     }
     brelex::Rows hits;
     for (std::int32_t row = 0; row < rows.RowCount(); ++row) {
-        brelex::CheckHit(*finder, request, rows.RowText(row));
-        if (finder->IsHit(rows.RowText(row))) {
+        if (brelex::CheckHit(*finder, search, rows.RowText(row))) {
             hits.push_back(row);
         }
     }
