@@ -36,13 +36,9 @@ void WriteFiles(const FuzzFolder& folder) {
                  DatabaseOf({"ABC\tAtanasoff-Berry Computer", "PS/2\tPersonal System/2",
                              "RAM\tRandom Access Memory", "RAM\tRemote Area Monitoring",
                              "TCP/IP\tTransmission Control Protocol / Internet Protocol (a suite)",
-                             "\xC9"
-                             "cole\tschool"}));
-    folder.Write("bad.dat",
-                 DatabaseOf({"", "no tab",
-                             "\x1B]0;title\x07\t\x9B"
-                             "2J",
-                             "B\t\r\n\x7F", "A\t\x81\xAD\xFF", "\"A,\\\t\"b\",c", "\t"}));
+                             "\311cole\tschool"}));
+    folder.Write("bad.dat", DatabaseOf({"", "no tab", "\x1B]0;title\x07\t\2332J", "B\t\r\n\x7F",
+                                        "A\t\x81\xAD\xFF", "\"A,\\\t\"b\",c", "\t"}));
     folder.Write("damaged.dat", "SZDD");
     constexpr std::size_t kManyRecords = 520;  // more than a search returns
     folder.Write("many.dat", DatabaseOf(std::vector<std::string_view>(kManyRecords, "A\ta b")));
@@ -50,9 +46,7 @@ void WriteFiles(const FuzzFolder& folder) {
     folder.Write("d.index", "ABC\tA\tQ\n00-database-info\tQ\tQ\n");
     folder.Write("d.dict", "ABC\n   alpha beta\nXYZ\n    omega\n");
     folder.Write("corrections.tsv", "ABC\talpha beta\tABC\tbeta\n");
-    folder.Write("bad.tsv",
-                 "\xEF\xBB\xBF"
-                 "A\tb\tc\nA\tb\nA\tb\nA\tb\t\t\x1B\nno tab\n");
+    folder.Write("bad.tsv", "\357\273\277A\tb\tc\nA\tb\nA\tb\nA\tb\t\t\x1B\nno tab\n");
     folder.Write("Licenses.txt", "licenses\n");
 }
 

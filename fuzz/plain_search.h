@@ -24,45 +24,60 @@ struct PlainPart {
     std::vector<std::pair<char32_t, char32_t>> ranges;
 };
 
+/// What a list means, given the characters between its brackets. Nothing if a range runs backward.
+inline std::optional<PlainPart> PlainList(std::u32string_view list) {
+    PlainPart part;
+    part.isNegated = list.starts_with(U'!');
+    list.remove_prefix(part.isNegated ? 1 : 0);
+    while (!list.empty()) {
+        const bool isRange = list.size() > 2 && list[1] == U'-';
+        part.ranges.emplace_back(list.front(), isRange ? list[2] : list.front());
+        if (part.ranges.back().second < list.front()) {
+            return std::nullopt;
+        }
+        list.remove_prefix(isRange ? 3 : 1);
+    }
+    return part;
+}
+
+/// What a character outside a list means.
+inline PlainPart PlainPartOf(char32_t character) {
+    constexpr char32_t kLast = 0x10FFFF;
+    switch (character) {
+        case U'*':
+            return {true, false, {}};
+        case U'?':
+            return {false, false, {{0, kLast}}};
+        case U'#':
+            return {false, false, {{U'0', U'9'}}};
+        default:
+            return {false, false, {{character, character}}};
+    }
+}
+
 /// The parts of a pattern, in which letters are small unless case matters. Nothing if it is not
 /// valid.
 inline std::optional<std::vector<PlainPart>> PlainParts(std::u32string_view pattern) {
-    constexpr char32_t kLast = 0x10FFFF;
     std::vector<PlainPart> parts;
     while (!pattern.empty()) {
         const char32_t character = pattern.front();
         pattern.remove_prefix(1);
-        PlainPart part;
-        if (character == U'*') {
-            part.isStar = true;
-        } else if (character == U'?') {
-            part.ranges = {{0, kLast}};
-        } else if (character == U'#') {
-            part.ranges = {{U'0', U'9'}};
-        } else if (character != U'[') {
-            part.ranges = {{character, character}};
-        } else {
-            const std::size_t end = pattern.find(U']');
-            if (end == std::u32string_view::npos) {
-                return std::nullopt;
-            }
-            std::u32string_view list = pattern.substr(0, end);
-            pattern.remove_prefix(end + 1);
-            if (list.empty()) {
-                continue;
-            }
-            part.isNegated = list.front() == U'!';
-            list.remove_prefix(part.isNegated ? 1 : 0);
-            while (!list.empty()) {
-                const bool isRange = list.size() > 2 && list[1] == U'-';
-                part.ranges.emplace_back(list.front(), isRange ? list[2] : list.front());
-                if (part.ranges.back().second < list.front()) {
-                    return std::nullopt;
-                }
-                list.remove_prefix(isRange ? 3 : 1);
-            }
+        if (character != U'[') {
+            parts.push_back(PlainPartOf(character));
+            continue;
         }
-        parts.push_back(std::move(part));
+        const std::size_t end = pattern.find(U']');
+        if (end == std::u32string_view::npos) {
+            return std::nullopt;
+        }
+        auto part = PlainList(pattern.substr(0, end));
+        if (!part) {
+            return std::nullopt;
+        }
+        if (end > 0) {  // "[]" is the empty text
+            parts.push_back(std::move(*part));
+        }
+        pattern.remove_prefix(end + 1);
     }
     return parts;
 }
