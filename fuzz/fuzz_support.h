@@ -80,7 +80,7 @@ class FuzzInput {
 /// Fills a store with the lines of a text. NULs end a line, too.
 inline void FillWithLines(std::string_view lines, RecordStore& store) {
     ByteBuffer block(lines.size() + 1);
-    Require(!block.IsNull(), "there is memory for the rows");
+    Require(block.Data() != nullptr, "there is memory for the rows");
     char* const end = std::copy(lines.begin(), lines.end(), block.Data());
     *end = '\0';
     std::replace(block.Data(), end, '\n', '\0');
