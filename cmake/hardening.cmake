@@ -8,8 +8,12 @@ if(NOT WIN32)
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
   include(CheckCXXCompilerFlag)
   check_cxx_compiler_flag(-fcf-protection has_control_flow_protection)
+  add_compile_options("$<$<CONFIG:Release>:-fstack-protector-strong>")
+  # Distributions set their own level.
+  if(NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
+    add_compile_options("$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  endif()
   add_compile_options(
-    "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>"
     "$<$<AND:$<CONFIG:Release>,$<BOOL:${has_control_flow_protection}>>:-fcf-protection>")
   add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
 endif()

@@ -14,8 +14,9 @@ add_custom_command(OUTPUT "${help_book}"
   DEPENDS ${help_sources}
   VERBATIM)
 set(read_me "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/ReadMe.txt")
-add_custom_command(OUTPUT "${read_me}"
-  COMMAND "${CMAKE_COMMAND}" -E copy "${CMAKE_SOURCE_DIR}/help/ReadMe.txt" "${read_me}"
-  DEPENDS "${CMAKE_SOURCE_DIR}/help/ReadMe.txt"
-  VERBATIM)
-add_custom_target(help_book ALL DEPENDS "${help_book}" "${read_me}")
+set(line_ends UNIX)
+if(WIN32)
+  set(line_ends WIN32)  # the only ones that the editors of older systems know
+endif()
+configure_file("${CMAKE_SOURCE_DIR}/help/ReadMe.txt" "${read_me}" @ONLY NEWLINE_STYLE ${line_ends})
+add_custom_target(help_book ALL DEPENDS "${help_book}")

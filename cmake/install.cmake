@@ -22,6 +22,9 @@ set(BRELEX_PROGRAM_FOLDER "lib/brevilexicon" CACHE STRING
     "Folder of the programs and their files, relative to the prefix")
 install(TARGETS ${programs} RUNTIME DESTINATION "${BRELEX_PROGRAM_FOLDER}")
 install(FILES ${program_files} DESTINATION "${BRELEX_PROGRAM_FOLDER}")
+if(IS_ABSOLUTE "${BRELEX_PROGRAM_FOLDER}" OR IS_ABSOLUTE "${CMAKE_INSTALL_BINDIR}")
+  message(FATAL_ERROR "The folders for programs have to be relative to the prefix.")
+endif()
 cmake_path(RELATIVE_PATH BRELEX_PROGRAM_FOLDER BASE_DIRECTORY "${CMAKE_INSTALL_BINDIR}"
            OUTPUT_VARIABLE program_folder_from_bin)
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/links")

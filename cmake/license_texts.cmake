@@ -21,6 +21,8 @@ if(BASH)
             "${CMAKE_SOURCE_DIR}/packaging/licenses/database.txt"
     VERBATIM)
   add_custom_target(license_texts ALL DEPENDS "${licenses}")
+elseif(BRELEX_PACKAGING)
+  message(FATAL_ERROR "bash, which writes Licenses.txt, is missing.")
 else()
   message(STATUS "No bash: Licenses.txt is not made, so the programs cannot be packaged.")
 endif()

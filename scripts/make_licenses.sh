@@ -8,6 +8,7 @@
 # packages are made with, that is an error.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+. scripts/common.sh
 strict=
 if [ "$1" = --strict ]; then
     strict=yes
@@ -16,6 +17,8 @@ fi
 system=$1 output=$2
 common=${BRELEX_COMMON_LICENSES:-/usr/share/common-licenses}
 doc=/usr/share/doc
+wx=${WX_PREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/brevilexicon/wx-3.2-i686}
+png_header=$wx/include/libpng16/png.h
 
 rule() { printf '\n\n%s\n%s\n%s\n\n' "${1//?/=}" "$1" "${1//?/=}"; }
 
@@ -50,6 +53,14 @@ runtime_exception() {
         isText || /^The text is not/ { print }'
 }
 
+# The license of the libpng that is linked, from its own header.
+png_license() {
+    text_of "$png_header" | awk '
+        /PNG Reference Library License version 2/ { isText = 1 }
+        isText && (/\*\// || /Versions 0.97/) { exit }
+        isText || /^The text is not/ { sub(/^ \* ?/, ""); print }' || true
+}
+
 cli11() {
     rule "CLI11"
     echo "brelex reads its command line with CLI11 (https://github.com/CLIUtils/CLI11)."
@@ -69,9 +80,12 @@ gcc_runtime() {
     rule "The runtime libraries of GCC"
     echo "The compiler adds parts of libgcc and libstdc++ to the programs."
     echo "Copyright (C) Free Software Foundation, Inc. (https://gcc.gnu.org). They are under"
-    echo "the GNU General Public License, version 3 or later, with this exception:"
+    echo "the GNU General Public License, version 3 or later, which is below, with this"
+    echo "exception:"
     echo
     runtime_exception "$1"
+    rule "The GNU General Public License, version 3"
+    text_of "$common/GPL-3"
 }
 
 linux_components() {
@@ -98,6 +112,8 @@ windows_components() {
     echo "Copyright (C) 1997-2022 the wxWidgets contributors"
     echo
     license_in wx3.2-headers wxWindows
+    rule "The GNU Library General Public License, version 2"
+    text_of "$common/LGPL-2"
     rule "NanoSVG"
     echo "wxWidgets draws pictures with NanoSVG (https://github.com/memononen/nanosvg)."
     echo "Copyright (C) 2013, 2014 Mikko Mononen; 2002-2004 Maxim Shemanarev"
@@ -107,7 +123,7 @@ windows_components() {
     echo "wxWidgets reads pictures with libpng (http://www.libpng.org/pub/png/)."
     echo "Copyright (C) 1995-2022 The PNG Reference Library Authors"
     echo
-    license_in libpng16-16 libpng
+    png_license
     zlib "The programs contain zlib." libz-mingw-w64-dev
     gcc_runtime gcc-mingw-w64-base
     rule "mingw-w64"
@@ -148,10 +164,11 @@ END
     cat packaging/licenses/database.txt
     rule "GNU FDL"
     text_of "$common/GFDL-1.3"
+    rule "CC0 1.0"
+    text_of "$common/CC0-1.0"
     "${system}_components"
 }
 
-. scripts/common.sh
 case $system in
     linux | linux-static | windows) ;;
     *) fail "usage: make_licenses.sh [--strict] SYSTEM FILE" ;;

@@ -10,6 +10,7 @@ import datetime
 import hashlib
 import json
 import os
+import re
 import subprocess
 import sys
 import tarfile
@@ -19,13 +20,28 @@ ENTRIES_LICENSE = "CC0-1.0"
 VERA_LICENSE = "GFDL-1.1-no-invariants-or-later"
 
 # What the programs of a package contain besides our code: name, the Debian package that it comes
-# from on this machine, license, home page.
+# from on this machine or a function that knows its version, license, home page.
+WX_PREFIX = os.environ.get("WX_PREFIX") or os.path.join(
+    os.environ.get("XDG_CACHE_HOME") or os.path.expanduser("~/.cache"),
+    "brevilexicon", "wx-3.2-i686")
+
+
+def png_version():
+    with open(os.path.join(WX_PREFIX, "include/libpng16/png.h"), encoding="utf-8") as header:
+        return re.search(r'#define PNG_LIBPNG_VER_STRING "(.+)"', header.read())[1]
+
+
+def wx_version():
+    return subprocess.run([os.path.join(WX_PREFIX, "bin/wx-config"), "--version-full"],
+                          capture_output=True, text=True, check=True).stdout.strip()
+
+
 HEADERS = [("CLI11", "libcli11-dev", "BSD-3-Clause", "https://github.com/CLIUtils/CLI11")]
 INSIDE_WINDOWS_PROGRAMS = HEADERS + [
-    ("wxWidgets", "wx3.2-headers", "LGPL-2.0-or-later WITH WxWindows-exception-3.1",
+    ("wxWidgets", wx_version, "LGPL-2.0-or-later WITH WxWindows-exception-3.1",
      "https://www.wxwidgets.org"),
     ("NanoSVG", None, "Zlib", "https://github.com/memononen/nanosvg"),
-    ("libpng", "libpng16-16", "libpng-2.0", "http://www.libpng.org/pub/png/libpng.html"),
+    ("libpng", png_version, "libpng-2.0", "http://www.libpng.org/pub/png/libpng.html"),
     ("zlib", "libz-mingw-w64-dev", "Zlib", "https://zlib.net"),
     ("GCC runtime libraries", "g++-mingw-w64-i686-posix",
      "GPL-3.0-or-later WITH GCC-exception-3.1", "https://gcc.gnu.org"),
@@ -37,6 +53,8 @@ INSIDE_INSTALLER = [("NSIS", "nsis", "Zlib", "https://nsis.sourceforge.io")]
 def version_of(package):
     if package is None:
         return None
+    if callable(package):
+        return package()
     answer = subprocess.run(["dpkg-query", "-W", "-f=${Version}", package],
                             capture_output=True, text=True, check=False)
     if answer.returncode != 0:
@@ -169,7 +187,9 @@ def main():
         result.relate(ours, "STATIC_LINK", part)
     if kind == "deb":
         for name, version in needed_libraries(package):
-            library = result.add_package(name, version, "NOASSERTION", None)
+            library = result.add_package(name, None, "NOASSERTION", None)
+            if version:
+                result.document["packages"][-1]["comment"] = f"version {version}"
             result.relate(ours, "DYNAMIC_LINK", library)
     with open(package + ".spdx.json", "w", encoding="utf-8") as file:
         json.dump(result.document, file, indent=2)

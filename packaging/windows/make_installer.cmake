@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Makes the installer of the Windows programs. CPack's External generator runs this script with the files
 # to install in CPACK_TEMPORARY_DIRECTORY. Besides CPack's own variables it needs:
-#   CPACK_BRELEX_COPYRIGHT   the legal-rights text
+#   CPACK_BRELEX_COPYRIGHT   the copyright notice
 #   CPACK_BRELEX_ICON        the program's icon, an .ico file
 # The same files give the same installer, whatever their dates.
 # Needs: nsis librsvg2-bin imagemagick
