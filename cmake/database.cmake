@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The target "database" builds Acronyms.dat into the programs' folder. It may download a Debian package, so
-# only packages build it without being asked.
+# The target "database" builds Acronyms.dat into the programs' folder. It may download a Debian
+# package, so only packages build it without being asked.
 set(strict)
 set(always)
 if(BRELEX_PACKAGING)

@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# What a Linux desktop expects of a program: desktop entries, metadata for software catalogs, the MIME
-# type of the help book, and icons.
+# What a Linux desktop expects of a program: desktop entries, metadata for software catalogs, the
+# MIME type of the help book, and icons.
 #
-# A build tree has all of it in its share/, where the desktop entries start the programs of that tree.
-# Add the folder to XDG_DATA_DIRS to use them. The same folder holds what is installed, except for the
-# desktop entries: the installed ones start the programs that are in PATH.
+# A build tree has all of it in its share/, where the desktop entries start the programs of that
+# tree. Add the folder to XDG_DATA_DIRS to use them. The same folder holds what is installed, except
+# for the desktop entries: the installed ones start the programs that are in PATH.
 #   BRELEX_SHARE            share/ of the build tree
 #   BRELEX_DESKTOP_ENTRIES  the desktop entries to install, in share/applications
 #   BRELEX_METAINFO         the metadata, for share/metainfo
@@ -18,8 +18,9 @@ set(BRELEX_MIME_TYPE "${BRELEX_SHARE}/mime/packages/brelex-help-type.xml")
 set(BRELEX_ICON_THEME "${BRELEX_SHARE}/icons/hicolor")
 set(desktop_templates "${CMAKE_SOURCE_DIR}/packaging/linux")
 
-# desktop_entries(FOLDER PROGRAMS): writes the desktop entries of the dictionary and of the help into
-# FOLDER. PROGRAMS is the folder of the programs, which ends in a slash, or empty to leave it to PATH.
+# desktop_entries(FOLDER PROGRAMS): writes the desktop entries of the dictionary and of the help
+# into FOLDER. PROGRAMS is the folder of the programs, which ends in a slash, or empty to leave it
+# to PATH.
 function(desktop_entries folder programs)
   set(DICTIONARY_FILE "${programs}brevilexicon")
   set(DICTIONARY_COMMAND "${programs}brevilexicon")

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # What makes it hard to misuse a mistake in the released programs: they can be placed anywhere in
-# memory, check their stack and the sizes of buffers, let the processor check jumps, and seal the tables
-# of the linker. cmake/mingw-i686.cmake has the flags of the Windows programs.
+# memory, check their stack and the sizes of buffers, let the processor check jumps, and seal the
+# tables of the linker. cmake/mingw-i686.cmake has the flags of the Windows programs.
 if(NOT WIN32)
   include(CheckPIESupported)
   check_pie_supported()

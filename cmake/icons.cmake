@@ -10,9 +10,9 @@ endfunction()
 
 find_program(RSVG_CONVERT rsvg-convert)
 
-# theme_icons(FOLDER NAME): builds the program's icon for an icon theme, in all sizes and as a symbol
-# in one color, into FOLDER/hicolor. NAME is the icon's name. Without rsvg-convert there are only the
-# drawings, which desktops scale themselves.
+# theme_icons(FOLDER NAME): builds the program's icon for an icon theme, in all sizes and as a
+# symbol in one color, into FOLDER/hicolor. NAME is the icon's name. Without rsvg-convert there are
+# only the drawings, which desktops scale themselves.
 function(theme_icons folder name)
   set(theme "${folder}/hicolor")
   configure_file("${CMAKE_SOURCE_DIR}/assets/icon.svg" "${theme}/scalable/apps/${name}.svg" COPYONLY)

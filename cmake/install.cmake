@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-# What cmake --install puts where. On both systems the programs, the database, the help and the texts lie
-# together in one folder, because the programs look for the others in their own folder. On Windows
-# that is all. On Linux this folder is BRELEX_PROGRAM_FOLDER, the folder for programs has relative
-# links into it, and the desktop, the shells and man find their files below share/. So the whole tree
-# can be moved.
+# What cmake --install puts where. On both systems the programs, the database, the help and the
+# texts lie together in one folder, because the programs look for the others in their own folder. On
+# Windows that is all. On Linux this folder is BRELEX_PROGRAM_FOLDER, the folder for programs has
+# relative links into it, and the desktop, the shells and man find their files below share/. So the
+# whole tree can be moved.
 set(program_files
   "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Acronyms.dat"
   "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Brelex.hlp"

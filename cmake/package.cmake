@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The packages that cpack makes: on Linux a Debian package and an archive that can be unpacked anywhere,
-# for Windows an installer and an archive. scripts/package makes all of them.
+# The packages that cpack makes: on Linux a Debian package and an archive that can be unpacked
+# anywhere, for Windows an installer and an archive. scripts/package makes all of them.
 set(CPACK_PACKAGE_NAME "brevilexicon")
 set(CPACK_PACKAGE_VENDOR "${BRELEX_PUBLISHER}")
 set(CPACK_PACKAGE_CONTACT "${BRELEX_PUBLISHER} <${BRELEX_SUPPORT_ADDRESS}>")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# every_fault.sh: lets every single call of the C library fail in turn, in brelex and at the start of
-# the program. Takes about half an hour; ./test tries a sample of these calls.
+# every_fault.sh: lets every single call of the C library fail in turn, in brelex and at the start
+# of the program. Takes about half an hour; ./test tries a sample of these calls.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# make_database.sh [--strict] FOLDER: builds Acronyms.dat in the folder of the built programs from the entries in
-# data/ and the V.E.R.A. list in Debian's package dict-vera, corrected by data/vera-corrections.tsv. It
-# downloads the package and unpacks it without installing it. If it cannot get the package, it builds
-# the database from data/ alone; with --strict, which packages are made with, it fails.
+# make_database.sh [--strict] FOLDER: builds Acronyms.dat in the folder of the built programs from
+# the entries in data/ and the V.E.R.A. list in Debian's package dict-vera, corrected by
+# data/vera-corrections.tsv. It downloads the package and unpacks it without installing it. If it
+# cannot get the package, it builds the database from data/ alone; with --strict, which packages are
+# made with, it fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

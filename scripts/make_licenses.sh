@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # make_licenses.sh [--strict] SYSTEM FILE: writes all licenses that a package has to contain into
-# one text file: ours, that of the entries, and those of the libraries inside the programs. The texts of
-# others are not in the source tree. They come from Debian's packages on this machine, where every
-# package has its copyright file. SYSTEM is windows, linux, or linux-static if brelex is linked
-# statically. Where a text is missing, the file says so; with --strict, which
-# packages are made with, that is an error.
+# one text file: ours, that of the entries, and those of the libraries inside the programs. The
+# texts of others are not in the source tree. They come from Debian's packages on this machine,
+# where every package has its copyright file. SYSTEM is windows, linux, or linux-static if brelex is
+# linked statically. Where a text is missing, the file says so; with --strict, which packages are
+# made with, that is an error.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# sort_package.sh PACKAGE...: packs Debian packages and archives (.tar.gz, .zip) once more, with their files
-# in the order of their names and the time SOURCE_DATE_EPOCH. The same files then give the same bytes.
+# sort_package.sh PACKAGE...: packs Debian packages and archives (.tar.gz, .zip) once more, with
+# their files in the order of their names and the time SOURCE_DATE_EPOCH. The same files then give
+# the same bytes.
 set -euo pipefail
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
