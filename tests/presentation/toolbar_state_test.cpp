@@ -138,6 +138,22 @@ INSTANTIATE_TEST_SUITE_P(Table, ToolbarOutside,
                                          OutsideCase{"Below", 20, 41}),
                          CaseName());
 
+class ToolbarBoundary : public testing::TestWithParam<OutsideCase> {};
+
+TEST_P(ToolbarBoundary, BelongsToTheToolbar) {
+    Toolbar toolbar;
+    toolbar.state.OnMouseMove(kLeft, 20, 20);
+    EXPECT_EQ(
+        toolbar.Log([](ToolbarState& s) { s.OnMouseMove(kLeft, GetParam().x, GetParam().y); }),
+        (Strings{"hold", "0 flat", "describe nothing"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ToolbarBoundary,
+                         testing::Values(OutsideCase{"Left", 0, 20}, OutsideCase{"Top", 20, 0},
+                                         OutsideCase{"Right", 200, 20},
+                                         OutsideCase{"Bottom", 20, 40}),
+                         CaseName());
+
 TEST(ToolbarState, AMouseThatLeavesFlattens) {
     Toolbar toolbar;
     toolbar.state.OnMouseMove({}, 20, 20);
