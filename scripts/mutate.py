@@ -1,26 +1,28 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""mutate.py [--again] [--list] [--jobs N] [FOLDER|FILE...]: shows which faults core_tests would miss.
+"""mutate.py [--again] [--quick] [--list] [--jobs N] [FOLDER|FILE...]: shows which faults core_tests would miss.
 
 Makes one small change at a time to the sources of the core (a mutant), and runs core_tests with it.
 A change that no test notices shows a gap in the tests, or changes nothing that a test could see.
 Without arguments it goes through the whole core, otherwise through the folders or files named.
 
   --again   tries only what the last run with these files did not notice; after adding tests
+  --quick   runs only the tests of the changed file itself, if it has any
   --list    prints the mutants and runs nothing
   --jobs N  how many to try at a time; the default is the number of processors
 
 What is changed, each place once:
 
   < <= > >= == !=         to the neighboring comparison: < to <=, == to !=
-  + - * / %  << >> & | ^  to another operator; so are += and its like, and ++ to --
+  + - * / %  << >> & | ^  to another operator; so are += and its like
   && || !                 to the other one; ! is taken away
   123, 0x7F, 'a'          to the next number or character; any escaped character to a blank
   true, false             to the other one
   break; continue;        taken away
 
-Asserts, tables of numbers, templates' arguments and #include lines stay as they are. That operators
-have a blank on both sides only where they take two operands is up to the formatter.
+Counting with ++ and -- stays, because any test notices a loop that does not end. So do asserts,
+tables of numbers, templates' arguments and #include lines. The formatter sees to it that operators have blanks
+on both sides if, and only if, they take two operands.
 
 A mutant is named FILE:LINE:COLUMN OLD -> NEW. Each one that is not noticed is printed with the line
 before and after the change, in the form of scripts/mutants-equivalent.txt. Mutants in that file are
@@ -59,12 +61,11 @@ TOKEN = re.compile(r"""
   | (?P<number> \b\d[0-9A-Za-z_.']* )
   | (?P<word> [A-Za-z_]\w* )
   | (?P<binary> (?<=\ )(?:<<=|>>=|<=>|[-+*/%&|^<>=!]=|<<|>>|&&|\|\||[-+*/%&|^<>])(?=\s) )
-  | (?P<step> \+\+|-- )
   | (?P<unary> !(?=[\w(]) )
 """, re.VERBOSE | re.MULTILINE | re.DOTALL)
 TABLE = re.compile(r"[\s{}(),;]*(?:(?:0x[0-9A-F]+|\d+)[\s{}(),;]+)+(?://.*)?")
 PAIRS = ("< <=", "> >=", "== !=", "+ -", "* /", "<< >>", "& |", "&& ||", "+= -=", "*= /=",
-         "<<= >>=", "&= |=", "++ --", "true false")
+         "<<= >>=", "&= |=", "true false")
 OTHER = dict(pair.split() for pair in PAIRS) | dict(reversed(pair.split()) for pair in PAIRS)
 OTHER |= {"%": "*", "%=": "*=", "^": "|", "^=": "|=", "!": "", "break": "", "continue": ""}
 
@@ -119,6 +120,10 @@ def name_of(mutant):
             f"{mutant.new or 'nothing'}")
 
 
+def own_test(file):
+    return f"tests/{os.path.splitext(file)[0]}_test.cpp"
+
+
 class Equivalents:
     """The mutants in mutants-equivalent.txt: file, line above (may be empty), before and after."""
 
@@ -165,7 +170,8 @@ def run(command, seconds="unlimited", folder=BUILD):
 class Bench:
     """Compiles, links and runs mutants with what the build made."""
 
-    def __init__(self):
+    def __init__(self, quick):
+        self.quick = quick
         ninja = ["ninja", "-C", str(BUILD)]
         answer = subprocess.run(ninja + ["-t", "commands", "core_tests"], check=True, text=True,
                                 capture_output=True).stdout.splitlines()
@@ -216,11 +222,18 @@ class Bench:
                 return "places"
             for tests in self.test_sets(mutant.file):
                 limit = self.limit_of(tests)
-                if not self.make_program(folder / "tests", tests, objects):
+                if not self.make_program(folder / "core_tests", tests, objects):
                     return "places"
-                if not run([folder / "tests", "--gtest_fail_fast"], limit, folder):
+                if not run([folder / "core_tests", "--gtest_fail_fast"], limit, folder):
                     return "noticed"
             return "unnoticed"
+
+    def sources_with(self, file):
+        """What to compile again. Of the tests, those of a header, because they use what is in it
+        and nothing else of the core may."""
+        if file not in self.users:
+            return [file]
+        return self.users[file] + [test for test in [own_test(file)] if test in self.compile]
 
     def compiled(self, mutant, folder):
         """The objects of all sources that the mutant changes; none if one does not compile."""
@@ -230,8 +243,8 @@ class Bench:
         changed_file.write_text(text[:mutant.at] + mutant.new + text[mutant.at + len(mutant.old):],
                                 encoding="utf-8")
         objects = []
-        for source in self.users.get(mutant.file, [mutant.file]):
-            objects.append(folder / f"{len(objects)}.o")
+        for source in self.sources_with(mutant.file):
+            objects.append(folder / f"{os.path.basename(source)}.o")
             command = self.command_for(
                 source, changed_file if source == mutant.file else ROOT / source, objects[-1])
             if not run(command[:1] + ["-I", folder, "-include-pch", self.precompiled] +
@@ -242,14 +255,17 @@ class Bench:
     def test_sets(self, file):
         """The objects of the tests to link with: those of the file itself, then all."""
         everything = [word for word in self.link if "core_tests.dir/" in word]
-        ending = f"/{os.path.splitext(file)[0]}_test.cpp.o"
-        own = [word for word in everything if word.endswith(ending)]
-        return [own, everything] if own else [everything]
+        own = [word for word in everything if word.endswith(f"/{own_test(file)[6:]}.o")]
+        if not own:
+            return [everything]
+        return [own] if self.quick else [own, everything]
 
     def make_program(self, program, tests, objects):
         # The mutant comes first: what is defined twice, the linker takes from there.
         rest = [word for word in self.link if "core_tests.dir/" not in word]
         rest[rest.index("-o") + 1] = program
+        again = {os.path.basename(path) for path in objects}
+        tests = [test for test in tests if os.path.basename(test) not in again]
         return run(rest[:1] + objects + tests + rest[1:])
 
     def limit_of(self, tests):
@@ -258,10 +274,10 @@ class Bench:
             key = len(tests), tests[0]
             if key not in self.limits:
                 with tempfile.TemporaryDirectory(dir=BUILD) as folder:
-                    program = os.path.join(folder, "tests")
+                    program = os.path.join(folder, "core_tests")
                     before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
                     if not (self.make_program(program, tests, []) and run([program], folder=folder)):
-                        sys.exit(f"without any change, these tests fail: {' '.join(tests)}")
+                        sys.exit(f"mutate.py: without any change, {tests[0]} or another test fails")
                     after = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
                 self.limits[key] = 1 + int(3 * (after - before))
             return self.limits[key]
@@ -297,6 +313,7 @@ def print_summary(counts):
 def main():
     parser = argparse.ArgumentParser(usage=__doc__)
     parser.add_argument("--again", action="store_true")
+    parser.add_argument("--quick", action="store_true")
     parser.add_argument("--list", action="store_true")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("files", nargs="*")
@@ -308,7 +325,7 @@ def main():
             print(name_of(mutant))
         return 0
     build()
-    bench = Bench()
+    bench = Bench(arguments.quick)
     mutants = [mutant for mutant in mutants
                if mutant.file in bench.compile or mutant.file in bench.users]
     equivalents = Equivalents()

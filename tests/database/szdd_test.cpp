@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "database/modCRC32.h"
+
 namespace brelex {
 namespace {
 
@@ -186,6 +188,21 @@ TEST(CompressSzdd, TheSameBytesGiveTheSameFile) {
     std::mt19937 random(9);
     const std::string text = RandomText(random, 10000, 4);
     EXPECT_EQ(CompressSzdd(text), CompressSzdd(text));
+}
+
+// Whoever builds the data again gets the same file, unless the compressor has been changed on
+// purpose.
+TEST(CompressSzdd, TheFileIsTheOneOfEarlierVersions) {
+    std::mt19937 random(12);
+    std::string files;
+    for (const unsigned letters : {1U, 2U, 5U, 26U, 200U}) {
+        files += CompressSzdd(RandomText(random, 20000, letters));
+    }
+    EXPECT_EQ(files.size(), 56988U);
+    EXPECT_EQ(GetCRCFromByteArray(files), 1873469431);
+    EXPECT_EQ(CompressSzdd("ABABABABABABABABABABABAB").substr(14),
+              "\x03"
+              "AB\xF0\xFF\x02\x01");
 }
 
 TEST(CompressSzdd, RepetitionIsMadeSmall) {

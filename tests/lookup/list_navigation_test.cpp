@@ -40,6 +40,13 @@ TEST(RowAfterKey, WithoutRowsThereIsNone) {
     EXPECT_EQ(RowAfterKey(NavigationKey::Down, -1, 0, 10), -1);
 }
 
+TEST(RowAfterKey, OfASingleRowThereIsNoOther) {
+    for (const auto key : {NavigationKey::Up, NavigationKey::Down, NavigationKey::PageUp,
+                           NavigationKey::PageDown, NavigationKey::Enter}) {
+        EXPECT_EQ(RowAfterKey(key, 0, 1, 10), 0);
+    }
+}
+
 TEST(RowAfterKey, APageIsOneRowAtLeast) {
     EXPECT_EQ(RowAfterKey(NavigationKey::PageDown, 5, 100, 0), 6);
     EXPECT_EQ(RowAfterKey(NavigationKey::PageUp, 5, 100, 1), 4);

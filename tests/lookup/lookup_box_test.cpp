@@ -100,6 +100,13 @@ class LookupBoxTest : public testing::Test {
     LookupBox lookup_{values_, view_, messages_};
 };
 
+TEST_F(LookupBoxTest, BeginsWithTheFirstRowAndAnEmptyBox) {
+    EXPECT_EQ(lookup_.FoundRow, 0);
+    EXPECT_EQ(lookup_.LastText, "");
+    EXPECT_FALSE(lookup_.IsNavigating);
+    EXPECT_FALSE(lookup_.IsLookupBusy);
+}
+
 TEST_F(LookupBoxTest, TypingSelectsTheFirstEntrySecondFromTheTop) {
     Type("A");
     Type("AB");
@@ -323,6 +330,23 @@ INSTANTIATE_TEST_SUITE_P(
                     AnswerCase{"OnlyABlank", " ", std::nullopt},
                     AnswerCase{"CancelIsSilent", "", std::nullopt}),
     CaseName());
+
+TEST(LookupBoxWithOneEntry, IsSelectedByTypingAndByItsNumber) {
+    const FakeRows rows({"A\tx"});
+    ProgramValues values;
+    values.AcronymList = &rows;
+    values.RecordCount = 1;
+    FakeView view(rows);
+    FakeMessageSink messages;
+    LookupBox lookup(values, view, messages);
+    view.lookup = &lookup;
+    lookup.OnBoxChanged("A");
+    EXPECT_EQ(view.selected, 0);
+    view.selected = -1;
+    lookup.GoToRecordNumber(RecordNumber{1});
+    EXPECT_EQ(view.selected, 0);
+    EXPECT_EQ(view.number, "1");
+}
 
 TEST(LookupBoxWithoutEntries, NothingIsSelectedAndNothingFails) {
     const FakeRows rows({});

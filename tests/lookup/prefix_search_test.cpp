@@ -92,6 +92,11 @@ std::int32_t StepByStep(const RowList& rows, std::string_view text) {
     return 0;
 }
 
+// A text can have a TAB and then be longer than a record.
+TEST(FindFirstByPrefix, ARecordThatEndsBeforeTheTextDoesNotBeginWithIt) {
+    EXPECT_EQ(FindFirstByPrefix(FakeRows({"A\t", "A\tb"}), "A\tbc"), 1);
+}
+
 // A store of random records over few letters, so that long runs share a beginning.
 void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view letters, int count) {
     std::vector<std::string> records;
