@@ -1,43 +1,30 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""mutate.py [--again] [--quick] [--list] [--jobs N] [FOLDER|FILE...]: shows which faults core_tests would miss.
+"""Usage: mutate.py [--again] [--quick] [--list] [--jobs N] [FOLDER|FILE...]
 
-Makes one small change at a time to the sources of the core (a mutant), and runs core_tests with it.
-A change that no test notices shows a gap in the tests, or changes nothing that a test could see.
-Without arguments it goes through the whole core, otherwise through the folders or files named.
+Shows which faults core_tests would miss. Makes one small change at a time to the sources of the
+core (a mutant), and runs core_tests with it. A mutant that no test notices shows a gap in the
+tests, or it changes nothing that a test could see. Without FOLDERs or FILEs it goes through the
+whole core. scripts/mutants.py says what is changed.
 
-  --again   tries only what the last run with these files did not notice; after adding tests
-  --quick   runs only the tests of the changed file itself, if it has any
+  --again   tries only what the last run did not notice; for use after adding tests
+  --quick   runs only the tests of the changed file itself
   --list    prints the mutants and runs nothing
   --jobs N  how many to try at a time; the default is the number of processors
 
-What is changed, each place once:
+A mutant is named FILE:LINE:COLUMN OLD -> NEW. Each one that is not noticed is printed with its
+line before and after the change, in the form of scripts/mutants-equivalent.txt. That file has the
+mutants that no test can notice, with the reasons, and they are not tried. It knows them by the
+text of the line and of the line above, so it stays true when lines move.
 
-  < <= > >= == !=         to the neighboring comparison: < to <=, == to !=
-  + - * / %  << >> & | ^  to another operator; so are += and its like
-  && || !                 to the other one; ! is taken away
-  123, 0x7F, 'a'          to the next number or character; any escaped character to a blank
-  true, false             to the other one
-  break; continue;        taken away
-
-Counting with ++ and -- stays, because any test notices a loop that does not end. So do asserts,
-tables of numbers, templates' arguments and #include lines. The formatter sees to it that operators have blanks
-on both sides if, and only if, they take two operands.
-
-A mutant is named FILE:LINE:COLUMN OLD -> NEW. Each one that is not noticed is printed with the line
-before and after the change, in the form of scripts/mutants-equivalent.txt. Mutants in that file are
-not tried: it has those that no test can notice, with the reasons. It knows them by the text of the
-line, and if necessary of the line above, so it stays true when lines move.
-
-The programs are built without optimization in build/mutants/, with the library's own checks of
+The tests are built without optimization in build/mutants/, with the library's own checks of
 indexes. A mutant is first linked with the tests of its own file, and only if these pass, with all.
 It counts as noticed if a test fails, the program crashes, or it takes far more processor time or
-memory than usual. Exits with 1 if something was not noticed, or a listed mutant no longer exists."""
+memory than usual. Exits with 1 if something was not noticed, or a listed mutant does not exist."""
 
 import argparse
 import collections
 import concurrent.futures
-import json
 import os
 import pathlib
 import re
@@ -48,104 +35,17 @@ import sys
 import tempfile
 import threading
 
-ROOT = pathlib.Path(__file__).resolve().parent.parent
+from mutants import EQUIVALENT, ROOT, Equivalents, mutants_of, name_of
+
 BUILD = ROOT / "build/mutants"
-EQUIVALENT = ROOT / "scripts/mutants-equivalent.txt"
 CORE = ["base", "database", "lookup", "search", "presentation"]
 MEMORY_BYTES = 3 << 30
 WALL_SECONDS = 300  # for mutants that wait for something that never comes
-
-TOKEN = re.compile(r"""
-    (?P<skip> //[^\n]* | /\*.*?\*/ | ^\#[^\n]* | "(?:\\.|[^"\\])*" )
-  | (?P<char> (?:u8|[uUL])?'(?:\\.[0-9A-Fa-f]*|[^'\\])' )
-  | (?P<number> \b\d[0-9A-Za-z_.']* )
-  | (?P<word> [A-Za-z_]\w* )
-  | (?P<binary> (?<=\ )(?:<<=|>>=|<=>|[-+*/%&|^<>=!]=|<<|>>|&&|\|\||[-+*/%&|^<>])(?=\s) )
-  | (?P<unary> !(?=[\w(]) )
-""", re.VERBOSE | re.MULTILINE | re.DOTALL)
-TABLE = re.compile(r"[\s{}(),;]*(?:(?:0x[0-9A-F]+|\d+)[\s{}(),;]+)+(?://.*)?")
-PAIRS = ("< <=", "> >=", "== !=", "+ -", "* /", "<< >>", "& |", "&& ||", "+= -=", "*= /=",
-         "<<= >>=", "&= |=", "true false")
-OTHER = dict(pair.split() for pair in PAIRS) | dict(reversed(pair.split()) for pair in PAIRS)
-OTHER |= {"%": "*", "%=": "*=", "^": "|", "^=": "|=", "!": "", "break": "", "continue": ""}
-
-Mutant = collections.namedtuple("Mutant", "file line column old new at above before after")
 COLUMNS = ["places", "compiled", "noticed", "equivalent", "unnoticed"]
-
-
-def changed(token):
-    """What to put in the place of a token; None if it stays."""
-    text = token.group()
-    if token.lastgroup == "char":
-        prefix, character = text[:-1].split("'", 1)
-        following = " " if character.startswith("\\") else chr(ord(character) + 1)
-        return f"{prefix}'{following}'" if following not in "'\\" else None
-    if token.lastgroup == "number":
-        digits = re.fullmatch(r"(0[xX][0-9A-Fa-f]+|\d+)([uUlLzZ]*)", text.replace("'", ""))
-        if not digits:
-            return None
-        number = int(digits[1], 0) + 1
-        return (hex(number) if digits[1][:2] in ("0x", "0X") else str(number)) + digits[2]
-    return OTHER.get(text)
-
-
-def asserted(text):
-    """The places of `text` inside assert and static_assert."""
-    places = set()
-    for start in re.finditer(r"\b(?:static_)?assert\(", text):
-        end = text.index(";", start.end())
-        places.update(range(start.start(), end))
-    return places
-
-
-def mutants_of(file):
-    text = (ROOT / file).read_text(encoding="utf-8")
-    lines = text.splitlines()
-    fixed = asserted(text)
-    for token in TOKEN.finditer(text):
-        new = None if token.lastgroup == "skip" or token.start() in fixed else changed(token)
-        line = text.count("\n", 0, token.start())
-        if new is None or TABLE.fullmatch(lines[line]):
-            continue
-        column = token.start() - (text.rfind("\n", 0, token.start()) + 1)
-        before = lines[line]
-        after = before[:column] + new + before[column + len(token.group()):]
-        above = next((other.strip() for other in reversed(lines[:line]) if other.strip()), "")
-        yield Mutant(file, line + 1, column + 1, token.group(), new, token.start(), above,
-                     before.strip(), after.strip())
-
-
-def name_of(mutant):
-    return (f"{mutant.file}:{mutant.line}:{mutant.column} {mutant.old} -> "
-            f"{mutant.new or 'nothing'}")
 
 
 def own_test(file):
     return f"tests/{os.path.splitext(file)[0]}_test.cpp"
-
-
-class Equivalents:
-    """The mutants in mutants-equivalent.txt: file, line above (may be empty), before and after."""
-
-    def __init__(self):
-        self.keys = set()
-        self.used = set()
-        text = EQUIVALENT.read_text(encoding="utf-8") if EQUIVALENT.exists() else ""
-        for block in re.split(r"\n\s*\n", text):
-            lines = [line for line in block.splitlines() if not line.startswith("#")]
-            parts = {line[:2]: line[2:].strip() for line in lines[1:]}
-            if lines and not ({"- ", "+ "} <= parts.keys() and "# " in block):
-                sys.exit(f"{EQUIVALENT.name}: lines or the reason are missing:\n{block}")
-            if lines:
-                self.keys.add((lines[0], parts.get("  ", ""), parts["- "], parts["+ "]))
-
-    def __contains__(self, mutant):
-        for above in (mutant.above, ""):
-            key = (mutant.file, above, mutant.before, mutant.after)
-            if key in self.keys:
-                self.used.add(key)
-                return True
-        return False
 
 
 def build():
@@ -253,11 +153,13 @@ class Bench:
         return objects
 
     def test_sets(self, file):
-        """The objects of the tests to link with: those of the file itself, then all."""
+        """The objects of the tests to link with: first those of the file itself, or of its folder
+        if it has none of its own, and then all."""
         everything = [word for word in self.link if "core_tests.dir/" in word]
-        own = [word for word in everything if word.endswith(f"/{own_test(file)[6:]}.o")]
-        if not own:
-            return [everything]
+        beside = [word for word in everything if f".dir/{os.path.dirname(file)}/" in word]
+        own = [word for word in beside if word.endswith(f"/{own_test(file)[6:]}.o")] or beside
+        # What is linked first runs first, and these are the likeliest to fail.
+        everything = beside + [word for word in everything if word not in beside]
         return [own] if self.quick else [own, everything]
 
     def make_program(self, program, tests, objects):
@@ -311,7 +213,7 @@ def print_summary(counts):
 
 
 def main():
-    parser = argparse.ArgumentParser(usage=__doc__)
+    parser = argparse.ArgumentParser(usage=__doc__.removeprefix("Usage: "))
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--quick", action="store_true")
     parser.add_argument("--list", action="store_true")
@@ -342,8 +244,8 @@ def main():
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
         for mutant, kind in zip(mutants, pool.map(kind_of, mutants)):
             for folder in (mutant.file.split("/")[0], "all"):
-                counts[folder].update({"places", kind} | ({"compiled"} - {kind} if kind != "places"
-                                                          else set()))
+                counts[folder].update({"places", kind, "compiled"} if kind != "places"
+                                      else {"places"})
             if kind == "unnoticed":
                 unnoticed.append(name_of(mutant))
                 print_unnoticed(mutant)

@@ -39,6 +39,12 @@ TEST(BuildDatabase, DropsExactDuplicatesOnly) {
     EXPECT_EQ(built.duplicatesDropped, 2U);
 }
 
+TEST(BuildDatabase, ARecordMayComeAnyNumberOfTimes) {
+    const BuiltDatabase built = Build(std::vector<std::string>(5000, "A\tx"));
+    EXPECT_EQ(Block(built), "A\tx\0"s);
+    EXPECT_EQ(built.duplicatesDropped, 4999U);
+}
+
 TEST(BuildDatabase, TheOrderOfTheInputDoesNotMatter) {
     const std::vector<std::string> records = {"a\tx", "A\tx", "A\tX", "B\ty", "\xC6\tz", "AE\tz"};
     std::vector<std::string> reversed(records.rbegin(), records.rend());
@@ -74,6 +80,10 @@ TEST(BuildDatabase, TheHeaderTellsOfTheBlock) {
     EXPECT_EQ(built.header.Version, 2);
     EXPECT_EQ(built.header.ReleaseDate, CountOfDay(std::chrono::year(2005) / 2 / 3));
     EXPECT_EQ(built.header.RecordCount, 2);
+    EXPECT_EQ(built.header.MaxAbbrvLength, 2);
+    EXPECT_EQ(built.header.MaxExpansionLength, 2);
+    EXPECT_EQ(built.header.LongestAbbrvIndex, 0);
+    EXPECT_EQ(built.header.LongestExpansionIndex, 1);
     EXPECT_EQ(built.header.DataSize, 10);
     EXPECT_EQ(built.header.DataCRC, GetCRCFromByteArray(Block(built)));
     EXPECT_EQ(built.header.SearchListText.substr(0, 16), "network1memory  ");
@@ -112,14 +122,23 @@ TEST(ComputeStatistics, FirstLettersAreFoldedToCapitals) {
 }
 
 TEST(ComputeStatistics, OfEquallyFrequentLettersTheFirstCounts) {
-    const auto header = ComputeStatistics({"B\tx", "A\tx", "A\ty", "B\ty"});
-    EXPECT_EQ(header.CommonFirstLetter, 'B');
+    for (const auto& records : {std::vector<std::string_view>{"B\tx", "A\tx", "A\ty", "B\ty"},
+                                std::vector<std::string_view>{"B\tx", "A\tx", "B\ty", "A\ty"}}) {
+        EXPECT_EQ(ComputeStatistics(records).CommonFirstLetter, 'B');
+    }
 }
 
 TEST(ComputeStatistics, MostExpansionsGoByExactAbbreviation) {
     const auto header = ComputeStatistics({"ab\tx", "AB\ty", "ab\tz", "C\tx", "C\ty"});
     EXPECT_EQ(header.MostExpansionsCount, 2);
     EXPECT_EQ(header.MostExpansionsIndex, 0);  // "ab", though "AB" stands between
+}
+
+TEST(ComputeStatistics, OfEquallyManyExpansionsTheFirstCounts) {
+    EXPECT_EQ(ComputeStatistics({"B\tx", "A\tx"}).MostExpansionsIndex, 0);
+    const auto header = ComputeStatistics({"B\tx", "A\tx", "A\ty"});
+    EXPECT_EQ(header.MostExpansionsIndex, 1);
+    EXPECT_EQ(header.MostExpansionsCount, 2);
 }
 
 TEST(ComputeStatistics, NoRecordsGiveNoStatistics) {

@@ -174,6 +174,15 @@ TEST(CheckDatabase, WithAndWithoutTheOrderFindsTheSame) {
     EXPECT_GT(findings, 0U);
 }
 
+TEST(CheckDatabase, TenFindingsOfAKindAreAllNamed) {
+    const auto lines =
+        Findings([](DatabaseHeader&,
+                    std::string& block) { std::replace(block.begin(), block.end(), '\t', ' '); },
+                 NumberedRecords(10));
+    EXPECT_TRUE(Contains(lines, "record 10 has no TAB"));
+    EXPECT_FALSE(Contains(lines, "more"));
+}
+
 TEST(CheckDatabase, ManyFindingsOfAKindAreSummedUp) {
     const auto lines =
         Findings([](DatabaseHeader&,
