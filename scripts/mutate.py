@@ -129,11 +129,13 @@ class Bench:
             return "unnoticed"
 
     def sources_with(self, file):
-        """What to compile again. Of the tests, those of a header, because they use what is in it
-        and nothing else of the core may."""
+        """What to compile again. Of a header, that is its source, or without one all sources that
+        include it, and its tests: the linker takes what they define and drops other copies."""
         if file not in self.users:
             return [file]
-        return self.users[file] + [test for test in [own_test(file)] if test in self.compile]
+        source = f"{os.path.splitext(file)[0]}.cpp"
+        return ([source] if source in self.users[file] else self.users[file]) + [
+            test for test in [own_test(file)] if test in self.compile]
 
     def compiled(self, mutant, folder):
         """The objects of all sources that the mutant changes; none if one does not compile."""
@@ -155,7 +157,9 @@ class Bench:
     def test_sets(self, file):
         """The objects of the tests to link with: first those of the file itself, or of its folder
         if it has none of its own, and then all."""
-        everything = [word for word in self.link if "core_tests.dir/" in word]
+        # Without those of platform/, which share what a user has once, and so cannot run together.
+        everything = [word for word in self.link
+                      if "core_tests.dir/" in word and ".dir/platform/" not in word]
         beside = [word for word in everything if f".dir/{os.path.dirname(file)}/" in word]
         own = [word for word in beside if word.endswith(f"/{own_test(file)[6:]}.o")] or beside
         # What is linked first runs first, and these are the likeliest to fail.
@@ -178,7 +182,8 @@ class Bench:
                 with tempfile.TemporaryDirectory(dir=BUILD) as folder:
                     program = os.path.join(folder, "core_tests")
                     before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
-                    if not (self.make_program(program, tests, []) and run([program], folder=folder)):
+                    if not (self.make_program(program, tests, []) and
+                            any(run([program], folder=folder) for _ in range(3))):
                         sys.exit(f"mutate.py: without any change, {tests[0]} or another test fails")
                     after = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
                 self.limits[key] = 1 + int(3 * (after - before))

@@ -76,6 +76,12 @@ INSTANTIATE_TEST_SUITE_P(
         FieldPlace{"SearchListText", 65, "network1memory    "}),
     CaseName());
 
+TEST(DatabaseHeader, AShortSearchListIsFilledWithBlanks) {
+    DatabaseHeader header = SampleHeader();
+    header.SearchListText = "network1memory";
+    EXPECT_EQ(EncodeHeader(header), EncodeHeader(SampleHeader()));
+}
+
 TEST(DatabaseHeader, ValuesThatAreNoNumbersSurvive) {
     DatabaseHeader header;
     header.Version = std::numeric_limits<float>::quiet_NaN();

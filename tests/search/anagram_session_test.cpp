@@ -96,6 +96,13 @@ class AnagramSessionTest : public testing::Test {
 const std::vector<std::string> kCpuHits = {"C-PU\tHyphenated", "CPU\tCentral Processing Unit",
                                            "UCP\tUniform Cp"};
 
+TEST_F(AnagramSessionTest, TheListIsRefreshedOnlyWhenItsRowsHaveChanged) {
+    Search("PUC");
+    EXPECT_EQ(view_.showings, 2);  // at the pauses after the first record and after 100 more
+    Search("XQ");
+    EXPECT_EQ(view_.showings, 4);  // without rows, and with the one that says so
+}
+
 TEST_F(AnagramSessionTest, OpensEmpty) {
     AnagramDisplay empty;
     empty.letterCount = "0";

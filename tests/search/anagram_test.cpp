@@ -38,6 +38,8 @@ INSTANTIATE_TEST_SUITE_P(
                     CountCase{"InEitherCase", U"AaB", 2, 3}, CountCase{"TheSame", U"CC", 1, 1},
                     CountCase{"TwoTwice", U"ABAB", 2, 6}, CountCase{"DigitsDivide", U"A11", 1, 3},
                     CountCase{"HyphensDivide", U"A--", 1, 3}, CountCase{"NoLetters", U"123", 0, 6},
+                    CountCase{"FirstAndLast", U"AZ", 2, 2},
+                    CountCase{"CharactersBesideThem", U"A@[", 1, 6},
                     CountCase{"AccentsAreNoneOfTheLetters", U"\u00C9\u00E9", 0, 1},
                     CountCase{"Long", U"ABCDEFGHIJKLM", 13, 6227020800.0}),
     CaseName());
