@@ -161,7 +161,8 @@ class Bench:
         everything = [word for word in self.link
                       if "core_tests.dir/" in word and ".dir/platform/" not in word]
         beside = [word for word in everything if f".dir/{os.path.dirname(file)}/" in word]
-        own = [word for word in beside if word.endswith(f"/{own_test(file)[6:]}.o")] or beside
+        ending = f"{os.path.basename(own_test(file))}.o"
+        own = [word for word in beside if word.endswith(ending)] or beside
         # What is linked first runs first, and these are the likeliest to fail.
         everything = beside + [word for word in everything if word not in beside]
         return [own] if self.quick else [own, everything]

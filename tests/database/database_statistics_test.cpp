@@ -4,6 +4,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -49,6 +50,26 @@ class StatisticsTest : public testing::Test {
     FakeRows rows_{kRecords};
     ProgramValues values_;
 };
+
+TEST_F(StatisticsTest, AFirstLetterThatCannotBeShownIsLeftOut) {
+    const std::vector<std::pair<char, const char*>> letters = {
+        {'\0', ""}, {'\x1F', ""}, {' ', " "}, {'!', "!"}, {'A', "A"}, {'\xC9', "É"}};
+    for (const auto& [letter, shown] : letters) {
+        values_.Header.CommonFirstLetter = letter;
+        EXPECT_EQ(Shown("lblFirstLetterOfMostAcronyms"),
+                  "'" + std::string(shown) + "' (0 occurrences)");
+    }
+}
+
+TEST_F(StatisticsTest, OnlyTheLoadingTimeIsOfThisRunAndTheLongestExpansionMayNeedLines) {
+    for (const std::vector<Statistic>& group : StatisticsOf(values_).groups) {
+        for (const Statistic& statistic : group) {
+            const std::string_view name = statistic.name;
+            EXPECT_EQ(statistic.isOfThisRun, name == "lblLoadingTime") << name;
+            EXPECT_EQ(statistic.mayNeedLines, name == "lblLongestExpansion") << name;
+        }
+    }
+}
 
 TEST_F(StatisticsTest, StandInGroupsWithTheirCaptions) {
     std::string captions;

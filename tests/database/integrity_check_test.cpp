@@ -77,6 +77,25 @@ TEST_F(IntegrityCheckTest, WhatStandsBehindTheRecordsDoesNotCount) {
     EXPECT_TRUE(IsIntact());
 }
 
+TEST_F(IntegrityCheckTest, MissingBytesCountAsNuls) {
+    std::string expanded = ExpandedBytes(kRecords);
+    ASSERT_EQ(expanded.back(), '\0');
+    expanded.pop_back();
+    WriteExpanded(expanded);
+    EXPECT_TRUE(IsIntact());
+    expanded.pop_back();
+    WriteExpanded(expanded);
+    EXPECT_FALSE(IsIntact());
+}
+
+TEST_F(IntegrityCheckTest, NoRecordsAreIntactWithTheCrcOfNothing) {
+    values_.Header.DataSize = 0;
+    values_.Header.DataCRC = 0;
+    EXPECT_TRUE(IsIntact());
+    values_.Header.DataCRC = 1;
+    EXPECT_FALSE(IsIntact());
+}
+
 TEST_F(IntegrityCheckTest, AFileWithoutCompressionIsReadAsItStands) {
     folder_.Write("Acronyms.dat", ExpandedBytes(kRecords));
     EXPECT_TRUE(IsIntact());

@@ -49,6 +49,15 @@ TEST(SearchDatabase, OfNoRecordsFindsNothing) {
     EXPECT_TRUE(watcher.events.empty());
 }
 
+TEST(SearchDatabase, WithALimitOfNothingStopsAtTheFirstHit) {
+    const FakeRows rows = RowsWithHits(10, 4);
+    const auto finder = RecordFinder::Compile({"x", SearchIn::Expansions}, rows);
+    const SearchOutcome outcome = SearchDatabase(*finder, rows, 1, 0, nullptr);
+    EXPECT_TRUE(outcome.hits.empty());
+    EXPECT_TRUE(outcome.limitReached);
+    EXPECT_EQ(outcome.nextPosition, 4);
+}
+
 TEST(SearchDatabase, PausesBehindEvery150thRecordFromTheFirstOn) {
     const FakeRows rows = RowsWithHits(302, 151);
     RecordingWatcher watcher;

@@ -45,7 +45,10 @@ INSTANTIATE_TEST_SUITE_P(
                     WordCase{"CaseDoesNotCount", "the ABC", "abc", true, ComparisonMode::Text},
                     WordCase{"AccentsInEitherCase", "\xC9t\xE9", "\xE9T\xC9", true,
                              ComparisonMode::Text},
-                    WordCase{"NotThereInEitherCase", "ABD", "abc", false, ComparisonMode::Text}),
+                    WordCase{"NotThereInEitherCase", "ABD", "abc", false, ComparisonMode::Text},
+                    WordCase{"NotThereBeforeTheEnd", "ABD.", "abc", false, ComparisonMode::Text},
+                    WordCase{"NoWord", "", "", true},
+                    WordCase{"NoWordInEitherCase", "", "", true, ComparisonMode::Text}),
     CaseName());
 
 class WordDelimiter : public testing::TestWithParam<char> {};

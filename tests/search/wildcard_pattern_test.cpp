@@ -38,6 +38,10 @@ INSTANTIATE_TEST_SUITE_P(
                     PatternCase{"QuestionMarkIsNotNone", U"a?c", "ac", false},
                     PatternCase{"NumberSignIsADigit", U"rfc #", "rfc 7", true},
                     PatternCase{"NumberSignIsNoLetter", U"rfc #", "rfc x", false},
+                    PatternCase{"NumberSignIsTheFirstDigit", U"#", "0", true},
+                    PatternCase{"NumberSignIsTheLastDigit", U"#", "9", true},
+                    PatternCase{"NumberSignIsNotBeforeTheDigits", U"#", "/", false},
+                    PatternCase{"NumberSignIsNotBehindTheDigits", U"#", ":", false},
                     PatternCase{"StarIsAnyRun", U"a*c", "abbbc", true},
                     PatternCase{"StarIsAlsoNone", U"a*c", "ac", true},
                     PatternCase{"StarLooksFurther", U"*ab", "aab", true},
@@ -79,6 +83,32 @@ INSTANTIATE_TEST_SUITE_P(
                     PatternCase{"OutsideTheCodePageMatchesNothing", U"\u4E2D", "?", false},
                     PatternCase{"NegatedOutsideTheCodePageMatchesAll", U"[!\u4E2D]", "?", true}),
     CaseName());
+
+struct FindCase {
+    const char* name;
+    std::u32string pattern;
+    std::string text;
+    std::string_view found;
+};
+
+class WildcardPatternFind : public testing::TestWithParam<FindCase> {};
+
+TEST_P(WildcardPatternFind, IsThePartWithoutTheStarsAtTheEnds) {
+    EXPECT_EQ(WildcardPattern::Compile(GetParam().pattern, true)->Find(GetParam().text),
+              GetParam().found);
+}
+
+INSTANTIATE_TEST_SUITE_P(Patterns, WildcardPatternFind,
+                         testing::Values(FindCase{"WithoutStars", U"ab", "ab", "ab"},
+                                         FindCase{"AtTheBeginning", U"ab*", "abxx", "ab"},
+                                         FindCase{"AtTheEnd", U"*ab", "xxab", "ab"},
+                                         FindCase{"Between", U"*ab*", "xabx", "ab"},
+                                         FindCase{"BetweenSeveralStars", U"**ab**", "xxabx", "ab"},
+                                         FindCase{"AcrossAStar", U"*a*b*", "xaxbx", "axb"},
+                                         FindCase{"FromEndToEnd", U"a*b", "axxb", "axxb"},
+                                         FindCase{"TheFirstOfSeveral", U"*a*", "xaxa", "a"},
+                                         FindCase{"OnlyStars", U"*", "abc", ""}),
+                         CaseName());
 
 class MalformedPatternTest : public testing::TestWithParam<const char32_t*> {};
 
