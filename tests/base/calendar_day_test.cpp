@@ -49,8 +49,13 @@ TEST(CalendarDay, ShortDaysAreInEnglishWithoutLeadingZero) {
 TEST(CalendarDay, IsoDaysAreReadAndWritten) {
     EXPECT_EQ(FormatIsoDay(year(2005) / 2 / 3), "2005-02-03");
     EXPECT_EQ(ParseIsoDay("2005-02-03"), year(2005) / 2 / 3);
-    for (const char* wrong : {"2005-02-30", "2005-13-01", "2005-2-3", "2005/02/03", "20050203", "",
-                              "0000-01-01", "2005-02-0x", "-005-02-03"}) {
+    EXPECT_EQ(ParseIsoDay("2005-12-31"), year(2005) / 12 / 31);
+    EXPECT_EQ(ParseIsoDay("0100-01-01"), year(100) / 1 / 1);
+    EXPECT_EQ(ParseIsoDay("9999-12-31"), year(9999) / 12 / 31);
+    for (const char* wrong :
+         {"2005-02-30", "2005-13-01", "2005-00-01", "2005-01-00", "2005-2-3", "2005/02/03",
+          "2005/02-03", "2005-02/03", "20050203", "", "0000-01-01", "0099-12-31", "200x-02-03",
+          "2005-1x-03", "2005-02-1x", "2005-02-x1", "2005-02-031", "-005-02-03", "-105-02-03"}) {
         EXPECT_EQ(ParseIsoDay(wrong), std::nullopt) << wrong;
     }
 }

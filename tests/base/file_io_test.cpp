@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/file_io.h"
 
+#include <cstdint>
 #include <fstream>
 #include <system_error>
 
@@ -71,6 +72,28 @@ TEST(FileReader, AFileThatIsReplacedMeanwhileIsReadToItsEnd) {
     EXPECT_TRUE(file.Read(bytes.data(), 10));
     EXPECT_EQ(bytes, "0123456789");
     EXPECT_TRUE(file.IsAtEnd());
+}
+
+TEST(FileReader, OpensAnEmptyFile) {
+    const TestFolder folder;
+    folder.Write("file", "");
+    const FileReader file(folder.Path() / "file");
+    EXPECT_TRUE(file.IsOpen());
+    EXPECT_EQ(file.Size(), 0U);
+}
+
+TEST(FileReader, OpensNothingLongerThan2GiB) {
+    constexpr std::uintmax_t kMostBytes = std::uintmax_t{1} << 31U;
+    const TestFolder folder;
+    folder.Write("file", "");
+    std::error_code error;
+    std::filesystem::resize_file(folder.Path() / "file", kMostBytes, error);  // takes no room yet
+    ASSERT_FALSE(error) << error.message();
+    EXPECT_TRUE(FileReader(folder.Path() / "file").IsOpen());
+    std::filesystem::resize_file(folder.Path() / "file", kMostBytes + 1);
+    const FileReader file(folder.Path() / "file");
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(file.Size(), 0U);
 }
 
 TEST(FileReader, DoesNotOpenWhatIsNoFile) {

@@ -105,6 +105,14 @@ INSTANTIATE_TEST_SUITE_P(
         ParseCase{"Plain", "42", 42}, ParseCase{"Zero", "0", 0}, ParseCase{"Negative", "-7", -7},
         ParseCase{"Plus", "+7", 7}, ParseCase{"BlanksAround", "  42 ", 42},
         ParseCase{"Grouped", "12,345", 12345}, ParseCase{"Largest", "2147483647", 2147483647},
+        ParseCase{"OneDigitBeforeAGroup", "1,234", 1234},
+        ParseCase{"ThreeDigitsBeforeAGroup", "999,999", 999999},
+        ParseCase{"SeveralGroups", "1,234,567", 1234567},
+        ParseCase{"AShortGroupInside", "1,23,456", std::nullopt},
+        ParseCase{"AShortGroupAtTheEnd", "1,234,56", std::nullopt},
+        ParseCase{"AnotherSeparator", "12.345", std::nullopt},
+        ParseCase{"ACharacterBehindTheDigits", "10:", std::nullopt},
+        ParseCase{"ACharacterBeforeTheDigits", "1/0", std::nullopt},
         ParseCase{"TooLarge", "2147483648", std::nullopt},
         ParseCase{"Smallest", "-2147483648", -2147483647 - 1},
         ParseCase{"TooSmall", "-2147483649", std::nullopt},
@@ -117,6 +125,11 @@ INSTANTIATE_TEST_SUITE_P(
         ParseCase{"TwoSigns", "--1", std::nullopt}, ParseCase{"OnlyBlanks", "   ", std::nullopt},
         ParseCase{"Empty", "", std::nullopt}),
     CaseName());
+
+TEST(ParseWholeNumber, WithoutASeparatorThereAreNoGroups) {
+    EXPECT_EQ(ParseWholeNumber("1234", ""), 1234);
+    EXPECT_EQ(ParseWholeNumber("1,234", ""), std::nullopt);
+}
 
 TEST(PercentOf, RoundsToTheNearestAndHalvesToEven) {
     EXPECT_EQ(PercentOf(0, 250), 0);

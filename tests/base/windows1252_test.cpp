@@ -82,7 +82,8 @@ TEST_P(GoodUtf8Test, IsOneCharacter) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Limits, GoodUtf8Test,
-                         testing::Values(GoodUtf8{"LastOneByte", "\x7F", 0x7F},
+                         testing::Values(GoodUtf8{"Nul", std::string(1, '\0'), 0},
+                                         GoodUtf8{"LastOneByte", "\x7F", 0x7F},
                                          GoodUtf8{"FirstTwo", "\xC2\x80", 0x80},
                                          GoodUtf8{"LastTwo", "\xDF\xBF", 0x7FF},
                                          GoodUtf8{"FirstThree", "\xE0\xA0\x80", 0x800},

@@ -3,6 +3,7 @@
 
 #include <limits>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,22 @@ TEST(RecordStore, ZeroOrFewerRecordsAreAnEmptyList) {
     }
 }
 
+TEST(RecordStore, AllRecordsMayBeEmpty) {
+    RecordStore store;
+    WorkWatcher progress;
+    ASSERT_TRUE(store.Fill(FileOf("\0\0\0"s), 0, 3, 1, progress));
+    EXPECT_EQ(store.RowCount(), 3);
+    EXPECT_EQ(store.RowText(2), "");
+    EXPECT_FALSE(store.Fill(FileOf("\0\0\0"s), 0, 4, 1, progress));
+}
+
+TEST(RecordStore, ReportsTheFirstRecordAndOneOfEachStep) {
+    RecordStore store;
+    RecordingWatcher progress;
+    ASSERT_TRUE(store.Fill(FileOf(std::string(10, '\0')), 0, 10, 4, progress));
+    EXPECT_EQ(progress.percents, (std::vector<int>{0, 40, 80}));
+}
+
 TEST(RecordStore, ARecordMayBeEmptyOrLackItsTab) {
     RecordStore store;
     WorkWatcher progress;
@@ -96,6 +113,17 @@ INSTANTIATE_TEST_SUITE_P(
                     PrefixCase{"CaseDoesNotMatter", "ab\tx\0AB\ty\0"s, 2, kAnyLength},
                     PrefixCase{"DescendingAtTheThirdByte", "ABD\0ABC\0"s, 2, 2},
                     PrefixCase{"BeginningBehindTheLongerText", "ABC\0AB\0"s, 2, 2},
+                    PrefixCase{"ASingleRow", "ABC\0"s, 1, kAnyLength},
+                    PrefixCase{"EqualRows", "AB\0AB\0"s, 2, kAnyLength},
+                    PrefixCase{"BeginningBeforeTheLongerText", "AB\0ABC\0"s, 2, kAnyLength},
+                    PrefixCase{"DescendingAtTheFirstByte", "B\0A\0"s, 2, 0},
+                    PrefixCase{"AccentAtTheFirstByte", "\xC9\0F\0"s, 2, 0},
+                    PrefixCase{"AccentBehindAPlainLetter", "E\0\xC9\0"s, 2, 0},
+                    PrefixCase{"TheLightestByte",
+                               "\x01"
+                               "A\0\x01"
+                               "B\0"s,
+                               2, kAnyLength},
                     PrefixCase{"AccentAtTheSecondByte", "AB\0A\xC9\0"s, 2, 1},
                     PrefixCase{"AccentBehindTheDifference", "AB\xC9\0AC\xC9\0"s, 2, kAnyLength}),
     CaseName());

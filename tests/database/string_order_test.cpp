@@ -97,6 +97,8 @@ TEST(EqualIgnoringCaseUtf8, CharactersOutsideTheCodePageEqualOnlyThemselves) {
     EXPECT_TRUE(EqualIgnoringCaseUtf8("日", "日"));
     EXPECT_FALSE(EqualIgnoringCaseUtf8("日", "本"));
     EXPECT_FALSE(EqualIgnoringCaseUtf8("A日", "a日"));
+    EXPECT_FALSE(EqualIgnoringCaseUtf8("A日", "A"));
+    EXPECT_FALSE(EqualIgnoringCaseUtf8("A", "A日"));
     EXPECT_TRUE(EqualIgnoringCaseUtf8("É", "é"));
 }
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "database/modCRC32.h"
+#include "tests/support/test_files.h"
 
 namespace brelex {
 namespace {
@@ -203,6 +204,16 @@ TEST(CompressSzdd, TheFileIsTheOneOfEarlierVersions) {
     EXPECT_EQ(CompressSzdd("ABABABABABABABABABABABAB").substr(14),
               "\x03"
               "AB\xF0\xFF\x02\x01");
+}
+
+// A classic encoder keeps the next 18 bytes in its ring of 4096, so it looks back no further.
+TEST(CompressSzdd, LooksBack4078BytesAndNoFurther) {
+    const auto bytesForRepetition = [](std::size_t distance) {
+        const std::string text = Incompressible(distance);
+        return CompressSzdd(text + text.substr(0, 18)).size() - CompressSzdd(text).size();
+    };
+    EXPECT_LT(bytesForRepetition(4078), 8U);
+    EXPECT_GT(bytesForRepetition(4079), 16U);
 }
 
 TEST(CompressSzdd, RepetitionIsMadeSmall) {

@@ -24,7 +24,7 @@ class TypeAheadTest : public testing::Test {
                     "ROM\tx", "\xDCML\tx"}};
     TypeAhead typed_;
     std::int32_t selected_ = -1;
-    std::int64_t now_ = 0;
+    std::int64_t now_ = 1000000;
 };
 
 TEST_F(TypeAheadTest, LettersTypedQuicklyAreOneText) {
@@ -49,6 +49,12 @@ TEST_F(TypeAheadTest, OneLetterAgainAndAgainGoesFromRowToRow) {
     EXPECT_EQ(selected_, 7);
     Type("r");
     EXPECT_EQ(selected_, 5) << "and from the last to the first";
+}
+
+TEST_F(TypeAheadTest, FromTheFirstRowOfTheListItGoesToTheSecondAndBack) {
+    const FakeRows rows({"RAM\tx", "ROM\tx"});
+    EXPECT_EQ(typed_.RowAfter(rows, 0, 'r', now_), 1);
+    EXPECT_EQ(typed_.RowAfter(rows, 1, 'r', now_), 0);
 }
 
 TEST_F(TypeAheadTest, TheSameLetterAfterAPauseGoesOnToo) {
