@@ -159,6 +159,10 @@ TEST(CreditRecords, AreTen) {
     EXPECT_EQ(DecodeUtf8(credits.back().text), std::u32string(14, U'\u2014'));
     EXPECT_EQ(credits[1].colour, 255U);
     EXPECT_EQ(credits.back().colour, 255U);
+    for (const CreditRecord& credit : credits) {
+        const bool isTitleOrRule = credit.text == "Brevilexicon" || credit.colour.has_value();
+        EXPECT_EQ(credit.isBold, isTitleOrRule) << credit.text;
+    }
     for (const char* text : {"Brevilexicon is shareware", "Suggestions for improvement are welcome",
                              "help@example.org"}) {
         EXPECT_EQ(std::count_if(credits.begin(), credits.end(),
