@@ -212,10 +212,12 @@ def print_summary(counts):
         if folder in counts:
             print(f"| {folder} | " +
                   " | ".join(str(counts[folder][column]) for column in COLUMNS) + " |")
-    compiled = counts["all"]["compiled"]
-    if compiled:
-        print(f"\n{100 * counts['all']['noticed'] / compiled:.1f} % of those that compile are "
-              "noticed.")
+    everything = counts["all"]
+    different = everything["compiled"] - everything["equivalent"]
+    if different:
+        print(f"\n{100 * everything['noticed'] / everything['compiled']:.1f} % of those that compile "
+              f"are noticed, {100 * everything['noticed'] / different:.1f} % of those that are not "
+              "listed as equivalent.")
 
 
 def main():

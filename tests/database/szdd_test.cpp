@@ -147,6 +147,15 @@ TEST(ExpandSzdd, MoreThanTheLimitIsRefused) {
     EXPECT_FALSE(ExpandSzdd("plain bytes", 10).has_value());
 }
 
+TEST(ExpandSzdd, AFileThatDeclaresTooLittleMayBeAsLongAsTheLimit) {
+    const std::string bytes(9000, 'x');
+    const std::string file = CompressSzdd(bytes).replace(10, 4, 4, '\0');
+    const auto expanded = ExpandSzdd(file, 9000);
+    ASSERT_TRUE(expanded.has_value());
+    EXPECT_EQ(expanded->View(), bytes);
+    EXPECT_FALSE(ExpandSzdd(file, 8999).has_value());
+}
+
 std::string RandomText(std::mt19937& random, std::size_t length, unsigned letters) {
     std::string text(length, ' ');
     for (char& c : text) {

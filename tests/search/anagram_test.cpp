@@ -235,6 +235,15 @@ TEST(AnagramFinder, EndsWhenItsWatcherSaysSo) {
     EXPECT_EQ(watcher.events, (std::vector<std::string>{"0%", "pause", "20%", "pause"}));
 }
 
+TEST(AnagramFinder, EndsAtTheHitAtWhichItsWatcherSaysSo) {
+    const FakeRows rows(std::vector<std::string>(250, "AB\tx"));
+    RecordingWatcher watcher;
+    watcher.endsAtHit = 3;
+    EXPECT_EQ(FindAnagrams(rows, U"BA", &watcher), (std::vector<std::int32_t>{0, 1, 2}));
+    EXPECT_EQ(watcher.hits, 3);
+    EXPECT_EQ(watcher.pauses, 1);
+}
+
 TEST(AnagramFinder, ReportsTheSameWhenItHasSearchedBefore) {
     const FakeRows rows = CpuAmong(250, 100);
     AnagramFinder finder(rows);
