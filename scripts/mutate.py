@@ -215,8 +215,8 @@ def print_summary(counts):
     everything = counts["all"]
     different = everything["compiled"] - everything["equivalent"]
     if different:
-        print(f"\n{100 * everything['noticed'] / everything['compiled']:.1f} % of those that compile "
-              f"are noticed, {100 * everything['noticed'] / different:.1f} % of those that are not "
+        print(f"\n{100 * everything['noticed'] / everything['compiled']:.1f} % of those that "
+              f"compile are noticed, {100 * everything['noticed'] / different:.1f} % of those that are not "
               "listed as equivalent.")
 
 

@@ -92,6 +92,7 @@ INSTANTIATE_TEST_SUITE_P(Limits, GoodUtf8Test,
                                          GoodUtf8{"LastThree", "\xEF\xBF\xBF", 0xFFFF},
                                          GoodUtf8{"FirstFour", "\xF0\x90\x80\x80", 0x10000},
                                          GoodUtf8{"Face", "\xF0\x9F\x98\x80", 0x1F600},
+                                         GoodUtf8{"Unassigned", "\xF1\x80\x80\x80", 0x40000},
                                          GoodUtf8{"Last", "\xF4\x8F\xBF\xBF", 0x10FFFF}),
                          CaseName());
 

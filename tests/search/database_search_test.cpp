@@ -49,6 +49,11 @@ TEST(SearchDatabase, OfNoRecordsFindsNothing) {
     EXPECT_TRUE(watcher.events.empty());
 }
 
+TEST(SearchDatabase, AWatcherThatFollowsNothingStopsNothing) {
+    WorkWatcher nobody;
+    EXPECT_EQ(SearchForX(RowsWithHits(1000, 400), 0, &nobody).hits.size(), 3U);
+}
+
 TEST(SearchDatabase, WithALimitOfNothingStopsAtTheFirstHit) {
     const FakeRows rows = RowsWithHits(10, 4);
     const auto finder = RecordFinder::Compile({"x", SearchIn::Expansions}, rows);
