@@ -142,6 +142,7 @@ int RunExport(const std::string& database, const ExportRequest& request, std::os
         }
     }
     std::vector<OutputFile> outputs;
+    outputs.reserve(files.size());
     for (const DictionaryFile& file : files) {
         outputs.push_back({stem + file.ending, file.bytes});
     }

@@ -64,7 +64,7 @@ std::string ReasonNotToWrite(const OutputRequest& output, const std::vector<fs::
     if (!fs::is_regular_file(status)) {
         return output.name + " is not a regular file; - writes to standard output";
     }
-    if (const std::string reason = ReasonFromInputs(output, path, inputs); !reason.empty()) {
+    if (std::string reason = ReasonFromInputs(output, path, inputs); !reason.empty()) {
         return reason;
     }
     if (output.force || fs::file_size(path, error) == 0) {
