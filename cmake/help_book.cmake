@@ -6,10 +6,19 @@ file(GLOB help_pages RELATIVE "${CMAKE_SOURCE_DIR}/help" CONFIGURE_DEPENDS
      "${CMAKE_SOURCE_DIR}/help/pictures/*.png")
 list(TRANSFORM help_pages PREPEND "${CMAKE_SOURCE_DIR}/help/" OUTPUT_VARIABLE help_sources)
 set(help_book "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Brelex.hlp")
+find_program(ZIP zip)
+find_program(BASH bash)
+if(ZIP AND BASH)
+  set(pack_help_book "${BASH}" "${CMAKE_SOURCE_DIR}/scripts/pack_help_book.sh" "${help_book}"
+                     "${CMAKE_SOURCE_DIR}/help")
+elseif(BRELEX_PACKAGING)
+  message(FATAL_ERROR "zip or bash, which make the help book, is missing.")
+else()
+  # This archive has the times of the files.
+  set(pack_help_book "${CMAKE_COMMAND}" -E tar cf "${help_book}" --format=zip)
+endif()
 add_custom_command(OUTPUT "${help_book}"
-  # A fixed time: the same pages give the same bytes.
-  COMMAND "${CMAKE_COMMAND}" -E env TZ=UTC "${CMAKE_COMMAND}" -E tar cf "${help_book}" --format=zip
-          "--mtime=2000-01-01 00:00:00 UTC" ${help_pages}
+  COMMAND ${pack_help_book} ${help_pages}
   WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}/help"
   DEPENDS ${help_sources}
   VERBATIM)

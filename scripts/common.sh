@@ -43,8 +43,8 @@ display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwa
                   librsvg2-common util-linux trayer xfwm4 metacity)
 
 # They make packages, and list and check what is in them.
-package_packages=(git gzip file fakeroot dpkg-dev python3 librsvg2-bin base-files)
-windows_package_packages=(nsis imagemagick wx3.2-headers zip unzip)
+package_packages=(git gzip zip file fakeroot dpkg-dev python3 librsvg2-bin base-files)
+windows_package_packages=(nsis imagemagick wx3.2-headers unzip)
 package_test_packages=(lintian desktop-file-utils appstream mandoc mmdebstrap bubblewrap xdotool
                        xclip unzip binutils binutils-mingw-w64-i686 e2fsprogs passwd)
 # They draw the icons for Linux and check what a desktop gets.
