@@ -14,6 +14,7 @@
 #include "database/modDataLoader.h"
 #include "database/szdd.h"
 #include "fuzz/fuzz_support.h"
+#include "fuzz/search_options.h"
 #include "lookup/abbreviation_finder.h"
 #include "lookup/prefix_search.h"
 #include "search/anagram.h"
@@ -121,16 +122,7 @@ void CheckRecords(const RecordStore& store, std::string_view file) {
 }
 
 void Search(const RecordStore& store, std::string_view text, unsigned options) {
-    constexpr SearchPosition kPositions[] = {SearchPosition::Anywhere, SearchPosition::Beginning,
-                                             SearchPosition::Ending, SearchPosition::Anywhere};
-    SearchRequest request;
-    request.text = text;
-    request.in = (options & 1U) != 0 ? SearchIn::Abbreviations : SearchIn::Expansions;
-    request.matchCase = (options & 2U) != 0;
-    request.wholeWord = (options & 4U) != 0;
-    request.loose = (options & 8U) != 0;
-    request.position = kPositions[options >> 4U & 3U];
-    const PreparedSearch prepared = PrepareSearch(request, store);
+    const PreparedSearch prepared = PrepareSearch(RequestOf(options, text), store);
     if (const auto* const finder = std::get_if<RecordFinder>(&prepared)) {
         const auto hits = SearchDatabase(*finder, store, 0, kMaxHits, nullptr).hits;
         Require(std::all_of(hits.begin(), hits.end(),

@@ -40,14 +40,6 @@ ReadEntries Read(std::string_view index, std::string_view dictionary) {
     return read;
 }
 
-void RequireStorable(const std::string& record) {
-    const std::size_t tab = record.find('\t');
-    Require(tab != std::string::npos && tab > 0 && tab + 1 < record.size(),
-            "a record has an abbreviation and an expansion");
-    Require(record.find_first_of(std::string_view("\0\n\r\x1b", 4)) == std::string::npos,
-            "a record is free of control characters");
-}
-
 void CheckArticle(std::string_view article) {
     for (const auto& entries : {EntriesOfArticle(article), EntriesOfHeaderArticle(article)}) {
         for (const DictdEntry& entry : entries) {

@@ -7,6 +7,7 @@
 #include "database/record_text.h"
 #include "fuzz/fuzz_support.h"
 #include "fuzz/plain_search.h"
+#include "fuzz/search_options.h"
 #include "search/database_search.h"
 
 namespace brelex {
@@ -14,19 +15,6 @@ namespace brelex {
 namespace {
 
 using Rows = std::vector<std::int32_t>;
-
-SearchRequest RequestOf(unsigned options, std::string_view text) {
-    constexpr SearchPosition kPositions[] = {SearchPosition::Anywhere, SearchPosition::Beginning,
-                                             SearchPosition::Ending, SearchPosition::Anywhere};
-    SearchRequest request;
-    request.text = text;
-    request.in = (options & 1U) != 0 ? SearchIn::Abbreviations : SearchIn::Expansions;
-    request.matchCase = (options & 2U) != 0;
-    request.wholeWord = (options & 4U) != 0;
-    request.loose = (options & 8U) != 0;
-    request.position = kPositions[options >> 4U & 3U];
-    return request;
-}
 
 // Follows a search and compares its hits with those expected.
 class HitWatcher final : public WorkWatcher {

@@ -21,14 +21,6 @@ std::vector<std::string> LinesOf(FuzzInput input) {
     return lines;
 }
 
-void RequireStorable(const std::string& record) {
-    const std::size_t tab = record.find('\t');
-    Require(tab != std::string::npos && tab > 0 && tab + 1 < record.size(),
-            "a record has an abbreviation and an expansion");
-    Require(record.find_first_of(std::string_view("\0\n\r\x1b", 4)) == std::string::npos,
-            "a record is free of control characters");
-}
-
 }  // namespace
 
 }  // namespace brelex

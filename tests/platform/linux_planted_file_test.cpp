@@ -71,7 +71,7 @@ class PlantedTemporaryFile : public testing::Test {
 };
 
 TEST_F(PlantedTemporaryFile, KeepsNobodyFromStarting) {
-    folder_.Write("shared/" + std::string(kTempFileName), "planted");
+    folder_.Write(shared_.filename() / kTempFileName, "planted");
     EXPECT_TRUE(LoadsAndPasses());
     EXPECT_EQ(ReadText(planted_), "planted");
 }
