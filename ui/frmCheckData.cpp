@@ -25,7 +25,6 @@ namespace {
 
 // The layout, in layout units.
 constexpr double kInnerWidth = 440;
-constexpr double kMargin = 12;
 constexpr double kBarHeight = 24;
 
 constexpr int kBlinkMs = 500;
@@ -79,7 +78,7 @@ void frmCheckData::CreateControls() {
 
 void frmCheckData::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
-    const int gap = px(kMargin);
+    const int gap = px(kWindowMargin);
     auto* result = new wxBoxSizer(wxHORIZONTAL);
     result->Add(imgResult, 0, wxALIGN_CENTRE_VERTICAL | wxALL | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
                 px(6));
@@ -149,14 +148,12 @@ void frmCheckData::DrawProgress(std::optional<int> percent) {
 void frmCheckData::ShowResult(const CheckDisplay& display) {
     const bool isThere = display.result != CheckResult::None;
     const bool passed = display.result == CheckResult::Passed;
-    // The colors of the picture and the text are meant for a light background.
-    const bool needsWhite = isThere && wxSystemSettings::GetAppearance().IsUsingDarkBackground();
-    resultArea_->SetBackgroundColour(needsWhite ? *wxWHITE : wxNullColour);
     imgResult->SetBitmap((passed ? imgPassed : imgFailed)->GetBitmap());
     imgResult->Show(isThere);
     // The text itself appears and disappears.
     SetSpokenName(*imgResult, isThere ? display.resultText : "Result");
-    lblResult->SetForegroundColour(passed ? Blue() : DarkRed());
+    lblResult->SetForegroundColour(passed ? BlueOn(wxSYS_COLOUR_BTNFACE)
+                                          : DarkRedOn(wxSYS_COLOUR_BTNFACE));
     lblResult->SetLabelText(WxText(display.resultText));
     lblResult->Show();
     isBlinkedOut_ = false;

@@ -11,6 +11,7 @@
 #include "platform/window/paint_now.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 
@@ -68,7 +69,7 @@ wxStaticText* frmSplash::NewLabel(const wxString& name, const wxString& text) {
 // Without a title bar, only an outline separates the window from its background.
 void frmSplash::OnPaint(wxPaintEvent& /*event*/) {
     wxPaintDC dc(this);
-    dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+    dc.SetPen(wxPen(EdgesOnFace().shadow));
     dc.SetBrush(*wxTRANSPARENT_BRUSH);
     dc.DrawRectangle(GetClientRect());
 }

@@ -18,6 +18,7 @@
 #include "database/szdd.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/controls/artwork.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/progress_bar.h"
 
 namespace brelex {
@@ -179,10 +180,10 @@ std::pair<int, int> ColumnsOfText(const wxImage& image, int from) {
 
 void ExpectBarUpTo(const wxImage& image, int right) {
     const int height = image.GetHeight();
-    EXPECT_EQ(ColourAt(image, 0, height / 2), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
-    EXPECT_EQ(ColourAt(image, right / 2, 0), SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT));
-    EXPECT_EQ(ColourAt(image, right, 4), SystemColour(wxSYS_COLOUR_BTNSHADOW));
-    EXPECT_EQ(ColourAt(image, right / 2, height - 1), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+    EXPECT_EQ(ColourAt(image, 0, height / 2), EdgesOnFace().light);
+    EXPECT_EQ(ColourAt(image, right / 2, 0), EdgesOnFace().light);
+    EXPECT_EQ(ColourAt(image, right, 4), EdgesOnFace().shadow);
+    EXPECT_EQ(ColourAt(image, right / 2, height - 1), EdgesOnFace().shadow);
 }
 
 TEST_F(CheckWindowTest, TheBarEndsAtThePercentageWrittenOnIt) {

@@ -2,21 +2,29 @@
 #pragma once
 
 #include <wx/colour.h>
+#include <wx/settings.h>
+
+#include "presentation/contrast.h"
 
 namespace brelex {
 
-// The colors in which results are shown.
+/// The edges of frames and buttons in the system's colors, or in similar ones where a theme's own
+/// would not be seen.
+struct SystemEdges {
+    wxColour light;
+    wxColour shadow;
+};
 
-[[nodiscard]] inline wxColour Red() {
-    return {255, 0, 0};
-}
+/// The edges as they are seen on the color of buttons.
+[[nodiscard]] SystemEdges EdgesOnFace();
 
-[[nodiscard]] inline wxColour DarkRed() {
-    return {192, 0, 0};
-}
+[[nodiscard]] Rgb RgbOf(const wxColour& colour);
+[[nodiscard]] Rgb RgbOf(wxSystemColour colour);
+[[nodiscard]] wxColour WxColourOf(Rgb colour);
 
-[[nodiscard]] inline wxColour Blue() {
-    return {0, 0, 255};
-}
+// The colors in which results are shown. `ground` is the system's color behind the text.
+[[nodiscard]] wxColour RedOn(wxSystemColour ground);
+[[nodiscard]] wxColour DarkRedOn(wxSystemColour ground);
+[[nodiscard]] wxColour BlueOn(wxSystemColour ground);
 
 }  // namespace brelex

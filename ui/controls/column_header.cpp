@@ -8,6 +8,7 @@
 #include <wx/settings.h>
 
 #include "platform/window/accessible_name.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 
@@ -43,8 +44,7 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
     dc.Clear();
     const wxSize size = GetClientSize();
     const int line = units_.Pixels(kLineAt);
-    const wxColour shadow = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW);
-    const wxColour highlight = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT);
+    const SystemEdges edges = EdgesOnFace();
     const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
 
     dc.SetFont(units_.StripFont());
@@ -53,11 +53,11 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
     dc.DrawText("Abbreviation", units_.Pixels(kAbbreviationAt), textTop);
     dc.DrawText("E x p a n s i o n", secondColumn_, textTop);
 
-    dc.SetPen(wxPen(shadow));
+    dc.SetPen(wxPen(edges.shadow));
     dc.DrawLine(0, line, size.x, line);
     const int divider = secondColumn_ - units_.Pixels(kSunkenLineBefore);
     dc.DrawLine(divider, units_.Pixels(2), divider, line - units_.Pixels(1));
-    dc.SetPen(wxPen(highlight));
+    dc.SetPen(wxPen(edges.light));
     dc.DrawLine(divider + 1, units_.Pixels(2), divider + 1, line - units_.Pixels(1));
 
     const int left = units_.Pixels(kArrowAt);

@@ -4,36 +4,40 @@
 #include <wx/dc.h>
 #include <wx/settings.h>
 
+#include "ui/controls/colours.h"
+
 namespace brelex {
 
 namespace {
 
-struct EdgeColours {
-    wxSystemColour leftAndTop;
-    wxSystemColour rightAndBottom;
+struct ButtonEdges {
+    wxColour leftAndTop;
+    wxColour rightAndBottom;
 };
 
-EdgeColours ColoursOf(Edge edge) {
+ButtonEdges ColoursOf(Edge edge) {
+    const SystemEdges edges = EdgesOnFace();
     switch (edge) {
         case Edge::Raised:
-            return {wxSYS_COLOUR_BTNHIGHLIGHT, wxSYS_COLOUR_BTNSHADOW};
+            return {edges.light, edges.shadow};
         case Edge::Sunken:
-            return {wxSYS_COLOUR_BTNSHADOW, wxSYS_COLOUR_BTNHIGHLIGHT};
+            return {edges.shadow, edges.light};
         case Edge::Flat:
             break;
     }
-    return {wxSYS_COLOUR_BTNFACE, wxSYS_COLOUR_BTNFACE};
+    const wxColour face = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
+    return {face, face};
 }
 
 }  // namespace
 
 void DrawFlatButton(const IconBounds& icon, wxDC& toolbar, Edge edge) {
-    const EdgeColours colours = ColoursOf(edge);
+    const ButtonEdges colours = ColoursOf(edge);
     const EdgeRectangle lines = EdgeRectangleOf(icon);
-    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(colours.leftAndTop)));
+    toolbar.SetPen(wxPen(colours.leftAndTop));
     toolbar.DrawLine(lines.left, lines.top, lines.left, lines.bottom);
     toolbar.DrawLine(lines.left, lines.top, lines.right, lines.top);
-    toolbar.SetPen(wxPen(wxSystemSettings::GetColour(colours.rightAndBottom)));
+    toolbar.SetPen(wxPen(colours.rightAndBottom));
     toolbar.DrawLine(lines.right, lines.bottom, lines.right, lines.top);
     toolbar.DrawLine(lines.right, lines.bottom, lines.left, lines.bottom);
 }

@@ -10,7 +10,6 @@
 #include <wx/display.h>
 #include <wx/gdicmn.h>
 #include <wx/log.h>
-#include <wx/settings.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
 #include <wx/utils.h>
@@ -19,6 +18,7 @@
 #include "database/record_text.h"
 #include "platform/window/window_place.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 
@@ -40,10 +40,11 @@ void Draw3DFrame(wxDC& dc, const wxRect& area) {
     const int top = area.y;
     const int right = area.x + area.width;
     const int bottom = area.y + area.height;
-    dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+    const SystemEdges edges = EdgesOnFace();
+    dc.SetPen(wxPen(edges.shadow));
     dc.DrawLine(left, top, left, bottom);
     dc.DrawLine(left, top, right, top);
-    dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
+    dc.SetPen(wxPen(edges.light));
     dc.DrawLine(right, bottom, right, top);
     dc.DrawLine(left, bottom, right, bottom);
 }

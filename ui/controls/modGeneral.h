@@ -18,7 +18,8 @@ class MessageSink;
 
 /// Draws a sunken 3-D frame on the boundary of `area`. First draws the left and top edges in the
 /// system's button-shadow color, then the right and bottom edges, which are at left + width and top
-/// + height, in its button-highlight color.
+/// + height, in its button-highlight color. Where a theme's own colors would not be seen, it mixes
+/// similar ones.
 void Draw3DFrame(wxDC& dc, const wxRect& area);
 
 /// Puts a window into the band of windows that stay above all others, or takes it out of that band.

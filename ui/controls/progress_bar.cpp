@@ -7,6 +7,8 @@
 #include <wx/math.h>
 #include <wx/settings.h>
 
+#include "ui/controls/colours.h"
+
 namespace brelex {
 
 ProgressBar::ProgressBar(wxWindow* parent) : Backdrop(parent) {
@@ -50,10 +52,11 @@ void ProgressBar::Draw(wxDC& dc) const {
     dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     dc.DrawText(text, (size.x - extent.x) / 2, (size.y - extent.y) / 2);
     if (right > 0) {
-        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
+        const SystemEdges edges = EdgesOnFace();
+        dc.SetPen(wxPen(edges.light));
         dc.DrawLine(0, 0, 0, bottom);
         dc.DrawLine(0, 0, right, 0);
-        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+        dc.SetPen(wxPen(edges.shadow));
         dc.DrawLine(right, bottom, right, 0);
         dc.DrawLine(right, bottom, 0, bottom);
     }

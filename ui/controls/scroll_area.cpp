@@ -9,6 +9,7 @@
 #include <wx/settings.h>
 
 #include "presentation/moving_text.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 
@@ -68,9 +69,10 @@ void ScrollArea::Draw(wxDC& dc) const {
     int top = position_;
     for (const ScrollLine& line : lines_) {
         dc.SetFont(line.font);
-        dc.SetTextForeground(line.colour.IsOk()
-                                 ? line.colour
-                                 : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        dc.SetTextForeground(
+            line.colour.IsOk()
+                ? WxColourOf(ReadableOn(RgbOf(wxSYS_COLOUR_WINDOW), RgbOf(line.colour)))
+                : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
         dc.DrawText(line.text, FromDIP(kLeft), top);
         top += dc.GetCharHeight();
     }

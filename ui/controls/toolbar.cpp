@@ -10,6 +10,7 @@
 #include "platform/window/accessible_name.h"
 #include "platform/window/area_tool_tip.h"
 #include "ui/controls/artwork.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/modFlatButton.h"
 
 namespace brelex {
@@ -40,6 +41,15 @@ MouseButtons OtherButtonsOf(const wxMouseEvent& event) {
     return {.left = event.LeftIsDown() && changing != wxMOUSE_BTN_LEFT,
             .right = event.RightIsDown() && changing != wxMOUSE_BTN_RIGHT,
             .middle = event.MiddleIsDown() && changing != wxMOUSE_BTN_MIDDLE};
+}
+
+// The area behind the picture, so that one sees where the mouse is without looking for lines.
+void DrawPlate(const IconBounds& icon, wxDC& dc, Edge edge) {
+    const EdgeRectangle area = EdgeRectangleOf(icon);
+    dc.SetPen(*wxTRANSPARENT_PEN);
+    dc.SetBrush(wxBrush(WxColourOf(
+        HotFace(RgbOf(wxSYS_COLOUR_BTNFACE), RgbOf(wxSYS_COLOUR_BTNTEXT), edge == Edge::Sunken))));
+    dc.DrawRectangle(area.left, area.top, area.right - area.left, area.bottom - area.top);
 }
 
 }  // namespace
@@ -136,22 +146,27 @@ void Toolbar::OnPaint(wxPaintEvent& /*event*/) {
 void Toolbar::Draw(wxDC& dc) const {
     const int height = GetClientSize().y;
     const int margin = units_.Pixels(kMargin);
+    const SystemEdges edges = EdgesOnFace();
     for (const int x : separators_) {
-        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW)));
+        dc.SetPen(wxPen(edges.shadow));
         dc.DrawLine(x, margin, x, height - margin);
-        dc.SetPen(wxPen(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT)));
+        dc.SetPen(wxPen(edges.light));
         dc.DrawLine(x + 1, margin, x + 1, height - margin);
     }
     for (int i = 0; i < state_.IconCount(); ++i) {
         const IconBounds& icon = state_.BoundsOf(i);
         const wxSize size(static_cast<int>(icon.width), static_cast<int>(icon.height));
+        const Edge edge = state_.EdgeOf(i);
+        if (edge != Edge::Flat) {
+            DrawPlate(icon, dc, edge);
+        }
         wxBitmap picture = imgToolbarIcon.at(static_cast<std::size_t>(i))
                                .GetBitmap(size * GetContentScaleFactor());
         picture.SetScaleFactor(GetContentScaleFactor());
         dc.DrawBitmap(picture, static_cast<int>(icon.left), static_cast<int>(icon.top));
         // A flat edge has the color of buttons, which may differ from that of the window behind it.
-        if (state_.EdgeOf(i) != Edge::Flat) {
-            DrawFlatButton(icon, dc, state_.EdgeOf(i));
+        if (edge != Edge::Flat) {
+            DrawFlatButton(icon, dc, edge);
         }
     }
 }

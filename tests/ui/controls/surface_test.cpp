@@ -10,6 +10,7 @@
 #include <wx/settings.h>
 
 #include "tests/ui/ui_test_support.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 namespace {
@@ -33,8 +34,8 @@ class SurfaceTest : public testing::Test {
         return ColourAt(bitmap.ConvertToImage(), x, y);
     }
 
-    const wxColour shadow_ = SystemColour(wxSYS_COLOUR_BTNSHADOW);
-    const wxColour highlight_ = SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT);
+    const wxColour shadow_ = EdgesOnFace().shadow;
+    const wxColour highlight_ = EdgesOnFace().light;
     wxFrame& frame_ = *new wxFrame(nullptr, wxID_ANY, "A window with a surface");
     Surface& surface_ = *new Surface(&frame_);
     wxWindow& child_ = *new wxWindow(&surface_, wxID_ANY, wxPoint(30, 20), wxSize(40, 10));
@@ -52,6 +53,15 @@ TEST_F(SurfaceTest, FramesAChildOnePixelOutsideIt) {
     EXPECT_EQ(Drawn(50, 30), highlight_);
     EXPECT_EQ(Drawn(28, 25), *wxGREEN);
     EXPECT_EQ(Drawn(30, 25), *wxGREEN);
+}
+
+TEST_F(SurfaceTest, AFrameIsSeenOnEachOfItsSides) {
+    surface_.FrameChild(child_);
+    const Rgb face = RgbOf(wxSYS_COLOUR_BTNFACE);
+    for (const wxPoint& side :
+         {wxPoint(29, 25), wxPoint(50, 19), wxPoint(70, 25), wxPoint(50, 30)}) {
+        EXPECT_GE(ContrastRatio(RgbOf(Drawn(side.x, side.y)), face), 1.3) << side.x;
+    }
 }
 
 TEST_F(SurfaceTest, FramesAChildHigherAtTheTopIfAsked) {

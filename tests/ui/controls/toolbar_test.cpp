@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/toolbar.h"
 
+#include <array>
+#include <cstddef>
 #include <set>
 #include <string>
 #include <utility>
@@ -17,6 +19,7 @@
 #include "tests/platform/screen.h"
 #include "tests/support/named_case.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/controls/colours.h"
 #include "ui/controls/modFlatButton.h"
 
 namespace brelex {
@@ -224,12 +227,39 @@ TEST_F(ToolbarWindowTest, TheEdgeIsDrawnRoundTheHotIconOnly) {
     Hover(1);
     EXPECT_EQ(edgeColour(), *wxGREEN);
     Hover(2);
-    EXPECT_EQ(edgeColour(), SystemColour(wxSYS_COLOUR_BTNSHADOW));
+    EXPECT_EQ(edgeColour(), EdgesOnFace().shadow);
     user_.MouseDown();
-    EXPECT_TRUE(WaitFor([&] { return edgeColour() == SystemColour(wxSYS_COLOUR_BTNHIGHLIGHT); }));
+    EXPECT_TRUE(WaitFor([&] { return edgeColour() == EdgesOnFace().light; }));
     MoveTo(BelowTheToolbar());
     user_.MouseUp();
     EXPECT_EQ(edgeColour(), *wxGREEN);
+}
+
+// As somebody who sees no colors tells them apart: the plate beside the picture and both edges.
+TEST_F(ToolbarWindowTest, AnIconThatIsFlatHotOrPressedLooksDifferentWithoutColors) {
+    const EdgeRectangle edge = EdgeRectangleOf(Bar().BoundsOf(2));
+    const auto colours = [&] {
+        const wxImage picture = PictureOf(Bar());
+        const int middle = (edge.top + edge.bottom) / 2;
+        return std::array{RgbOf(ColourAt(picture, edge.left, middle)),
+                          RgbOf(ColourAt(picture, edge.right, middle)),
+                          RgbOf(ColourAt(picture, edge.left + 1, edge.top + 1))};
+    };
+    const Rgb face = RgbOf(wxSYS_COLOUR_BTNFACE);
+    Hover(2);
+    const auto hot = colours();
+    user_.MouseDown();
+    ASSERT_TRUE(WaitFor([&] { return Bar().EdgeOf(2) == Edge::Sunken; }));
+    const auto pressed = colours();
+    for (std::size_t i = 0; i < 2; ++i) {
+        EXPECT_GE(ContrastRatio(hot.at(i), face), 1.3);
+        EXPECT_GE(ContrastRatio(pressed.at(i), face), 1.3);
+        EXPECT_GE(ContrastRatio(hot.at(i), pressed.at(i)), 1.3);
+    }
+    EXPECT_GT(ContrastRatio(hot[2], face), 1.08);
+    EXPECT_GE(ContrastRatio(pressed[2], face), 1.3);
+    MoveTo(BelowTheToolbar());
+    user_.MouseUp();
 }
 
 TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
@@ -240,7 +270,7 @@ TEST_F(ToolbarWindowTest, LinesPartTheGroupsOfIcons) {
         int lines = 0;
         for (int x = static_cast<int>(icon.left + icon.width) + 1; x < Bar().BoundsOf(i + 1).left;
              ++x) {
-            lines += ColourAt(bar, x, middle) == SystemColour(wxSYS_COLOUR_BTNSHADOW) ? 1 : 0;
+            lines += ColourAt(bar, x, middle) == EdgesOnFace().shadow ? 1 : 0;
         }
         const bool ends = std::set<int>{1, 2, 4, 5}.contains(i);
         EXPECT_EQ(lines, ends ? 1 : 0) << i;
@@ -284,14 +314,16 @@ TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
     struct EdgeCase {
         const char* name;
         Edge edge;
-        wxSystemColour leftAndTop;
-        wxSystemColour rightAndBottom;
+        wxColour leftAndTop;
+        wxColour rightAndBottom;
     };
 
-    for (const EdgeCase& edge :
-         {EdgeCase{"flat", Edge::Flat, wxSYS_COLOUR_BTNFACE, wxSYS_COLOUR_BTNFACE},
-          EdgeCase{"raised", Edge::Raised, wxSYS_COLOUR_BTNHIGHLIGHT, wxSYS_COLOUR_BTNSHADOW},
-          EdgeCase{"sunken", Edge::Sunken, wxSYS_COLOUR_BTNSHADOW, wxSYS_COLOUR_BTNHIGHLIGHT}}) {
+    const SystemEdges edges = EdgesOnFace();
+    const wxColour face = SystemColour(wxSYS_COLOUR_BTNFACE);
+
+    for (const EdgeCase& edge : {EdgeCase{"flat", Edge::Flat, face, face},
+                                 EdgeCase{"raised", Edge::Raised, edges.light, edges.shadow},
+                                 EdgeCase{"sunken", Edge::Sunken, edges.shadow, edges.light}}) {
         wxBitmap bitmap(60, 60, 24);
         wxMemoryDC dc(bitmap);
         dc.SetBackground(*wxGREEN_BRUSH);
@@ -299,10 +331,10 @@ TEST(DrawFlatButton, DrawsTheEdgeOnTheIconsBoundary) {
         DrawFlatButton({10, 10, 32, 32}, dc, edge.edge);
         dc.SelectObject(wxNullBitmap);
         const wxImage image = bitmap.ConvertToImage();
-        EXPECT_EQ(ColourAt(image, 10, 20), SystemColour(edge.leftAndTop)) << edge.name;
-        EXPECT_EQ(ColourAt(image, 20, 10), SystemColour(edge.leftAndTop)) << edge.name;
-        EXPECT_EQ(ColourAt(image, 42, 20), SystemColour(edge.rightAndBottom)) << edge.name;
-        EXPECT_EQ(ColourAt(image, 20, 42), SystemColour(edge.rightAndBottom)) << edge.name;
+        EXPECT_EQ(ColourAt(image, 10, 20), edge.leftAndTop) << edge.name;
+        EXPECT_EQ(ColourAt(image, 20, 10), edge.leftAndTop) << edge.name;
+        EXPECT_EQ(ColourAt(image, 42, 20), edge.rightAndBottom) << edge.name;
+        EXPECT_EQ(ColourAt(image, 20, 42), edge.rightAndBottom) << edge.name;
         for (const wxPoint& outside : {wxPoint(9, 20), wxPoint(11, 20), wxPoint(43, 20)}) {
             EXPECT_EQ(ColourAt(image, outside.x, outside.y), *wxGREEN) << edge.name;
         }
