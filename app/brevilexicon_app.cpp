@@ -13,6 +13,7 @@
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/system/modRunAtStartup.h"
 #include "platform/system/program_folder.h"
+#include "platform/window/focus_marks.h"
 #include "platform/window/font_reading.h"
 #include "toolkit/wx_text.h"
 
@@ -39,6 +40,7 @@ bool BrevilexiconApp::OnInit() {
     SetAppName("brevilexicon");
     SetAppDisplayName(kAppTitle);
     SetSpokenProgramName(kAppTitle);
+    MakeFocusMarksSeen();
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
     frmMain* const main =

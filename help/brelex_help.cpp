@@ -14,6 +14,7 @@
 #include "platform/desktop/program_identity.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/system/program_folder.h"
+#include "platform/window/focus_marks.h"
 #include "toolkit/wx_text.h"
 
 namespace brelex {
@@ -29,6 +30,7 @@ class HelpApp final : public wxApp {
     bool OnInit() override {
         SetAppName(kProgram);
         SetSpokenProgramName(kHelpTitle);
+        MakeFocusMarksSeen();
         const wxString argument = Argument(1);
         if (argument == "--register" || argument == "--unregister") {
             done_ = OpenHelpFilesWith(argument == "--register"
