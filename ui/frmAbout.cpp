@@ -21,7 +21,6 @@ namespace brelex {
 namespace {
 
 // The layout, in layout units.
-constexpr double kMargin = 14;
 constexpr double kTitleWidth = 300;
 constexpr double kTitleHeight = 48;
 
@@ -79,13 +78,14 @@ wxStaticText* frmAbout::NewLabel(const char* name, const wxString& text) const {
 }
 
 wxSizer* frmAbout::LayoutOfTexts() {
-    const int gap = units_.Pixels(kMargin);
-    auto* texts = new wxBoxSizer(wxVERTICAL);
-    texts->Add(picAppTitle, 0, wxBOTTOM, gap);
+    const int gap = units_.Pixels(kWindowMargin);
+    auto* labels = new wxBoxSizer(wxVERTICAL);
+    labels->Add(picAppTitle, 0, wxBOTTOM, gap);
     for (wxStaticText* label : {lblDescription, lblVersion, lblDBVersion, lblCopyRight}) {
-        texts->Add(label, 0, wxEXPAND | wxBOTTOM, gap / 3);
+        labels->Add(label, 0, wxEXPAND | wxBOTTOM, gap / 3);
     }
-    texts->AddSpacer(gap / 2);
+    auto* texts = new wxBoxSizer(wxVERTICAL);
+    texts->Add(labels, 0, wxEXPAND | wxLEFT | wxBOTTOM, FromDIP(Link::kFocusMargin));
     for (Link* link : lblHyperLink) {
         texts->Add(link, 0, wxBOTTOM, gap / 4);
     }
@@ -93,7 +93,7 @@ wxSizer* frmAbout::LayoutOfTexts() {
 }
 
 void frmAbout::PlaceControls() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     picPayPal->SetMinSize(
         {units_.TextWidth(kDonateText), GetTextExtent(kDonateText).y + units_.Pixels(2)});
     auto* end = new wxBoxSizer(wxHORIZONTAL);

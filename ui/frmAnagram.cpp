@@ -12,6 +12,7 @@
 #include <wx/stattext.h>
 
 #include "platform/window/accessible_name.h"
+#include "platform/window/drop_down_list.h"
 #include "platform/window/prompt_button.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
@@ -32,7 +33,6 @@ namespace {
 // The layout, in layout units.
 constexpr double kInnerWidth = 560;
 constexpr double kListHeight = 190;
-constexpr double kMargin = 8;
 
 constexpr int kAnimationIntervalMs = 135;
 
@@ -70,6 +70,7 @@ void frmAnagram::CreateControls() {
                                       wxDefaultSize, 0, nullptr, wxCB_DROPDOWN),
                        "cboLetters", "Letters");
     textLimit_.emplace(*cboLetters);
+    ShowItemsAsList(*cboLetters);
     cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
     cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
     lblWordLen = Named(NewFact("999"), "lblWordLen");
@@ -98,7 +99,7 @@ wxStaticText* frmAnagram::NewFact(const char* widest, long alignment) const {
 
 // The prompt, the letters and the facts about them, with the buttons beside them.
 wxSizer* frmAnagram::LayoutOfLetters() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kControlGap);
     auto* counts = new wxBoxSizer(wxHORIZONTAL);
     counts->Add(lblWordLen, 0, wxRIGHT, gap / 2);
     counts->Add(new wxStaticText(surface_, wxID_ANY, "letter(s)"), 0, wxRIGHT, 2 * gap);
@@ -116,33 +117,34 @@ wxSizer* frmAnagram::LayoutOfLetters() {
     buttons->Add(cmdCancel, 0, wxEXPAND);
 
     auto* all = new wxBoxSizer(wxHORIZONTAL);
-    all->Add(letters, 1, wxRIGHT, gap);
+    all->Add(letters, 1, wxRIGHT, units_.Pixels(kGroupGap));
     all->Add(buttons);
     return all;
 }
 
 void frmAnagram::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
-    const int gap = px(kMargin);
+    const int margin = px(kWindowMargin);
+    const int gap = px(kGroupGap);
     wxSizer* const letters = LayoutOfLetters();
-    const int width = std::max(px(kInnerWidth), letters->GetMinSize().x + 2 * gap);
-    lblOverview->Wrap(width - 3 * gap);  // lines may come out a little wider than measured
+    const int width = std::max(px(kInnerWidth), letters->GetMinSize().x + 2 * margin);
+    lblOverview->Wrap(width - 3 * margin);  // lines may come out a little wider than measured
     auto* progress = new wxBoxSizer(wxHORIZONTAL);
     progress->Add(picAnim, 0, wxRIGHT | wxRESERVE_SPACE_EVEN_IF_HIDDEN, gap);
     progress->AddStretchSpacer();
     progress->Add(lblPercentDone, 0, wxALIGN_BOTTOM);
 
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(lblOverview, 0, wxEXPAND | wxALL, gap);
-    all->Add(letters, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
-    all->Add(progress, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
+    all->Add(lblOverview, 0, wxEXPAND | wxALL, margin);
+    all->Add(letters, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
+    all->Add(progress, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
     all->AddSpacer(gap);
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
-    all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
+    all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
     wxWindow& list = lstAnagrams->Window();
     // The list ends with a full row.
     list.SetMinSize({-1, lstAnagrams->HeightOfRows(lstAnagrams->RowsIn(px(kListHeight)))});
-    all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    all->Add(&list, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, margin);
     FillWindow(all, width);
 }
 
@@ -199,8 +201,9 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
         lblPercentDone->Update();
     }
     if (isNew(&AnagramDisplay::listIsWarning)) {
-        lstAnagrams->SetTextColour(
-            display.listIsWarning ? Red() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        lstAnagrams->SetTextColour(display.listIsWarning
+                                       ? RedOn(wxSYS_COLOUR_LISTBOX)
+                                       : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     }
     if (isNew(&AnagramDisplay::listTip)) {
         lstAnagrams->Window().SetToolTip(WxText(display.listTip));

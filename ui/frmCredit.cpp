@@ -42,11 +42,12 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     : SideWindow(*about, "frmCredit", "Credits") {
     picAbout =
         Named(new ScrollArea(surface_, LinesOf(Credits(info), GetFont())), "picAbout", "Credits");
+    surface_->FrameChild(*picAbout);
     StopWithWindow(picAbout->tmrScrollText);
     picAbout->SetMinSize(
         {std::max(units_.Pixels(kWidth), picAbout->LinesWidth()), units_.Pixels(kHeight)});
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(picAbout, 1, wxEXPAND);
+    all->Add(picAbout, 1, wxEXPAND | wxALL, units_.Pixels(kWindowMargin));
     FillWindow(all);
     Bind(wxEVT_CHAR_HOOK, &frmCredit::OnKey, this);
 }

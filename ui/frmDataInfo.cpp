@@ -22,7 +22,6 @@ namespace brelex {
 namespace {
 
 // The layout, in layout units.
-constexpr double kMargin = 10;
 constexpr double kValueWidth = 260;
 constexpr int kIconSize = 48;
 
@@ -67,7 +66,7 @@ void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
             captionWidth = std::max(captionWidth, units_.TextWidth(statistic.caption));
         }
     }
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     figures_ = new wxBoxSizer(wxVERTICAL);
     for (const auto& group : statistics.groups) {
         if (!figures_->IsEmpty()) {
@@ -104,13 +103,13 @@ wxSizer* frmDataInfo::LayoutOfTitle() {
     texts->Add(lblTitle, 0, wxEXPAND);
     texts->Add(lblVersion, 0, wxEXPAND | wxTOP, units_.Pixels(2));
     auto* title = new wxBoxSizer(wxHORIZONTAL);
-    title->Add(imgAppIcon, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, units_.Pixels(kMargin));
+    title->Add(imgAppIcon, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, units_.Pixels(kWindowMargin));
     title->Add(texts, 1, wxALIGN_CENTRE_VERTICAL);
     return title;
 }
 
 void frmDataInfo::PlaceControls() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     auto* end = new wxBoxSizer(wxHORIZONTAL);
     end->Add(lblFootnote_, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
     end->Add(cmdOK);

@@ -19,7 +19,6 @@ namespace brelex {
 namespace {
 
 // The layout, in layout units.
-constexpr double kMargin = 12;
 constexpr double kTextHeight = 170;
 
 std::vector<ScrollLine> Lines(const wxFont& font) {
@@ -45,6 +44,7 @@ frmDonation::frmDonation(wxTopLevelWindow* main, const AppInfo& info,
 
 void frmDonation::CreateControls() {
     picCredit = Named(new ScrollArea(surface_, Lines(GetFont())), "picCredit", "Behind the scenes");
+    surface_->FrameChild(*picCredit);
     StopWithWindow(picCredit->tmrScrollText);
     imgPayPalDonate =
         Named(new Link(surface_, DonateButtonPicture(), [this] { OpenDonationPage(); }),
@@ -55,7 +55,7 @@ void frmDonation::CreateControls() {
 }
 
 void frmDonation::PlaceControls() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     auto* end = new wxBoxSizer(wxHORIZONTAL);
     end->Add(imgPayPalDonate, 0, wxALIGN_CENTRE_VERTICAL);
     end->AddStretchSpacer();

@@ -15,6 +15,7 @@
 
 #include "platform/list/text_columns.h"
 #include "platform/window/accessible_name.h"
+#include "platform/window/drop_down_list.h"
 #include "platform/window/paint_now.h"
 #include "platform/window/prompt_button.h"
 #include "search/search_list.h"
@@ -38,7 +39,6 @@ namespace {
 // The layout, in layout units.
 constexpr double kInnerWidth = 640;
 constexpr double kResultHeight = 230;
-constexpr double kMargin = 8;
 constexpr double kCountWidth = 190;
 constexpr double kShrunkMargin = 3;  // below the header's upper edge
 
@@ -88,6 +88,7 @@ void frmSearch::CreateRequest() {
                                          wxDefaultSize, 0, nullptr, wxCB_DROPDOWN),
                           "cboSearchWhat", "Search text");
     textLimit_.emplace(*cboSearchWhat);
+    ShowItemsAsList(*cboSearchWhat);
     options_.emplace(*surface_, [this](SearchIn in) { textLimit_->Set(session_.TextLimit(in)); });
     cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
     cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
@@ -113,7 +114,7 @@ void frmSearch::CreateResultArea() {
 }
 
 wxSizer* frmSearch::LayoutOfRequest() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kControlGap);
     wxBoxSizer* const options = options_->Layout(gap);
     options->AddStretchSpacer();
     options->Add(picAnim, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
@@ -131,14 +132,15 @@ wxSizer* frmSearch::LayoutOfRequest() {
         buttons->Add(button, 0, wxEXPAND | wxBOTTOM, gap);
     }
     auto* all = new wxBoxSizer(wxHORIZONTAL);
-    all->Add(request, 1, wxEXPAND | wxRIGHT, gap);
+    all->Add(request, 1, wxEXPAND | wxRIGHT, units_.Pixels(kGroupGap));
     all->Add(buttons);
     return all;
 }
 
 void frmSearch::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
-    const int gap = px(kMargin);
+    const int margin = px(kWindowMargin);
+    const int gap = px(kControlGap);
     auto* labels = new wxBoxSizer(wxHORIZONTAL);
     labels->Add(lblStatus, 1, wxALIGN_CENTRE_VERTICAL | wxLEFT, px(4));
     labels->Add(lblCount, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, px(4));
@@ -150,13 +152,14 @@ void frmSearch::PlaceControls() {
     status->Add(cmdExpandShrink, 0, wxALIGN_CENTRE_VERTICAL);
 
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(LayoutOfRequest(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
-    all->Add(status, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, gap);
+    all->Add(LayoutOfRequest(), 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, margin);
     all->AddSpacer(gap);
+    all->Add(status, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
+    all->AddSpacer(px(kGroupGap));
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
-    all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, gap);
+    all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
     txtSearchResult->SetMinSize({-1, px(kResultHeight)});
-    all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, margin);
     const wxSize needed = all->GetMinSize();
     innerWidth_ = std::max(px(kInnerWidth), needed.x);
     ExpandedHeight = needed.y;
@@ -240,7 +243,7 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
     }
     if (isNew(&SearchDisplay::count) || isNew(&SearchDisplay::countTone)) {
         lblCount->SetForegroundColour(display.countTone == Tone::Warning
-                                          ? DarkRed()
+                                          ? DarkRedOn(wxSYS_COLOUR_BTNFACE)
                                           : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
         lblCount->SetLabelText(WxText(display.count));
         lblCount->Update();
@@ -275,7 +278,8 @@ void frmSearch::ShowBusy(bool busy) {
 
 void frmSearch::ShowResult(const std::string& text, Tone tone) {
     txtSearchResult->SetForegroundColour(
-        tone == Tone::Warning ? Red() : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+        tone == Tone::Warning ? RedOn(wxSYS_COLOUR_WINDOW)
+                              : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     txtSearchResult->ChangeValue(WxText(text));
 }
 

@@ -21,7 +21,6 @@ namespace {
 
 // The layout, in layout units.
 constexpr double kHeight = 420;
-constexpr double kMargin = 10;
 
 constexpr int kTextMarginPixels = 8;
 
@@ -86,7 +85,7 @@ frmSmiley::frmSmiley(wxTopLevelWindow* main, const AppInfo& info)
 }
 
 void frmSmiley::PlaceControls(int textWidth) {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     // The rows fit a box that is as wide as the widest line.
     const int boxWidth = textWidth + 2 * (kTextMarginPixels + gap) +
                          wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, txtReadme);

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include <wx/bmpbuttn.h>
+#include <wx/button.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -24,21 +24,32 @@ namespace {
 
 // The layout, in layout units.
 constexpr double kInnerWidth = 540;
-constexpr double kMargin = 10;
 constexpr double kWidthWithoutScrolling = 700;  // two and a half lines
 constexpr int kExpansionLines = 3;
-constexpr int kTextMarginPixels = 4;
 
-// A line of text that the user can read and select but not change. On Windows the TAB key would
-// otherwise skip it (seen with wxWidgets 3.2.2).
-class ReadOnlyLine final : public wxTextCtrl {
+// In pixels at 96 dots per inch.
+constexpr int kTextMargin = 5;
+constexpr int kEdge = 2;
+
+// A text that the user can read and select but not change. Boxes of one line and of several look
+// different on GTK, so both are of the second kind. On Windows the TAB key would otherwise skip
+// them (seen with wxWidgets 3.2.2).
+class ReadOnlyBox final : public wxTextCtrl {
   public:
-    explicit ReadOnlyLine(wxWindow* parent)
+    ReadOnlyBox(wxWindow* parent, long scrollStyle)
         : wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                     wxTE_READONLY) {}
+                     wxTE_READONLY | wxTE_MULTILINE | scrollStyle) {
+        SetFont(GetFont().Larger());
+        SetSideMargins(*this, FromDIP(kTextMargin));
+        SetTopMargin(*this, FromDIP(kTextMargin));
+    }
 
     [[nodiscard]] bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
 };
+
+void MakeRoomForLines(int count, wxTextCtrl& box) {
+    box.SetMinSize({-1, count * box.GetCharHeight() + 2 * box.FromDIP(kTextMargin + kEdge)});
+}
 
 }  // namespace
 
@@ -56,14 +67,14 @@ frmViewEntry::frmViewEntry(wxTopLevelWindow* main, std::function<std::string_vie
 // In the order in which the TAB key visits them.
 void frmViewEntry::CreateControls() {
     lblAbbreviation_ = new wxStaticText(surface_, wxID_ANY, "&Abbreviation:");
-    txtAbbrv = Named(new ReadOnlyLine(surface_), "txtAbbrv", "Abbreviation");
+    txtAbbrv = Named(new ReadOnlyBox(surface_, wxTE_NO_VSCROLL), "txtAbbrv", "Abbreviation");
     lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
-    txtExpn = Named(new wxTextCtrl(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                   wxDefaultSize, wxTE_READONLY | wxTE_MULTILINE | ScrollStyle()),
-                    "txtExpn", "Expansion");
+    txtExpn = Named(new ReadOnlyBox(surface_, ScrollStyle()), "txtExpn", "Expansion");
     lblAbbrLen = Named(NewCount(), "lblAbbrLen");
     lblExpnLen = Named(NewCount(), "lblExpnLen");
-    cmdCopy = Named(new wxBitmapButton(surface_, wxID_ANY, CopyPicture()), "cmdCopy", "Copy");
+    cmdCopy = Named(new wxButton(surface_, wxID_ANY, "Copy"), "cmdCopy");
+    cmdCopy->SetBitmap(CopyPicture());
+    cmdCopy->SetBitmapMargins(units_.Pixels(4), 0);
     cmdCopy->SetToolTip("Shortcut Ctrl+C");
     cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
@@ -91,16 +102,18 @@ wxSizer* frmViewEntry::LayoutOfCount(wxStaticText* count) {
 }
 
 void frmViewEntry::PlaceControls() {
-    const int gap = units_.Pixels(kMargin);
+    const int gap = units_.Pixels(kWindowMargin);
     auto* entry = new wxFlexGridSizer(3, wxSize(gap, gap));
     entry->AddGrowableCol(1);
-    entry->Add(lblAbbreviation_, 0, wxALIGN_CENTRE_VERTICAL);
+    const int toFirstLine = units_.Pixels(6);
+    MakeRoomForLines(1, *txtAbbrv);
+    MakeRoomForLines(kExpansionLines, *txtExpn);
+    entry->Add(lblAbbreviation_, 0, wxTOP, toFirstLine);
     entry->Add(txtAbbrv, 0, wxEXPAND);
-    entry->Add(LayoutOfCount(lblAbbrLen), 0, wxALIGN_CENTRE_VERTICAL);
-    txtExpn->SetMinSize({-1, (kExpansionLines + 1) * txtExpn->GetCharHeight()});
-    entry->Add(lblExpansion_, 0, wxTOP, units_.Pixels(4));
+    entry->Add(LayoutOfCount(lblAbbrLen), 0, wxTOP, toFirstLine);
+    entry->Add(lblExpansion_, 0, wxTOP, toFirstLine);
     entry->Add(txtExpn, 0, wxEXPAND);
-    entry->Add(LayoutOfCount(lblExpnLen), 0, wxTOP, units_.Pixels(4));
+    entry->Add(LayoutOfCount(lblExpnLen), 0, wxTOP, toFirstLine);
 
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     buttons->AddStretchSpacer();
@@ -116,8 +129,6 @@ void frmViewEntry::PlaceControls() {
 void frmViewEntry::BindEvents(const AppInfo& info) {
     Bind(wxEVT_CHAR_HOOK, &frmViewEntry::OnKey, this);
     cmdCopy->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { CopyEntry(); });
-    SetSideMargins(*txtExpn, kTextMarginPixels);
-    SetTopMargin(*txtExpn, kTextMarginPixels);
     LeadAccessKeysTo(*this, {{lblAbbreviation_, txtAbbrv}, {lblExpansion_, txtExpn}});
     for (wxTextCtrl* box : {txtAbbrv, txtExpn}) {
         ShowAppInfoOnMenuRequest(*box, info);
@@ -144,8 +155,9 @@ void frmViewEntry::OnKey(wxKeyEvent& event) {
     const int key = event.GetKeyCode();
     if (key == 'C' && event.GetModifiers() == wxMOD_CONTROL) {
         CopyEntry();
-    } else if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && txtExpn->HasFocus()) {
-        EndModal(wxID_OK);  // the box would swallow the key
+    } else if ((key == WXK_RETURN || key == WXK_NUMPAD_ENTER) &&
+               (txtAbbrv->HasFocus() || txtExpn->HasFocus())) {
+        EndModal(wxID_OK);  // a box would swallow the key
     } else {
         event.Skip();
     }

@@ -62,7 +62,7 @@ TEST_F(EntryViewerTest, ShowsTheSelectedEntryAndItsLetters) {
         EXPECT_FALSE(In<wxTextCtrl>("txtExpn").IsEditable());
         EXPECT_EQ(In("cmdCopy").GetToolTipText(), "Shortcut Ctrl+C");
         EXPECT_TRUE(In<wxButton>("cmdCopy").GetBitmap().IsOk());
-        EXPECT_EQ(In("cmdCopy").GetLabel(), "");
+        EXPECT_EQ(In("cmdCopy").GetLabel(), "Copy");
         std::vector<std::string> labels;
         for (const wxWindow* child : In("cmdOK").GetParent()->GetChildren()) {
             if (dynamic_cast<const wxStaticText*>(child) != nullptr) {

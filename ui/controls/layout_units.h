@@ -8,6 +8,12 @@ class wxWindow;
 
 namespace brelex {
 
+// The spacing of all windows, in layout units: from the window's edge, between groups of controls,
+// and between controls that belong together.
+inline constexpr double kWindowMargin = 12;
+inline constexpr double kGroupGap = 12;
+inline constexpr double kControlGap = 6;
+
 /// The unit for the layout of windows: a pixel at 96 dots per inch. If the user's font is so large
 /// that a line of small text would not fit into a frame of the status strip (18 units high), the
 /// unit grows with the font, so that nothing is cut off.

@@ -10,9 +10,7 @@ namespace brelex {
 
 namespace {
 
-// In pixels at 96 dots per inch.
-constexpr int kFocusMark = 2;
-constexpr int kFocusMargin = 4;
+constexpr int kFocusMark = 2;  // in pixels at 96 dots per inch
 
 // The system's color for links is not used, because some themes make it illegible (seen with GTK
 // 3.24 and Wine 8).

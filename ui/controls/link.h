@@ -12,6 +12,10 @@ namespace brelex {
 /// over it, and on Space or Enter. It is underlined while the mouse is over it.
 class Link final : public wxWindow {
   public:
+    /// The room around the text or picture for the mark of the focus, in pixels at 96 dots per
+    /// inch.
+    static constexpr int kFocusMargin = 4;
+
     Link(wxWindow* parent, const wxString& text, std::function<void()> open);
     Link(wxWindow* parent, const wxBitmapBundle& picture, std::function<void()> open);
 
