@@ -202,7 +202,7 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
     }
     if (isNew(&AnagramDisplay::listIsWarning)) {
         lstAnagrams->SetTextColour(display.listIsWarning
-                                       ? RedOn(wxSYS_COLOUR_LISTBOX)
+                                       ? RedOn(wxSystemSettings::GetColour(wxSYS_COLOUR_LISTBOX))
                                        : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     }
     if (isNew(&AnagramDisplay::listTip)) {

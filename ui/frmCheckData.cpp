@@ -4,7 +4,6 @@
 #include <utility>
 
 #include <wx/button.h>
-#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -152,8 +151,8 @@ void frmCheckData::ShowResult(const CheckDisplay& display) {
     imgResult->Show(isThere);
     // The text itself appears and disappears.
     SetSpokenName(*imgResult, isThere ? display.resultText : "Result");
-    lblResult->SetForegroundColour(passed ? BlueOn(wxSYS_COLOUR_BTNFACE)
-                                          : DarkRedOn(wxSYS_COLOUR_BTNFACE));
+    const wxColour ground = lblResult->GetBackgroundColour();
+    lblResult->SetForegroundColour(passed ? BlueOn(ground) : DarkRedOn(ground));
     lblResult->SetLabelText(WxText(display.resultText));
     lblResult->Show();
     isBlinkedOut_ = false;

@@ -243,7 +243,7 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
     }
     if (isNew(&SearchDisplay::count) || isNew(&SearchDisplay::countTone)) {
         lblCount->SetForegroundColour(display.countTone == Tone::Warning
-                                          ? DarkRedOn(wxSYS_COLOUR_BTNFACE)
+                                          ? DarkRedOn(lblCount->GetBackgroundColour())
                                           : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
         lblCount->SetLabelText(WxText(display.count));
         lblCount->Update();
@@ -278,7 +278,7 @@ void frmSearch::ShowBusy(bool busy) {
 
 void frmSearch::ShowResult(const std::string& text, Tone tone) {
     txtSearchResult->SetForegroundColour(
-        tone == Tone::Warning ? RedOn(wxSYS_COLOUR_WINDOW)
+        tone == Tone::Warning ? RedOn(txtSearchResult->GetBackgroundColour())
                               : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
     txtSearchResult->ChangeValue(WxText(text));
 }

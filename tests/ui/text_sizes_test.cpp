@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
-// No window cuts its texts, whatever size a user's settings give them.
+// No window cuts its texts or lets controls overlap, whatever sizes and colors a user has chosen.
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include <wx/combobox.h>
 #include <wx/stattext.h>
+#include <wx/textctrl.h>
 
 #include "tests/platform/screen.h"
-#include "tests/ui/cut_texts.h"
+#include "tests/ui/layout_faults.h"
 #include "tests/ui/ui_test_support.h"
+#include "ui/controls/colours.h"
 
 namespace brelex {
 namespace {
@@ -18,7 +21,7 @@ namespace {
 class TextSizes : public SideWindowTest {
   protected:
     static void ExpectWhole(wxTopLevelWindow& window) {
-        for (const std::string& fault : CutTexts(window)) {
+        for (const std::string& fault : LayoutFaults(window)) {
             ADD_FAILURE() << window.GetName() << ": " << fault;
         }
     }
@@ -62,6 +65,31 @@ TEST_F(TextSizes, NoSideWindowCutsAText) {
     Type("abc", "ABC");
     InSideWindow(
         "frmViewEntry", [&] { user_.Char(WXK_RETURN); }, [&] { ExpectWhole(Side()); });
+}
+
+// The colors as the controls have them. Pure red on white, which was chosen for it, has 4.0:1.
+TEST_F(TextSizes, ResultsCanBeReadInTheUsersColors) {
+    constexpr double kRedOnWhite = 3.9;
+    const auto contrast = [](const wxWindow& control) {
+        return ContrastRatio(RgbOf(control.GetForegroundColour()),
+                             RgbOf(control.GetBackgroundColour()));
+    };
+    InSideWindow(
+        "frmSearch", [&] { window_->Run(Command::Search); },
+        [&] {
+            In<wxComboBox>("cboSearchWhat").SetValue("zzzz");
+            Click("cmdSearch");
+            ASSERT_TRUE(WaitFor([&] { return !In<wxTextCtrl>("txtSearchResult").IsEmpty(); }));
+            EXPECT_GE(contrast(In("txtSearchResult")), kRedOnWhite);
+            EXPECT_GE(contrast(In("lblStatus")), kTextContrast);
+        });
+    InSideWindow(
+        "frmCheckData", [&] { window_->Run(Command::CheckData); },
+        [&] {
+            Click("cmdCheck");
+            ASSERT_TRUE(WaitFor([&] { return Label("lblResult") != ""; }));
+            EXPECT_GE(contrast(In("lblResult")), kTextContrast);
+        });
 }
 
 }  // namespace

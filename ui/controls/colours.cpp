@@ -22,15 +22,15 @@ wxColour WxColourOf(Rgb colour) {
     return {colour.red, colour.green, colour.blue};
 }
 
-wxColour RedOn(wxSystemColour ground) {
+wxColour RedOn(const wxColour& ground) {
     return WxColourOf(ReadableOn(RgbOf(ground), {255, 0, 0}));
 }
 
-wxColour DarkRedOn(wxSystemColour ground) {
+wxColour DarkRedOn(const wxColour& ground) {
     return WxColourOf(ReadableOn(RgbOf(ground), {192, 0, 0}));
 }
 
-wxColour BlueOn(wxSystemColour ground) {
+wxColour BlueOn(const wxColour& ground) {
     return WxColourOf(ReadableOn(RgbOf(ground), {0, 0, 255}));
 }
 

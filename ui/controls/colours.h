@@ -22,9 +22,9 @@ struct SystemEdges {
 [[nodiscard]] Rgb RgbOf(wxSystemColour colour);
 [[nodiscard]] wxColour WxColourOf(Rgb colour);
 
-// The colors in which results are shown. `ground` is the system's color behind the text.
-[[nodiscard]] wxColour RedOn(wxSystemColour ground);
-[[nodiscard]] wxColour DarkRedOn(wxSystemColour ground);
-[[nodiscard]] wxColour BlueOn(wxSystemColour ground);
+// The colors in which results are shown on the background of a control.
+[[nodiscard]] wxColour RedOn(const wxColour& ground);
+[[nodiscard]] wxColour DarkRedOn(const wxColour& ground);
+[[nodiscard]] wxColour BlueOn(const wxColour& ground);
 
 }  // namespace brelex

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tests/ui/cut_texts.h"
+#include "tests/ui/layout_faults.h"
+
+#include <algorithm>
 
 #include <wx/anybutton.h>
 #include <wx/checkbox.h>
@@ -13,6 +15,8 @@
 
 #include "tests/platform/screen.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/layout_units.h"
+#include "ui/side_window.h"
 
 namespace brelex {
 
@@ -32,6 +36,7 @@ class Inspection {
                 continue;
             }
             LookAtRoom(window, *child);
+            LookAtNeighbors(window, *child);
             LookAtText(*child);
             Look(*child);
         }
@@ -64,6 +69,22 @@ class Inspection {
         }
     }
 
+    // A static box stands around its controls.
+    void LookAtNeighbors(const wxWindow& parent, const wxWindow& control) {
+        if (dynamic_cast<const wxStaticBox*>(&control) != nullptr) {
+            return;
+        }
+        bool isAfter = false;
+        for (const wxWindow* const other : parent.GetChildren()) {
+            if (isAfter && other->IsShown() && !other->IsTopLevel() &&
+                dynamic_cast<const wxStaticBox*>(other) == nullptr &&
+                other->GetRect().Intersects(control.GetRect())) {
+                Report(control, "overlaps " + Utf8Text(other->GetName()));
+            }
+            isAfter = isAfter || other == &control;
+        }
+    }
+
     void LookAtText(wxWindow& control) {
         wxSize needed;
         if (auto* const label = dynamic_cast<wxStaticText*>(&control)) {
@@ -84,11 +105,35 @@ class Inspection {
     }
 };
 
+// The least distance between a control and the edge of its surface.
+int MarginOf(const wxScrolled<wxPanel>& surface) {
+    const wxSize room = surface.GetVirtualSize();
+    int margin = room.x;
+    for (const wxWindow* const control : surface.GetChildren()) {
+        if (control->IsShown()) {
+            const wxPoint corner = surface.CalcUnscrolledPosition(control->GetPosition());
+            const wxSize size = control->GetSize();
+            margin = std::min({margin, corner.x, corner.y, room.x - corner.x - size.x,
+                               room.y - corner.y - size.y});
+        }
+    }
+    return margin;
+}
+
 }  // namespace
 
-std::vector<std::string> CutTexts(wxTopLevelWindow& window) {
+std::vector<std::string> LayoutFaults(wxTopLevelWindow& window) {
     Inspection inspection;
     inspection.Look(window);
+    const LayoutUnits units(window);
+    for (const wxWindow* const child : window.GetChildren()) {
+        const auto* const surface = dynamic_cast<const wxScrolled<wxPanel>*>(child);
+        if (surface != nullptr && dynamic_cast<const SideWindow*>(&window) != nullptr &&
+            MarginOf(*surface) < units.Pixels(kWindowMargin)) {
+            inspection.faults.push_back("a control is " + std::to_string(MarginOf(*surface)) +
+                                        " pixels from the window's edge");
+        }
+    }
     const wxRect frame = FrameOnScreen(window);
     const wxSize screen = ScreenSize();
     if (frame.width > screen.x || frame.height > screen.y) {
