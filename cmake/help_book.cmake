@@ -3,7 +3,7 @@
 # folder.
 file(GLOB help_pages RELATIVE "${CMAKE_SOURCE_DIR}/help" CONFIGURE_DEPENDS
      "${CMAKE_SOURCE_DIR}/help/*.html" "${CMAKE_SOURCE_DIR}/help/brelex.hh?"
-     "${CMAKE_SOURCE_DIR}/help/pictures/*.png")
+     "${CMAKE_SOURCE_DIR}/help/pictures/*.png" "${CMAKE_SOURCE_DIR}/help/pictures/*/*.png")
 list(TRANSFORM help_pages PREPEND "${CMAKE_SOURCE_DIR}/help/" OUTPUT_VARIABLE help_sources)
 set(help_book "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Brelex.hlp")
 find_program(ZIP zip)

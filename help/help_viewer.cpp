@@ -3,13 +3,14 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include <wx/dialog.h>
 #include <wx/display.h>
 #include <wx/filename.h>
 #include <wx/filesys.h>
-#include <wx/fs_zip.h>
 #include <wx/html/helpfrm.h>
+#include <wx/html/helpwnd.h>
 #include <wx/html/htmlwin.h>
 #include <wx/image.h>
 #include <wx/notebook.h>
@@ -17,6 +18,7 @@
 #include <wx/splitter.h>
 #include <wx/treectrl.h>
 
+#include "help/themed_book.h"
 #include "platform/desktop/help_page.h"
 #include "platform/system/modShowHelp.h"
 #include "toolkit/app_icon.h"
@@ -38,8 +40,10 @@ void AddHandlers() {
     if (wxImage::FindHandler(wxBITMAP_TYPE_PNG) == nullptr) {
         wxImage::AddHandler(new wxPNGHandler);
     }
-    if (!wxFileSystem::HasHandlerForPath(wxString("x") + kProjectInBook)) {
-        wxFileSystem::AddHandler(new wxZipFSHandler);
+    // The handler added last is asked first.
+    static bool isAdded = false;
+    if (!std::exchange(isAdded, true)) {
+        wxFileSystem::AddHandler(new ThemedBook);
     }
 }
 
@@ -163,11 +167,25 @@ void OnPageKey(wxHtmlWindow& page, wxKeyEvent& event) {
     }
 }
 
+// Light text on a dark ground is no use on paper.
+void Print(wxHtmlHelpWindow& help, wxCommandEvent& event) {
+    static bool isPrinting = false;
+    if (std::exchange(isPrinting, true)) {
+        event.Skip();  // to the toolkit's own code
+        return;
+    }
+    const ThemedBook::OnPaper onPaper;
+    help.ProcessWindowEvent(event);
+    isPrinting = false;
+}
+
 void BindEvents(wxHtmlHelpFrame& frame) {
     wxHtmlHelpWindow& help = *frame.GetHelpWindow();
     wxHtmlWindow& page = *help.GetHtmlWindow();
     frame.Bind(wxEVT_CLOSE_WINDOW, [&frame](wxCloseEvent&) { CloseFrame(frame); });
     frame.Bind(wxEVT_CHAR_HOOK, [&frame](wxKeyEvent& event) { OnKey(frame, event); });
+    help.Bind(
+        wxEVT_TOOL, [&help](wxCommandEvent& event) { Print(help, event); }, wxID_HTML_PRINT);
     page.Bind(wxEVT_KEY_DOWN, [&page](wxKeyEvent& event) { OnPageKey(page, event); });
     HearHelpPages(frame, [&help](const std::string& name) { TurnTo(help, WxText(name)); });
 }

@@ -88,6 +88,18 @@ TEST(HelpPages, AreAllInTheContentsAndTheIndexNamesOnlyThem) {
     }
 }
 
+TEST(HelpPages, HavePicturesForLightAndForDarkWindows) {
+    const auto names = [](const char* folder) {
+        std::set<std::string> pictures;
+        for (const auto& entry : std::filesystem::directory_iterator(kHelp / "pictures" / folder)) {
+            pictures.insert(entry.path().filename().string());
+        }
+        return pictures;
+    };
+    EXPECT_GE(names("light").size(), 6U);
+    EXPECT_EQ(names("light"), names("dark"));
+}
+
 TEST(HelpPages, ThePageOfTheToolbarShowsEachOfItsIcons) {
     const auto shown = Matches(TextOf(kHelp / "toolbar.html"), "src=\"pictures/([^\"]+)\\.png\"");
     std::set<std::string> icons;

@@ -12,8 +12,10 @@
 #include <wx/clipbrd.h>
 #include <wx/html/helpfrm.h>
 #include <wx/html/htmlwin.h>
+#include <wx/image.h>
 #include <wx/notebook.h>
 #include <wx/process.h>
+#include <wx/settings.h>
 #include <wx/stream.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
@@ -25,6 +27,7 @@
 #include "tests/platform/help_registration.h"
 #include "tests/platform/help_window.h"
 #include "tests/platform/keyboard.h"
+#include "tests/platform/screen.h"
 #include "tests/support/fakes.h"
 #include "tests/support/test_files.h"
 #include "tests/ui/ui_test_support.h"
@@ -318,6 +321,18 @@ TEST_F(HelpWindowTest, TitlesAndTabsAreWhole) {
 TEST_F(HelpWindowTest, TitlesAndTabsAreWholeWithALargeFont) {
     const LargeFont font;
     ExpectWholeColumn();
+}
+
+// ctest runs this with dark themes, too.
+TEST_F(HelpWindowTest, APageHasTheUsersColors) {
+    Show();
+    const wxHtmlWindow& page = *viewer_.GetHelpWindow()->GetHtmlWindow();
+    const wxRect place = page.GetScreenRect();
+    const wxColour ground = SystemColour(wxSYS_COLOUR_WINDOW);
+    EXPECT_TRUE(WaitFor([&] {
+        const wxImage picture = PictureOfScreen({place.x + 3, place.y + 3, 4, 4});
+        return picture.IsOk() && ColourAt(picture, 2, 2) == ground;
+    }));
 }
 
 TEST_F(HelpWindowTest, ThePageHasTheKeyboardAndF6GoesToTheContentsAndBack) {
