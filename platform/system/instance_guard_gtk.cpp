@@ -33,9 +33,9 @@ bool IsOnlyOurs(int file) {
            (status.st_mode & kOthers) == 0;
 }
 
-int OpenLockFile() {
-    const int file = open(LockPath().c_str(),
-                          O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kOwnerOnly);
+int OpenLockFile(const std::string& path) {
+    const int file =
+        open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kOwnerOnly);
     if (file >= 0 && !IsOnlyOurs(file)) {
         close(file);
         return kNone;
@@ -43,29 +43,51 @@ int OpenLockFile() {
     return file;
 }
 
+// Whether the file has no name anymore, for example because another copy removed it at its end.
+bool IsRemoved(int file) {
+    struct stat status {};
+
+    return fstat(file, &status) == 0 && status.st_nlink == 0;
+}
+
 }  // namespace
 
-// An advisory lock. The system releases it however the process ends. The file itself stays, because
-// removing it would let two copies lock two files of the same name.
+// An advisory lock. The system releases it however the process ends. Only the copy that holds the
+// lock removes the file, so two copies never hold locks on two files of the same name.
 class InstanceGuard::Place {
   public:
-    Place() : file_(OpenLockFile()) {}
+    Place() : path_(LockPath()) {
+        do {
+            Close();
+            file_ = OpenLockFile(path_);
+            isLocked_ = file_ >= 0 && flock(file_, LOCK_EX | LOCK_NB) == 0;
+            isTaken_ = file_ >= 0 && !isLocked_ && errno == EWOULDBLOCK;
+        } while (isLocked_ && IsRemoved(file_));
+    }
 
     Place(const Place&) = delete;
     Place& operator=(const Place&) = delete;
 
     ~Place() {
+        if (isLocked_ && !IsRemoved(file_)) {
+            unlink(path_.c_str());
+        }
+        Close();
+    }
+
+    [[nodiscard]] bool IsTaken() const { return isTaken_; }
+
+  private:
+    void Close() const {
         if (file_ >= 0) {
             close(file_);
         }
     }
 
-    [[nodiscard]] bool IsTaken() const {
-        return file_ >= 0 && flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-    }
-
-  private:
-    int file_;  // negative if there is none: in that case the system cannot tell
+    std::string path_;
+    int file_ = kNone;  // kNone if there is none: in that case the system cannot tell
+    bool isLocked_ = false;
+    bool isTaken_ = false;
 };
 
 InstanceGuard::InstanceGuard()
