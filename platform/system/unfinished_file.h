@@ -13,7 +13,8 @@ namespace brelex {
 ///
 /// It vanishes if the object is destroyed before it has taken its place. It also vanishes if the
 /// program is killed, unless the file system knows neither files without a name nor files that
-/// are deleted when they are closed.
+/// are deleted when they are closed. What a killed program left behind vanishes when the same file
+/// is written the next time (Linux).
 class UnfinishedFile {
   public:
     explicit UnfinishedFile(std::filesystem::path place);
@@ -35,6 +36,9 @@ class UnfinishedFile {
     std::filesystem::path name_;  // empty as long as the file has none
     std::intptr_t file_ = -1;     // the system's number for it, or -1 if it is not open
 };
+
+/// What the names of unfinished files end with. No other program uses it.
+inline constexpr const char* kUnfinishedEnding = ".brelex-part";
 
 /// `path` with `ending` behind it, and a number behind that unless `number` is 1.
 [[nodiscard]] std::filesystem::path NumberedName(const std::filesystem::path& path,

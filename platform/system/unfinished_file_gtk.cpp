@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -18,7 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kNone = -1;
-constexpr const char* kEnding = ".part";
 
 std::string ReasonOf(int error) {
     return std::generic_category().message(error);
@@ -42,11 +42,51 @@ std::string LinkToOpenFile(int file) {
     return "/proc/self/fd/" + std::to_string(file);
 }
 
+// Locks a new file for as long as it is open, which tells other copies of the program that it is
+// being written. Returns false if one of them took it for an abandoned file in the moment before.
+bool Claim(int file) {
+    if (flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        return false;
+    }
+
+    struct stat status {};
+
+    return fstat(file, &status) != 0 || status.st_nlink != 0;
+}
+
+// Removes what a copy of the program left under this name when it was killed. A file that somebody
+// is writing, that is not the user's own, or that has other names as well stays.
+void RemoveAbandoned(const fs::path& name) {
+    const int file = Open(name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    if (file == kNone) {
+        return;
+    }
+
+    struct stat opened {};
+
+    struct stat named {};
+
+    if (fstat(file, &opened) == 0 && S_ISREG(opened.st_mode) && opened.st_uid == geteuid() &&
+        opened.st_nlink == 1 && flock(file, LOCK_EX | LOCK_NB) == 0 &&
+        lstat(name.c_str(), &named) == 0 && named.st_ino == opened.st_ino &&
+        named.st_dev == opened.st_dev) {
+        unlink(name.c_str());
+    }
+    close(file);
+}
+
 // Creates a file without a name in the folder of `place`. Nobody sees it, and it vanishes with the
 // program. Returns kNone if that is not possible here.
 int OpenNameless(const fs::path& place) {
     constexpr const char* kOpenFiles = "/proc/self/fd";
-    return access(kOpenFiles, X_OK) == 0 ? Open(FolderOf(place), O_WRONLY | O_TMPFILE) : kNone;
+    if (access(kOpenFiles, X_OK) != 0) {
+        return kNone;
+    }
+    const int file = Open(FolderOf(place), O_WRONLY | O_TMPFILE);
+    if (file != kNone) {
+        flock(file, LOCK_EX | LOCK_NB);  // before it has a name
+    }
+    return file;
 }
 
 // Creates a file that has a name.
@@ -54,8 +94,14 @@ int OpenNamed(const fs::path& place, fs::path& name) {
     int file = kNone;
     int number = 0;
     do {
-        name = NumberedName(place, kEnding, ++number);
+        name = NumberedName(place, kUnfinishedEnding, ++number);
+        RemoveAbandoned(name);
         file = Open(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+        if (file != kNone && !Claim(file)) {
+            close(file);
+            file = kNone;
+            errno = EEXIST;
+        }
     } while (file == kNone && errno == EEXIST);
     if (file == kNone) {
         name.clear();
@@ -101,12 +147,13 @@ void SyncFolder(const fs::path& path) {
 
 UnfinishedFile::UnfinishedFile(fs::path place) : place_(std::move(place)) {}
 
+// The file stays locked until its name is gone, so that the name cannot be another copy's by then.
 UnfinishedFile::~UnfinishedFile() {
-    if (file_ != kNone) {
-        close(static_cast<int>(file_));
-    }
     if (!name_.empty()) {
         unlink(name_.c_str());
+    }
+    if (file_ != kNone) {
+        close(static_cast<int>(file_));
     }
 }
 
@@ -131,7 +178,8 @@ std::string UnfinishedFile::TakePlace() {
         int number = 0;
         int result = 0;
         do {
-            name = NumberedName(place_, kEnding, ++number);
+            name = NumberedName(place_, kUnfinishedEnding, ++number);
+            RemoveAbandoned(name);
             result = linkat(AT_FDCWD, openFile.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW);
         } while (result != 0 && errno == EEXIST);
         if (result != 0) {
@@ -139,8 +187,10 @@ std::string UnfinishedFile::TakePlace() {
         }
         name_ = std::move(name);
     }
-    file_ = kNone;
-    if (close(file) != 0 && errno != EINTR) {  // an interrupted one is closed all the same
+    // Some file systems report only then what they could not write. The file itself stays open,
+    // because it must stay locked until it has its place.
+    const int copy = fcntl(file, F_DUPFD_CLOEXEC, 0);
+    if (copy == kNone || (close(copy) != 0 && errno != EINTR)) {  // an interrupted one is closed
         return ReasonOf(errno);
     }
     if (rename(name_.c_str(), place_.c_str()) != 0) {

@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::intptr_t kNone = -1;  // as INVALID_HANDLE_VALUE
-constexpr const char* kEnding = ".part";
 
 // In the words that all systems share, as far as there are any. The system's own are in the user's
 // code page.
@@ -53,7 +52,7 @@ std::string UnfinishedFile::Write(std::string_view bytes) {
     HANDLE file = INVALID_HANDLE_VALUE;
     int number = 0;
     do {
-        name_ = NumberedName(place_, kEnding, ++number);
+        name_ = NumberedName(place_, kUnfinishedEnding, ++number);
         file = CreateFileW(name_.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                            FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     } while (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS);

@@ -119,6 +119,20 @@ class FaultTest : public testing::TestWithParam<Command> {
         }
     }
 
+    // Kills the program before each of the calls in turn. Whatever that leaves, the program must
+    // give the right result the next time, with all files as if nothing had happened.
+    void KillAndRunAgain(const char* call) {
+        const Fault killed{call, 0, false, SIGKILL};
+        bool reached = true;
+        for (int number = 1; reached && !HasFailure(); ++number) {
+            Run(killed, number);
+            reached = fs::remove(folder_.Path() / "mark");
+            Judge(Run({"none", 0, false}, 0, false), killed, "after " + TextOf(killed, number));
+            TheSettings().starts += reached ? 1 : 0;
+            TheSettings().signals += reached ? 1 : 0;
+        }
+    }
+
   private:
     [[nodiscard]] std::map<std::string, std::string> FilesInOut() const {
         std::map<std::string, std::string> files;
@@ -128,8 +142,8 @@ class FaultTest : public testing::TestWithParam<Command> {
         return files;
     }
 
-    Result Run(const Fault& fault, int number) {
-        if (const auto files = FilesInOut(); files != before_) {
+    Result Run(const Fault& fault, int number, bool afresh = true) {
+        if (const auto files = FilesInOut(); afresh && files != before_) {
             for (const auto& [name, text] : files) {
                 fs::remove(folder_.Path() / "out" / name);
             }
@@ -212,6 +226,7 @@ class FaultTest : public testing::TestWithParam<Command> {
 using AllocationFaults = FaultTest;
 using FileFaults = FaultTest;
 using SignalFaults = FaultTest;
+using KilledBuilds = FaultTest;
 
 TEST_P(AllocationFaults, EndWithAMessage) {
     FailOneAfterTheOther({"allocation", ENOMEM, false}, TheSettings().allocationStep);
@@ -244,6 +259,12 @@ TEST_P(SignalFaults, LeaveAllFilesNewOrAllAsTheyWere) {
     };
     for (const Fault& fault : faults) {
         FailOneAfterTheOther(fault, 1);
+    }
+}
+
+TEST_P(KilledBuilds, LeaveNothingToTheNextOne) {
+    for (const char* const call : {"open", "write", "sync", "link", "close", "rename"}) {
+        KillAndRunAgain(call);
     }
 }
 
@@ -280,6 +301,16 @@ std::vector<Command> Commands() {
 INSTANTIATE_TEST_SUITE_P(Commands, AllocationFaults, testing::ValuesIn(Commands()), CaseName());
 INSTANTIATE_TEST_SUITE_P(Commands, FileFaults, testing::ValuesIn(Commands()), CaseName());
 INSTANTIATE_TEST_SUITE_P(Commands, SignalFaults, testing::ValuesIn(Commands()), CaseName());
+
+std::vector<Command> Builds() {
+    std::vector<Command> builds = Commands();
+    std::erase_if(builds, [](const Command& command) {
+        return !std::string_view(command.name).starts_with("Build");
+    });
+    return builds;
+}
+
+INSTANTIATE_TEST_SUITE_P(Builds, KilledBuilds, testing::ValuesIn(Builds()), CaseName());
 
 }  // namespace
 }  // namespace brelex

@@ -61,7 +61,7 @@ try() {
         echo "FAILED: $what: shows ${seen:-nothing}, status $status"; cat "$folder/out"
         failures=$((failures + 1))
     fi
-    if [ -n "$(find "$folder" -name '*.part*' -o -name '*.old')" ]; then
+    if [ -n "$(find "$folder" -name '*.brelex-part*' -o -name '*.old')" ]; then
         echo "FAILED: $what: leaves an unfinished file"
         failures=$((failures + 1))
     fi

@@ -19,6 +19,7 @@
 #include "platform/system/instance_guard.h"
 #include "platform/system/modRunAtStartup.h"
 #include "platform/system/program_folder.h"
+#include "platform/system/replace_file.h"
 #include "platform/system/system_temporary_files.h"
 #include "platform/system/user_locale.h"
 #include "tests/support/named_case.h"
@@ -266,6 +267,54 @@ TEST(InstanceGuardOnLinux, ACopyThatCrashedLeavesNothingBehind) {
     EXPECT_EQ(status, 0);
     const InstanceGuard guard;
     EXPECT_FALSE(guard.IsAnotherRunning());
+}
+
+// What a build that was killed in the last moment leaves beside the file that it was going to
+// replace.
+class UnfinishedFileOnLinux : public testing::Test {
+  protected:
+    [[nodiscard]] bool ReplacesTheFile() const {
+        return ReplaceFile(folder_.Path() / "file", "new") &&
+               ReadText(folder_.Path() / "file") == "new";
+    }
+
+    TestFolder folder_;
+    fs::path left_ = folder_.Write("file.brelex-part", "left");
+};
+
+TEST_F(UnfinishedFileOnLinux, VanishesIfNobodyWritesIt) {
+    EXPECT_TRUE(ReplacesTheFile());
+    EXPECT_FALSE(fs::exists(left_));
+}
+
+TEST_F(UnfinishedFileOnLinux, StaysIfSomebodyWritesIt) {
+    const int file = open(left_.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(file, LOCK_EX), 0);
+    EXPECT_TRUE(ReplacesTheFile());
+    EXPECT_EQ(ReadText(left_), "left");
+    close(file);
+}
+
+TEST_F(UnfinishedFileOnLinux, StaysIfItIsALinkOrAPipe) {
+    fs::remove(left_);
+    const std::string victim = folder_.Write("victim", "precious");
+    fs::create_symlink(victim, left_);
+    EXPECT_TRUE(ReplacesTheFile());
+    EXPECT_TRUE(fs::is_symlink(left_));
+    EXPECT_EQ(ReadText(victim), "precious");
+    fs::remove(left_);
+    ASSERT_EQ(mkfifo(left_.c_str(), 0600), 0);
+    EXPECT_TRUE(ReplacesTheFile());
+    EXPECT_TRUE(fs::is_fifo(left_));
+}
+
+TEST_F(UnfinishedFileOnLinux, StaysIfItIsAnotherUsers) {
+    constexpr uid_t kNobody = 65534;
+    if (chown(left_.c_str(), kNobody, kNobody) != 0) {
+        GTEST_SKIP() << "only the superuser can give a file away";
+    }
+    EXPECT_TRUE(ReplacesTheFile());
+    EXPECT_EQ(ReadText(left_), "left");
 }
 
 class LockFileOnLinux : public testing::Test {

@@ -32,14 +32,17 @@ TEST(ReplaceFile, AFailureLeavesTheOldContentAndSaysWhy) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 1);
 }
 
-TEST(ReplaceFile, LeavesFilesAloneThatHaveTheNameOfAnUnfinishedOne) {
+TEST(ReplaceFile, LeavesWhatIsNoUnfinishedFileAlone) {
+    namespace fs = std::filesystem;
     const TestFolder folder;
-    folder.Write("file.part", "precious");
-    folder.Write("file.part2", "too");
+    const fs::path victim = folder.Write("victim", "precious");
+    fs::create_directory(folder.Path() / "file.brelex-part");
+    fs::create_hard_link(victim, folder.Path() / "file.brelex-part2");
     EXPECT_TRUE(ReplaceFile(folder.Path() / "file", "new"));
     EXPECT_EQ(ReadText(folder.Path() / "file"), "new");
-    EXPECT_EQ(ReadText(folder.Path() / "file.part"), "precious");
-    EXPECT_EQ(ReadText(folder.Path() / "file.part2"), "too");
+    EXPECT_TRUE(fs::is_directory(folder.Path() / "file.brelex-part"));
+    EXPECT_EQ(ReadText(folder.Path() / "file.brelex-part2"), "precious");
+    EXPECT_EQ(ReadText(victim), "precious");
 }
 
 TEST(ReplaceFile, AMissingFolderIsAFailure) {
