@@ -8,6 +8,7 @@
 #include "base/app_info.h"
 #include "database/program_values.h"
 #include "platform/desktop/command_line.h"
+#include "platform/desktop/ending_signals.h"
 #include "platform/desktop/program_identity.h"
 #include "platform/desktop/wx_folder_picker.h"
 #include "platform/desktop/wx_message_sink.h"
@@ -41,6 +42,12 @@ bool BrevilexiconApp::OnInit() {
     SetAppDisplayName(kAppTitle);
     SetSpokenProgramName(kAppTitle);
     MakeFocusMarksSeen();
+    PrepareForEndingSignals([this] {
+        if (auto* const main = dynamic_cast<frmMain*>(GetTopWindow())) {
+            main->CloseHelpViewer();
+        }
+        startUp_.GiveUpPlace();
+    });
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
     frmMain* const main =

@@ -33,6 +33,9 @@ class StartUp {
     /// in that case the user has already been told why. Call once.
     [[nodiscard]] frmMain* Run(const StartUpSurroundings& surroundings);
 
+    /// Lets another copy start. Requires that this one ends without doing anything else.
+    void GiveUpPlace() { instance_.reset(); }
+
     [[nodiscard]] const ProgramValues& Values() const { return values_; }
 
   private:

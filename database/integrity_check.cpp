@@ -37,10 +37,10 @@ RecordBlock RecordBlockOf(std::string_view file, std::size_t length) {
     return block;
 }
 
-}  // namespace
-
-bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, WorkWatcher& watcher) {
-    // Where this fails, the CRC will tell.
+// What the temporary file contains after the database was expanded into it. The file is gone before
+// any events run, so nothing that ends the program then leaves it behind.
+std::optional<ByteBuffer> ExpandedThroughTemporaryFile(const ProgramValues& values,
+                                                       TemporaryFiles& files) {
     const auto expanded = ExpandIntoTemporaryFile(values.DatabasePath, values.TempFolder, files);
     const std::filesystem::path temporary =
         PathOfUtf8((expanded ? expanded->folder : values.TempFolder) + kTempFileName);
@@ -49,7 +49,14 @@ bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, WorkWatche
         std::filesystem::remove(temporary, ignored);
     });
     // What stands there if that failed proves nothing.
-    const auto file = expanded ? ReadWholeFile(temporary) : std::nullopt;
+    return expanded ? ReadWholeFile(temporary) : std::nullopt;
+}
+
+}  // namespace
+
+bool IsDataIntact(const ProgramValues& values, TemporaryFiles& files, WorkWatcher& watcher) {
+    // Where this fails, the CRC will tell.
+    const auto file = ExpandedThroughTemporaryFile(values, files);
     const auto length = static_cast<std::size_t>(std::max(values.Header.DataSize, 0));
     const RecordBlock block = RecordBlockOf(file ? file->View() : std::string_view(), length);
     return GetCRCFromByteArray(block.bytes, &watcher) == values.Header.DataCRC &&

@@ -55,6 +55,9 @@ class frmMain final : public wxFrame {
     /// Runs a command. No other code knows what each command does.
     void Run(Command command);
 
+    /// Closes the help, which otherwise closes with this window.
+    void CloseHelpViewer() { documents_.CloseHelpViewer(); }
+
     /// Opens a side window modally, by its number in kCommands. Opens nothing for any other number.
     void OpenModalForm(int number) { sideWindows_.OpenModalForm(number); }
 

@@ -12,27 +12,7 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 mkdir -m 700 "$folder/run"
 export XDG_RUNTIME_DIR=$folder/run
-
-# windows TITLE: prints the numbers of the windows that the window manager knows and whose title begins
-# so, which "$" may end.
-windows() {
-    local list
-    until list=$(wmctrl -l 2>/dev/null); do :; done  # fails if a window vanishes meanwhile
-    sed -nE "s/^(0x[0-9a-f]+) +[^ ]+ [^ ]+ $1.*/\1/p" <<<"$list"
-}
-main_windows() { windows 'Brevilexicon \('; }
-messages() { windows 'Brevilexicon$'; }
-count() { "$@" | grep -c .; }
-
-# until_equal NUMBER COMMAND...: waits until the command prints so many lines, at most a minute.
-until_equal() {
-    local wanted=$1; shift
-    for _ in $(seq 1200); do
-        [ "$(count "$@")" = "$wanted" ] && return
-        sleep 0.05
-    done
-    return 1
-}
+. "$(dirname "$0")/../support/windows.sh"
 
 failed() { echo "FAILED: round $round: $*"; failed_round=1; }
 
@@ -41,11 +21,7 @@ end() {
     local pid status
     declare -gA codes=()
     for pid in "$@"; do
-        for _ in $(seq 400); do
-            kill -0 "$pid" 2>/dev/null || break
-            sleep 0.05
-        done
-        kill -KILL "$pid" 2>/dev/null
+        until_ended "$pid"
         wait "$pid" 2>/dev/null
         status=$?
         codes[$status]=$((${codes[$status]:-0} + 1))
@@ -71,8 +47,7 @@ for round in $(seq "$rounds"); do
     # A copy that refuses to run ends with 255.
     [ "${codes[0]:-0}" = 1 ] && [ "${codes[255]:-0}" = $((starts - 1)) ] ||
         failed "exit codes ${!codes[*]}, in these numbers: ${codes[*]}"
-    left=$(find "$XDG_RUNTIME_DIR" ${WINEPREFIX:+"$WINEPREFIX/drive_c/users"} \
-        -name '~bx6120.tmp' -o -name 'brevilexicon-*')
+    left=$(files_left)
     [ -z "$left" ] || failed "left behind: $left"
     until_equal 0 main_windows
     failures=$((failures + failed_round))

@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/ending_signals.h"
+
+namespace brelex {
+
+// The toolkit ends the program when the session ends.
+void PrepareForEndingSignals(std::function<void()> /*prepare*/) {}
+
+}  // namespace brelex
