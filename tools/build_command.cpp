@@ -24,6 +24,7 @@
 #include "tools/corrections.h"
 #include "tools/input_file.h"
 #include "tools/open_database.h"
+#include "tools/visible_text.h"
 
 namespace brelex {
 
@@ -32,7 +33,7 @@ namespace {
 namespace fs = std::filesystem;
 
 int Refuse(std::ostream& err, const std::string& reason) {
-    err << "brelex: " << reason << "\n";
+    PrintMessage(err, reason);
     return kFailed;
 }
 
@@ -41,11 +42,11 @@ void Print(const std::vector<std::string>& messages, const char* kind, const cha
            std::ostream& err) {
     constexpr std::size_t kMostPrinted = 20;
     for (std::size_t i = 0; i < std::min(messages.size(), kMostPrinted); ++i) {
-        err << beginning << messages[i] << "\n";
+        PrintMessage(err, beginning + messages[i]);
     }
     if (messages.size() > kMostPrinted) {
         const std::size_t rest = messages.size() - kMostPrinted;
-        err << "brelex: " << rest << " more " << kind << (rest == 1 ? "\n" : "s\n");
+        PrintMessage(err, std::to_string(rest) + " more " + kind + (rest == 1 ? "" : "s"));
     }
 }
 
@@ -215,7 +216,7 @@ int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, s
     }
     InputReport report = ReadInputs(request, in, content.records);
     if (!report.errors.empty()) {
-        Print(report.errors, "error", "brelex: ", err);
+        Print(report.errors, "error", "", err);
         return kFailed;
     }
     const BuiltDatabase built = BuildDatabase(std::move(content));
@@ -223,14 +224,14 @@ int RunBuild(const BuildRequest& request, std::istream& in, std::ostream& out, s
     if (const std::string fault = Verify(built, file, report.warnings); !fault.empty()) {
         return Refuse(err, fault);
     }
-    Print(report.warnings, "warning", "brelex: warning: ", err);
+    Print(report.warnings, "warning", "warning: ", err);
     if (const std::string fault = WriteOutputs({{request.output.name, file}}, out);
         !fault.empty()) {
         return Refuse(err, fault);
     }
     const bool toStandardOutput = request.output.name == kStandardStream;
     (toStandardOutput ? err : out)
-        << (toStandardOutput ? "standard output" : request.output.name) << ": "
+        << (toStandardOutput ? "standard output" : VisibleText(request.output.name)) << ": "
         << Counted(static_cast<std::size_t>(built.header.RecordCount), "record") << ", "
         << Counted(built.duplicatesDropped, "duplicate") << " dropped, " << file.size()
         << " bytes (" << built.expanded.size() << " expanded)\n";

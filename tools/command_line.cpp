@@ -63,14 +63,14 @@ int Report(const CommandLine& line, std::string_view kept, Run run) {
 
 int Build(const CommandLine& line) {
     if (!line.database.empty()) {
-        line.surroundings.err
-            << "brelex: build does not read a database; name the file to write with -o\n";
+        PrintMessage(line.surroundings.err,
+                     "build does not read a database; name the file to write with -o");
         return kFailed;
     }
     const bool toStandardOutput = line.build.output.name == kStandardStream;
     if (toStandardOutput && line.output.terminal.columns > 0) {
-        line.surroundings.err
-            << "brelex: a terminal cannot show a database; name the file to write with -o\n";
+        PrintMessage(line.surroundings.err,
+                     "a terminal cannot show a database; name the file to write with -o");
         return kFailed;
     }
     // A control character must not end the input early on Windows.
@@ -281,7 +281,7 @@ void AddOptions(CLI::App& app, CommandLine& line) {
 int RunCommandLine(std::vector<std::string> arguments, const CommandSurroundings& surroundings) {
     std::ostream& err = surroundings.err;
     if (const std::string fault = EncodingMessage(arguments); !fault.empty()) {
-        err << "brelex: " << fault << "\n";
+        PrintMessage(err, fault);
         return kFailed;
     }
     CLI::App app("Look up abbreviations and build databases for Brevilexicon.", "brelex");
@@ -293,8 +293,8 @@ int RunCommandLine(std::vector<std::string> arguments, const CommandSurroundings
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
-            err << "brelex: " << ParserMessage(app, error)
-                << "\nRun with --help for more information.\n";
+            PrintMessage(err, ParserMessage(app, error));
+            err << "Run with --help for more information.\n";
             return kFailed;
         }
         if (error.get_name() != "Success") {

@@ -18,13 +18,14 @@
 #include "tools/input_file.h"
 #include "tools/json_records.h"
 #include "tools/open_database.h"
+#include "tools/visible_text.h"
 
 namespace brelex {
 
 namespace {
 
 int Refuse(std::ostream& err, const std::string& reason) {
-    err << "brelex: " << reason << "\n";
+    PrintMessage(err, reason);
     return kFailed;
 }
 

@@ -15,7 +15,7 @@ int RunLicenses(const std::string& folder, std::ostream& out, std::ostream& err)
         FindFileIgnoringCase(folder, kLicensesName).value_or(folder + kLicensesName);
     const std::optional<ByteBuffer> bytes = ReadWholeFile(PathOfUtf8(path));
     if (!bytes) {
-        err << "brelex: cannot read " << VisibleText(path) << "\n";
+        PrintMessage(err, "cannot read " + path);
         return kFailed;
     }
     // The file has the system's line ends, which the output makes by itself.

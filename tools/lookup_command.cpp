@@ -154,7 +154,7 @@ int RunLookup(const std::string& database, const LookupOptions& options,
             }
         }
         if (in.bad()) {
-            err << "brelex: standard input cannot be read\n";
+            PrintMessage(err, "standard input cannot be read");
             return kFailed;
         }
     }

@@ -14,6 +14,7 @@
 #include "lookup/prefix_search.h"
 #include "search/search_list.h"
 #include "tools/open_database.h"
+#include "tools/visible_text.h"
 
 namespace brelex {
 
@@ -117,12 +118,12 @@ int RunCheck(const std::string& database, std::ostream& out, std::ostream& err) 
     opened.store.MeasureOrder();
     const auto findings = CheckDatabase(opened.header, opened.store, FindFirstByPrefix);
     for (const std::string& finding : findings) {
-        out << finding << "\n";
+        out << VisibleText(finding) << "\n";
     }
     if (!findings.empty()) {
         return kNothingFound;
     }
-    out << database << ": " << opened.store.RowCount() << " records, nothing wrong\n";
+    out << VisibleText(database) << ": " << opened.store.RowCount() << " records, nothing wrong\n";
     return kFound;
 }
 

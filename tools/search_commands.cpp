@@ -13,6 +13,7 @@
 #include "search/database_search.h"
 #include "search/prepared_search.h"
 #include "tools/open_database.h"
+#include "tools/visible_text.h"
 
 namespace brelex {
 
@@ -25,7 +26,7 @@ int Refuse(const Message& refusal, std::ostream& err) {
     if (const std::size_t at = reason.find(kInWindow); at != std::string::npos) {
         reason.replace(at, kInWindow.size(), "Leave out --whole-word or");
     }
-    err << "brelex: " << reason << "\n";
+    PrintMessage(err, reason);
     return kFailed;
 }
 
@@ -34,7 +35,7 @@ int Refuse(const Message& refusal, std::ostream& err) {
 int RunSearch(const std::string& database, const SearchOptions& options,
               const OutputOptions& output, std::ostream& out, std::ostream& err) {
     if (options.request.text.empty()) {
-        err << "brelex: the search text is empty\n";
+        PrintMessage(err, "the search text is empty");
         return kFailed;
     }
     OpenDatabase opened;

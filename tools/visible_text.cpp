@@ -47,6 +47,10 @@ std::string VisibleText(std::string_view text, std::string_view kept) {
     return visible;
 }
 
+void PrintMessage(std::ostream& err, std::string_view message) {
+    err << "brelex: " << VisibleText(message) << "\n";
+}
+
 VisibleOutput::VisibleOutput(std::ostream& stream) : stream_(stream), target_(stream.rdbuf(this)) {}
 
 VisibleOutput::~VisibleOutput() {

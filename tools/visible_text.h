@@ -14,6 +14,9 @@ namespace brelex {
 /// column wide.
 [[nodiscard]] std::string VisibleText(std::string_view text, std::string_view kept = {});
 
+/// Prints a message of the program as one line, whatever the names that it quotes contain.
+void PrintMessage(std::ostream& err, std::string_view message);
+
 /// Lets a stream write visible text only, whatever the names and arguments that its messages quote.
 /// Only the ends of lines stay as they are. Writes whole lines; the rest of the last one when this
 /// object is destroyed.

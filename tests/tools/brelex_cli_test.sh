@@ -251,6 +251,25 @@ if [ -z "$emulator" ]; then
             echo "FAILED: they reach the terminal"; failures=$((failures + 1))
         fi
     done
+    lines=$folder/$(printf 'two\nlines')
+    for words in "-d|$lines|info" "info|$lines" "build|-o|$lines/x|$folder/list.tsv" \
+        "build|$lines.tsv" "build|$lines" "build|--version|$lines|$folder/list.tsv" "$lines" \
+        "--$lines" "build|--corrections|$lines|$folder/list.tsv" "search|--in|$lines|a"; do
+        IFS='|' read -rd '' -a arguments <<<"$words|"
+        unset 'arguments[-1]'
+        expect 2 "a line feed in: $words" "$brelex" "${arguments[@]}"
+        checks=$((checks + 1))
+        if grep -qv '^brelex: \|^Run with --help' "$folder/err"; then
+            echo "FAILED: the message has more lines:"; cat "$folder/err"; failures=$((failures + 1))
+        fi
+    done
+    cp "$folder/list.tsv" "$lines.tsv"
+    expect 0 "a line feed in the names of files" "$brelex" build -o "$lines.dat" "$lines.tsv"
+    checks=$((checks + 1))
+    [ "$(wc -l <"$folder/out")" = 1 ] || { echo "FAILED: two lines"; failures=$((failures + 1)); }
+    expect 0 "a line feed in the name of a database" "$brelex" -d "$lines.dat" check
+    checks=$((checks + 1))
+    [ "$(wc -l <"$folder/out")" = 1 ] || { echo "FAILED: two lines"; failures=$((failures + 1)); }
     expect 0 "a file whose name is not UTF-8" "$brelex" -d "$folder/$(printf 'l\351.dat')" info
 fi
 echo "$((checks - failures)) of $checks checks passed"
