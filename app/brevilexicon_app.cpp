@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/brevilexicon_app.h"
 
+#include <cstdlib>
+
 #include <wx/clipbrd.h>
 #include <wx/datetime.h>
 
@@ -12,6 +14,7 @@
 #include "platform/desktop/program_identity.h"
 #include "platform/desktop/wx_folder_picker.h"
 #include "platform/desktop/wx_message_sink.h"
+#include "platform/system/library_search.h"
 #include "platform/system/modRunAtStartup.h"
 #include "platform/system/program_folder.h"
 #include "platform/window/focus_marks.h"
@@ -32,6 +35,7 @@ float SecondsSinceMidnight() {
 
 // The fonts are read while the toolkit initializes itself and reads the theme.
 bool BrevilexiconApp::Initialize(int& argumentCount, wxChar** arguments) {
+    LoadNoLibrariesFromCurrentFolder();
     StartReadingFonts();
     SetDesktopEntry(kApplicationId);
     return wxApp::Initialize(argumentCount, arguments);
@@ -42,12 +46,8 @@ bool BrevilexiconApp::OnInit() {
     SetAppDisplayName(kAppTitle);
     SetSpokenProgramName(kAppTitle);
     MakeFocusMarksSeen();
-    PrepareForEndingSignals([this] {
-        if (auto* const main = dynamic_cast<frmMain*>(GetTopWindow())) {
-            main->CloseHelpViewer();
-        }
-        startUp_.GiveUpPlace();
-    });
+    PrepareForEndingSignals([this] { PrepareForSuddenEnd(); });
+    Bind(wxEVT_END_SESSION, &BrevilexiconApp::OnEndOfSession, this);
     WxMessageSink messages(nullptr);
     WxFolderPicker picker;
     frmMain* const main =
@@ -68,6 +68,20 @@ bool BrevilexiconApp::OnInit() {
 // makes a table of all languages first.
 wxLayoutDirection BrevilexiconApp::GetLayoutDirection() const {
     return wxLayout_LeftToRight;
+}
+
+void BrevilexiconApp::PrepareForSuddenEnd() {
+    if (auto* const main = dynamic_cast<frmMain*>(GetTopWindow())) {
+        main->CloseHelpViewer();
+    }
+    startUp_.GiveUpPlace();
+}
+
+// By default, the toolkit would destroy everything first, also what the code of an open modal
+// window is still using.
+void BrevilexiconApp::OnEndOfSession(wxCloseEvent& /*event*/) {
+    PrepareForSuddenEnd();
+    std::_Exit(EXIT_SUCCESS);
 }
 
 int BrevilexiconApp::OnExit() {

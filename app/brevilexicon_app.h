@@ -20,6 +20,9 @@ class BrevilexiconApp final : public wxApp {
     void OnUnhandledException() override;
 
   private:
+    void PrepareForSuddenEnd();
+    void OnEndOfSession(wxCloseEvent& event);
+
     SystemTemporaryFiles files_;
     SystemDesktop desktop_;
     StartUp startUp_;

@@ -12,6 +12,7 @@
 #include "help/help_viewer.h"
 #include "platform/desktop/help_association.h"
 #include "platform/desktop/program_identity.h"
+#include "platform/system/library_search.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/system/program_folder.h"
 #include "platform/window/focus_marks.h"
@@ -23,6 +24,7 @@ namespace brelex {
 class HelpApp final : public wxApp {
   public:
     bool Initialize(int& argumentCount, wxChar** arguments) override {
+        LoadNoLibrariesFromCurrentFolder();
         SetDesktopEntry(kProgram);
         return wxApp::Initialize(argumentCount, arguments);
     }

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <new>
 
+#include "platform/system/library_search.h"
 #include "platform/system/program_folder.h"
 #include "platform/system/terminal.h"
 #include "tools/command_line.h"
@@ -41,6 +42,7 @@ struct MemoryGuard {
 }  // namespace
 
 int main(int argc, char** argv) {  // NOLINT(bugprone-exception-escape): memory, caught below
+    brelex::LoadNoLibrariesFromCurrentFolder();
     const brelex::Utf8Terminal terminal;
     std::ios::sync_with_stdio(false);  // gives the streams new buffers, so it comes first
     const brelex::VisibleOutput visibleMessages(std::cerr);

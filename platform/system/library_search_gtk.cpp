@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system/library_search.h"
+
+namespace brelex {
+
+void LoadNoLibrariesFromCurrentFolder() {}
+
+}  // namespace brelex
