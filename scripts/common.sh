@@ -53,6 +53,9 @@ desktop_packages=(librsvg2-bin desktop-file-utils appstream imagemagick)
 # They build the fuzz targets, and tell which lines they reach.
 fuzz_packages=(clang llvm-14 bsdextrautils)
 
+# They build core_tests with one change at a time, as fast as possible.
+mutation_packages=(clang binutils libgtest-dev googletest util-linux)
+
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 

@@ -7,7 +7,8 @@ core (a mutant), and runs core_tests with it. A mutant that no test notices show
 tests, or it changes nothing that a test could see. Without FOLDERs or FILEs it goes through the
 whole core. scripts/mutants.py says what is changed.
 
-  --again   tries only what the last run did not notice; for use after adding tests
+  --again   tries only what no earlier run has noticed or come to; for use after adding tests, or
+            after stopping a run; what is known of a source counts until that source changes
   --quick   runs only the tests of the changed file itself
   --list    prints the mutants and runs nothing
   --jobs N  how many to try at a time; the default is the number of processors
@@ -34,6 +35,7 @@ import subprocess
 import sys
 import tempfile
 import threading
+import zlib
 
 from mutants import EQUIVALENT, ROOT, Equivalents, mutants_of, name_of
 
@@ -46,6 +48,12 @@ COLUMNS = ["places", "compiled", "noticed", "equivalent", "unnoticed"]
 
 def own_test(file):
     return f"tests/{os.path.splitext(file)[0]}_test.cpp"
+
+
+def install_packages():
+    script = '. scripts/common.sh; need_packages "${build_packages[@]}" "${mutation_packages[@]}"'
+    if subprocess.run(["bash", "-c", script, "mutate.py"], cwd=ROOT, check=False).returncode:
+        sys.exit(1)
 
 
 def build():
@@ -191,6 +199,32 @@ class Bench:
             return self.limits[key]
 
 
+class Memory:
+    """What became of each mutant in all runs in this build folder, written as soon as it is known.
+    A source's mutants are new ones once the source changes."""
+
+    def __init__(self):
+        self.path = BUILD / "tried.txt"
+        lines = self.path.read_text(encoding="utf-8").splitlines() if self.path.exists() else []
+        self.kinds = dict(line.split(" ", 1)[::-1] for line in lines)
+        self.sums = {}
+        self.lock = threading.Lock()
+
+    def key_of(self, mutant):
+        if mutant.file not in self.sums:
+            self.sums[mutant.file] = zlib.crc32((ROOT / mutant.file).read_bytes())
+        return f"{self.sums[mutant.file]:08x} {name_of(mutant)}"
+
+    def settled(self, mutant):
+        """What became of the mutant, if another run would not change it."""
+        kind = self.kinds.get(self.key_of(mutant))
+        return kind if kind in ("noticed", "places") else None
+
+    def add(self, mutant, kind):
+        with self.lock, self.path.open("a", encoding="utf-8") as file:
+            file.write(f"{kind} {self.key_of(mutant)}\n")
+
+
 def chosen_files(arguments):
     for argument in arguments or CORE:
         path = pathlib.Path(argument).resolve()
@@ -234,33 +268,35 @@ def main():
         for mutant in mutants:
             print(name_of(mutant))
         return 0
+    install_packages()
     build()
     bench = Bench(arguments.quick)
     mutants = [mutant for mutant in mutants
                if mutant.file in bench.compile or mutant.file in bench.users]
     equivalents = Equivalents()
-    memory = BUILD / "unnoticed.txt"
-    if arguments.again:
-        names = set(memory.read_text(encoding="utf-8").splitlines())
-        mutants = [mutant for mutant in mutants if name_of(mutant) in names]
+    memory = Memory()
 
     def kind_of(mutant):
-        return "equivalent" if mutant in equivalents else bench.try_out(mutant)
+        if mutant in equivalents:
+            return "equivalent"
+        kind = memory.settled(mutant) if arguments.again else None
+        if kind is None:
+            kind = bench.try_out(mutant)
+            memory.add(mutant, kind)
+        return kind
 
     counts = collections.defaultdict(collections.Counter)
-    unnoticed = []
+    unnoticed = 0
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
         for mutant, kind in zip(mutants, pool.map(kind_of, mutants)):
             for folder in (mutant.file.split("/")[0], "all"):
                 counts[folder].update({"places", kind, "compiled"} if kind != "places"
                                       else {"places"})
             if kind == "unnoticed":
-                unnoticed.append(name_of(mutant))
+                unnoticed += 1
                 print_unnoticed(mutant)
-    memory.write_text("".join(name + "\n" for name in unnoticed), encoding="utf-8")
     print_summary(counts)
-    stale = [key for key in equivalents.keys - equivalents.used
-             if not arguments.files and not arguments.again]
+    stale = [] if arguments.files else equivalents.keys - equivalents.used
     for file, _, before, after in stale:
         print(f"{EQUIVALENT.name}: no such mutant any more: {file}\n- {before}\n+ {after}")
     return 1 if unnoticed or stale else 0
