@@ -5,9 +5,11 @@
 #include <array>
 #include <bit>
 #include <cassert>
+#include <cstdint>
 #include <cstring>
 
 #include "base/file_io.h"
+#include "base/little_endian.h"
 #include "database/szdd_format.h"
 
 namespace brelex {
@@ -172,17 +174,12 @@ class Expander {
     std::size_t mostBytes_;
 };
 
-using FileHeader = std::array<char, kSzddHeaderBytes>;
-
 // The declared length, but no more than `dataBytes` of data can expand to.
-std::size_t ExpectedBytes(const FileHeader& header, std::size_t dataBytes) {
-    std::size_t declared = 0;
-    for (std::size_t i = 0; i < 4; ++i) {
-        declared |= Byte(header.at(10 + i)) << (8 * i);
-    }
-    declared = std::min(declared, kMaxExpandedBytes);
-    const std::size_t groups = dataBytes / kMaxGroupInput + 1;
-    return declared / kMaxGroupOutput < groups ? declared : groups * kMaxGroupOutput;
+std::size_t ExpectedBytes(std::string_view header, std::size_t dataBytes) {
+    const auto declared = ReadLittleEndian<std::uint32_t>(header.substr(header.size() - 4));
+    const std::uint64_t groups = dataBytes / kMaxGroupInput + 1;
+    return static_cast<std::size_t>(
+        std::min<std::uint64_t>({declared, groups * kMaxGroupOutput, kMaxExpandedBytes}));
 }
 
 }  // namespace
@@ -190,22 +187,22 @@ std::size_t ExpectedBytes(const FileHeader& header, std::size_t dataBytes) {
 // `readNext` copies the next bytes of the file to a place, and returns whether it could.
 template <typename ReadNext>
 std::optional<CompressedFile> CompressedFile::Fill(std::size_t length, ReadNext&& readNext) {
-    FileHeader header{};
-    const std::size_t headBytes = std::min(length, header.size());
-    if (!readNext(header.data(), headBytes)) {
+    std::array<char, kSzddHeaderBytes> head{};
+    const std::size_t headBytes = std::min(length, head.size());
+    if (!readNext(head.data(), headBytes)) {
         return std::nullopt;
     }
+    const std::string_view header(head.data(), headBytes);
     CompressedFile file;
     file.length_ = length;
-    file.hasSignature_ = headBytes == header.size() &&
-                         std::string_view(header.data(), headBytes).starts_with(kSzddSignature);
+    file.hasSignature_ = headBytes == head.size() && header.starts_with(kSzddSignature);
     const std::size_t rest = length - headBytes;
     file.buffer_ = ByteBuffer(
         file.hasSignature_ ? kRingBytes + std::max(ExpectedBytes(header, rest), rest) + kGapBytes
                            : length);
     file.dataAt_ = file.buffer_.Size() - rest;
     if (!file.hasSignature_) {
-        std::copy_n(header.begin(), headBytes, file.buffer_.Data());
+        header.copy(file.buffer_.Data(), headBytes);
     }
     if (!readNext(file.buffer_.Data() + file.dataAt_, rest)) {
         return std::nullopt;

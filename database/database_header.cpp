@@ -5,6 +5,8 @@
 #include <bit>
 #include <cassert>
 
+#include "base/little_endian.h"
+
 namespace brelex {
 
 namespace {
@@ -29,11 +31,7 @@ class Reader {
   private:
     template <typename Unsigned>
     Unsigned Take() {
-        Unsigned value = 0;
-        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            const auto byte = static_cast<unsigned char>(bytes_[i]);
-            value = static_cast<Unsigned>(value | static_cast<Unsigned>(Unsigned{byte} << (8 * i)));
-        }
+        const auto value = ReadLittleEndian<Unsigned>(bytes_);
         bytes_.remove_prefix(sizeof(Unsigned));
         return value;
     }
@@ -43,11 +41,13 @@ class Reader {
 
 class Writer {
   public:
-    void Write(float value) { Put(std::bit_cast<std::uint32_t>(value)); }
+    void Write(float value) { AppendLittleEndian(bytes_, std::bit_cast<std::uint32_t>(value)); }
 
-    void Write(double value) { Put(std::bit_cast<std::uint64_t>(value)); }
+    void Write(double value) { AppendLittleEndian(bytes_, std::bit_cast<std::uint64_t>(value)); }
 
-    void Write(std::int32_t value) { Put(std::bit_cast<std::uint32_t>(value)); }
+    void Write(std::int32_t value) {
+        AppendLittleEndian(bytes_, std::bit_cast<std::uint32_t>(value));
+    }
 
     void Write(char value) { bytes_.push_back(value); }
 
@@ -59,13 +59,6 @@ class Writer {
     [[nodiscard]] const std::string& Bytes() const { return bytes_; }
 
   private:
-    template <typename Unsigned>
-    void Put(Unsigned value) {
-        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            bytes_.push_back(static_cast<char>(static_cast<unsigned char>(value >> (8 * i))));
-        }
-    }
-
     std::string bytes_;
 };
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/little_endian.h"
 #include "database/szdd_format.h"
 
 namespace brelex {
@@ -129,9 +130,7 @@ std::string CompressSzdd(std::string_view bytes) {
     assert(bytes.size() <= kMaxExpandedBytes);
     std::string file(kSzddSignature);
     file.push_back(0);  // the missing character of a name that ends in "_", which ours does not
-    for (std::size_t i = 0; i < 4; ++i) {
-        file.push_back(static_cast<char>((bytes.size() >> (8 * i)) & 0xFFU));
-    }
+    AppendLittleEndian(file, static_cast<std::uint32_t>(bytes.size()));
     MatchFinder finder(bytes);
     GroupWriter groups(file);
     std::size_t position = 0;

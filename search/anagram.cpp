@@ -6,6 +6,7 @@
 #include <span>
 
 #include "base/letter_case.h"
+#include "base/little_endian.h"
 #include "base/number_text.h"
 #include "base/scope.h"
 #include "base/windows1252.h"
@@ -47,10 +48,7 @@ AnagramSignature SignatureOfBeginning(std::string_view text, const SignaturePart
     unsigned sum = 0;
     // Whole words, with no branch that depends on the length of a short abbreviation.
     for (; text.size() >= kWord; text.remove_prefix(kWord)) {
-        std::uint64_t word = 0;
-        for (std::size_t i = 0; i < kWord; ++i) {
-            word |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
-        }
+        auto word = ReadLittleEndian<std::uint64_t>(text);
         const std::uint64_t overTab = word ^ ('\t' * kEachByte);
         // The lowest bit that is set belongs to the first TAB.
         const std::uint64_t tabs = (overTab - kEachByte) & ~overTab & (0x80 * kEachByte);

@@ -21,6 +21,12 @@ TEST(ReadWholeFile, ReadsAllBytesAndNothingOfAMissingFile) {
     EXPECT_FALSE(ReadWholeFile(folder.Path()).has_value());
 }
 
+// Linux has such files. Elsewhere they are missing, and nothing is read either.
+TEST(ReadWholeFile, ReadsNothingOfAFileThatIsShorterOrLongerThanItsLength) {
+    EXPECT_FALSE(ReadWholeFile("/sys/devices/system/cpu/online").has_value());
+    EXPECT_FALSE(ReadWholeFile("/proc/sys/kernel/hostname").has_value());
+}
+
 TEST(FileReader, ReadsTheBytesInOrderAndNoneBehindTheEnd) {
     const TestFolder folder;
     folder.Write("file", std::string("ab\0\r\n\x1A", 6));

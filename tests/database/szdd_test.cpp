@@ -156,6 +156,42 @@ TEST(ExpandSzdd, AFileThatDeclaresTooLittleMayBeAsLongAsTheLimit) {
     EXPECT_FALSE(ExpandSzdd(file, 8999).has_value());
 }
 
+TEST(ExpandSzdd, AFileThatDeclaresTooLittleAndHasFarTooMuchIsRefused) {
+    const std::string bytes(1000000, 'x');
+    EXPECT_FALSE(ExpandSzdd(CompressSzdd(bytes).replace(10, 4, 4, '\0'), 9000).has_value());
+}
+
+// Data that expand to `kManyBlanks` blanks. Behind them, a file that declares too little needs a
+// larger buffer.
+constexpr std::size_t kManyBlanks = std::size_t{32} * 8 * 18;
+
+std::string ManyBlanks() {
+    std::string data;
+    for (int group = 0; group < 32; ++group) {
+        data.push_back('\0');
+        for (int match = 0; match < 8; ++match) {
+            data += std::string("\0\x0F", 2);  // 18 blanks
+        }
+    }
+    return data;
+}
+
+TEST(ExpandSzdd, AGroupThatIsCutOffBehindTheLargestContentDoesNoHarm) {
+    const std::string file = File(ManyBlanks() + "\xFF", 0);
+    const auto expanded = ExpandSzdd(file, kManyBlanks);
+    ASSERT_TRUE(expanded.has_value());
+    EXPECT_EQ(expanded->View(), std::string(kManyBlanks, ' '));
+    EXPECT_FALSE(ExpandSzdd(file, kManyBlanks - 1).has_value());
+}
+
+TEST(ExpandSzdd, MuchThatDidNotCompressMayFollowManyBlanks) {
+    std::string data = ManyBlanks();
+    for (int group = 0; group < 1500; ++group) {
+        data += "\xFF" + std::to_string(10000000 + group);
+    }
+    EXPECT_EQ(Expanded(File(data, 0)), ExpandedWithARing(data));
+}
+
 std::string RandomText(std::mt19937& random, std::size_t length, unsigned letters) {
     std::string text(length, ' ');
     for (char& c : text) {
