@@ -54,17 +54,19 @@ void ComputeLengths(const std::vector<std::string_view>& records, DatabaseHeader
 }
 
 void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHeader& header) {
-    std::array<std::int32_t, 256> counts{};
+    std::string letters;
     for (const std::string_view record : records) {
         const std::string_view abbreviation = GetAbbreviation(record);
         if (!abbreviation.empty()) {
-            ++counts[static_cast<unsigned char>(AsciiCapital(abbreviation.front()))];
+            letters.push_back(AsciiCapital(abbreviation.front()));
         }
     }
+    std::array<std::int32_t, 256> counts{};
+    for (const char letter : letters) {
+        ++counts[static_cast<unsigned char>(letter)];
+    }
     // A second pass, so that the first in the file wins among equally frequent letters.
-    for (const std::string_view record : records) {
-        const std::string_view abbreviation = GetAbbreviation(record);
-        const char letter = abbreviation.empty() ? ' ' : AsciiCapital(abbreviation.front());
+    for (const char letter : letters) {
         const std::int32_t count = counts[static_cast<unsigned char>(letter)];
         if (count > header.CommonFirstLetterCount) {
             header.CommonFirstLetter = letter;

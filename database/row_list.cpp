@@ -30,7 +30,7 @@ std::int32_t RowList::RowHolding(const char* byte, std::int32_t first) const {
         low = std::clamp(low + static_cast<std::int32_t>(ahead) - kNearRows / 2, first,
                          rowCount_ - kNearRows);
     }
-    const auto* const next = std::upper_bound(offsets_ + first + 1, offsets_ + rowCount_, offset);
+    const auto* const next = std::upper_bound(offsets_, offsets_ + rowCount_, offset);
     return static_cast<std::int32_t>(next - offsets_) - 1;
 }
 

@@ -108,11 +108,18 @@ TEST(ComputeStatistics, OfSeveralLongestTheFirstCounts) {
     EXPECT_EQ(header.LongestExpansionIndex, 1);
 }
 
+TEST(ComputeStatistics, TheLongestMayHaveOneLetter) {
+    const auto header = ComputeStatistics({" \t ", "A\tx"});
+    EXPECT_EQ(header.LongestAbbrvIndex, 1);
+    EXPECT_EQ(header.LongestExpansionIndex, 1);
+}
+
 TEST(ComputeStatistics, AveragesAreOverRecordsToTheNearest) {
     const auto header = ComputeStatistics({"A\tx", "BC\tyyyy"});  // 1.5 and 2.5
     EXPECT_EQ(header.AvgAbbrvLength, 2);
     EXPECT_EQ(header.AvgExpansionLength, 3);
     EXPECT_EQ(ComputeStatistics({"A\tx", "A\ty", "BC\tz"}).AvgAbbrvLength, 1);  // 1.33
+    EXPECT_EQ(ComputeStatistics({"A\tx", "A\ty", "B\tzz"}).AvgExpansionLength, 1);
 }
 
 TEST(ComputeStatistics, FirstLettersAreFoldedToCapitals) {
@@ -126,6 +133,10 @@ TEST(ComputeStatistics, OfEquallyFrequentLettersTheFirstCounts) {
                                 std::vector<std::string_view>{"B\tx", "A\tx", "B\ty", "A\ty"}}) {
         EXPECT_EQ(ComputeStatistics(records).CommonFirstLetter, 'B');
     }
+}
+
+TEST(ComputeStatistics, ARecordWithoutAbbreviationHasNoFirstLetter) {
+    EXPECT_EQ(ComputeStatistics({"\tx", "A\tx", " B\tx"}).CommonFirstLetter, 'A');
 }
 
 TEST(ComputeStatistics, MostExpansionsGoByExactAbbreviation) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <random>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -73,6 +74,11 @@ TEST(CheckDatabase, EachRecordWithAControlCharacterIsNamed) {
     EXPECT_TRUE(Contains(lines, "the search list contains the control character 7F"));
 }
 
+TEST(CheckDatabase, VisibleCharactersNextToControlCharactersAreGood) {
+    EXPECT_EQ(Findings([](DatabaseHeader&, std::string&) {}, {"A\t ~\x80\xA0\xFF"}),
+              std::vector<std::string>());
+}
+
 TEST(CheckDatabase, RecordsInABadOrderDoNotTakeStepsWithoutEnd) {
     // Whoever looks up A lands in the first half and goes back to its beginning. It has to be
     // looked up for every other record of the second half.
@@ -101,6 +107,26 @@ TEST(CheckDatabase, RecordsInABadOrderDoNotTakeStepsWithoutEnd) {
         });
     EXPECT_LT(steps, 30'000'000);
     EXPECT_TRUE(Contains(lines, " on were not looked up: "));
+}
+
+// Checks a good database with three records. The first look-up claims to have taken so many steps.
+std::vector<std::string> FindingsAfterSteps(std::int64_t claimed) {
+    DatabaseHeader header;
+    RecordStore store;
+    EXPECT_EQ(ReadDatabase(DatabaseBytes(NumberedRecords(3)), header, store), LoadFailure::None);
+    return CheckDatabase(header, store,
+                         [&](const RowList& rows, std::string_view text, std::int64_t* steps) {
+                             *steps += std::exchange(claimed, 0);
+                             std::int64_t taken = 0;
+                             return FindFirstByPrefix(rows, text, &taken);
+                         });
+}
+
+TEST(CheckDatabase, AMillionStepsAndAThousandForEachRecordAreNotTooMany) {
+    EXPECT_EQ(FindingsAfterSteps(1'003'000), std::vector<std::string>());
+    EXPECT_EQ(FindingsAfterSteps(1'003'001),
+              std::vector<std::string>{"the beginnings from record 2 on were not looked up: that "
+                                       "takes too many steps in this order"});
 }
 
 TEST(CheckDatabase, EachWrongStatisticIsNamed) {

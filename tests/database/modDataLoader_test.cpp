@@ -221,6 +221,17 @@ TEST_F(LoadDatabaseTest, AFullTemporaryFolderIsRefused) {
     ExpectFailure(kCannotDecode);
 }
 
+TEST_F(LoadDatabaseTest, IfAllFoldersAreFullWhatWasWrittenStaysOnlyInTheLast) {
+    const TestFolder second;
+    const TestFolder last;
+    files_.otherFolders = {second.Text(), last.Text()};
+    files_.diskIsFull = true;
+    EXPECT_FALSE(Load(DatabaseBytes({"ABC\tx"})));
+    EXPECT_FALSE(TemporaryFileExists());
+    EXPECT_FALSE(std::filesystem::exists(PathOfUtf8(second.Text() + kTempFileName)));
+    EXPECT_TRUE(std::filesystem::exists(PathOfUtf8(last.Text() + kTempFileName)));
+}
+
 TEST_F(LoadDatabaseTest, WithoutATemporaryFolderTheProgramsFolderIsUsed) {
     FakeTemporaryFiles noFolder("");
     values_.DatabasePath = folder_.Write("Acronyms.dat", DatabaseBytes({"ABC\tx"}));
