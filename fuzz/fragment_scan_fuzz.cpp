@@ -64,7 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t place = brelex::PlainPlace(text, from, end, fragment.sets);
     brelex::Require(brelex::ScanPlainly(text, from, end, fragment) == place,
                     "the plain scan finds the first place");
-    for (const brelex::FragmentScan scan : brelex::VectorScans()) {
+    std::vector<brelex::FragmentScan> scans = brelex::VectorScans();
+    scans.push_back(brelex::FastestScan());
+    for (const brelex::FragmentScan scan : scans) {
         brelex::Require(scan(text, from, end, fragment) == place,
                         "each scan finds the first place");
     }

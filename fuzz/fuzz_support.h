@@ -77,18 +77,22 @@ class FuzzInput {
     std::string_view rest_;
 };
 
-/// Fills a store with the lines of a text. NULs end a line, too.
-inline void FillWithLines(std::string_view lines, RecordStore& store) {
+/// Fills a store with the lines of a text. NULs end a line, too. Tells the store of `more` lines than
+/// there are, and returns whether it takes that.
+inline bool FillWithLines(std::string_view lines, RecordStore& store, std::int64_t more) {
     ByteBuffer block(lines.size() + 1);
     Require(block.Data() != nullptr, "there is memory for the rows");
     char* const end = std::copy(lines.begin(), lines.end(), block.Data());
     *end = '\0';
     std::replace(block.Data(), end, '\n', '\0');
-    const auto count = std::count(block.Data(), end + 1, '\0');
+    const auto count = std::count(block.Data(), end + 1, '\0') + more;
     WorkWatcher nobody;
     ExpandedFile file(std::move(block), 0, lines.size() + 1);
-    Require(store.Fill(std::move(file), 0, static_cast<std::int32_t>(count), 1, nobody),
-            "rows can be stored");
+    return store.Fill(std::move(file), 0, static_cast<std::int32_t>(count), 1, nobody);
+}
+
+inline void FillWithLines(std::string_view lines, RecordStore& store) {
+    Require(FillWithLines(lines, store, 0), "rows can be stored");
 }
 
 /// Whether each byte of a text is a single element of the order of the entries. Texts of such bytes

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Input: a byte of options (1: sort the rows, 2: measure their order, 4: look up in capitals), the
-// text to look up (Windows-1252), a NUL, the rows as lines.
+// Input: a byte of options (1: sort the rows, 2: measure their order, 4: look up in capitals, 8: no
+// rows), the text to look up (Windows-1252), a NUL, the rows as lines.
 #include "lookup/prefix_search.h"
 
 #include "base/text.h"
+#include "base/windows1252.h"
 #include "fuzz/fuzz_support.h"
 
 namespace brelex {
@@ -88,6 +89,25 @@ bool IsInOrder(const RowList& rows) {
     return true;
 }
 
+// Whether texts are equal does not depend on how their characters are encoded.
+void CheckEquality(std::string_view left, std::string_view right) {
+    const bool areEqual = EqualIgnoringCase(left, right);
+    Require(areEqual == EqualIgnoringCase(right, left), "equality has no direction");
+    Require(EqualIgnoringCaseUtf8(Utf8OfBytes(left), Utf8OfBytes(right)) == areEqual,
+            "texts are equal if their bytes are");
+    Require(!EqualIgnoringCaseUtf8(std::string(left) + "\u0416", std::string(left) + "\u0436"),
+            "nothing is known of the case of letters outside the code page");
+}
+
+// A store that is told of more rows than there are has none.
+void CheckWrongCounts(std::string_view lines, RecordStore& store) {
+    for (const std::size_t more : {std::size_t{1}, lines.size() + 1}) {
+        Require(!FillWithLines(lines, store, static_cast<std::int64_t>(more)) &&
+                    store.RowCount() == 0,
+                "there are no more rows than lines");
+    }
+}
+
 void LookUp(const RowList& rows, std::string_view text, bool isInOrder) {
     const std::int32_t found = FindFirstByPrefix(rows, text);
     Require(found == RowOfLongestBeginning(rows, text, RowByHalving),
@@ -108,12 +128,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const unsigned options = input.Byte();
     const std::string_view text = input.Text();
     brelex::RecordStore rows;
-    brelex::FillWithLines(brelex::LinesOf(input, (options & 1U) != 0), rows);
+    const std::string lines = brelex::LinesOf(input, (options & 1U) != 0);
+    brelex::CheckWrongCounts(lines, rows);
+    if ((options & 8U) == 0) {
+        brelex::FillWithLines(lines, rows);
+    }
     if ((options & 2U) != 0) {
         rows.MeasureOrder();
     }
     const bool isInOrder = brelex::IsInOrder(rows);
     brelex::LookUp(rows, text, isInOrder);
+    brelex::CheckEquality(text, rows.RowCount() == 0 ? text : rows.RowText(0));
     constexpr std::int32_t kMostLookUps = 30;
     constexpr std::size_t kMostBytes = 60;
     for (std::int32_t row = 0; row < std::min(rows.RowCount(), kMostLookUps); ++row) {

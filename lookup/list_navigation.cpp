@@ -13,8 +13,6 @@ std::int32_t RowAfterKey(NavigationKey key, std::int32_t row, std::int32_t rowCo
     const std::int64_t page = std::max(rowsPerPage - 1, 1);
     std::int64_t target = row;
     switch (key) {
-        case NavigationKey::Enter:
-            return row;
         case NavigationKey::Up:
             target -= 1;
             break;
@@ -27,6 +25,8 @@ std::int32_t RowAfterKey(NavigationKey key, std::int32_t row, std::int32_t rowCo
         case NavigationKey::PageDown:
             target += page;
             break;
+        case NavigationKey::Enter:
+            return row;
     }
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(target, 0, rowCount - 1));
 }

@@ -97,6 +97,19 @@ TEST(FindFirstByPrefix, ARecordThatEndsBeforeTheTextDoesNotBeginWithIt) {
     EXPECT_EQ(FindFirstByPrefix(FakeRows({"A\t", "A\tb"}), "A\tbc"), 1);
 }
 
+// A store of records that are in order.
+void FillStore(RecordStore& store, const std::vector<std::string>& records) {
+    std::string block;
+    for (const std::string& record : records) {
+        block += record;
+        block.push_back('\0');
+    }
+    WorkWatcher progress;
+    ASSERT_TRUE(store.Fill(*ExpandSzdd(block), 0, static_cast<std::int32_t>(records.size()), 100,
+                           progress));
+    store.MeasureOrder();
+}
+
 // A store of random records over few letters, so that long runs share a beginning.
 void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view letters, int count) {
     std::vector<std::string> records;
@@ -110,14 +123,7 @@ void FillRandomly(RecordStore& store, std::mt19937& random, std::string_view let
     std::sort(records.begin(), records.end(), [](const std::string& a, const std::string& b) {
         return std::is_lt(CompareTexts(a, b));
     });
-    std::string block;
-    for (const std::string& record : records) {
-        block += record;
-        block.push_back('\0');
-    }
-    WorkWatcher progress;
-    ASSERT_TRUE(store.Fill(*ExpandSzdd(block), 0, count, 100, progress));
-    store.MeasureOrder();
+    FillStore(store, records);
 }
 
 class WalkBackTest : public testing::TestWithParam<std::string> {};
@@ -143,6 +149,37 @@ INSTANTIATE_TEST_SUITE_P(Letters, WalkBackTest,
                                          "b\xE6\xAD",
                                          "e\xE9\xC9"
                                          "E1\xB9"));
+
+std::int64_t StepsFor(const RecordStore& store, std::string_view text) {
+    std::int64_t steps = 0;
+    (void)FindFirstByPrefix(store, text, &steps);
+    return steps;
+}
+
+TEST(FindFirstByPrefix, LooksAtOneRowForEachTimeThatTheRowsCanBeHalved) {
+    std::vector<std::string> records;
+    for (int i = 0; i < 1023; ++i) {
+        records.push_back(std::to_string(1000 + i) + "\tx");
+    }
+    RecordStore store;
+    FillStore(store, records);
+    for (const std::string& record : records) {
+        ASSERT_EQ(StepsFor(store, record), 10);
+    }
+    EXPECT_EQ(StepsFor(store, "2022?"), 2 * 10);  // once more without the last character
+}
+
+TEST(FindFirstByPrefix, ALongRunOfRowsTakesNoMoreStepsUnlessAccentsDisturbTheirOrder) {
+    // Cut to two bytes, the E with an accent is greater than the E behind it.
+    std::vector<std::string> records(1021, "AA\tx");
+    records.insert(records.end(), {"A\xC9"
+                                   "A\tx",
+                                   "AEB\tx"});
+    RecordStore store;
+    FillStore(store, records);
+    EXPECT_EQ(StepsFor(store, "A"), 10);
+    EXPECT_GT(StepsFor(store, "AA"), 500);
+}
 
 }  // namespace
 }  // namespace brelex
