@@ -103,6 +103,16 @@ TEST_F(AnagramSessionTest, TheListIsRefreshedOnlyWhenItsRowsHaveChanged) {
     EXPECT_EQ(view_.showings, 4);  // without rows, and with the one that says so
 }
 
+TEST_F(AnagramSessionTest, TheWarningOfTheLastSearchIsGoneWhileTheNextRuns) {
+    Search("XQ");
+    EXPECT_TRUE(view_.shown.listIsWarning);
+    bool isWarning = true;
+    view_.onEvents = [&] { isWarning = view_.shown.listIsWarning; };
+    Search("PUC");
+    EXPECT_FALSE(isWarning);
+    EXPECT_FALSE(view_.shown.listIsWarning);
+}
+
 TEST_F(AnagramSessionTest, OpensEmpty) {
     AnagramDisplay empty;
     empty.letterCount = "0";

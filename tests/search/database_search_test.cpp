@@ -78,6 +78,13 @@ TEST(SearchDatabase, PausesBehindAHitAtSuchARecord) {
     EXPECT_EQ(watcher.events, (std::vector<std::string>{"hit 150", "pause", "hit 300", "pause"}));
 }
 
+TEST(SearchDatabase, EndsWithTheRecordsEvenIfAPauseWasDueBehindTheNext) {
+    const FakeRows rows = RowsWithHits(150, 149);
+    RecordingWatcher watcher;
+    EXPECT_EQ(SearchForX(rows, 1, &watcher).hits, (std::vector<std::int32_t>{149}));
+    EXPECT_EQ(watcher.events, (std::vector<std::string>{"hit 149"}));
+}
+
 TEST(SearchDatabase, StopsAt500HitsIfThereIsAnother) {
     const FakeRows rows = RowsWithHits(1100, 2);
     RecordingWatcher watcher;
