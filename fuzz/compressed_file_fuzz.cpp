@@ -30,8 +30,8 @@ bool FileExpandsTo(const std::string& path, std::string_view wanted) {
 
 }  // namespace brelex
 
-// Expands from memory and from the disk, and compares with what a ring gives. Without its signature,
-// the same file stays as it is.
+// Expands from memory and from the disk, and compares with what a ring gives. Without its
+// signature, the same file stays as it is.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const brelex::FuzzFolder folder;
     constexpr std::size_t kLengthBytes = 4;

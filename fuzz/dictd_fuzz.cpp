@@ -3,7 +3,9 @@
 // with that level of compression), the index, a NUL, the dictionary.
 #include <zlib.h>
 
+#include "base/windows1252.h"
 #include "fuzz/fuzz_support.h"
+#include "tools/corrections.h"
 #include "tools/dictd_reader.h"
 
 namespace brelex {
@@ -40,6 +42,42 @@ ReadEntries Read(std::string_view index, std::string_view dictionary) {
     return read;
 }
 
+// A dictionary in two files has the same entries, whichever of its names the second file has.
+void CheckFiles(std::string_view index, std::string_view dictionary,
+                const std::vector<std::string>& wanted) {
+    static const FuzzFolder folder;
+    for (const auto& [indexName, dictionaryName] :
+         {std::pair("a.index", "a.dict.dz"), std::pair("b.index", "b.dict")}) {
+        const auto indexPath = PathOfUtf8(folder.Write(indexName, index));
+        const auto dictionaryPath = PathOfUtf8(folder.Write(dictionaryName, dictionary));
+        Require(DictionaryOfIndex(indexPath) == dictionaryPath &&
+                    IndexOfDictionary(dictionaryPath) == indexPath,
+                "the two files find each other");
+        std::vector<std::string> records;
+        InputReport report;
+        ReadDictdPair(indexPath, records, report);
+        Require(records == wanted, "a dictionary in files has the same entries");
+    }
+}
+
+// Leaves out the first entry, unless a correction cannot name it.
+void CheckCorrection(std::string_view index, std::string_view dictionary,
+                     std::vector<std::string> wanted) {
+    if (wanted.empty() || std::count(wanted[0].begin(), wanted[0].end(), '\t') != 1) {
+        return;
+    }
+    static const FuzzFolder folder;
+    const std::string first = wanted.front();
+    Corrections corrections;
+    InputReport report;
+    corrections.ReadFile(PathOfUtf8(folder.Write("corrections.tsv", Utf8OfBytes(first))), report);
+    Require(report.errors.empty(), "an entry can be left out");
+    std::erase(wanted, first);
+    std::vector<std::string> records;
+    ReadDictd({"a.index", index}, {"a.dict", dictionary}, records, report, &corrections);
+    Require(records == wanted, "a correction leaves out its entry and no other");
+}
+
 void CheckArticle(std::string_view article) {
     for (const auto& entries : {EntriesOfArticle(article), EntriesOfHeaderArticle(article)}) {
         for (const DictdEntry& entry : entries) {
@@ -69,6 +107,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                             same.report.warnings == read.report.warnings,
                         "a compressed dictionary has the same entries");
     }
+    brelex::CheckFiles(index, dictionary, read.records);
+    brelex::CheckCorrection(index, dictionary, read.records);
     brelex::CheckArticle(dictionary);
     return 0;
 }

@@ -77,8 +77,8 @@ class FuzzInput {
     std::string_view rest_;
 };
 
-/// Fills a store with the lines of a text. NULs end a line, too. Tells the store of `more` lines than
-/// there are, and returns whether it takes that.
+/// Fills a store with the lines of a text. NULs end a line, too. Tells the store of `more` lines
+/// than there are, and returns whether it takes that.
 inline bool FillWithLines(std::string_view lines, RecordStore& store, std::int64_t more) {
     ByteBuffer block(lines.size() + 1);
     Require(block.Data() != nullptr, "there is memory for the rows");

@@ -9,6 +9,7 @@
 #include "fuzz/plain_search.h"
 #include "fuzz/search_options.h"
 #include "search/database_search.h"
+#include "search/whole_word.h"
 
 namespace brelex {
 
@@ -19,19 +20,27 @@ using Rows = std::vector<std::int32_t>;
 // Follows a search and compares its hits with those expected.
 class HitWatcher final : public WorkWatcher {
   public:
-    explicit HitWatcher(const Rows& expected) : expected_(expected) {}
+    // Ends the search at the hit `last`, which counts from 1, unless that is 0.
+    HitWatcher(const Rows& expected, std::size_t last) : expected_(expected), last_(last) {}
 
     bool OnHit(std::int32_t row) override {
         Require(told_ < expected_.size() && row == expected_[told_], "each hit is told in turn");
         ++told_;
-        return true;
+        return told_ != last_;
     }
 
     [[nodiscard]] std::size_t Told() const { return told_; }
 
   private:
     const Rows& expected_;
+    std::size_t last_;
     std::size_t told_ = 0;
+};
+
+// Ends a search at the first pause.
+class ImpatientWatcher final : public WorkWatcher {
+  public:
+    bool OnPause() override { return false; }
 };
 
 // Returns whether the record is a hit.
@@ -64,7 +73,7 @@ void CheckWholeSearch(const RecordFinder& finder, const RowList& rows, std::int3
                       std::int32_t limit, const Rows& all) {
     const Rows hits = Part(all, first, rows.RowCount(), all.size());
     const Rows expected = Part(hits, 0, rows.RowCount(), static_cast<std::size_t>(limit));
-    HitWatcher watcher(expected);
+    HitWatcher watcher(expected, 0);
     for (WorkWatcher* const who :
          {static_cast<WorkWatcher*>(nullptr), static_cast<WorkWatcher*>(&watcher)}) {
         const SearchOutcome outcome = SearchDatabase(finder, rows, first, limit, who);
@@ -75,6 +84,30 @@ void CheckWholeSearch(const RecordFinder& finder, const RowList& rows, std::int3
                 "a search goes on at the next hit");
     }
     Require(watcher.Told() == expected.size(), "all hits are told");
+}
+
+// A search that is ended has the hits up to there.
+void CheckEndedSearch(const RecordFinder& finder, const RowList& rows, std::size_t last,
+                      const Rows& all) {
+    const auto count = static_cast<std::int32_t>(all.size());
+    HitWatcher watcher(all, last);
+    const Rows hits = SearchDatabase(finder, rows, 0, count, &watcher).hits;
+    Require(hits == Part(all, 0, rows.RowCount(), last == 0 ? all.size() : last),
+            "a search ends at the hit at which it is ended");
+    ImpatientWatcher impatient;
+    const Rows first = SearchDatabase(finder, rows, 0, count, &impatient).hits;
+    Require(first == Part(all, 0, 1, 1), "a search ends at the pause at which it is ended");
+    const std::string text = ResultText(rows, hits);
+    Require(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) >= hits.size(),
+            "each hit is a line of the result");
+}
+
+// A word is whole in either case if it is by definition.
+void CheckWholeWord(std::string_view field, std::string_view word) {
+    Require(IsWholeWord(field, word, ComparisonMode::Text) ==
+                HasPlainWord(Folded(CharactersOfBytes(field), false),
+                             Folded(CharactersOfBytes(word), false)),
+            "a word is whole if it is by definition");
 }
 
 }  // namespace
@@ -114,5 +147,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     "a range of rows has the hits that its records are");
     brelex::CheckWholeSearch(*finder, rows, first, limit, hits);
     brelex::CheckWholeSearch(*finder, rows, 0, rows.RowCount(), hits);
+    brelex::CheckEndedSearch(*finder, rows, static_cast<std::size_t>(limit), hits);
+    brelex::CheckWholeWord(rows.RowText(first % rows.RowCount()), request.text);
+    const brelex::RecordStore none;
+    brelex::Require(brelex::SearchDatabase(*brelex::RecordFinder::Compile(request, none), none, 0,
+                                           limit, nullptr)
+                        .hits.empty(),
+                    "no rows have no hits");
     return 0;
 }

@@ -21,6 +21,25 @@ std::vector<std::string> LinesOf(FuzzInput input) {
     return lines;
 }
 
+// A list in a file has the same entries.
+void CheckFile(std::string_view text, const std::vector<std::string>& wanted) {
+    static const FuzzFolder folder;
+    std::vector<std::string> records;
+    InputReport report;
+    ReadTsvFile(PathOfUtf8(folder.Write("list.tsv", text)), records, report);
+    Require(records == wanted, "a list in a file has the same entries");
+}
+
+// Nothing but what the code page has can be stored, and no TAB in an abbreviation.
+void CheckLine(const std::string& line) {
+    std::vector<std::string> records;
+    InputReport report;
+    AddEntry(line, "x", "line", records, report);
+    const bool isStorable = BytesOfUtf8(line).complete && line.find('\t') == std::string::npos;
+    Require(records.empty() == !report.errors.empty(), "an entry is stored or an error");
+    Require(records.empty() || isStorable, "what the code page lacks is not stored");
+}
+
 }  // namespace
 
 }  // namespace brelex
@@ -32,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     brelex::InputReport report;
     brelex::ReadTsv("list.tsv", text, records, report);
     std::for_each(records.begin(), records.end(), brelex::RequireStorable);
+    brelex::CheckFile(text, records);
     if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
         brelex::Require(records.empty() && report.errors.size() == 1, "UTF-16 is refused");
         return 0;
@@ -40,6 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto lines = brelex::LinesOf({data + mark, size - mark});
     brelex::Require(records.size() + report.errors.size() == lines.size(),
                     "each line is an entry or an error");
+    std::for_each(lines.begin(), lines.end(), brelex::CheckLine);
     for (std::size_t i = 0; i < records.size() && report.errors.empty(); ++i) {
         brelex::Require(brelex::Utf8OfBytes(records[i]) == lines[i], "entries stay as they are");
     }
