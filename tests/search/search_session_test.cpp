@@ -69,8 +69,11 @@ TEST_F(SearchSessionTest, ABoxThatCannotShowItsResultSaysWhy) {
 }
 
 TEST_F(SearchSessionTest, AFailureNobodyExpectsLeavesItReady) {
+    Search("bus");
     view_.onEvents = [] { throw std::bad_alloc(); };
     EXPECT_THROW(Search("bus"), std::bad_alloc);
+    EXPECT_FALSE(session_.FoundAnything());
+    EXPECT_EQ(view_.focus, SearchFocus::SearchText);
     EXPECT_EQ(view_.shown.status, "Ready");
     EXPECT_EQ(view_.shown.count, "");
     EXPECT_TRUE(view_.shown.canSearch);
