@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/calendar_day.h"
 
+#include <algorithm>
 #include <array>
 #include <cassert>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <system_error>
+
+#include "base/text.h"
 
 namespace brelex {
 
@@ -24,16 +25,8 @@ constexpr sys_days kFirstDay = year(100) / 1 / 1;
 constexpr sys_days kLastDay = year(9999) / 12 / 31;
 
 std::string Digits(unsigned number, std::size_t width) {
-    std::string text = std::to_string(number);
-    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
-}
-
-std::optional<int> ParseDigits(std::string_view text) {
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && stop == end && number >= 0 ? std::optional(number)
-                                                              : std::nullopt;
+    const std::string text = std::to_string(number);
+    return std::string(width - std::min(width, text.size()), '0') + text;
 }
 
 }  // namespace
@@ -72,14 +65,13 @@ std::optional<year_month_day> ParseIsoDay(std::string_view text) {
     if (text.size() != 10 || text[4] != '-' || text[7] != '-') {
         return std::nullopt;
     }
-    const auto y = ParseDigits(text.substr(0, 4));
-    const auto m = ParseDigits(text.substr(5, 2));
-    const auto d = ParseDigits(text.substr(8, 2));
+    const auto y = NumberOf<unsigned>(text.substr(0, 4));
+    const auto m = NumberOf<unsigned>(text.substr(5, 2));
+    const auto d = NumberOf<unsigned>(text.substr(8));
     if (!y || !m || !d || *y < 100) {
         return std::nullopt;
     }
-    const year_month_day parsed(year(*y), month(static_cast<unsigned>(*m)),
-                                day(static_cast<unsigned>(*d)));
+    const year_month_day parsed(year(static_cast<int>(*y)), month(*m), day(*d));
     return parsed.ok() ? std::optional(parsed) : std::nullopt;
 }
 

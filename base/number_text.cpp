@@ -7,7 +7,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <system_error>
 #include <utility>
 
 #include "base/text.h"
@@ -57,6 +56,15 @@ std::string Grouped(std::string_view digits, std::string_view separator) {
     return text;
 }
 
+// A number in decimal digits, without an exponent, with so many decimals or as many as it has.
+template <typename Number, typename... Decimals>
+std::string FixedText(Number number, Decimals... decimals) {
+    std::array<char, 320> buffer{};  // the largest double has 309 digits
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                       std::chars_format::fixed, decimals...);
+    return {buffer.data(), written.ptr};
+}
+
 // A whole number in decimal digits, plus 1.
 std::string Incremented(std::string digits) {
     std::size_t at = digits.size();
@@ -74,30 +82,21 @@ std::string Incremented(std::string digits) {
 
 std::string FormatGrouped(std::int32_t number, std::string_view separator) {
     assert(!separator.empty());
-    const std::string digits = std::to_string(number < 0 ? -std::int64_t{number} : number);
+    const std::string digits = std::to_string(std::abs(std::int64_t{number}));
     return (number < 0 ? "-" : "") + Grouped(digits, separator);
 }
 
 std::string FormatGrouped(double number, std::string_view separator) {
     assert(number >= 0 && std::isfinite(number));
     constexpr std::size_t kExactDigits = 15;  // of every double
-    std::array<char, 320> buffer{};           // the largest double has 309 digits
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                       std::chars_format::fixed, 0);
-    std::string digits(buffer.data(), written.ptr);
-    if (digits.size() > kExactDigits) {
-        // Once more, rounded after the exact digits.
-        const std::size_t length = digits.size();
-        double scale = 1;
-        for (std::size_t i = kExactDigits; i < length; ++i) {
-            scale *= 10;
-        }
-        const auto shortened = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
-                                             number / scale, std::chars_format::fixed, 0);
-        digits.assign(buffer.data(), shortened.ptr);
-        digits.append(length - kExactDigits, '0');
+    const std::size_t length = FixedText(number, 0).size();
+    const std::size_t zeros = length - std::min(length, kExactDigits);
+    // Once more, rounded after the exact digits.
+    double scale = 1;
+    for (std::size_t i = 0; i < zeros; ++i) {
+        scale *= 10;
     }
-    return Grouped(digits, separator);
+    return Grouped(FixedText(number / scale, 0) + std::string(zeros, '0'), separator);
 }
 
 std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_view separator) {
@@ -110,19 +109,12 @@ std::optional<std::int32_t> ParseWholeNumber(std::string_view text, std::string_
     if (!digits) {
         return std::nullopt;
     }
-    const std::string signedDigits = (negative ? "-" : "") + *digits;
-    std::int32_t number = 0;
-    const auto [end, error] =
-        std::from_chars(signedDigits.data(), signedDigits.data() + signedDigits.size(), number);
-    return error == std::errc() ? std::optional(number) : std::nullopt;
+    return NumberOf<std::int32_t>((negative ? "-" : "") + *digits);
 }
 
 std::string FormatPlain(float number, std::string_view decimalSeparator) {
     assert(std::isfinite(number));
-    std::array<char, 160> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                      std::chars_format::fixed);
-    std::string text(buffer.data(), result.ptr);
+    std::string text = FixedText(number);
     if (const auto point = text.find('.'); point != std::string::npos) {
         text.replace(point, 1, decimalSeparator);
     }
@@ -130,24 +122,20 @@ std::string FormatPlain(float number, std::string_view decimalSeparator) {
 }
 
 std::string FormatOneDecimal(float number, std::string_view decimalSeparator) {
-    // Long enough for the largest number, which has 39 digits, and for the smallest.
-    std::array<char, 160> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
-                                      std::abs(number), std::chars_format::fixed);
-    std::string digits(buffer.data(), result.ptr);
+    std::string digits = FixedText(std::abs(number));
     if (!std::isfinite(number)) {
         return digits;
     }
     // The number of tenths, in digits: the number itself may be too large for any integer type.
     const std::size_t point = std::min(digits.find('.'), digits.size());
-    std::string tenths =
-        digits.substr(0, point) + (digits.size() > point ? digits[point + 1] : '0');
-    const bool roundsUp = digits.size() > point + 2 && digits[point + 2] >= '5';
-    if (roundsUp) {
+    digits += point == digits.size() ? ".00" : "0";  // there are two decimals at least
+    std::string tenths = digits.substr(0, point) + digits[point + 1];
+    if (digits[point + 2] >= '5') {
         tenths = Incremented(std::move(tenths));
     }
     const std::string whole = tenths.substr(0, tenths.size() - 1);
-    const bool negative = number < 0 && tenths.find_first_not_of('0') != std::string::npos;
+    const bool negative =
+        std::signbit(number) && tenths.find_first_not_of('0') != std::string::npos;
     std::string text = negative ? "-" : "";
     text += whole == "0" ? std::string() : whole;
     text += decimalSeparator;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/modCRC32.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -54,10 +55,9 @@ constexpr std::array<std::array<std::uint32_t, 256>, kStride> kStrideTables = []
     std::array<std::array<std::uint32_t, 256>, kStride> tables{};
     tables[0] = kCrcTable;
     for (std::size_t k = 1; k < kStride; ++k) {
-        for (std::size_t i = 0; i < kCrcTable.size(); ++i) {
-            const std::uint32_t before = tables[k - 1][i];
-            tables[k][i] = (before >> 8U) ^ kCrcTable[before & 0xFFU];
-        }
+        std::transform(
+            tables[k - 1].begin(), tables[k - 1].end(), tables[k].begin(),
+            [](std::uint32_t before) { return (before >> 8U) ^ kCrcTable[before & 0xFFU]; });
     }
     return tables;
 }();

@@ -49,9 +49,10 @@ constexpr std::array<ByteWeight, 256> kByteWeights = {{
 
 constexpr std::array<std::uint8_t, 256> kPlainWeights = [] {
     std::array<std::uint8_t, 256> weights{};
-    for (std::size_t i = 0; i < weights.size(); ++i) {
-        weights[i] = kByteWeights[i].IsPlain() ? kByteWeights[i].primary : std::uint8_t{0};
-    }
+    std::transform(kByteWeights.begin(), kByteWeights.end(), weights.begin(),
+                   [](const ByteWeight& weight) {
+                       return weight.IsPlain() ? weight.primary : std::uint8_t{0};
+                   });
     return weights;
 }();
 

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/byte_table.h"
 #include "base/letter_case.h"
 #include "database/record_text.h"
 
@@ -20,18 +21,10 @@ constexpr std::string_view kMarks = "-./";  // they do not count, and neither do
 constexpr unsigned char kBlank = ' ';
 
 // The small letter of each byte, and a blank for each mark.
-std::array<unsigned char, 256> CountingBytes() {
-    std::array<unsigned char, 256> bytes{};
-    for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
-        bytes.at(byte) = SmallLetterOfByte(static_cast<unsigned char>(byte));
-    }
-    for (const char mark : kMarks) {
-        bytes.at(static_cast<unsigned char>(mark)) = kBlank;
-    }
-    return bytes;
-}
-
-const std::array<unsigned char, 256> kCountingBytes = CountingBytes();
+const auto kCountingBytes = TableOfBytes([](unsigned char byte) {
+    const bool isMark = kMarks.find(static_cast<char>(byte)) != std::string_view::npos;
+    return isMark ? kBlank : SmallLetterOfByte(byte);
+});
 
 // The characters of a text that count.
 std::string KeyOf(std::string_view text) {
@@ -62,17 +55,10 @@ bool HasKey(std::string_view record, std::string_view key) {
 }
 
 // A bit for each byte that counts, regardless of its case. Some share one.
-std::array<std::uint64_t, 256> SignatureBits() {
-    constexpr unsigned kBits = 64;
-    std::array<std::uint64_t, 256> bits{};
-    for (std::size_t byte = 0; byte < bits.size(); ++byte) {
-        const unsigned char counting = kCountingBytes.at(byte);
-        bits.at(byte) = counting == kBlank ? 0 : std::uint64_t{1} << (counting % kBits);
-    }
-    return bits;
-}
-
-const std::array<std::uint64_t, 256> kSignatureBits = SignatureBits();
+const auto kSignatureBits = TableOfBytes([](unsigned char byte) {
+    const unsigned char counting = kCountingBytes[byte];
+    return counting == kBlank ? 0 : std::rotl(std::uint64_t{1}, counting);
+});
 
 // The bits of all characters of the key.
 std::uint64_t SignatureOf(std::string_view text) {

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 #include <span>
 
+#include "base/byte_table.h"
 #include "base/letter_case.h"
 #include "base/little_endian.h"
 #include "base/number_text.h"
@@ -24,16 +26,13 @@ constexpr std::int32_t kFewestDistinctLetters = 2;
 using SignatureParts = std::array<AnagramSignature, 256>;
 
 SignatureParts MakeSignatureParts() {
+    std::minstd_rand random;
     SignatureParts parts{};
-    for (std::size_t byte = 0; byte < parts.size(); ++byte) {
-        // Spreads the differences between small numbers over all bits.
-        const std::uint32_t small = SmallLetterOfByte(static_cast<unsigned char>(byte));
-        const std::uint32_t spread = (small * small + 1) * 0x9E3779B1U;
-        parts.at(byte) = static_cast<AnagramSignature>(spread >> 16U);
-    }
+    std::generate(parts.begin(), parts.end(),
+                  [&random] { return static_cast<AnagramSignature>(random()); });
     parts.at('-') = 0;
     parts.at(0) = 0;
-    return parts;
+    return TableOfBytes([&parts](unsigned char byte) { return parts[SmallLetterOfByte(byte)]; });
 }
 
 const SignatureParts& Parts() {
@@ -69,9 +68,9 @@ AnagramSignature SignatureOfBeginning(std::string_view text, const SignaturePart
 // Whether one of the signatures is the wanted one. Compares them all, which takes less time than
 // stopping at the first.
 bool HasSignature(std::span<const AnagramSignature> signatures, AnagramSignature wanted) {
-    AnagramSignature any = 0;
+    AnagramSignature any{};
     for (const AnagramSignature signature : signatures) {
-        any |= signature == wanted ? 1 : 0;
+        any |= static_cast<AnagramSignature>(signature == wanted);
     }
     return any != 0;
 }
@@ -94,7 +93,7 @@ std::int32_t CountDistinctLetters(std::u32string_view text) {
 
 double Factorial(std::int32_t n) {
     double product = 1;
-    for (std::int32_t i = 1; i <= n; ++i) {
+    for (std::int32_t i = 2; i <= n; ++i) {
         product *= i;
     }
     return product;
@@ -135,11 +134,11 @@ std::optional<Message> AnagramRefusalOf(std::u32string_view letters) {
 AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.size()) {
     // A letter outside the code page counts toward the length but has no byte, so no candidate
     // matches.
-    for (std::size_t byte = 0; byte < occurrences_.size(); ++byte) {
-        const char32_t character = CharacterOfByte(static_cast<unsigned char>(byte));
-        occurrences_.at(byte) = static_cast<std::uint32_t>(GetNumOccr(character, letters));
-        mayOccur_.at(byte) = occurrences_.at(byte) > 0 || character == U'-';
-    }
+    occurrences_ = TableOfBytes([letters](unsigned char byte) {
+        return static_cast<std::uint32_t>(GetNumOccr(CharacterOfByte(byte), letters));
+    });
+    mayOccur_ =
+        TableOfBytes([this](unsigned char byte) { return occurrences_[byte] > 0 || byte == '-'; });
     mayOccur_.at('\t') = false;  // a TAB ends the abbreviation, even if the user typed one
     for (const char32_t letter : letters) {
         signature_ = static_cast<AnagramSignature>(signature_ +

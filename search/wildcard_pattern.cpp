@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 
+#include "base/byte_table.h"
 #include "base/letter_case.h"
 #include "base/windows1252.h"
 
@@ -15,8 +16,6 @@ namespace brelex {
 namespace {
 
 using ByteSet = WildcardPattern::ByteSet;
-
-constexpr std::size_t kBytes = 256;
 
 // The meaning of a list in brackets.
 struct ListResult {
@@ -28,25 +27,23 @@ struct ListResult {
 // Maps bytes to characters. Without `matchCase`, maps them to lowercase letters.
 class CharacterTable {
   public:
-    explicit CharacterTable(bool matchCase) {
-        for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
-            const char32_t plain = CharacterOfByte(static_cast<unsigned char>(byte));
-            characters_.at(byte) = matchCase ? plain : SmallLetterOf(plain);
-        }
-    }
+    explicit CharacterTable(bool matchCase)
+        : characters_(TableOfBytes([matchCase](unsigned char byte) {
+              const char32_t plain = CharacterOfByte(byte);
+              return matchCase ? plain : SmallLetterOf(plain);
+          })) {}
 
     [[nodiscard]] ByteSet BytesOfRange(char32_t first, char32_t last) const {
         ByteSet set;
-        for (std::size_t byte = 0; byte < characters_.size(); ++byte) {
-            if (characters_.at(byte) >= first && characters_.at(byte) <= last) {
-                set.set(byte);
-            }
+        std::size_t byte = 0;
+        for (const char32_t character : characters_) {
+            set[byte++] = character >= first && character <= last;
         }
         return set;
     }
 
   private:
-    std::array<char32_t, kBytes> characters_{};  // of each byte
+    std::array<char32_t, 256> characters_;  // of each byte
 };
 
 // Reads the list that begins with the "[" at the front of `rest`, up to its "]".

@@ -30,6 +30,17 @@ TEST(TakePart, TakesATextApartAtItsSeparators) {
     EXPECT_EQ(parts, (std::vector<std::string>{"a", "", "bc"}));
 }
 
+TEST(NumberOf, IsTheNumberThatAllOfATextIs) {
+    EXPECT_EQ(NumberOf<int>("42"), 42);
+    EXPECT_EQ(NumberOf<int>("-7"), -7);
+    EXPECT_EQ(NumberOf<unsigned>("007"), 7U);
+    EXPECT_EQ(NumberOf<int>(std::string_view("123").substr(0, 2)), 12);
+    for (const char* const text : {"", "-", " 4", "4 ", "4x", "x", "99999999999"}) {
+        EXPECT_FALSE(NumberOf<int>(text).has_value()) << text;
+    }
+    EXPECT_FALSE(NumberOf<unsigned>("-7").has_value());
+}
+
 TEST(AsciiCapital, LeavesAllButSmallAsciiLettersAlone) {
     EXPECT_EQ(AsciiCapital('a'), 'A');
     EXPECT_EQ(AsciiCapital('z'), 'Z');
