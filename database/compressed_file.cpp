@@ -176,7 +176,8 @@ class Expander {
 
 // The declared length, but no more than `dataBytes` of data can expand to.
 std::size_t ExpectedBytes(std::string_view header, std::size_t dataBytes) {
-    const auto declared = ReadLittleEndian<std::uint32_t>(header.substr(header.size() - 4));
+    const auto declared =
+        ReadLittleEndian<std::uint32_t>(header.substr(header.size() - sizeof(std::uint32_t)));
     const std::uint64_t groups = dataBytes / kMaxGroupInput + 1;
     return static_cast<std::size_t>(
         std::min<std::uint64_t>({declared, groups * kMaxGroupOutput, kMaxExpandedBytes}));

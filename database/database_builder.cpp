@@ -6,9 +6,11 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <utility>
 
 #include "base/calendar_day.h"
+#include "base/little_endian.h"
 #include "base/text.h"
 #include "database/modCRC32.h"
 #include "database/record_text.h"
@@ -61,13 +63,13 @@ void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHea
             letters.push_back(AsciiCapital(abbreviation.front()));
         }
     }
-    std::array<std::int32_t, 256> counts{};
+    std::map<char, std::int32_t> counts;
     for (const char letter : letters) {
-        ++counts[static_cast<unsigned char>(letter)];
+        ++counts[letter];
     }
     // A second pass, so that the first in the file wins among equally frequent letters.
     for (const char letter : letters) {
-        const std::int32_t count = counts[static_cast<unsigned char>(letter)];
+        const std::int32_t count = counts[letter];
         if (count > header.CommonFirstLetterCount) {
             header.CommonFirstLetter = letter;
             header.CommonFirstLetterCount = count;
@@ -113,14 +115,12 @@ struct SortItem {
 };
 
 SortItem SortItemOf(const std::string& record) {
-    SortItem item{0, &record, true};
-    for (std::size_t i = 0; i < sizeof(item.beginning); ++i) {
-        // The end of a text weighs less than any byte.
-        const std::uint8_t weight = i < record.size() ? PlainWeightOf(record[i]) : std::uint8_t{0};
-        item.beginning = item.beginning << 8U | weight;
-        item.isPlain = item.isPlain && (weight != 0 || i >= record.size());
-    }
-    return item;
+    std::array<char, sizeof(std::uint64_t)> weights{};  // the end weighs less than any byte
+    const std::string_view first = std::string_view(record).substr(0, weights.size());
+    const auto end = std::transform(first.begin(), first.end(), weights.rbegin(),
+                                    [](char c) { return static_cast<char>(PlainWeightOf(c)); });
+    return {ReadLittleEndian<std::uint64_t>({weights.data(), weights.size()}), &record,
+            std::find(weights.rbegin(), end, 0) == end};
 }
 
 bool ComesBefore(const SortItem& a, const SortItem& b) {
@@ -164,13 +164,8 @@ BuiltDatabase BuildDatabase(DatabaseContent content) {
     const std::vector<const std::string*> records = UniqueInOrder(content.records);
     BuiltDatabase built;
     built.duplicatesDropped = content.records.size() - records.size();
-    std::size_t size = kHeaderBytes;
-    for (const std::string* record : records) {
-        size += record->size() + 1;
-    }
     std::string& expanded = built.expanded;
-    expanded.reserve(size);
-    expanded.assign(kHeaderBytes, '\0');
+    expanded.resize(kHeaderBytes);  // the header comes last
     for (const std::string* record : records) {
         assert(!record->empty() && record->find('\0') == std::string::npos);
         expanded.append(*record).push_back('\0');

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_file.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brelex {
 
 std::string_view ReasonText(LoadFailure failure) {
     switch (failure) {
+        case LoadFailure::None:
+            break;
         case LoadFailure::CannotDecode:
             return "Cannot decode a corrupt database. Loading was aborted.";
         case LoadFailure::CorruptHeader:
             return "The database header is corrupt. Loading was aborted.";
         case LoadFailure::BadHeader:
             return "Bad database header or corrupt data. Loading was aborted.";
-        case LoadFailure::None:
-            break;
     }
     return {};
 }
@@ -29,7 +30,7 @@ std::optional<ExpandedDatabase> ExpandDatabase(CompressedFile file) {
 }
 
 std::int32_t ProgressStepOf(std::int32_t recordCount) {
-    return recordCount > 0 ? recordCount / 100 + 1 : 1;
+    return std::max(recordCount, 0) / 100 + 1;
 }
 
 LoadFailure ReadExpandedDatabase(ExpandedDatabase database, DatabaseHeader& header,

@@ -28,7 +28,7 @@ enum class LoadFailure {
 /// What a database file expands to: its header, then its record block. Not checked yet.
 struct ExpandedDatabase {
     ExpandedFile content;
-    std::size_t fileLength = 0;  ///< bytes of the database file itself
+    std::size_t fileLength;  ///< bytes of the database file itself
 };
 
 /// Expands a whole database file. Nothing if it cannot be expanded.

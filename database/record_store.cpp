@@ -41,7 +41,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     file_ = std::move(file);
     block_ = file_.View().substr(blockAt);
     offsets_.reset();
-    SetRows(nullptr, nullptr, 0, 0);
+    SetRows(nullptr, nullptr, 0);
     if (recordCount <= 0) {
         return true;
     }
@@ -71,7 +71,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
         }
     }
     offsets_ = std::move(offsets);
-    SetRows(block_.data(), offsets_.get(), recordCount, 0);
+    SetRows(block_.data(), offsets_.get(), recordCount);
     return true;
 }
 

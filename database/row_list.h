@@ -49,7 +49,7 @@ class RowList {
     /// Makes the NUL-terminated texts at `block` the rows. Row i begins at `offsets[i]`, and a last
     /// offset says where the next row would begin. The caller keeps owning both.
     void SetRows(const char* block, const std::uint32_t* offsets, std::int32_t rowCount,
-                 std::size_t ascendingPrefixBytes) {
+                 std::size_t ascendingPrefixBytes = 0) {
         assert(rowCount >= 0);
         block_ = block;
         offsets_ = offsets;

@@ -24,8 +24,8 @@ class MatchFinder {
           older_(kRingBytes, kNone) {}
 
     struct Match {
-        std::size_t position = 0;
-        std::size_t length = 0;
+        std::size_t position;
+        std::size_t length;
     };
 
     void Insert(std::size_t position) {
@@ -37,7 +37,7 @@ class MatchFinder {
     }
 
     [[nodiscard]] Match Longest(std::size_t position) const {
-        Match best;
+        Match best{};
         const std::size_t limit = std::min(kMaxMatch, bytes_.size() - position);
         if (limit < kMinMatch) {
             return best;
@@ -134,7 +134,7 @@ std::string CompressSzdd(std::string_view bytes) {
     MatchFinder finder(bytes);
     GroupWriter groups(file);
     std::size_t position = 0;
-    MatchFinder::Match match;
+    MatchFinder::Match match{};
     while (position < bytes.size()) {
         finder.Insert(position);
         const MatchFinder::Match next = finder.Longest(position + 1);

@@ -45,6 +45,9 @@ class ByteShares {
 
 // The narrowest test that all bytes of a set pass.
 ByteTest TestOf(const WildcardPattern::ByteSet& set, unsigned char ignored) {
+    if (set.none()) {  // a character outside the code page: nothing can match
+        return {0xFF};
+    }
     int lowest = kBytes;
     int highest = -1;
     for (int byte = 0; byte < kBytes; ++byte) {
@@ -53,16 +56,13 @@ ByteTest TestOf(const WildcardPattern::ByteSet& set, unsigned char ignored) {
             highest = std::max(highest, byte | ignored);
         }
     }
-    if (highest < 0) {  // a character outside the code page: nothing can match
-        return {0xFF, 0, 0};
-    }
     return {ignored, static_cast<unsigned char>(lowest),
             static_cast<unsigned char>(highest - lowest)};
 }
 
 struct RatedTest {
     PlacedTest placed;
-    double share = 1;  // of the positions that pass
+    double share;  // of the positions that pass
 };
 
 RatedTest RarestTestOf(const WildcardPattern::ByteSet& set, std::size_t place,

@@ -51,9 +51,9 @@ std::vector<FixedPart> FixedPartsOf(const WildcardPattern& pattern, bool loose) 
         }
     };
     const auto& segments = pattern.Segments();
-    for (auto segment = segments.begin(); segment != segments.end(); ++segment) {
-        FixedPart part{{}, segment == segments.begin()};
-        for (const WildcardPattern::ByteSet& bytes : *segment) {
+    for (const WildcardPattern::Segment& segment : segments) {
+        FixedPart part{{}, &segment == &segments.front()};
+        for (const WildcardPattern::ByteSet& bytes : segment) {
             if (loose && bytes[' ']) {
                 add(part);
                 part = {};
@@ -61,7 +61,7 @@ std::vector<FixedPart> FixedPartsOf(const WildcardPattern& pattern, bool loose) 
                 part.bytes.push_back(bytes);
             }
         }
-        part.isAtEnd = segment + 1 == segments.end();
+        part.isAtEnd = &segment == &segments.back();
         add(part);
     }
     return parts;
@@ -101,9 +101,6 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
         const std::string bytes = BytesOfUtf8(request.text).bytes;
         const std::string word = loose_ ? LooseText(bytes) : bytes;
         word_ = matchCase_ ? word : SmallLettersOfBytes(word);
-    }
-    if (rows.RowCount() == 0) {
-        return;
     }
     // The bytes next to a field: the TAB between abbreviation and expansion, or the NUL at the end.
     const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
