@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Input: a byte for what follows (0: a database file, 1: an expanded one, 2: its records only, with
-// a header that fits), two bytes of fields to change (a bit each), a byte of search options, a text
-// to look up and search for, a NUL, letters, a NUL; for each field to change two bytes; what was
-// said to follow.
+// a header that fits), two bytes of fields to change (a bit each), a byte of options (the low six
+// bits: of the search; 64: the search list is the text; 128: the first temporary folder is full,
+// and without letters all are), a text to look up and search for, a NUL, letters, a NUL; for each
+// field to change two bytes; what was said to follow.
 #include <type_traits>
 #include <variant>
 
@@ -49,13 +50,14 @@ std::vector<std::string_view> RecordsOf(std::string_view block) {
 }
 
 // A header for the records, but for the fields that the input changes.
-DatabaseHeader HeaderOf(std::string_view block, unsigned changed, FuzzInput& input) {
+DatabaseHeader HeaderOf(std::string_view block, std::string_view searchList, unsigned changed,
+                        FuzzInput& input) {
     DatabaseHeader header = ComputeStatistics(RecordsOf(block));
     header.Version = 1;
     header.ReleaseDate = 46347;
     header.DataSize = static_cast<std::int32_t>(block.size());
     header.DataCRC = PlainCrc(block);
-    header.SearchListText = "word1another";
+    header.SearchListText = searchList;
     VisitFields([&](const char* /*name*/, auto member, FieldSource /*source*/) {
         using Field = std::remove_reference_t<decltype(header.*member)>;
         if ((changed & 1U) != 0) {
@@ -68,21 +70,34 @@ DatabaseHeader HeaderOf(std::string_view block, unsigned changed, FuzzInput& inp
     return header;
 }
 
-// Keeps to a folder of its own.
+// Keeps to a folder of its own and folders in it. Files can be written in all but the first `full`
+// of them. If any is full, the system names none.
 class Files final : public TemporaryFiles {
   public:
-    explicit Files(const FuzzFolder& folder) : folder_(folder) {}
+    Files(const FuzzFolder& folder, int full) : folder_(folder), full_(full) {
+        std::filesystem::create_directory(folder_.Path() / "other");
+    }
 
-    [[nodiscard]] std::string GetTempFolder() const override {
+    [[nodiscard]] std::string Folder() const {
         return WithTrailingSeparator(Utf8OfPath(folder_.Path()));
     }
 
+    [[nodiscard]] std::string GetTempFolder() const override { return full_ > 0 ? "" : Folder(); }
+
+    [[nodiscard]] std::vector<std::string> OtherFolders() const override {
+        return {Folder(), WithTrailingSeparator(Folder() + "other")};
+    }
+
     [[nodiscard]] bool WriteNewFile(const std::string& path, std::string_view bytes) override {
-        return folder_.Write(kTempFileName, bytes) == path;
+        std::ofstream file(PathOfUtf8(path), std::ios::binary);
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        return ++tried_ > full_ && file.flush().good();
     }
 
   private:
     const FuzzFolder& folder_;
+    int full_;
+    int tried_ = 0;
 };
 
 class Messages final : public MessageSink {
@@ -155,6 +170,10 @@ void CheckCutFile(ProgramValues values, TemporaryFiles& files, const FuzzFolder&
     WorkWatcher nobody;
     Require(IsDataIntact(values, files, nobody) == (PlainCrc(block) == values.Header.DataCRC),
             "what is missing of a file counts as zeros");
+    values.DatabasePath = folder.PathOf("missing.dat");
+    Require(IsDataIntact(values, files, nobody) ==
+                (PlainCrc(std::string(length, '\0')) == values.Header.DataCRC),
+            "all of a file can be missing");
 }
 
 // Shows everything that the program says about a database.
@@ -162,11 +181,12 @@ void Describe(const ProgramValues& values, const RecordStore& store) {
     (void)StatisticsOf(values);
     (void)SearchListItems(values.Header.SearchListText);
     const bool isIntact = PlainCrc(store.Block()) == values.Header.DataCRC;
-    Require(isIntact || !CheckDatabase(values.Header, store, FindFirstByPrefix).empty(),
-            "a check finds a wrong CRC");
+    const std::vector<std::string> findings =
+        CheckDatabase(values.Header, store, FindFirstByPrefix);
+    Require(isIntact || !findings.empty(), "a check finds a wrong CRC");
 }
 
-std::string FileOf(unsigned kind, unsigned changed, FuzzInput& input) {
+std::string FileOf(unsigned kind, std::string_view searchList, unsigned changed, FuzzInput& input) {
     if (kind == 0) {
         return std::string(input.Rest());
     }
@@ -180,7 +200,7 @@ std::string FileOf(unsigned kind, unsigned changed, FuzzInput& input) {
         }
     }
     const std::string block = std::string(input.Rest()) + '\0';
-    return CompressSzdd(EncodeHeader(HeaderOf(block, changed, fields)) + block);
+    return CompressSzdd(EncodeHeader(HeaderOf(block, searchList, changed, fields)) + block);
 }
 
 }  // namespace
@@ -196,21 +216,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const unsigned options = input.Byte();
     const std::string_view text = input.Text();
     const std::u32string letters = brelex::DecodeUtf8(input.Text());
-    const std::string file = brelex::FileOf(kind, changed, input);
+    const std::string_view searchList = (options & 64U) != 0 ? text : "word1another";
+    const std::string file = brelex::FileOf(kind, searchList, changed, input);
 
     brelex::RecordStore store;
     brelex::ProgramValues values;
     values.DatabasePath = folder.Write("Acronyms.dat", file);
     values.AcronymList = &store;
-    brelex::Files files(folder);
+    const int full = (options & 128U) == 0 ? 0 : letters.empty() ? 2 : 1;
+    brelex::Files files(folder, full);
+    values.AppFolder = files.Folder();
     brelex::Messages messages;
     brelex::Progress progress;
     const bool isLoaded = brelex::LoadDatabase(values, store, {files, progress, messages});
     brelex::DatabaseHeader header;
     brelex::RecordStore other;
-    brelex::Require(
-        isLoaded == (brelex::ReadDatabase(file, header, other) == brelex::LoadFailure::None),
-        "a file can be loaded from the disk if it can be from memory");
+    brelex::Require(isLoaded == (full < 2 && brelex::ReadDatabase(file, header, other) ==
+                                                 brelex::LoadFailure::None),
+                    "a file can be loaded from the disk if it can be from memory");
     brelex::Require(messages.Count() == (isLoaded ? 0 : 1), "the user is told of each failure");
     if (!isLoaded) {
         brelex::Require(store.RowCount() == 0, "a failure leaves no rows");

@@ -102,6 +102,9 @@ RecordFinder::RecordFinder(const SearchRequest& request, const RowList& rows,
         const std::string word = loose_ ? LooseText(bytes) : bytes;
         word_ = matchCase_ ? word : SmallLettersOfBytes(word);
     }
+    if (rows.RowCount() == 0) {
+        return;
+    }
     // The bytes next to a field: the TAB between abbreviation and expansion, or the NUL at the end.
     const WildcardPattern::ByteSet edge = WildcardPattern::ByteSet().set(0).set('\t');
     const std::string sample = Sample(rows);

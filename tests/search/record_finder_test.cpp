@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "database/record_store.h"
 #include "tests/support/fakes.h"
 #include "tests/support/named_case.h"
 
@@ -375,6 +376,15 @@ TEST(RecordFinder, KeepsTheHitsThatItWasGiven) {
     std::vector<std::int32_t> hits = {7};
     finder->FindHits(0, 3, 2, hits);
     EXPECT_EQ(hits, (std::vector<std::int32_t>{7, 0, 2}));
+}
+
+TEST(RecordFinder, FindsNothingInAStoreThatWasNeverFilled) {
+    const RecordStore nothing;
+    const auto finder = RecordFinder::Compile({"a*b", SearchIn::Expansions}, nothing);
+    ASSERT_TRUE(finder.has_value());
+    std::vector<std::int32_t> hits;
+    finder->FindHits(0, 0, 1, hits);
+    EXPECT_TRUE(hits.empty());
 }
 
 }  // namespace
