@@ -12,6 +12,7 @@
 #include "database/szdd.h"
 #include "fuzz/fuzz_support.h"
 #include "tools/open_database.h"
+#include "tools/visible_text.h"
 
 namespace brelex {
 
@@ -36,16 +37,22 @@ void WriteFiles(const FuzzFolder& folder) {
                  DatabaseOf({"ABC\tAtanasoff-Berry Computer", "PS/2\tPersonal System/2",
                              "RAM\tRandom Access Memory", "RAM\tRemote Area Monitoring",
                              "TCP/IP\tTransmission Control Protocol / Internet Protocol (a suite)",
-                             "\311cole\tschool"}));
+                             "\311cole\tschool", "\212\tcaron"}));
+    DatabaseContent good;
+    good.version = 1;
+    good.releaseDate = std::chrono::year(2026) / 11 / 21;
+    good.records = {"ABC\tAtanasoff-Berry Computer", "RAM\tRandom Access Memory"};
+    folder.Write("good.dat", CompressSzdd(BuildDatabase(std::move(good)).expanded));
     folder.Write("bad.dat", DatabaseOf({"", "no tab", "\x1B]0;title\x07\t\2332J", "B\t\r\n\x7F",
                                         "A\t\x81\xAD\xFF", "\"A,\\\t\"b\",c", "\t"}));
     folder.Write("damaged.dat", "SZDD");
     constexpr std::size_t kManyRecords = 520;  // more than a search returns
     folder.Write("many.dat", DatabaseOf(std::vector<std::string_view>(kManyRecords, "A\ta b")));
     folder.Write("list.tsv", "ABC\tAmerican Broadcasting Company\nXML\tmarkup\n");
-    folder.Write("d.index", "ABC\tA\tQ\n00-database-info\tQ\tQ\n");
+    folder.Write("d.index", "ABC\tA\tS\n00-database-info\tS\tO\n");
     folder.Write("d.dict", "ABC\n   alpha beta\nXYZ\n    omega\n");
-    folder.Write("corrections.tsv", "ABC\talpha beta\tABC\tbeta\n");
+    folder.Write("corrections.tsv", "XYZ\tomega\tXYZ\tlast\n");
+    folder.Write("corrected.tsv", "ABC\talpha beta\tABC\tbeta\n");
     folder.Write("bad.tsv", "\357\273\277A\tb\tc\nA\tb\nA\tb\nA\tb\t\t\x1B\nno tab\n");
     folder.Write("Licenses.txt", "licenses\n");
 }
@@ -102,6 +109,20 @@ void RequireHarmless(std::string text) {
         Require(!isControl || byte == '\n' || byte == '\t' || byte == '\r',
                 "a terminal gets no control characters");
     }
+}
+
+// A text as the program writes it to a terminal.
+std::string ShownText(const std::string& text) {
+    std::ostringstream shown;
+    {
+        const VisibleOutput output(shown);
+        for (std::size_t at = 0; at < text.size(); at += 7) {
+            shown << text.substr(at, 7) << text[at];
+            shown.flush();
+        }
+        shown.put('.');
+    }
+    return shown.str();
 }
 
 // A JSON array: brackets in pairs, and texts without control characters and with known escapes.
@@ -162,6 +183,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (out.str().starts_with("[")) {  // no entry of these databases begins like that
         brelex::RequireJson(out.str());
     }
+    brelex::RequireHarmless(brelex::ShownText(out.str() + err.str()));
     const bool isDatabase = out.str().starts_with(brelex::kSzddSignature);  // from "build -o -"
     if (columns > 0 && !isDatabase) {
         brelex::RequireHarmless(out.str());
