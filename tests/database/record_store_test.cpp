@@ -3,12 +3,14 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "database/szdd.h"
 #include "tests/support/fakes.h"
+#include "tests/support/memory_meter.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
@@ -127,6 +129,15 @@ INSTANTIATE_TEST_SUITE_P(
                     PrefixCase{"AccentAtTheSecondByte", "AB\0A\xC9\0"s, 2, 1},
                     PrefixCase{"AccentBehindTheDifference", "AB\xC9\0AC\xC9\0"s, 2, kAnyLength}),
     CaseName());
+
+TEST(RecordStore, TakesFourBytesForEachRecordAndOneMore) {
+    ExpandedFile file = FileOf(std::string(5000, '\0'));
+    RecordStore store;
+    WorkWatcher progress;
+    const MemoryMeter meter(1000);
+    ASSERT_TRUE(store.Fill(std::move(file), 0, 5000, 100, progress));
+    EXPECT_EQ(meter.Bytes(), 4U * 5001);
+}
 
 }  // namespace
 }  // namespace brelex

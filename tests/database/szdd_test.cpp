@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "database/modCRC32.h"
+#include "tests/support/memory_meter.h"
 #include "tests/support/test_files.h"
 
 namespace brelex {
@@ -174,6 +175,41 @@ std::string ManyBlanks() {
         }
     }
     return data;
+}
+
+// What is in front of the expanded bytes and behind them.
+constexpr std::size_t kRingAndGap = 4096 + 4096;
+
+std::size_t BytesToExpand(std::string_view file, std::size_t mostBytes = kMaxExpandedBytes) {
+    const MemoryMeter meter(1000);
+    (void)ExpandSzdd(file, mostBytes);
+    return meter.Bytes();
+}
+
+TEST(ExpandSzdd, TakesTheMemoryOnceThatTheFileSaysItNeeds) {
+    EXPECT_EQ(BytesToExpand(CompressSzdd(std::string(100000, 'x'))), kRingAndGap + 100000);
+}
+
+TEST(ExpandSzdd, AFileThatDeclaresTooMuchTakesOnlyWhatItsDataCanExpandTo) {
+    constexpr std::size_t kGroups = 100;
+    constexpr std::size_t kMostOfGroup = std::size_t{8} * 18;
+    EXPECT_EQ(BytesToExpand(File(std::string(17 * kGroups, '\0'), 0xFFFFFFFF)),
+              kRingAndGap + (kGroups + 1) * kMostOfGroup);
+}
+
+TEST(ExpandSzdd, AFileThatDeclaresTooLittleTakesTwiceTheMemoryInASecondBlock) {
+    constexpr std::size_t kRest = 9;
+    const std::string data = ManyBlanks() + std::string("\xFF") + "12345678";
+    const std::size_t first = kRingAndGap + data.size();
+    EXPECT_EQ(BytesToExpand(File(data, 0)), first + kRingAndGap + 2 * kManyBlanks + 2 * kRest);
+    EXPECT_EQ(BytesToExpand(File(data, 0), kManyBlanks + 8),
+              first + kRingAndGap + kManyBlanks + 8 + 8 * 18 + kRest);
+}
+
+TEST(CompressSzdd, TakesOneTableOf128KiBAtMost) {
+    const MemoryMeter meter(std::size_t{64} << 10U);
+    (void)CompressSzdd("few bytes");
+    EXPECT_EQ(meter.Bytes(), std::size_t{128} << 10U);
 }
 
 TEST(ExpandSzdd, AGroupThatIsCutOffBehindTheLargestContentDoesNoHarm) {

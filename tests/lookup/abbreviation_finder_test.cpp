@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/fakes.h"
+#include "tests/support/memory_meter.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
@@ -103,6 +104,27 @@ TEST(AbbreviationFinder, RanksSlipsByHowLikelyTheyAre) {
     EXPECT_EQ(AbbreviationFinder(rows).FindSimilar("abcd", 10),
               Texts({"ABDC", "ABCDE", "ABC", "ABCE", "BACD", "XBCD"}));
     EXPECT_EQ(AbbreviationFinder(rows).FindSimilar("abcd", 2), Texts({"ABDC", "ABCDE"}));
+}
+
+TEST(AbbreviationFinder, TakesEightBytesForEachRowFromTheSecondSearchOn) {
+    const FakeRows rows(std::vector<std::string>(5000, "ABC\tx"));
+    AbbreviationFinder finder(rows);
+    for (const std::size_t expected : {0U, 40000U, 0U}) {
+        const MemoryMeter meter(1000);
+        (void)finder.Find("XY");
+        EXPECT_EQ(meter.Bytes(), expected);
+    }
+}
+
+// Looking at an abbreviation this long takes memory for its letters.
+TEST(AbbreviationFinder, LooksAtNoRowWithMoreThanTwoOtherLetters) {
+    const std::string letters(100, 'A');
+    const FakeRows rows(std::vector<std::string>(50, letters + "BCD\tx"));
+    AbbreviationFinder finder(rows);
+    (void)finder.FindSimilar("X", 10);
+    const MemoryMeter meter(100);
+    EXPECT_EQ(finder.FindSimilar("A", 10), Texts({}));
+    EXPECT_EQ(meter.Bytes(), 0U);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "tests/support/fakes.h"
+#include "tests/support/memory_meter.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
@@ -255,6 +256,17 @@ TEST(AnagramFinder, ReportsTheSameWhenItHasSearchedBefore) {
     }
 }
 
+TEST(AnagramFinder, TakesTwoBytesForEachRowFromTheSecondSearchOn) {
+    const FakeRows rows(std::vector<std::string>(5000, "ABC\tx"));
+    AnagramFinder finder(rows);
+    const AnagramLetters letters(U"XY");
+    for (const std::size_t expected : {0U, 10000U, 0U}) {
+        const MemoryMeter meter(1000);
+        (void)finder.Find(letters, nullptr);
+        EXPECT_EQ(meter.Bytes(), expected);
+    }
+}
+
 TEST(AnagramFinder, FindsAllAfterASearchThatWasStopped) {
     const FakeRows rows = CpuAmong(500, 300);
     AnagramFinder finder(rows);
@@ -282,6 +294,18 @@ TEST(AnagramFinder, FindsEveryByteInEitherCase) {
                 << byte;
         }
     }
+}
+
+// A hit is compared in a copy, which takes memory if it is this long.
+TEST(AnagramLetters, CopiesNoAbbreviationWithOtherLetters) {
+    const AnagramLetters letters(std::u32string(99, U'A') + U'B');
+    const std::string hit = std::string(99, 'a') + "b\tx";
+    const std::string other = std::string(99, 'a') + "c\tx";
+    const MemoryMeter meter(100);
+    EXPECT_FALSE(letters.IsHit(other));
+    EXPECT_EQ(meter.Bytes(), 0U);
+    EXPECT_TRUE(letters.IsHit(hit));
+    EXPECT_GT(meter.Bytes(), 0U);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 
 #include "database/record_store.h"
 #include "tests/support/fakes.h"
+#include "tests/support/memory_meter.h"
 #include "tests/support/named_case.h"
 
 namespace brelex {
@@ -385,6 +386,23 @@ TEST(RecordFinder, FindsNothingInAStoreThatWasNeverFilled) {
     std::vector<std::int32_t> hits;
     finder->FindHits(0, 0, 1, hits);
     EXPECT_TRUE(hits.empty());
+}
+
+// A loose search copies each field that it looks at, which takes memory if it is this long.
+TEST(RecordFinder, LooksOnlyAtTheFirstRecordAndThoseWithTheRarestFragment) {
+    std::vector<std::string> records(1000, "A\t" + std::string(200, 'x'));
+    records[500] += "needle";
+    const FakeRows rows(records);
+    SearchRequest request;
+    request.text = "needle";
+    request.loose = true;
+    request.position = SearchPosition::Ending;
+    const auto finder = RecordFinder::Compile(request, rows);
+    std::vector<std::int32_t> hits;
+    const MemoryMeter meter(200);
+    finder->FindHits(0, rows.RowCount(), 10, hits);
+    EXPECT_EQ(hits, (std::vector<std::int32_t>{500}));
+    EXPECT_LT(meter.Bytes(), 3U * 200);
 }
 
 }  // namespace

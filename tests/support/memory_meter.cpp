@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/memory_meter.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+namespace {
+
+constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+std::atomic<std::size_t> smallestCounted = kNone;
+std::atomic<std::size_t> bytesCounted = 0;
+
+}  // namespace
+
+// The test program uses these in place of the standard library's own.
+
+void* operator new(std::size_t size) {
+    if (size >= smallestCounted) {
+        bytesCounted += size;
+    }
+    void* const block = std::malloc(std::max<std::size_t>(size, 1));
+    if (block == nullptr) {
+        throw std::bad_alloc();
+    }
+    return block;
+}
+
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t /*size*/) noexcept {
+    std::free(block);
+}
+
+namespace brelex {
+
+MemoryMeter::MemoryMeter(std::size_t smallest) {
+    bytesCounted = 0;
+    smallestCounted = smallest;
+}
+
+MemoryMeter::~MemoryMeter() {
+    smallestCounted = kNone;
+}
+
+std::size_t MemoryMeter::Bytes() const {
+    return bytesCounted;
+}
+
+}  // namespace brelex
