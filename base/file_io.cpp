@@ -57,9 +57,8 @@ std::optional<std::string> FindFileIgnoringCase(const std::string& folder, std::
          entry.increment(error)) {
         const std::string spelling = Utf8OfPath(entry->path().filename());
         // The system lists them in any order.
-        if (SameIgnoringCase(spelling, name) && IsFile(entry->path()) &&
-            (!found || folder + spelling < *found)) {
-            found = folder + spelling;
+        if (SameIgnoringCase(spelling, name) && IsFile(entry->path())) {
+            found = std::min(found.value_or(folder + spelling), folder + spelling);
         }
     }
     return found;

@@ -48,7 +48,7 @@ constexpr std::array<std::uint32_t, 256> kCrcTable = {
     0xB3667A2E, 0xC4614AB8, 0x5D681B02, 0x2A6F2B94, 0xB40BBE37, 0xC30C8EA1, 0x5A05DF1B, 0x2D02EF8D,
 };
 
-constexpr std::size_t kStride = 8;
+constexpr std::size_t kStride = sizeof(std::uint64_t);
 
 // Entry i of table k is the CRC register after shifting the byte i and k zeros through it.
 constexpr std::array<std::array<std::uint32_t, 256>, kStride> kStrideTables = [] {

@@ -42,9 +42,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     block_ = file_.View().substr(blockAt);
     offsets_.reset();
     SetRows(nullptr, nullptr, 0);
-    if (recordCount <= 0) {
-        return true;
-    }
+    recordCount = std::max(recordCount, 0);
     const auto wanted = static_cast<std::size_t>(recordCount);
     // A record takes at least one byte. So a count beyond the block's size is wrong, and no memory
     // is reserved for it.
@@ -55,7 +53,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
     offsets[0] = 0;
     const char* next = block_.data();
     const char* const end = next + block_.size();
-    std::int32_t nextReport = 0;
+    std::int64_t nextReport = 0;
     for (std::int32_t row = 0; row < recordCount; ++row) {
         const void* const nul = std::memchr(next, 0, static_cast<std::size_t>(end - next));
         if (nul == nullptr) {
@@ -66,8 +64,7 @@ bool RecordStore::Fill(ExpandedFile file, std::size_t blockAt, std::int32_t reco
             static_cast<std::uint32_t>(next - block_.data());
         if (row == nextReport) {
             progress.SetProgress(PercentOf(row, recordCount));
-            // Behind the last report, the sum could be too large for its type.
-            nextReport = recordCount - row > progressStep ? row + progressStep : recordCount;
+            nextReport += progressStep;
         }
     }
     offsets_ = std::move(offsets);
