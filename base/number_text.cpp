@@ -16,7 +16,8 @@ namespace brelex {
 namespace {
 
 bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
+    constexpr std::string_view kDigits = "0123456789";
+    return kDigits.find(c) != std::string_view::npos;
 }
 
 // `text` without its group separators. Nothing if it is not digits or the groups are wrong.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 #include "base/app_info.h"
 
@@ -34,18 +35,20 @@ SearchOutcome SearchDatabase(const RecordFinder& finder, const RowList& rows, st
             watcher == nullptr ? rows.RowCount() : EndOfStretch(row, rows.RowCount());
         std::size_t told = hits.size();
         finder.FindHits(row, end, wanted - told, hits);
-        const bool limitReached = hits.size() == wanted;
-        const std::int32_t nextPosition = limitReached ? hits.back() : 0;
-        hits.resize(hits.size() - (limitReached ? 1 : 0));
+        std::optional<std::int32_t> nextPosition;
+        if (hits.size() == wanted) {
+            nextPosition = hits.back();
+            hits.pop_back();
+        }
         while (watcher != nullptr && told < hits.size()) {
             if (!watcher->OnHit(hits[told++])) {
                 hits.resize(told);
                 return outcome;
             }
         }
-        if (limitReached) {
+        if (nextPosition) {
             outcome.limitReached = true;
-            outcome.nextPosition = nextPosition;
+            outcome.nextPosition = *nextPosition;
             return outcome;
         }
         row = end;

@@ -206,6 +206,16 @@ TEST(ExpandSzdd, AFileThatDeclaresTooLittleTakesTwiceTheMemoryInASecondBlock) {
               first + kRingAndGap + kManyBlanks + 8 + 8 * 18 + kRest);
 }
 
+// 31 groups of long matches leave room for two more groups with little to spare.
+TEST(ExpandSzdd, ASecondBlockIsTakenOnlyIfTheNextGroupMightNotFit) {
+    const std::string longGroups = ManyBlanks().substr(0, std::size_t{31} * 17);
+    const std::string shortMatches(14, '\0');
+    const std::string fits = longGroups + '\0' + shortMatches + std::string("\0\0", 2) + "\1x";
+    EXPECT_EQ(BytesToExpand(File(fits, 0)), kRingAndGap + fits.size());
+    const std::string mayNotFit = longGroups + '\0' + shortMatches + std::string("\0\1", 2) + "\1x";
+    EXPECT_GT(BytesToExpand(File(mayNotFit, 0)), 2 * kRingAndGap);
+}
+
 TEST(CompressSzdd, TakesOneTableOf128KiBAtMost) {
     const MemoryMeter meter(std::size_t{64} << 10U);
     (void)CompressSzdd("few bytes");

@@ -405,5 +405,14 @@ TEST(RecordFinder, LooksOnlyAtTheFirstRecordAndThoseWithTheRarestFragment) {
     EXPECT_LT(meter.Bytes(), 3U * 200);
 }
 
+// The sample grows to 4 KiB by doubling, each time with a byte for its end.
+TEST(RecordFinder, RatesItsFragmentsByASampleOf4KiB) {
+    const FakeRows rows(std::vector<std::string>(5001, "A\tbcd"));
+    const MemoryMeter meter(1500);
+    const auto finder = RecordFinder::Compile({"b", SearchIn::Expansions}, rows);
+    EXPECT_TRUE(finder.has_value());
+    EXPECT_EQ(meter.Bytes(), 2049U + 4097U);
+}
+
 }  // namespace
 }  // namespace brelex
