@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -68,9 +69,10 @@ char32_t TakeCharacter(std::string_view& rest) {
 
 void AppendUtf8(std::string& utf8, char32_t character) {
     const auto append = [&utf8](char32_t byte) { utf8.push_back(static_cast<char>(byte)); };
-    if (character < 0x80) {
+    const auto bits = std::bit_width(static_cast<std::uint32_t>(character));
+    if (bits <= 7) {
         append(character);
-    } else if (character < 0x800) {
+    } else if (bits <= 11) {
         append(0xC0U | (character >> 6U));
         append(0x80U | (character & 0x3FU));
     } else {  // Windows-1252 has nothing above FFFF

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <unordered_map>
 #include <utility>
 
 #include "base/calendar_day.h"
@@ -80,29 +81,16 @@ void CountFirstLetters(const std::vector<std::string_view>& records, DatabaseHea
 // Counts by exact spelling. Records whose abbreviations differ only in case may be interleaved, so
 // equal ones are not always adjacent.
 void CountExpansions(const std::vector<std::string_view>& records, DatabaseHeader& header) {
-    std::vector<std::pair<std::string_view, std::size_t>> byAbbreviation;
-    byAbbreviation.reserve(records.size());
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        byAbbreviation.emplace_back(GetAbbreviation(records[i]), i);
+    std::unordered_map<std::string_view, std::int32_t> counts;
+    for (const std::string_view record : records) {
+        ++counts[GetAbbreviation(record)];
     }
-    std::sort(byAbbreviation.begin(), byAbbreviation.end());
-    std::size_t begin = 0;
-    while (begin < byAbbreviation.size()) {
-        std::size_t end = begin;
-        while (end < byAbbreviation.size() &&
-               byAbbreviation[end].first == byAbbreviation[begin].first) {
-            ++end;
-        }
-        const std::int32_t count = Int32(end - begin);
-        const std::int32_t first = Int32(byAbbreviation[begin].second);
-        const bool more = count > header.MostExpansionsCount;
-        const bool sameButEarlier =
-            count == header.MostExpansionsCount && first < header.MostExpansionsIndex;
-        if (more || sameButEarlier) {
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const std::int32_t count = counts[GetAbbreviation(records[i])];
+        if (count > header.MostExpansionsCount) {
             header.MostExpansionsCount = count;
-            header.MostExpansionsIndex = first;
+            header.MostExpansionsIndex = Int32(i);
         }
-        begin = end;
     }
 }
 

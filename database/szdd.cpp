@@ -88,7 +88,7 @@ class MatchFinder {
 // Writes items in groups of eight, each after its byte of flags.
 class GroupWriter {
   public:
-    explicit GroupWriter(std::string& file) : file_(file) {}
+    explicit GroupWriter(std::string& file) : file_(file), flagsAt_(file.size()) {}
 
     void Literal(char byte) {
         BeginItem(true);
@@ -116,7 +116,7 @@ class GroupWriter {
     }
 
     std::string& file_;
-    std::size_t flagsAt_ = 0;
+    std::size_t flagsAt_;  // where the flags of the group are
     std::size_t items_ = 0;
 };
 

@@ -141,8 +141,9 @@ AnagramLetters::AnagramLetters(std::u32string_view letters) : length_(letters.si
         TableOfBytes([this](unsigned char byte) { return occurrences_[byte] > 0 || byte == '-'; });
     mayOccur_.at('\t') = false;  // a TAB ends the abbreviation, even if the user typed one
     for (const char32_t letter : letters) {
-        signature_ = static_cast<AnagramSignature>(signature_ +
-                                                   Parts()[ByteOfCharacter(letter).value_or(0)]);
+        if (const auto byte = ByteOfCharacter(letter)) {
+            signature_ = static_cast<AnagramSignature>(signature_ + Parts()[*byte]);
+        }
     }
 }
 
@@ -172,9 +173,6 @@ bool AnagramLetters::IsHit(std::string_view recordText) const {
 
 // Signs the rows that are not signed yet.
 void AnagramFinder::SignRowsBefore(std::int32_t end) {
-    if (end <= signedRows_) {
-        return;
-    }
     signatures_.resize(static_cast<std::size_t>(rows_.RowCount()));
     const SignatureParts& parts = Parts();
     std::string_view text = rows_.TextOfRows(signedRows_, rows_.RowCount());
@@ -182,7 +180,7 @@ void AnagramFinder::SignRowsBefore(std::int32_t end) {
         signatures_[static_cast<std::size_t>(row)] = SignatureOfBeginning(text, parts);
         text.remove_prefix(rows_.RowText(row).size() + 1);
     }
-    signedRows_ = end;
+    signedRows_ = std::max(signedRows_, end);
 }
 
 bool AnagramFinder::MayHaveHits(std::int32_t first, std::int32_t end, AnagramSignature wanted) {

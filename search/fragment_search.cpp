@@ -65,18 +65,16 @@ struct RatedTest {
     double share;  // of the positions that pass
 };
 
+bool IsRarer(const RatedTest& a, const RatedTest& b) {
+    return a.share < b.share;
+}
+
 RatedTest RarestTestOf(const WildcardPattern::ByteSet& set, std::size_t place,
                        const ByteShares& shares) {
     const ByteTest exact = TestOf(set, 0);
     const ByteTest caseless = TestOf(set, kCaseBit);
-    const double exactShare = shares.Of(exact);
-    const double caselessShare = shares.Of(caseless);
-    return caselessShare < exactShare ? RatedTest{{place, caseless}, caselessShare}
-                                      : RatedTest{{place, exact}, exactShare};
-}
-
-bool IsRarer(const RatedTest& a, const RatedTest& b) {
-    return a.share < b.share;
+    return std::min(RatedTest{{place, exact}, shares.Of(exact)},
+                    RatedTest{{place, caseless}, shares.Of(caseless)}, IsRarer);
 }
 
 bool Passes(std::string_view sample, std::size_t position, const PlacedTest& placed) {

@@ -162,7 +162,7 @@ std::string_view RecordFinder::MatchIn(std::string_view recordText) const {
 // record.
 bool RecordFinder::IsInField(std::string_view recordText, const char* found) const {
     const std::string_view field = FieldOf(recordText);
-    return found >= field.data() && found + onlyFragment_ <= field.data() + field.size();
+    return found >= field.data() && found + *onlyFragment_ <= field.data() + field.size();
 }
 
 void RecordFinder::FindHits(std::int32_t first, std::int32_t last, std::size_t limit,
@@ -190,12 +190,12 @@ void RecordFinder::FindHits(std::int32_t first, std::int32_t last, std::size_t l
         row = rows_.RowHolding(text.data() + found, row);
         const std::string_view record = rows_.RowText(row);
         const bool isHit =
-            onlyFragment_ > 0 ? IsInField(record, text.data() + position) : IsHit(record);
+            onlyFragment_ ? IsInField(record, text.data() + position) : IsHit(record);
         if (isHit) {
             hits.push_back(row);
         }
         // If only the place matters, a later one in the same record may be right.
-        if (isHit || onlyFragment_ == 0) {
+        if (isHit || !onlyFragment_) {
             next = static_cast<std::size_t>(record.data() + record.size() - text.data()) + 1;
         }
         // Not from the next record, although one look at each is enough: the processor can already

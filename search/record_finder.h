@@ -52,8 +52,8 @@ class RecordFinder {
         word_;  // the whole word to find, in lowercase if case does not matter
     std::optional<FragmentSearch> rarest_;  // empty if the pattern consists of stars
     std::size_t edge_ = 0;  // bytes before the field that belong to the rarest fragment
-    std::size_t onlyFragment_ =
-        0;  // the length of that fragment if any field that contains it matches
+    // The length of that fragment if any field that contains it matches.
+    std::optional<std::size_t> onlyFragment_;
 };
 
 }  // namespace brelex

@@ -19,9 +19,9 @@ using ByteSet = WildcardPattern::ByteSet;
 
 // The meaning of a list in brackets.
 struct ListResult {
-    bool isValid = false;
-    bool matchesEmptyText = false;  // the list is "[]"
-    ByteSet bytes;                  // one of these bytes, if not the empty text
+    bool isValid;
+    bool matchesEmptyText;  // the list is "[]"
+    ByteSet bytes;          // one of these bytes, if not the empty text
 };
 
 // Maps bytes to characters. Without `matchCase`, maps them to lowercase letters.
@@ -53,7 +53,7 @@ ListResult TakeList(std::u32string_view& rest, const CharacterTable& characters)
     if (negated) {
         rest.remove_prefix(1);
     }
-    ListResult list;
+    ListResult list{};
     list.matchesEmptyText = rest.starts_with(U']') && !negated;
     while (!rest.empty() && rest.front() != U']') {
         const char32_t first = rest.front();
