@@ -133,7 +133,12 @@ void frmMain::BindEvents() {
     }
 }
 
+// A key or a click may arrive between the moment when the window closes and its destruction. What
+// it opened would outlive the window.
 void frmMain::Run(Command command) {
+    if (wxTheApp->IsScheduledForDestruction(this)) {
+        return;
+    }
     switch (command) {
         case Command::Exit:
             Close();

@@ -153,6 +153,19 @@ TEST_F(FrmMainLayout, ClosingUnloadsTheWindowsThatAreKept) {
     }));
 }
 
+// The window is destroyed a moment after it closes, and a key or a click may arrive in between.
+TEST_F(FrmMainLayout, AClosedWindowOpensNothing) {
+    for (const Command command :
+         {Command::Search, Command::Anagram, Command::About, Command::GoToRow}) {
+        frmMain* const window = std::exchange(window_, nullptr);
+        window->Close();
+        window->Run(command);
+        EXPECT_EQ(OpenModalDialog(), nullptr);
+        EXPECT_TRUE(WaitFor([&] { return wxTopLevelWindows.Find(window) == nullptr; }));
+        Start(SampleEntries());
+    }
+}
+
 class FrmMainOptions : public MainWindowTest {
   protected:
     void Choose(Command command) {
