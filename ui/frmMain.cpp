@@ -10,6 +10,7 @@
 #include <wx/utils.h>
 
 #include "platform/desktop/wx_message_sink.h"
+#include "platform/window/menu_bar_keys.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/modGeneral.h"
@@ -76,6 +77,7 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
     SetName("frmMain");
     SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
+    LetGoOfUnopenedMenus(*GetMenuBar());
     PlaceControls();
     BindEvents();
     std::vector<ControlHint> hints = lookup_.Hints();

@@ -21,6 +21,9 @@
 #include "ui/controls/toolbar.h"
 #include "ui/main/main_menus.h"
 
+// Last, because it defines words such as None and Status.
+#include <X11/Xlib.h>
+
 namespace brelex {
 namespace {
 
@@ -148,6 +151,21 @@ TEST_F(MainWindowTest, AMenuFlattensTheIconOfTheToolbar) {
     ASSERT_TRUE(WaitFor([] { return !MenuOnScreen().IsEmpty(); }));
     user_.Char(WXK_ESCAPE);
     EXPECT_TRUE(WaitFor([] { return MenuOnScreen().IsEmpty(); }));
+}
+
+// As long as another program holds the mouse, no menu can open.
+TEST_F(MainWindowTest, AMenuThatCannotOpenLeavesTheKeyboardToTheWindow) {
+    Display* const other = XOpenDisplay(nullptr);
+    ASSERT_EQ(XGrabPointer(other, DefaultRootWindow(other), False, ButtonPressMask, GrabModeAsync,
+                           GrabModeAsync, None, None, CurrentTime),
+              GrabSuccess);
+    user_.Char('O', wxMOD_ALT);
+    LetEventsArrive();
+    XCloseDisplay(other);
+    user_.Char(WXK_ESCAPE);
+    LetEventsArrive();
+    EXPECT_EQ(gtk_grab_get_current(), nullptr);
+    Type("x", "X");
 }
 
 TEST_F(HotKey, BringsACoveredWindowForward) {
