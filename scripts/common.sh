@@ -40,7 +40,8 @@ windows_packages=(cmake ninja-build g++-mingw-w64-i686-posix libz-mingw-w64-dev 
                   xz-utils mmdebstrap bubblewrap libcli11-dev librsvg2-bin icoutils
                   ca-certificates)
 display_packages=(xvfb openbox dbus x11-utils imagemagick fonts-dejavu-core adwaita-icon-theme
-                  librsvg2-common util-linux trayer xfwm4 metacity)
+                  librsvg2-common util-linux trayer xfwm4 metacity python3 xclip
+                  libxtst6 libxres1)
 
 # They make packages, and list and check what is in them.
 package_packages=(git gzip zip file fakeroot dpkg-dev python3 librsvg2-bin base-files)
