@@ -9,8 +9,8 @@
 #include <wx/app.h>
 #include <wx/utils.h>
 
+#include "platform/desktop/unopened_menus.h"
 #include "platform/desktop/wx_message_sink.h"
-#include "platform/window/menu_bar_keys.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/modGeneral.h"
@@ -77,7 +77,7 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
     SetName("frmMain");
     SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
-    LetGoOfUnopenedMenus(*GetMenuBar());
+    LetGoOfUnopenedMenus();
     PlaceControls();
     BindEvents();
     std::vector<ControlHint> hints = lookup_.Hints();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/window/menu_bar_keys.h"
+#include "platform/desktop/unopened_menus.h"
 
 namespace brelex {
 
 // Windows opens menus in any case.
-void LetGoOfUnopenedMenus(wxMenuBar& /*bar*/) {}
+void LetGoOfUnopenedMenus() {}
 
 }  // namespace brelex
