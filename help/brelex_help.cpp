@@ -3,6 +3,7 @@
 // at its first page. "brelex-help --register" makes this program open help books for the current
 // user; "--unregister" undoes that.
 #include <wx/app.h>
+#include <wx/clipbrd.h>
 #include <wx/filename.h>
 #include <wx/filesys.h>
 #include <wx/msgdlg.h>
@@ -12,6 +13,7 @@
 #include "help/help_viewer.h"
 #include "platform/desktop/help_association.h"
 #include "platform/desktop/program_identity.h"
+#include "platform/desktop/unopened_menus.h"
 #include "platform/system/library_search.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/system/program_folder.h"
@@ -33,6 +35,7 @@ class HelpApp final : public wxApp {
         SetAppName(kProgram);
         SetSpokenProgramName(kHelpTitle);
         MakeFocusMarksSeen();
+        LetGoOfUnopenedMenus();
         const wxString argument = Argument(1);
         if (argument == "--register" || argument == "--unregister") {
             done_ = OpenHelpFilesWith(argument == "--register"
@@ -49,6 +52,18 @@ class HelpApp final : public wxApp {
             return wxApp::OnRun();
         }
         return done_ ? 0 : 1;
+    }
+
+    // What the user copied stays on the clipboard if the desktop keeps it. The toolkit clears only
+    // the selection that was used last. Windows has only one, and it is the clipboard.
+    int OnExit() override {
+        wxTheClipboard->UsePrimarySelection(true);
+        if (wxTheClipboard->IsUsingPrimarySelection()) {
+            wxTheClipboard->Clear();
+        }
+        wxTheClipboard->UsePrimarySelection(false);
+        wxTheClipboard->Flush();
+        return wxApp::OnExit();
     }
 
   private:
