@@ -42,7 +42,7 @@ ALL_WINDOWS = ["Brevilexicon (", "About Brevilexicon", "Anagrammatic Search", "C
 LONG_SECONDS = 600
 MEMORY_GROWTH = 1.10  # from the end of the warm-up on
 # Menus, hints and lists that drop down are made when they are first used, and kept.
-MORE_HANDLES = 3
+MORE_HANDLES = 6
 MORE_WINDOWS = 16
 
 

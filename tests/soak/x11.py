@@ -39,6 +39,17 @@ class ClientId(ctypes.Structure):
     _fields_ = [("spec", ClientIdSpec), ("length", ctypes.c_long), ("value", ctypes.c_void_p)]
 
 
+class WindowAttributes(ctypes.Structure):
+    _fields_ = [("x", ctypes.c_int), ("y", ctypes.c_int), ("width", ctypes.c_int),
+                ("height", ctypes.c_int), ("border_width", ctypes.c_int), ("depth", ctypes.c_int),
+                ("visual", ctypes.c_void_p), ("root", ctypes.c_ulong),
+                ("appearance", ctypes.c_int * 4), ("backing", ctypes.c_ulong * 2),
+                ("save_under", ctypes.c_int), ("colormap", ctypes.c_ulong),
+                ("map_installed", ctypes.c_int), ("map_state", ctypes.c_int),
+                ("event_masks", ctypes.c_long * 3), ("override_redirect", ctypes.c_int),
+                ("screen", ctypes.c_void_p)]
+
+
 class ResourceCount(ctypes.Structure):
     _fields_ = [("type", ctypes.c_ulong), ("count", ctypes.c_uint)]
 
@@ -142,6 +153,24 @@ class Screen:
     def windows(self):
         """The windows that the window manager has, as numbers, in the order of their creation."""
         return self.property(self.root.value, "_NET_CLIENT_LIST") or []
+
+    def menus(self):
+        """The open menus and other windows that the window manager has nothing to do with."""
+        ids = ctypes.POINTER(ctypes.c_ulong)()
+        root, parent, count = ctypes.c_ulong(), ctypes.c_ulong(), ctypes.c_uint()
+        XLIB.XQueryTree(self.display, self.root, ctypes.byref(root), ctypes.byref(parent),
+                        ctypes.byref(ids), ctypes.byref(count))
+        children = ids[:count.value]
+        if count.value:
+            XLIB.XFree(ids)
+        return [child for child in children if self.is_menu(child)]
+
+    def is_menu(self, window):
+        viewable = 2
+        attributes = WindowAttributes()
+        return (XLIB.XGetWindowAttributes(self.display, ctypes.c_ulong(window),
+                                          ctypes.byref(attributes)) != 0 and
+                attributes.override_redirect != 0 and attributes.map_state == viewable)
 
     def active(self):
         return (self.property(self.root.value, "_NET_ACTIVE_WINDOW") or [0])[0]
