@@ -19,6 +19,8 @@ PANEL = "panel"  # shows the icon in the notification area
 ALARMING_TITLES = ("Debug Alert", "Program Error", "Fatal Error", "Assertion")
 # What the program may write to its standard error, with the reason.
 ALLOWED_LINES = [
+    # The help's print dialog asks for printers.
+    r"Couldn't connect to D-Bus system bus",
     # A list or text that the window manager makes lower than its scroll bar.
     r"gtk_box_gadget_distribute: assertion 'size >= 0' failed in Gtk(Scrollbar|Notebook)",
     # A menu that cannot open because another program, such as the window manager, has the mouse.
@@ -156,6 +158,7 @@ class Program:
             subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                              stderr=subprocess.DEVNULL)
             time.sleep(1)
+            self.screen.use_one_desktop()
 
     def opened(self):
         path = self.folder / "opened"

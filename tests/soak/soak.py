@@ -83,6 +83,7 @@ class Soak:
 
     def run(self):
         running = self.start()
+        self.screen.use_one_desktop()
         self.tour()
         settle_every = min(60, max(10, self.options.seconds / 6))
         next_settling = settle_every

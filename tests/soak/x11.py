@@ -216,6 +216,10 @@ class Screen:
     def activate(self, window):
         self.send(window, "_NET_ACTIVE_WINDOW", [FROM_PAGER, 0])
 
+    def use_one_desktop(self):
+        """Otherwise the wheel beside all windows, among others, would lead to the next desktop."""
+        self.send(self.root.value, "_NET_NUMBER_OF_DESKTOPS", [1])
+
     def close(self, window):
         self.send(window, "_NET_CLOSE_WINDOW", [0, FROM_PAGER])
 
