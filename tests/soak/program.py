@@ -21,8 +21,13 @@ ALARMING_TITLES = ("Debug Alert", "Program Error", "Fatal Error", "Assertion")
 ALLOWED_LINES = [
     # The help's print dialog asks for printers.
     r"Couldn't connect to D-Bus system bus",
-    # A list or text that the window manager makes lower than its scroll bar.
+    # A list that is laid out while its window is still coming up.
     r"gtk_box_gadget_distribute: assertion 'size >= 0' failed in Gtk(Scrollbar|Notebook)",
+    # A window that closes while a list in it still glides to where it was scrolled. GTK ends that twice.
+    r"gdk_frame_clock_idle_end_updating: assertion 'priv->updating_count > 0' failed",
+    r"g_signal_handler_disconnect: assertion 'handler_id > 0' failed",
+    # The toolkit also moves those controls in a scrolled window that are hidden.
+    r"gtk_widget_set_allocation: assertion '_gtk_widget_get_visible",
     # A menu that cannot open because another program, such as the window manager, has the mouse.
     r"gdk_window_get_window_type: assertion 'GDK_IS_WINDOW \(window\)' failed",
 ]
