@@ -207,11 +207,16 @@ class Program:
                     self.screen.click()
 
     def usage(self, action):
+        """What the program has of the system, memory in KiB. None if it is just ending."""
         resources = self.screen.resources(self.id)
-        status = pathlib.Path(f"/proc/{self.id}/status").read_text()
-        memory = int(re.search(r"VmRSS:\s*(\d+)", status)[1])
-        return Usage(action, memory, len(os.listdir(f"/proc/{self.id}/fd")), resources["WINDOW"],
-                     sum(resources.values()))
+        try:
+            status = pathlib.Path(f"/proc/{self.id}/status").read_text()
+            memory = re.search(r"VmRSS:\s*(\d+)", status)
+            handles = len(os.listdir(f"/proc/{self.id}/fd"))
+        except OSError:
+            return None
+        return memory and Usage(action, int(memory[1]), handles, resources["WINDOW"],
+                                sum(resources.values()))
 
     def stack(self):
         """Where the program is, if a debugger is installed."""

@@ -191,9 +191,10 @@ class Soak:
         if self.bring_back():
             self.check_answers()
             time.sleep(0.5)
-        if not self.program.is_over():
-            self.lives[-1].append(self.program.usage(self.number))
-            print(f"{self.seconds():6.0f} s: {self.lives[-1][-1]}", flush=True)
+        usage = self.program.usage(self.number)
+        if usage:
+            self.lives[-1].append(usage)
+            print(f"{self.seconds():6.0f} s: {usage}", flush=True)
 
     def measured(self):
         """The longest life of the program after its first third, when all windows were there once."""
