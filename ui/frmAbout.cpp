@@ -45,7 +45,7 @@ frmAbout::frmAbout(wxTopLevelWindow* main, const ProgramValues& values,
 }
 
 void frmAbout::CreateControls() {
-    picAppTitle = Named(new TitleImage(surface_), "picAppTitle", kAppTitle);
+    picAppTitle = Named(new TitleImage(surface_), "picAppTitle");
     picAppTitle->FitInto({units_.Pixels(kTitleWidth), units_.Pixels(kTitleHeight)});
     lblDescription = NewLabel("lblDescription", "The best offline database of computer acronyms");
     lblVersion = NewLabel(
@@ -57,15 +57,18 @@ void frmAbout::CreateControls() {
     lblDBVersion->Hide();  // even an empty label takes up a line
     lblHyperLink[0] = Named(new Link(surface_, WxText(values_.info.homePage),
                                      [this] { openAddress_(Utf8Text(lblHyperLink[0]->Text())); }),
-                            "lblHyperLink0", "Home page");
+                            "lblHyperLink0");
+    lblHyperLink[0]->DescribeAs("Home page", lblHyperLink[0]->Text());
     lblHyperLink[1] =
         Named(new Link(surface_, WxText(values_.info.supportAddress),
                        [this] { openAddress_("mailto:" + Utf8Text(lblHyperLink[1]->Text())); }),
-              "lblHyperLink1", "Support by e-mail");
+              "lblHyperLink1");
+    lblHyperLink[1]->DescribeAs("Support by e-mail", "mailto:" + lblHyperLink[1]->Text());
     picPayPal = Named(new PaintedText(surface_), "picPayPal");
     imgPayPalDonate = Named(new Link(surface_, DonateButtonPicture(),
                                      [this] { openAddress_(values_.info.donationPage); }),
-                            "imgPayPalDonate", kDonateText);
+                            "imgPayPalDonate");
+    imgPayPalDonate->DescribeAs(kDonateText, WxText(values_.info.donationPage));
     cmdOK = Named(new wxButton(surface_, wxID_OK, "OK"), "cmdOK");
     cmdOK->SetDefault();
     SetEscapeId(wxID_OK);

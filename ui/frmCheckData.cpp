@@ -28,8 +28,6 @@ constexpr double kBarHeight = 24;
 
 constexpr int kBlinkMs = 500;
 
-const char* const kProgress = "Progress";  // as a screen reader says it
-
 const char* const kExplanation =
     "Checks data integrity of the database. The integrity check will fail even if a single letter "
     "in the database has changed. It may be due to a corrupt installation file or a bad sector on "
@@ -57,7 +55,7 @@ frmCheckData::frmCheckData(wxTopLevelWindow* main, const ProgramValues& values,
 void frmCheckData::CreateControls() {
     lblExplanation_ = Named(new wxStaticText(surface_, wxID_ANY, kExplanation), "lblExplanation");
     lblMessage = Named(NewLabel(surface_), "lblMessage");
-    picProgbar = Named(new ProgressBar(surface_), "picProgbar", kProgress);
+    picProgbar = Named(new ProgressBar(surface_), "picProgbar");
     surface_->FrameChild(*picProgbar);
     resultArea_ = new Backdrop(surface_);
     imgResult = Named(new wxStaticBitmap(resultArea_, wxID_ANY, PassedPicture()), "imgResult");
@@ -132,16 +130,11 @@ void frmCheckData::ShowDisplay(const CheckDisplay& display) {
 }
 
 void frmCheckData::DrawProgress(std::optional<int> percent) {
-    constexpr int kSpokenStep = 10;
-    if (!percent) {
-        SetSpokenName(*picProgbar, kProgress);
+    if (percent) {
+        picProgbar->SetPercent(*percent);
+    } else {
         picProgbar->Clear();
-        return;
     }
-    if (*percent % kSpokenStep == 0) {
-        SetSpokenName(*picProgbar, wxString::Format("%s %d%%", kProgress, *percent));
-    }
-    picProgbar->SetPercent(*percent);
 }
 
 void frmCheckData::ShowResult(const CheckDisplay& display) {

@@ -40,8 +40,8 @@ std::vector<ScrollLine> LinesOf(const std::vector<CreditRecord>& records, const 
 
 frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     : SideWindow(*about, "frmCredit", "Credits") {
-    picAbout =
-        Named(new ScrollArea(surface_, LinesOf(Credits(info), GetFont())), "picAbout", "Credits");
+    picAbout = Named(new ScrollArea(surface_, LinesOf(Credits(info), GetFont())), "picAbout");
+    picAbout->DescribeAs("Credits");
     surface_->FrameChild(*picAbout);
     StopWithWindow(picAbout->tmrScrollText);
     picAbout->SetMinSize(
@@ -50,6 +50,7 @@ frmCredit::frmCredit(wxTopLevelWindow* about, const AppInfo& info)
     all->Add(picAbout, 1, wxEXPAND | wxALL, units_.Pixels(kWindowMargin));
     FillWindow(all);
     Bind(wxEVT_CHAR_HOOK, &frmCredit::OnKey, this);
+    picAbout->SetFocus();  // there is nothing else, and screen readers begin at the focus
 }
 
 // The toolkit's own handling of the key needs a button.

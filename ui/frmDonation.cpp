@@ -43,12 +43,14 @@ frmDonation::frmDonation(wxTopLevelWindow* main, const AppInfo& info,
 }
 
 void frmDonation::CreateControls() {
-    picCredit = Named(new ScrollArea(surface_, Lines(GetFont())), "picCredit", "Behind the scenes");
+    picCredit = Named(new ScrollArea(surface_, Lines(GetFont())), "picCredit");
+    picCredit->DescribeAs("Behind the scenes");
     surface_->FrameChild(*picCredit);
     StopWithWindow(picCredit->tmrScrollText);
     imgPayPalDonate =
         Named(new Link(surface_, DonateButtonPicture(), [this] { OpenDonationPage(); }),
-              "imgPayPalDonate", kDonateText);
+              "imgPayPalDonate");
+    imgPayPalDonate->DescribeAs(kDonateText, WxText(info_.donationPage));
     cmdDonate = Named(new wxButton(surface_, wxID_ANY, "&Donate..."), "cmdDonate");
     cmdCancel = Named(new wxButton(surface_, wxID_CANCEL, "Cancel"), "cmdCancel");
     cmdDonate->SetDefault();

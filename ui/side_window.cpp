@@ -5,6 +5,7 @@
 #include <wx/textctrl.h>
 #include <wx/timer.h>
 
+#include "platform/window/spoken_object.h"
 #include "platform/window/window_place.h"
 #include "toolkit/app_icon.h"
 #include "ui/controls/menu_request.h"
@@ -21,6 +22,7 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
       owner_(owner) {
     SetName(name);
     SetIcons(AppIcons());
+    MakeSpokenDialog(*this);
     // Centers again once the desktop has put its frame around the window.
     OnEachShowing(*this, [this] { CenterOverOwner(); });
 }

@@ -9,6 +9,13 @@ namespace brelex {
 /// Sets the name that a screen reader says for a window.
 void SetSpokenName(wxWindow& window, const wxString& spokenName);
 
+/// Sets what a screen reader says about a window after its name. If the window has the focus, it is
+/// said at once.
+void SetSpokenDescription(wxWindow& window, const wxString& description);
+
+/// Has a screen reader say the name or text of a window now, although it does not have the focus.
+void Announce(wxWindow& window);
+
 /// Sets the name by which tests find a new control, and returns the control. A control that shows
 /// no text of its own also gets the name that a screen reader says.
 template <typename Control>

@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "platform/window/accessible_name.h"
 
+#include <wx/combobox.h>
 #include <wx/dataview.h>
 
 #include <gtk/gtk.h>
+
+#include "platform/window/spoken_widget_gtk.h"
 
 namespace brelex {
 
 namespace {
 
-// Finds the widget that gets the focus. The toolkit puts lists and multi-line texts into a scrolled
-// window, and the text of a combo box into the box.
+AtkObject* SpokenObjectOf(wxWindow& window) {
+    return gtk_widget_get_accessible(FocusableWidget(window));
+}
+
+}  // namespace
+
 GtkWidget* FocusableWidget(wxWindow& window) {
     if (auto* dataView = dynamic_cast<wxDataViewCtrl*>(&window)) {
         return dataView->GtkGetTreeView();
@@ -23,11 +30,24 @@ GtkWidget* FocusableWidget(wxWindow& window) {
     return child != nullptr ? child : widget;
 }
 
-}  // namespace
-
 void SetSpokenName(wxWindow& window, const wxString& spokenName) {
     // The toolkit does not pass its name on to the accessibility layer (seen with 3.2.2).
-    atk_object_set_name(gtk_widget_get_accessible(FocusableWidget(window)), spokenName.utf8_str());
+    atk_object_set_name(SpokenObjectOf(window), spokenName.utf8_str());
+    if (auto* const combo = dynamic_cast<wxComboBox*>(&window)) {
+        atk_object_set_name(gtk_widget_get_accessible(combo->GetHandle()), spokenName.utf8_str());
+    }
+}
+
+void SetSpokenDescription(wxWindow& window, const wxString& description) {
+    atk_object_set_description(SpokenObjectOf(window), description.utf8_str());
+}
+
+void Announce(wxWindow& window) {
+    AtkObject* const object = SpokenObjectOf(window);
+    const char* const text = atk_object_get_name(object);
+    if (text != nullptr && *text != '\0' && g_signal_lookup("announcement", ATK_TYPE_OBJECT) != 0) {
+        g_signal_emit_by_name(object, "announcement", text);
+    }
 }
 
 }  // namespace brelex

@@ -1,33 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "platform/window/accessible_name.h"
 
-#include <wx/access.h>
+#include <windows.h>
+
+#include "platform/window/spoken_accessible_msw.h"
 
 namespace brelex {
 
-namespace {
-
-// The system's own description of a window, with a different name.
-class NamedAccessible final : public wxAccessible {
-  public:
-    NamedAccessible(wxWindow* window, const wxString& name) : wxAccessible(window), name_(name) {}
-
-    wxAccStatus GetName(int childId, wxString* name) override {
-        if (childId != wxACC_SELF) {
-            return wxACC_NOT_IMPLEMENTED;
-        }
-        *name = name_;
-        return wxACC_OK;
-    }
-
-  private:
-    wxString name_;
-};
-
-}  // namespace
-
 void SetSpokenName(wxWindow& window, const wxString& spokenName) {
-    window.SetAccessible(new NamedAccessible(&window, spokenName));
+    SpokenAccessible::Of(window).SetName(spokenName);
+}
+
+void SetSpokenDescription(wxWindow& window, const wxString& description) {
+    SpokenAccessible::Of(window).SetDescription(description);
+}
+
+void Announce(wxWindow& window) {
+    constexpr DWORD kLiveRegionChanged = 0x8019;  // which not all headers have
+    NotifyWinEvent(kLiveRegionChanged, window.GetHWND(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 }  // namespace brelex

@@ -7,7 +7,7 @@
 #include <wx/dcgraph.h>
 #include <wx/settings.h>
 
-#include "platform/window/accessible_name.h"
+#include "platform/window/spoken_object.h"
 #include "ui/controls/colours.h"
 
 namespace brelex {
@@ -28,7 +28,8 @@ ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
     : Backdrop(parent),
       units_(units),
       secondColumn_(units.Pixels(kExpansionTextAt)) {
-    Named(this, "picColHeader", "Abbreviation, Expansion");
+    SetName("picColHeader");
+    SetSpokenObject(*this, {.role = SpokenRole::Text, .name = "Abbreviation, Expansion"});
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ColumnHeader::OnPaint, this);
 }

@@ -6,6 +6,8 @@
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
+#include "platform/window/spoken_object.h"
+
 namespace brelex {
 
 namespace {
@@ -111,6 +113,14 @@ void Link::OnKey(wxKeyEvent& event) {
     } else if (!std::exchange(isKeyDown_, true)) {
         open_();
     }
+}
+
+void Link::DescribeAs(const wxString& purpose, const wxString& address) {
+    SetSpokenObject(*this, {.role = SpokenRole::Link,
+                            .name = text_.empty() ? purpose : text_,
+                            .description = text_.empty() ? wxString() : purpose,
+                            .address = address,
+                            .act = [this] { open_(); }});
 }
 
 void Link::SetHot(bool hot) {

@@ -25,6 +25,10 @@ class Link final : public wxWindow {
 
     [[nodiscard]] const wxString& Text() const { return text_; }
 
+    /// Tells screen readers what the link is for and the address that it opens. Its name is its
+    /// text, or the purpose if it is a picture.
+    void DescribeAs(const wxString& purpose, const wxString& address);
+
     [[nodiscard]] bool IsUnderlined() const { return isHot_; }
 
     /// Draws the text or picture, but not the mark of the focus.

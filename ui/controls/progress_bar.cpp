@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/progress_bar.h"
 
+#include <algorithm>
 #include <string>
 
 #include <wx/dcbuffer.h>
 #include <wx/math.h>
 #include <wx/settings.h>
 
+#include "platform/window/spoken_object.h"
 #include "ui/controls/colours.h"
 
 namespace brelex {
@@ -14,17 +16,26 @@ namespace brelex {
 ProgressBar::ProgressBar(wxWindow* parent) : Backdrop(parent) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Bind(wxEVT_PAINT, &ProgressBar::OnPaint, this);
+    Describe();
 }
 
 void ProgressBar::SetPercent(int percent) {
     percent_ = percent;
+    Describe();
     Refresh();
     Update();  // the busy code lets events run only now and then
 }
 
 void ProgressBar::Clear() {
     percent_ = -1;
+    Describe();
     Refresh();
+}
+
+void ProgressBar::Describe() {
+    SetSpokenObject(
+        *this,
+        {.role = SpokenRole::ProgressBar, .name = "Progress", .percent = std::max(percent_, 0)});
 }
 
 void ProgressBar::OnPaint(wxPaintEvent& /*event*/) {

@@ -24,6 +24,7 @@ class ProgressBar final : public Backdrop {
 
   private:
     void OnPaint(wxPaintEvent& event);
+    void Describe();
 
     int percent_ = -1;
 };

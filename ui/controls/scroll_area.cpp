@@ -8,6 +8,7 @@
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
+#include "platform/window/spoken_object.h"
 #include "presentation/moving_text.h"
 #include "ui/controls/colours.h"
 
@@ -33,6 +34,14 @@ ScrollArea::ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines)
     Bind(wxEVT_PAINT, &ScrollArea::OnPaint, this);
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) { OnTick(); });
     tmrScrollText.StartOnce(kFirstTickMs);
+}
+
+void ScrollArea::DescribeAs(const wxString& name) {
+    wxString text;
+    for (const ScrollLine& line : lines_) {
+        text += (text.empty() ? "" : "\n") + line.text;
+    }
+    SetSpokenObject(*this, {.role = SpokenRole::Text, .name = name, .text = text});
 }
 
 void ScrollArea::Measure() {

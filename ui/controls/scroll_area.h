@@ -26,6 +26,9 @@ class ScrollArea final : public Backdrop {
 
     [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
 
+    /// Gives the text a name for screen readers, which read all lines.
+    void DescribeAs(const wxString& name);
+
     /// The current distance of the first line from the top, in pixels.
     [[nodiscard]] int Position() const { return position_; }
 

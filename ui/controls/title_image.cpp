@@ -7,6 +7,7 @@
 #include <wx/settings.h>
 
 #include "base/app_info.h"
+#include "platform/window/spoken_object.h"
 #include "toolkit/app_icon.h"
 
 namespace brelex {
@@ -35,6 +36,7 @@ wxFont FittingFont(const wxWindow& window, const wxSize& size) {
 
 TitleImage::TitleImage(wxWindow* parent) : Backdrop(parent), gap_(FromDIP(6)) {
     SetDoubleBuffered(true);
+    SetSpokenObject(*this, {.role = SpokenRole::Image, .name = kAppTitle});
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
         wxPaintDC dc(this);
         Draw(dc);

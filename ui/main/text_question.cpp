@@ -7,6 +7,7 @@
 #include <wx/textctrl.h>
 
 #include "platform/window/accessible_name.h"
+#include "platform/window/spoken_object.h"
 #include "toolkit/app_icon.h"
 
 namespace brelex {
@@ -20,6 +21,7 @@ TextQuestion::TextQuestion(wxWindow* owner, const wxString& title, const wxStrin
     wxDialog::Create(owner, wxID_ANY, title);
     SetName("TextQuestion");
     SetIcons(AppIcons());
+    MakeSpokenDialog(*this);
     m_dialogStyle = wxOK | wxCANCEL;
     m_value = proposed;
 

@@ -14,7 +14,7 @@ namespace brelex {
 
 TitleArea::TitleArea(Surface& surface)
     : lblAppTitle(Named(new Backdrop(&surface), "lblAppTitle")),
-      imgAppTitle(Named(new TitleImage(lblAppTitle), "imgAppTitle", kAppTitle)) {
+      imgAppTitle(Named(new TitleImage(lblAppTitle), "imgAppTitle")) {
     surface.FrameChild(*lblAppTitle);
 }
 
