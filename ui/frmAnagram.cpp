@@ -13,6 +13,7 @@
 
 #include "platform/window/accessible_name.h"
 #include "platform/window/drop_down_list.h"
+#include "platform/window/plain_text.h"
 #include "platform/window/prompt_button.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
@@ -60,7 +61,7 @@ frmAnagram::~frmAnagram() {
     DestroyChildren();
 }
 
-// In the order in which the TAB key visits them.
+// In the order in which the TAB key visits them and a screen reader reads them.
 void frmAnagram::CreateControls() {
     lblOverview =
         Named(new wxStaticText(surface_, wxID_ANY, wxString::Format(kOverview, kAppTitle)),
@@ -74,6 +75,11 @@ void frmAnagram::CreateControls() {
     cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
     cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
     lblWordLen = Named(NewFact("999"), "lblWordLen");
+    lblLetters_ = NewPlainText(surface_, "letter(s)");
+    lblRearrangements_ = NewPlainText(surface_, "Number of possible rearrangements:");
+    // The numbers have these in their names.
+    LeaveUnspoken(*lblLetters_);
+    LeaveUnspoken(*lblRearrangements_);
     lblPossiblePerms = Named(NewFact("999,999,999,999,999,999,999,999"), "lblPossiblePerms");
     lblPercentDone = Named(NewFact("Done 100%  Found 999", wxALIGN_RIGHT), "lblPercentDone");
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
@@ -91,8 +97,7 @@ void frmAnagram::CreateControls() {
 }
 
 wxStaticText* frmAnagram::NewFact(const char* widest, long alignment) const {
-    auto* fact = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                  wxDefaultSize, wxST_NO_AUTORESIZE | alignment);
+    auto* fact = NewPlainText(surface_, wxEmptyString, wxST_NO_AUTORESIZE | alignment);
     fact->SetMinSize({GetTextExtent(widest).x, -1});
     return fact;
 }
@@ -102,9 +107,8 @@ wxSizer* frmAnagram::LayoutOfLetters() {
     const int gap = units_.Pixels(kControlGap);
     auto* counts = new wxBoxSizer(wxHORIZONTAL);
     counts->Add(lblWordLen, 0, wxRIGHT, gap / 2);
-    counts->Add(new wxStaticText(surface_, wxID_ANY, "letter(s)"), 0, wxRIGHT, 2 * gap);
-    counts->Add(new wxStaticText(surface_, wxID_ANY, "Number of possible rearrangements:"), 0,
-                wxRIGHT, gap / 2);
+    counts->Add(lblLetters_, 0, wxRIGHT, 2 * gap);
+    counts->Add(lblRearrangements_, 0, wxRIGHT, gap / 2);
     counts->Add(lblPossiblePerms, 1);
 
     auto* letters = new wxBoxSizer(wxVERTICAL);
@@ -194,9 +198,13 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
         ShowBusy(display.isBusy);
     }
     cmdSearch->Enable(display.canSearch);
-    lblWordLen->SetLabelText(WxText(display.letterCount));
-    lblPossiblePerms->SetLabelText(WxText(display.rearrangements));
+    ShowFact(*lblWordLen, WxText(display.letterCount), "letter(s)");
+    ShowFact(*lblPossiblePerms, WxText(display.rearrangements), "possible rearrangements");
     lblPercentDone->SetLabelText(WxText(display.percentDone));
+    if (isNew(&AnagramDisplay::percentDone) && !display.isBusy) {
+        SetSpokenDescription(lstAnagrams->Window(), WxText(display.percentDone));
+        Announce(*lblPercentDone);
+    }
     if (display.isBusy) {
         lblPercentDone->Update();
     }
@@ -207,6 +215,15 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
     }
     if (isNew(&AnagramDisplay::listTip)) {
         lstAnagrams->Window().SetToolTip(WxText(display.listTip));
+    }
+}
+
+// A screen reader says the unit with the number, and says both when they change.
+void frmAnagram::ShowFact(wxStaticText& label, const wxString& number, const char* unit) {
+    if (label.GetLabelText() != number) {
+        label.SetLabelText(number);
+        SetSpokenName(label, number + " " + unit);
+        Announce(label);
     }
 }
 

@@ -62,6 +62,7 @@ class frmAnagram final : public SideWindow, private AnagramView {
     void HideWindow() override;
 
     void ShowBusy(bool busy);
+    static void ShowFact(wxStaticText& label, const wxString& number, const char* unit);
     [[nodiscard]] std::string TypedLetters() const;
     void OnClose(wxCloseEvent& event);
 
@@ -74,6 +75,8 @@ class frmAnagram final : public SideWindow, private AnagramView {
     wxComboBox* cboLetters = nullptr;
     std::optional<ComboTextLimit> textLimit_;
     wxStaticText* lblWordLen = nullptr;
+    wxStaticText* lblLetters_ = nullptr;
+    wxStaticText* lblRearrangements_ = nullptr;
     wxStaticText* lblPossiblePerms = nullptr;
     wxButton* cmdSearch = nullptr;
     wxButton* cmdCancel = nullptr;

@@ -144,6 +144,9 @@ void frmCheckData::ShowResult(const CheckDisplay& display) {
     imgResult->Show(isThere);
     // The text itself appears and disappears.
     SetSpokenName(*imgResult, isThere ? display.resultText : "Result");
+    if (isThere) {
+        Announce(*imgResult);
+    }
     const wxColour ground = lblResult->GetBackgroundColour();
     lblResult->SetForegroundColour(passed ? BlueOn(ground) : DarkRedOn(ground));
     lblResult->SetLabelText(WxText(display.resultText));

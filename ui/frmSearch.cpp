@@ -240,6 +240,8 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
     options_->OfferToGoOn(display.canGoOn);
     if (isNew(&SearchDisplay::status)) {
         lblStatus->SetLabelText(WxText(display.status));
+        SetSpokenDescription(*txtSearchResult, WxText(display.status));
+        Announce(*lblStatus);
     }
     if (isNew(&SearchDisplay::count) || isNew(&SearchDisplay::countTone)) {
         lblCount->SetForegroundColour(display.countTone == Tone::Warning

@@ -24,7 +24,8 @@ frmSplash::frmSplash(const AppInfo& info)
     SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
 
     constexpr int kIconSize = 72;
-    auto* icon = new wxStaticBitmap(this, wxID_ANY, AppIcon(kIconSize));
+    auto* icon =
+        Named(new wxStaticBitmap(this, wxID_ANY, AppIcon(kIconSize)), "imgAppIcon", kAppTitle);
     auto* lblTitle = NewLabel("lblTitle", kAppTitle);
     lblTitle->SetFont(GetFont().Bold().Scaled(2.0F));
     auto* lblVersion = NewLabel(

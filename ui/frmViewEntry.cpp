@@ -12,6 +12,7 @@
 #include "database/record_text.h"
 #include "platform/list/text_columns.h"
 #include "platform/window/accessible_name.h"
+#include "platform/window/plain_text.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
 #include "ui/controls/artwork.h"
@@ -64,14 +65,16 @@ frmViewEntry::frmViewEntry(wxTopLevelWindow* main, std::function<std::string_vie
     cmdOK->SetFocus();
 }
 
-// In the order in which the TAB key visits them.
+// In the order in which the TAB key visits them and a screen reader reads them.
 void frmViewEntry::CreateControls() {
     lblAbbreviation_ = new wxStaticText(surface_, wxID_ANY, "&Abbreviation:");
     txtAbbrv = Named(new ReadOnlyBox(surface_, wxTE_NO_VSCROLL), "txtAbbrv", "Abbreviation");
+    lblAbbrLen = Named(NewCount(), "lblAbbrLen");
+    lblAbbrUnit_ = NewPlainText(surface_, "letters");
     lblExpansion_ = new wxStaticText(surface_, wxID_ANY, "&Expansion:");
     txtExpn = Named(new ReadOnlyBox(surface_, ScrollStyle()), "txtExpn", "Expansion");
-    lblAbbrLen = Named(NewCount(), "lblAbbrLen");
     lblExpnLen = Named(NewCount(), "lblExpnLen");
+    lblExpnUnit_ = NewPlainText(surface_, "letters");
     cmdCopy = Named(new wxButton(surface_, wxID_ANY, "Copy"), "cmdCopy");
     cmdCopy->SetBitmap(CopyPicture());
     cmdCopy->SetBitmapMargins(units_.Pixels(4), 0);
@@ -82,8 +85,7 @@ void frmViewEntry::CreateControls() {
 }
 
 wxStaticText* frmViewEntry::NewCount() const {
-    auto* count = new wxStaticText(surface_, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                                   wxDefaultSize, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
+    auto* count = NewPlainText(surface_, wxEmptyString, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
     count->SetMinSize({GetTextExtent("99999").x, -1});
     return count;
 }
@@ -94,10 +96,11 @@ long frmViewEntry::ScrollStyle() const {
     return width < units_.Pixels(kWidthWithoutScrolling) ? wxTE_NO_VSCROLL : 0;
 }
 
-wxSizer* frmViewEntry::LayoutOfCount(wxStaticText* count) {
+wxSizer* frmViewEntry::LayoutOfCount(wxStaticText* count, wxStaticText* unit) {
     auto* line = new wxBoxSizer(wxHORIZONTAL);
     line->Add(count, 0, wxRIGHT, units_.Pixels(4));
-    line->Add(new wxStaticText(surface_, wxID_ANY, "letters"));
+    line->Add(unit);
+    LeaveUnspoken(*unit);  // the count has it in its name
     return line;
 }
 
@@ -110,10 +113,10 @@ void frmViewEntry::PlaceControls() {
     MakeRoomForLines(kExpansionLines, *txtExpn);
     entry->Add(lblAbbreviation_, 0, wxTOP, toFirstLine);
     entry->Add(txtAbbrv, 0, wxEXPAND);
-    entry->Add(LayoutOfCount(lblAbbrLen), 0, wxTOP, toFirstLine);
+    entry->Add(LayoutOfCount(lblAbbrLen, lblAbbrUnit_), 0, wxTOP, toFirstLine);
     entry->Add(lblExpansion_, 0, wxTOP, toFirstLine);
     entry->Add(txtExpn, 0, wxEXPAND);
-    entry->Add(LayoutOfCount(lblExpnLen), 0, wxTOP, toFirstLine);
+    entry->Add(LayoutOfCount(lblExpnLen, lblExpnUnit_), 0, wxTOP, toFirstLine);
 
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     buttons->AddStretchSpacer();
@@ -139,7 +142,9 @@ void frmViewEntry::ShowEntry() {
     const std::string_view entry = selectedEntry_();
     const auto show = [](std::string_view text, wxTextCtrl& box, wxStaticText& count) {
         box.ChangeValue(WxTextOfBytes(text));
-        count.SetLabelText(std::to_string(LetterCount(text)));
+        const std::string letters = std::to_string(LetterCount(text));
+        count.SetLabelText(letters);
+        SetSpokenName(count, letters + " letters");
     };
     show(GetAbbreviation(entry), *txtAbbrv, *lblAbbrLen);
     show(GetExpansion(entry), *txtExpn, *lblExpnLen);

@@ -26,7 +26,7 @@ class frmViewEntry final : public SideWindow {
     void CreateControls();
     [[nodiscard]] long ScrollStyle() const;
     [[nodiscard]] wxStaticText* NewCount() const;
-    [[nodiscard]] wxSizer* LayoutOfCount(wxStaticText* count);
+    [[nodiscard]] wxSizer* LayoutOfCount(wxStaticText* count, wxStaticText* unit);
     void PlaceControls();
     void BindEvents(const AppInfo& info);
     void ShowEntry();
@@ -37,9 +37,11 @@ class frmViewEntry final : public SideWindow {
     wxStaticText* lblAbbreviation_ = nullptr;
     wxTextCtrl* txtAbbrv = nullptr;
     wxStaticText* lblAbbrLen = nullptr;
+    wxStaticText* lblAbbrUnit_ = nullptr;
     wxStaticText* lblExpansion_ = nullptr;
     wxTextCtrl* txtExpn = nullptr;
     wxStaticText* lblExpnLen = nullptr;
+    wxStaticText* lblExpnUnit_ = nullptr;
     wxButton* cmdCopy = nullptr;
     wxButton* cmdOK = nullptr;
 };

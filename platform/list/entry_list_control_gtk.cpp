@@ -2,6 +2,7 @@
 #include "platform/list/entry_list_control.h"
 
 #include <algorithm>
+#include <array>
 
 #include <wx/dataview.h>
 #include <wx/settings.h>
@@ -78,8 +79,10 @@ class EntryListControlGtk final : public wxDataViewCtrl, public EntryListControl
     EntryListControlGtk(wxWindow& parent, int expansionTextAt)
         : wxDataViewCtrl(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                          wxDV_SINGLE | wxDV_NO_HEADER) {
+        // Only screen readers tell the titles.
+        const std::array<const char*, 2> titles = {"Abbreviation", "Expansion"};
         for (const unsigned column : {0U, 1U}) {
-            AppendTextColumn(wxEmptyString, column, wxDATAVIEW_CELL_INERT)
+            AppendTextColumn(titles.at(column), column, wxDATAVIEW_CELL_INERT)
                 ->GetRenderer()
                 ->EnableEllipsize(wxELLIPSIZE_END);
         }

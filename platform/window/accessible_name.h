@@ -16,6 +16,9 @@ void SetSpokenDescription(wxWindow& window, const wxString& description);
 /// Has a screen reader say the name or text of a window now, although it does not have the focus.
 void Announce(wxWindow& window);
 
+/// Has screen readers leave a window out, because another one has a name that says it all.
+void LeaveUnspoken(wxWindow& window);
+
 /// Sets the name by which tests find a new control, and returns the control. A control that shows
 /// no text of its own also gets the name that a screen reader says.
 template <typename Control>

@@ -42,6 +42,10 @@ void SetSpokenDescription(wxWindow& window, const wxString& description) {
     atk_object_set_description(SpokenObjectOf(window), description.utf8_str());
 }
 
+void LeaveUnspoken(wxWindow& window) {
+    atk_object_set_role(SpokenObjectOf(window), ATK_ROLE_REDUNDANT_OBJECT);
+}
+
 void Announce(wxWindow& window) {
     AtkObject* const object = SpokenObjectOf(window);
     const char* const text = atk_object_get_name(object);

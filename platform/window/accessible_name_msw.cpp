@@ -15,6 +15,10 @@ void SetSpokenDescription(wxWindow& window, const wxString& description) {
     SpokenAccessible::Of(window).SetDescription(description);
 }
 
+void LeaveUnspoken(wxWindow& window) {
+    SpokenAccessible::Of(window).LeaveUnspoken();
+}
+
 void Announce(wxWindow& window) {
     constexpr DWORD kLiveRegionChanged = 0x8019;  // which not all headers have
     NotifyWinEvent(kLiveRegionChanged, window.GetHWND(), OBJID_CLIENT, CHILDID_SELF);

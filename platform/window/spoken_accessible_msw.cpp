@@ -128,6 +128,10 @@ wxAccStatus SpokenAccessible::GetRole(int id, wxAccRole* role) {
 }
 
 wxAccStatus SpokenAccessible::GetState(int id, long* state) {
+    if (isUnspoken_) {
+        *state = wxACC_STATE_SYSTEM_INVISIBLE;
+        return wxACC_OK;
+    }
     const SpokenObject* const object = ObjectOf(id);
     if (object == nullptr) {
         return wxACC_NOT_IMPLEMENTED;

@@ -20,6 +20,9 @@ class SpokenAccessible final : public wxAccessible {
 
     void SetName(const wxString& name);
     void SetDescription(const wxString& description);
+
+    void LeaveUnspoken() { isUnspoken_ = true; }
+
     void SetObject(SpokenObject whole, std::vector<SpokenObject> parts);
 
     wxAccStatus GetName(int id, wxString* name) override;
@@ -39,6 +42,7 @@ class SpokenAccessible final : public wxAccessible {
     [[nodiscard]] const SpokenObject* ObjectOf(int id) const;
     void Tell(unsigned event, int id);
 
+    bool isUnspoken_ = false;
     std::optional<wxString> name_;
     std::optional<wxString> description_;
     std::optional<SpokenObject> whole_;

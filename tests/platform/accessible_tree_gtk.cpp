@@ -71,9 +71,9 @@ bool IsOfMenu(AtkRole role) {
 
 // Without a name they mean nothing to a reader.
 bool OnlyHolds(AtkRole role) {
-    constexpr std::array<AtkRole, 7> kHolders = {
-        ATK_ROLE_PANEL,      ATK_ROLE_FILLER,  ATK_ROLE_SCROLL_PANE,     ATK_ROLE_VIEWPORT,
-        ATK_ROLE_SPLIT_PANE, ATK_ROLE_UNKNOWN, ATK_ROLE_REDUNDANT_OBJECT};
+    constexpr std::array<AtkRole, 6> kHolders = {ATK_ROLE_PANEL,       ATK_ROLE_FILLER,
+                                                 ATK_ROLE_SCROLL_PANE, ATK_ROLE_VIEWPORT,
+                                                 ATK_ROLE_SPLIT_PANE,  ATK_ROLE_UNKNOWN};
     return std::find(kHolders.begin(), kHolders.end(), role) != kHolders.end();
 }
 
@@ -189,7 +189,8 @@ template <typename Visit>
 bool Walk(AtkObject* object, int depth, const Visit& visit) {
     const States states(object);
     const AtkRole role = atk_object_get_role(object);
-    if ((!states.Has(ATK_STATE_SHOWING) && !IsOfMenu(role)) || role == ATK_ROLE_SCROLL_BAR) {
+    if ((!states.Has(ATK_STATE_SHOWING) && !IsOfMenu(role)) || role == ATK_ROLE_SCROLL_BAR ||
+        role == ATK_ROLE_REDUNDANT_OBJECT) {
         return true;
     }
     const bool isLeftOut = OnlyHolds(role) && Text(atk_object_get_name(object)).empty() &&

@@ -60,6 +60,11 @@ class Part {
 
     [[nodiscard]] LONG Role() const { return Number(&IAccessible::get_accRole); }
 
+    // A reader leaves it out.
+    [[nodiscard]] bool IsInvisible() const {
+        return (Number(&IAccessible::get_accState) & STATE_SYSTEM_INVISIBLE) != 0;
+    }
+
     [[nodiscard]] AccessibleObject Described(int depth) const {
         AccessibleObject described;
         described.depth = depth;
@@ -124,6 +129,10 @@ bool Walk(HWND window, int depth, const Visit& visit) {
     // A plain window without a name means nothing to a reader.
     const bool isLeftOut = depth > 0 && self.Role() == ROLE_SYSTEM_CLIENT && self.Name().empty() &&
                            ClassName(window).starts_with("wxWindow") && GetFocus() != window;
+    if (self.IsInvisible()) {
+        object->Release();
+        return true;
+    }
     bool goesOn = isLeftOut || visit(self, depth);
     const int below = isLeftOut ? depth : depth + 1;
     HWND child = GetWindow(window, GW_CHILD);

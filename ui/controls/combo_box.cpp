@@ -5,11 +5,13 @@
 
 #include <wx/combobox.h>
 
+#include "platform/window/combo_button.h"
 #include "ui/controls/text_entry.h"
 
 namespace brelex {
 
 ComboTextLimit::ComboTextLimit(wxComboBox& combo) : combo_(combo) {
+    KeepFocusOffButton(combo);
     combo.Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
         Apply();
         event.Skip();

@@ -23,6 +23,17 @@ constexpr int kStepMs = 70;
 constexpr int kStep = 1;
 constexpr int kLeft = 10;
 
+// The letters and digits, lowercase. A rule has none, and a title may have blanks between them.
+wxString LettersOf(const wxString& line) {
+    wxString letters;
+    for (const wxUniChar character : line) {
+        if (wxIsalnum(character)) {
+            letters += wxTolower(character);
+        }
+    }
+    return letters;
+}
+
 }  // namespace
 
 ScrollArea::ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines)
@@ -39,7 +50,10 @@ ScrollArea::ScrollArea(wxWindow* parent, std::vector<ScrollLine> lines)
 void ScrollArea::DescribeAs(const wxString& name) {
     wxString text;
     for (const ScrollLine& line : lines_) {
-        text += (text.empty() ? "" : "\n") + line.text;
+        const wxString letters = LettersOf(line.text);
+        if (!letters.empty() && letters != LettersOf(name)) {
+            text += (text.empty() ? "" : "\n") + line.text.Strip(wxString::both);
+        }
     }
     SetSpokenObject(*this, {.role = SpokenRole::Text, .name = name, .text = text});
 }

@@ -46,7 +46,8 @@ wxSize LargestInside(const wxTopLevelWindow& window) {
 }
 
 Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
-    Create(window, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    // Without a name, which Windows would tell screen readers.
+    Create(window, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, wxEmptyString);
     // Nobody draws a background of their own, so the toolkit need not offer it at each painting.
     SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     window->SetBackgroundStyle(wxBG_STYLE_SYSTEM);

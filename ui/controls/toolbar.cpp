@@ -7,8 +7,8 @@
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
-#include "platform/window/accessible_name.h"
 #include "platform/window/area_tool_tip.h"
+#include "platform/window/spoken_object.h"
 #include "ui/controls/artwork.h"
 #include "ui/controls/colours.h"
 #include "ui/controls/modFlatButton.h"
@@ -33,6 +33,14 @@ MouseButton ButtonOf(const wxMouseEvent& event) {
         default:
             return MouseButton::Middle;
     }
+}
+
+// The caption of the command in its menu, without the marks that belong to menus.
+wxString SpokenNameOf(Command command) {
+    wxString name(DetailsOf(command).caption);
+    name.Replace("&", "");
+    name.Replace("...", "");
+    return name.substr(0, name.find("  "));
 }
 
 // The buttons that are down, not counting the one that was pressed or released.
@@ -60,9 +68,10 @@ Toolbar::Toolbar(wxWindow* parent, const LayoutUnits& units, ToolbarEvents event
       events_(std::move(events)),
       imgToolbarIcon(ToolbarPictures()),
       state_(*this) {
-    Named(this, "picToolbar", "Toolbar");
+    SetName("picToolbar");
     SetDoubleBuffered(true);
     PlaceIcons();
+    DescribeIcons();
     BindEvents();
 }
 
@@ -92,6 +101,25 @@ void Toolbar::PlaceIcons() {
     const wxSize whole(x, size + 2 * margin);
     SetInitialSize(whole);
     state_.SetSize(whole.x, whole.y);
+}
+
+void Toolbar::DescribeIcons() {
+    std::vector<SpokenObject> icons;
+    for (int i = 0; i < state_.IconCount(); ++i) {
+        const ToolbarIcon& icon = kToolbarIcons.at(static_cast<std::size_t>(i));
+        icons.push_back({.role = SpokenRole::Button,
+                         .name = SpokenNameOf(icon.command),
+                         .description = icon.toolTip,
+                         .act = [this, i] { RunAction(i); },
+                         .place = [this, i] { return AreaOf(i); }});
+    }
+    SetSpokenObject(*this, {.role = SpokenRole::ToolBar, .name = "Toolbar"}, std::move(icons));
+}
+
+wxRect Toolbar::AreaOf(int icon) const {
+    const IconBounds& bounds = state_.BoundsOf(icon);
+    return {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
+            static_cast<int>(bounds.width), static_cast<int>(bounds.height)};
 }
 
 void Toolbar::BindEvents() {
@@ -203,10 +231,7 @@ void Toolbar::Describe(int icon) {
     if (icon < 0) {
         SetAreaToolTip(*this, {}, wxEmptyString);
     } else {
-        const IconBounds& bounds = state_.BoundsOf(icon);
-        SetAreaToolTip(*this,
-                       {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
-                        static_cast<int>(bounds.width), static_cast<int>(bounds.height)},
+        SetAreaToolTip(*this, AreaOf(icon),
                        kToolbarIcons.at(static_cast<std::size_t>(icon)).toolTip);
     }
     events_.onHot(icon);

@@ -40,6 +40,8 @@ class Toolbar final : public Backdrop, private ToolbarView {
 
   private:
     void PlaceIcons();
+    void DescribeIcons();
+    [[nodiscard]] wxRect AreaOf(int icon) const;
     void BindEvents();
     void OnPaint(wxPaintEvent& event);
     void OnMove(wxMouseEvent& event);

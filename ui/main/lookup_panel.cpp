@@ -10,6 +10,7 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include "database/record_text.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/before_painting.h"
 #include "toolkit/wx_text.h"
@@ -54,6 +55,7 @@ LookupPanel::LookupPanel(wxWindow& surface, const LayoutUnits& units, const Prog
                          LookupPanelEvents events)
     : window_(dynamic_cast<wxTopLevelWindow&>(*wxGetTopLevelParent(&surface))),
       units_(units),
+      values_(values),
       events_(std::move(events)),
       messages_(&window_),
       lookup_(values, *this, messages_),
@@ -248,6 +250,21 @@ void LookupPanel::MoveCaretToEnd() {
 
 void LookupPanel::SetRecordNumberText(const std::string& text) {
     events_.onNumberChanged(WxText(text));
+    DescribeEntry(WxText(text));
+}
+
+// A screen reader says it at once while the box has the focus. Among entries of one abbreviation,
+// nothing else changes there.
+void LookupPanel::DescribeEntry(const wxString& recordNumber) {
+    const std::int32_t row = SelectedRow();
+    if (row < 0) {
+        SetSpokenDescription(*txtAbbrv, wxEmptyString);
+        return;
+    }
+    const std::string_view entry = values_.AcronymList->RowText(row);
+    SetSpokenDescription(*txtAbbrv, WxTextOfBytes(GetAbbreviation(entry)) + ": " +
+                                        WxTextOfBytes(GetExpansion(entry)) + ", record " +
+                                        recordNumber);
 }
 
 std::string LookupPanel::AskText(const std::string& title, const std::string& prompt,

@@ -84,6 +84,7 @@ class LookupPanel final : private LookupView {
     void BindBox();
     void BindList();
     void DrawColumnHeader();
+    void DescribeEntry(const wxString& recordNumber);
     void SetMaxBoxLength(std::size_t length);
 
     void OnBoxText(wxCommandEvent& event);
@@ -108,6 +109,7 @@ class LookupPanel final : private LookupView {
 
     wxTopLevelWindow& window_;
     const LayoutUnits& units_;
+    const ProgramValues& values_;
     LookupPanelEvents events_;
     WxMessageSink messages_;
     LookupBox lookup_;

@@ -85,6 +85,7 @@ void StatusStrip::WatchHints(const std::vector<ControlHint>& hints) {
 
 void StatusStrip::ShowNumber(const wxString& text) {
     lblRecNumber->SetLabelText(text);
+    SetSpokenName(*lblRecNumber, "Record number " + text);
 }
 
 void StatusStrip::ShowHintOfIcon(int icon) {
