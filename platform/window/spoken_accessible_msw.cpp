@@ -48,7 +48,7 @@ SpokenAccessible& SpokenAccessible::Of(wxWindow& window) {
     return *known;
 }
 
-void SpokenAccessible::Tell(unsigned event, int id) {
+void SpokenAccessible::Tell(int event, int id) {
     NotifyEvent(event, GetWindow(), wxOBJID_CLIENT, id);
 }
 

@@ -40,7 +40,7 @@ class SpokenAccessible final : public wxAccessible {
   private:
     // The description of the window or a part; null if the system's holds.
     [[nodiscard]] const SpokenObject* ObjectOf(int id) const;
-    void Tell(unsigned event, int id);
+    void Tell(int event, int id);
 
     bool isUnspoken_ = false;
     std::optional<wxString> name_;

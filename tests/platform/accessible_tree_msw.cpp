@@ -77,9 +77,6 @@ class Part {
         described.name = Name();
         described.description = Text(&IAccessible::get_accDescription);
         described.value = Text(&IAccessible::get_accValue);
-        if (described.value == described.name) {
-            described.value.clear();
-        }
         const LONG states = Number(&IAccessible::get_accState);
         for (const auto& [state, name] : kStates) {
             if ((states & state) != 0) {

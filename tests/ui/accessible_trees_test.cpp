@@ -13,7 +13,6 @@
 #include <wx/combobox.h>
 #include <wx/html/helpfrm.h>
 #include <wx/stattext.h>
-#include <wx/utils.h>
 
 #include "help/help_viewer.h"
 #include "platform/system/modShowHelp.h"
@@ -47,9 +46,8 @@ void ExpectTree(wxTopLevelWindow& window, const std::string& name) {
 class AccessibleTrees : public SideWindowTest {
   protected:
     void SetUp() override {
-        Start(FewEntries());
-        user_.MouseMove(wxGetDisplaySize().x - 1, 0);
-        EXPECT_TRUE(WaitFor([this] { return LabelText("lblDescription").empty(); }));
+        MainWindowTest::SetUp();
+        Start(FewEntries());  // the end of the first window has moved the mouse away
     }
 
     void ExpectSideWindow(Command command, const char* name) {
@@ -60,7 +58,7 @@ class AccessibleTrees : public SideWindowTest {
     // Waits for the end of a search, which a label tells.
     void SearchFor(const char* box, const char* text, const char* label, const char* end) {
         In<wxComboBox>(box).SetValue(text);
-        LetEventsArrive();
+        EXPECT_TRUE(WaitFor([&] { return In("cmdSearch").IsEnabled(); }));
         Click("cmdSearch");
         EXPECT_TRUE(WaitFor([&] { return Label(label) == end; })) << Label(label);
     }
