@@ -13,14 +13,20 @@
 #include <wx/html/helpwnd.h>
 #include <wx/html/htmlwin.h>
 #include <wx/image.h>
+#include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/settings.h>
 #include <wx/splitter.h>
+#include <wx/textctrl.h>
+#include <wx/toolbar.h>
 #include <wx/treectrl.h>
 
+#include "help/spoken_page.h"
 #include "help/themed_book.h"
 #include "platform/desktop/help_page.h"
 #include "platform/system/modShowHelp.h"
+#include "platform/window/accessible_name.h"
+#include "platform/window/spoken_controls.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 
@@ -167,6 +173,40 @@ void OnPageKey(wxHtmlWindow& page, wxKeyEvent& event) {
     }
 }
 
+// The controls beside the pages that show no text of their own.
+void NameControls(wxWindow& parent, const wxString& tab) {
+    for (wxWindow* const child : parent.GetChildren()) {
+        if (dynamic_cast<wxTextCtrl*>(child) != nullptr) {
+            SetSpokenName(*child, tab == "Search" ? "Words to search for" : "Keyword to find");
+        } else if (dynamic_cast<wxListBox*>(child) != nullptr) {
+            SetSpokenName(*child, tab == "Search" ? "Pages found" : "Keywords");
+        }
+    }
+}
+
+// The toolkit draws the pages and leaves most of the controls without names.
+void DescribeToReaders(wxHtmlHelpWindow& help) {
+    SpeakPages(*help.GetHtmlWindow());
+    SpeakTree(*help.GetTreeCtrl());
+    for (wxWindow* const child : help.GetChildren()) {
+        if (auto* const tools = dynamic_cast<wxToolBar*>(child)) {
+            NameToolsByTips(*tools);
+        }
+    }
+    // These would be said for the areas that only hold others.
+    help.SetLabel(wxEmptyString);
+    help.GetSplitterWindow()->SetLabel(wxEmptyString);
+    wxNotebook* const notebook = NotebookOf(help);
+    if (notebook == nullptr) {
+        return;
+    }
+    notebook->GetParent()->SetLabel(wxEmptyString);
+    for (std::size_t i = 0; i < notebook->GetPageCount(); ++i) {
+        notebook->GetPage(i)->SetLabel(wxEmptyString);
+        NameControls(*notebook->GetPage(i), notebook->GetPageText(i));
+    }
+}
+
 // Light text on a dark ground is no use on paper.
 void Print(wxHtmlHelpWindow& help, wxCommandEvent& event) {
     static bool isPrinting = false;
@@ -215,6 +255,7 @@ wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {
     frame->SetName("frmHelp");
     frame->SetIcons(AppIcons());
     BindEvents(*frame);
+    DescribeToReaders(*frame->GetHelpWindow());
 
     const int column = ColumnWidth(*frame->GetHelpWindow());
     // Sets the size of the inside. With a given outer size, the toolkit (3.2) would first lay the

@@ -57,6 +57,9 @@ fuzz_packages=(clang llvm-14 bsdextrautils)
 # They build core_tests with one change at a time, as fast as possible.
 mutation_packages=(clang binutils libgtest-dev googletest util-linux)
 
+# A screen reader's interface, and what talks to it.
+accessibility_packages=(at-spi2-core python3-gi gir1.2-atspi-2.0)
+
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 

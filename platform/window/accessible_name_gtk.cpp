@@ -39,7 +39,11 @@ void SetSpokenName(wxWindow& window, const wxString& spokenName) {
 }
 
 void SetSpokenDescription(wxWindow& window, const wxString& description) {
-    atk_object_set_description(SpokenObjectOf(window), description.utf8_str());
+    AtkObject* const object = SpokenObjectOf(window);
+    if (atk_object_get_description(object) == nullptr) {
+        atk_object_set_description(object, "");  // only from one to another is it a change
+    }
+    atk_object_set_description(object, description.utf8_str());
 }
 
 void LeaveUnspoken(wxWindow& window) {

@@ -102,7 +102,7 @@ wxAccStatus SpokenAccessible::GetName(int id, wxString* name) {
     if (object == nullptr) {
         return wxACC_NOT_IMPLEMENTED;
     }
-    *name = object->text.empty() ? object->name : object->text;
+    *name = object->role != SpokenRole::Text || object->text.empty() ? object->name : object->text;
     return wxACC_OK;
 }
 

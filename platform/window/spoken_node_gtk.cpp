@@ -163,6 +163,7 @@ std::vector<Interface> InterfacesOf(SpokenRole role) {
                          value->get_range = &GetRange;
                      }}};
         case SpokenRole::Text:
+        case SpokenRole::Page:
             return {{ATK_TYPE_TEXT, [](gpointer iface, gpointer) {
                          FillTextInterface(*static_cast<AtkTextIface*>(iface), &TextOfNode);
                      }}};

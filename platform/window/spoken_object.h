@@ -30,7 +30,7 @@ struct SpokenObject {
     SpokenRole role = SpokenRole::Text;
     wxString name{};
     wxString description{};           ///< what there is to say beyond the name
-    wxString text{};                  ///< what a Text shows, if that is more than its name
+    wxString text{};                  ///< what a Text or Page shows, if that is more than its name
     wxString address{};               ///< where a Link leads
     int percent = 0;                  ///< of a ProgressBar
     int level = 0;                    ///< of a TreeItem, 1 for the topmost

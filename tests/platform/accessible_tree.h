@@ -21,7 +21,8 @@ struct AccessibleObject {
 };
 
 /// The objects of a window that can be seen, in the order in which they are read, and the items of
-/// its menus. Leaves out what only holds others. Of the cells in a table there are the first few.
+/// its menus. Leaves out what only holds others. Of the
+/// cells in a table and the parts of a page there are the first few.
 [[nodiscard]] std::vector<AccessibleObject> AccessibleObjectsOf(wxTopLevelWindow& window);
 
 /// The same as text: an object a line, indented under the one that holds it.

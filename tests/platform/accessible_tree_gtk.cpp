@@ -15,6 +15,7 @@ namespace brelex {
 namespace {
 
 constexpr int kMostCells = 8;
+constexpr int kMostParts = 20;  // of a page
 
 using StateName = std::pair<AtkStateType, const char*>;
 
@@ -199,8 +200,10 @@ bool Walk(AtkObject* object, int depth, const Visit& visit) {
         return false;
     }
     const int count = atk_object_get_n_accessible_children(object);
-    const int most = ATK_IS_TABLE(object) ? std::min(count, kMostCells) : count;
-    for (int i = 0; i < most; ++i) {
+    const int most = ATK_IS_TABLE(object)             ? kMostCells
+                     : role == ATK_ROLE_DOCUMENT_TEXT ? kMostParts
+                                                      : count;
+    for (int i = 0; i < std::min(count, most); ++i) {
         AtkObject* const child = atk_object_ref_accessible_child(object, i);
         if (child == nullptr) {
             continue;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What each window is to a screen reader, compared with a list. NEW_TREES=1 in the environment
 // writes the lists anew.
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -12,7 +13,10 @@
 
 #include <wx/combobox.h>
 #include <wx/html/helpfrm.h>
+#include <wx/html/htmlwin.h>
+#include <wx/notebook.h>
 #include <wx/stattext.h>
+#include <wx/treectrl.h>
 
 #include "help/help_viewer.h"
 #include "platform/system/modShowHelp.h"
@@ -61,6 +65,24 @@ class AccessibleTrees : public SideWindowTest {
         EXPECT_TRUE(WaitFor([&] { return In("cmdSearch").IsEnabled(); }));
         Click("cmdSearch");
         EXPECT_TRUE(WaitFor([&] { return Label(label) == end; })) << Label(label);
+    }
+};
+
+// The objects with the focus.
+std::vector<AccessibleObject> Focused(wxTopLevelWindow& window) {
+    std::vector<AccessibleObject> focused = AccessibleObjectsOf(window);
+    std::erase_if(focused, [](const AccessibleObject& object) {
+        return std::find(object.states.begin(), object.states.end(), "focused") ==
+               object.states.end();
+    });
+    return focused;
+}
+
+class AccessibleActions : public AccessibleTrees {
+  protected:
+    [[nodiscard]] std::string DescriptionAtFocus() const {
+        const auto focused = Focused(*window_);
+        return focused.empty() ? "" : focused.back().description;
     }
 };
 
@@ -135,6 +157,51 @@ TEST_F(AccessibleTrees, OfTheQuestionForARecord) {
     ExpectSideWindow(Command::GoToRow, "TextQuestion");
 }
 
+TEST_F(AccessibleActions, ALinkOpensItsAddress) {
+    const AppInfo& info = startUp_->Values().info;
+    InSideWindow(
+        "frmAbout", [&] { window_->Run(Command::About); },
+        [&] {
+            EXPECT_TRUE(DoAccessibleAction(Side(), "link", info.homePage));
+            EXPECT_TRUE(WaitFor([&] { return !desktop_.opened.empty(); }));
+            EXPECT_EQ(desktop_.opened.back(), info.homePage);
+        });
+}
+
+TEST_F(AccessibleActions, AnIconOfTheToolbarOpensItsWindow) {
+    bool isOpen = false;
+    const auto open = [&] {
+        EXPECT_TRUE(DoAccessibleAction(*window_, "push button", "Smiley Dictionary"));
+        EXPECT_TRUE(WaitFor([&] { return isOpen; }));
+    };
+    EXPECT_EQ(NameOfOpened(open, [&] { isOpen = true; }), "frmSmiley");
+}
+
+// The only difference to hear among entries of one abbreviation.
+TEST_F(AccessibleActions, TheBoxIsDescribedByTheEntryFound) {
+    Type("a", "A");
+    EXPECT_EQ(DescriptionAtFocus(), "AB: Address Bus, record 1");
+    user_.Char(WXK_DOWN);
+    EXPECT_TRUE(WaitFor([&] { return DescriptionAtFocus() == "AB: Audio Bus, record 2"; }))
+        << DescriptionAtFocus();
+}
+
+// Where screen readers begin.
+TEST_F(AccessibleActions, TheFocusIsSomewhere) {
+    for (const Command command :
+         {Command::DatabaseInfo, Command::CheckData, Command::Search, Command::Anagram,
+          Command::GoToRow, Command::Smileys, Command::Donate, Command::About}) {
+        int focused = 0;
+        const std::string name = NameOfOpened(
+            [&] { window_->Run(command); },
+            [&] {
+                EXPECT_TRUE(WaitFor([&] { return Focused(*OpenModalDialog()).size() == 1; }));
+                ++focused;
+            });
+        EXPECT_EQ(focused, 1) << name;
+    }
+}
+
 TEST_F(AccessibleTrees, OfTheSplashWindow) {
     auto* const splash = new frmSplash(startUp_->Values().info);
     splash->Show();
@@ -147,8 +214,17 @@ TEST_F(AccessibleTrees, OfTheSplashWindow) {
 TEST(AccessibleTreesOfHelp, OfTheViewer) {
     HelpViewer viewer;
     ASSERT_TRUE(viewer.Show(WxText(ProgramFolder() + kHelpFileName), "keys.html"));
-    ASSERT_TRUE(WaitFor([&] { return HasKeyboard(*viewer.GetFrame()); }));
+    wxHtmlHelpWindow& help = *viewer.GetHelpWindow();
+    ASSERT_TRUE(WaitFor(
+        [&] { return HasKeyboard(*viewer.GetFrame()) && help.GetHtmlWindow()->HasFocus(); }));
+    LetEventsArrive();
     ExpectTree(*viewer.GetFrame(), "frmHelp");
+    auto* const tabs = dynamic_cast<wxNotebook*>(help.GetTreeCtrl()->GetGrandParent());
+    for (const char* const tab : {"Index", "Search"}) {
+        tabs->AdvanceSelection();
+        LetEventsArrive();
+        ExpectTree(*viewer.GetFrame(), std::string("frmHelp-") + tab);
+    }
     viewer.GetFrame()->Close();
     EXPECT_TRUE(WaitFor([&] { return viewer.GetHelpWindow() == nullptr; }));
 }

@@ -1,0 +1,149 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""screen_reader_test.py BREVILEXICON BRELEX_HELP: works with both programs as a screen reader does.
+
+Everything goes over AT-SPI: it finds objects by role and name, reads them, acts on them and hears
+of changes. Needs a display and a session bus."""
+import os
+import subprocess
+import sys
+import time
+
+try:
+    import gi
+    gi.require_version('Atspi', '2.0')
+    from gi.repository import Atspi, GLib
+except (ImportError, ValueError):
+    print('python3-gi or the typelib of AT-SPI is not installed')
+    sys.exit(77)
+
+PATIENCE_S = 30
+
+
+def wait_for(found, what):
+    """Runs events until found() returns something true, which it returns."""
+    end = time.monotonic() + PATIENCE_S
+    while time.monotonic() < end:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        try:
+            result = found()
+        except GLib.Error:  # an object may vanish while it is looked at
+            result = None
+        if result:
+            return result
+        time.sleep(0.05)
+    sys.exit(f'waited in vain for {what}')
+
+
+def objects_below(parent):
+    for index in range(parent.get_child_count()):
+        child = parent.get_child_at_index(index)
+        if child is not None:
+            yield child
+            # The many cells of a table are not looked for.
+            if not child.get_state_set().contains(Atspi.StateType.MANAGES_DESCENDANTS):
+                yield from objects_below(child)
+
+
+def find(parent, role, name):
+    for child in objects_below(parent):
+        if child.get_role_name() == role and (name is None or child.get_name() == name):
+            return child
+    return None
+
+
+def await_object(parent, role, name=None):
+    return wait_for(lambda: find(parent, role, name), f'{role} "{name}"')
+
+
+def start(program):
+    process = subprocess.Popen([program], env={**os.environ, 'NO_AT_BRIDGE': '0'})
+
+    def application():
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(index)
+            if child is not None and child.get_process_id() == process.pid:
+                return child
+        return None
+
+    return process, wait_for(application, program)
+
+
+def expect(actual, expected, what):
+    if actual != expected:
+        sys.exit(f'{what}: "{actual}" instead of "{expected}"')
+
+
+def text_of(obj):
+    return Atspi.Text.get_text(obj, 0, Atspi.Text.get_character_count(obj))
+
+
+def check_look_up(application):
+    """The entry found is heard of while the box has the focus."""
+    heard = []
+    listener = Atspi.EventListener.new(
+        lambda event: heard.append(event.source.get_description()))
+    listener.register('object:property-change:accessible-description')
+    box = await_object(application, 'text', 'First letters of the abbreviation')
+    Atspi.EditableText.set_text_contents(box, 'CPU')
+    wait_for(lambda: any(said and said.startswith('CPU: Central Processing Unit') for said in heard),
+             f'the entry to be said, not {heard}')
+    listener.deregister('object:property-change:accessible-description')
+
+
+def check_tool_bar(application):
+    """An icon opens its window, a dialog, whose links have their addresses."""
+    await_object(application, 'tool bar', 'Toolbar')
+    Atspi.Action.do_action(await_object(application, 'push button', 'About'), 0)
+    about = await_object(application, 'dialog', 'About Brevilexicon')
+    link = await_object(about, 'link')
+    expect(Atspi.Action.get_n_actions(link), 1, 'the number of actions of the link')
+    expect(link.get_hyperlink().get_uri(0), link.get_name(), 'the address of the link')
+    Atspi.Action.do_action(await_object(about, 'push button', 'OK'), 0)
+    wait_for(lambda: find(application, 'dialog', 'About Brevilexicon') is None, 'the dialog to close')
+
+
+def check_donation(application):
+    """The text that scrolls can be read line by line."""
+    Atspi.Action.do_action(await_object(application, 'push button', 'Donate via PayPal'), 0)
+    dialog = await_object(application, 'dialog')
+    text = await_object(dialog, 'label', 'Behind the scenes')
+    lines = text_of(text).split('\n')
+    second = Atspi.Text.get_string_at_offset(text, len(lines[0]) + 3, Atspi.TextGranularity.LINE)
+    expect(second.content.rstrip('\n'), lines[1], 'the second line')
+    Atspi.Action.do_action(await_object(dialog, 'push button', 'Cancel'), 0)
+
+
+def check_help(application):
+    """A page has its text, and its links and the contents lead to others."""
+    page = await_object(application, 'document text', 'Welcome')
+    if not text_of(page).startswith('Welcome'):
+        sys.exit(f'the page begins with "{text_of(page)[:40]}"')
+    link = await_object(page, 'link')
+    Atspi.Action.do_action(link, 0)
+    wait_for(lambda: find(application, 'document text', 'Welcome') is None, 'another page')
+    tree = await_object(application, 'tree', 'Contents')
+    item = wait_for(lambda: next((tree.get_child_at_index(i) for i in range(tree.get_child_count())
+                                  if tree.get_child_at_index(i).get_name() == 'Keys'), None),
+                    'the item "Keys"')
+    Atspi.Action.do_action(item, 0)
+    await_object(application, 'document text', 'Keys')
+
+
+def main():
+    program, viewer = sys.argv[1:]
+    process, application = start(program)
+    for check in (check_look_up, check_tool_bar, check_donation):
+        check(application)
+    Atspi.Action.do_action(await_object(application, 'push button', 'Exit'), 0)
+    expect(process.wait(PATIENCE_S), 0, 'the status of the program')
+
+    process, application = start(viewer)
+    check_help(application)
+    process.terminate()
+    process.wait(PATIENCE_S)
+
+
+main()
