@@ -75,8 +75,10 @@ void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
         auto* lines = new wxFlexGridSizer(2, wxSize(gap, units_.Pixels(4)));
         lines->AddGrowableCol(1);
         for (const Statistic& statistic : group) {
-            lines->Add(new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
-                                        wxDefaultPosition, {captionWidth, -1}));
+            auto* const caption = new wxStaticText(surface_, wxID_ANY, WxText(statistic.caption),
+                                                   wxDefaultPosition, {captionWidth, -1});
+            LeaveUnspoken(*caption);  // the value has it in its name
+            lines->Add(caption);
             lines->Add(NewValue(statistic), 0, wxEXPAND);
         }
         figures_->Add(lines, 0, wxEXPAND | wxALL, gap);
@@ -86,7 +88,8 @@ void frmDataInfo::CreateFigures(const DatabaseStatistics& statistics) {
 wxStaticText* frmDataInfo::NewValue(const Statistic& statistic) const {
     const wxString fact = WxText(statistic.text);
     // If the window cuts off a fact, a screen reader still says all of it.
-    auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), statistic.name, fact);
+    auto* value = Named(new wxStaticText(surface_, wxID_ANY, wxEmptyString), statistic.name,
+                        WxText(statistic.caption) + " " + fact);
     const int width = units_.Pixels(kValueWidth);
     // With a large font on a small screen, there is room for fewer lines.
     const int lines = statistic.mayNeedLines

@@ -148,6 +148,9 @@ void frmViewEntry::ShowEntry() {
     };
     show(GetAbbreviation(entry), *txtAbbrv, *lblAbbrLen);
     show(GetExpansion(entry), *txtExpn, *lblExpnLen);
+    // A screen reader says it when the window opens.
+    SetSpokenDescription(
+        *this, WxTextOfBytes(GetAbbreviation(entry)) + ": " + WxTextOfBytes(GetExpansion(entry)));
 }
 
 void frmViewEntry::CopyEntry() {

@@ -73,7 +73,7 @@ void SpokenAccessible::SetObject(SpokenObject whole, std::vector<SpokenObject> p
     if (!before) {
         return;
     }
-    if (before->name != whole_->name || before->text != whole_->text) {
+    if (before->name != whole_->name) {
         Tell(wxACC_EVENT_OBJECT_NAMECHANGE, wxACC_SELF);
     }
     if (before->percent != whole_->percent) {
@@ -92,7 +92,6 @@ const SpokenObject* SpokenAccessible::ObjectOf(int id) const {
     return number < parts_.size() ? &parts_[number] : nullptr;
 }
 
-// A text has no other way to be read than as a name.
 wxAccStatus SpokenAccessible::GetName(int id, wxString* name) {
     if (id == wxACC_SELF && name_) {
         *name = *name_;
@@ -102,7 +101,7 @@ wxAccStatus SpokenAccessible::GetName(int id, wxString* name) {
     if (object == nullptr) {
         return wxACC_NOT_IMPLEMENTED;
     }
-    *name = object->role != SpokenRole::Text || object->text.empty() ? object->name : object->text;
+    *name = object->name;
     return wxACC_OK;
 }
 

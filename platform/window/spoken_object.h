@@ -30,7 +30,7 @@ struct SpokenObject {
     SpokenRole role = SpokenRole::Text;
     wxString name{};
     wxString description{};           ///< what there is to say beyond the name
-    wxString text{};                  ///< what a Text or Page shows, if that is more than its name
+    wxString text{};                  ///< what a Page shows, to be read in lines
     wxString address{};               ///< where a Link leads
     int percent = 0;                  ///< of a ProgressBar
     int level = 0;                    ///< of a TreeItem, 1 for the topmost
@@ -43,6 +43,10 @@ struct SpokenObject {
 /// parts in it that are no windows. A later call replaces the description and tells of what has
 /// changed; the role of the window stays what it was.
 void SetSpokenObject(wxWindow& window, SpokenObject whole, std::vector<SpokenObject> parts = {});
+
+/// Makes an area that may scroll a plain one to screen readers. They would not say the texts in it
+/// when its dialog opens.
+void MakeSpokenPanel(wxWindow& area);
 
 /// Makes a window a dialog to screen readers, which then say its texts when it opens.
 void MakeSpokenDialog(wxTopLevelWindow& window);

@@ -145,6 +145,10 @@ void SetSpokenObject(wxWindow& window, SpokenObject whole, std::vector<SpokenObj
     }
 }
 
+void MakeSpokenPanel(wxWindow& area) {
+    atk_object_set_role(gtk_widget_get_accessible(area.GetHandle()), ATK_ROLE_PANEL);
+}
+
 void MakeSpokenDialog(wxTopLevelWindow& window) {
     atk_object_set_role(gtk_widget_get_accessible(window.GetHandle()), ATK_ROLE_DIALOG);
 }

@@ -11,6 +11,9 @@ void SetSpokenObject(wxWindow& window, SpokenObject whole, std::vector<SpokenObj
     SpokenAccessible::Of(window).SetObject(std::move(whole), std::move(parts));
 }
 
+// The system knows no area that scrolls.
+void MakeSpokenPanel(wxWindow& /*area*/) {}
+
 // The toolkit's dialogs are dialogs of the system.
 void MakeSpokenDialog(wxTopLevelWindow& /*window*/) {}
 

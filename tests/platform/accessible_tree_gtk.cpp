@@ -171,6 +171,9 @@ AccessibleObject Described(AtkObject* object, int depth, const States& states) {
     if (ATK_IS_TEXT(object)) {
         described.text = TakenText(atk_text_get_text(ATK_TEXT(object), 0, -1));
     }
+    if (atk_object_get_role(object) == ATK_ROLE_LABEL) {
+        described.text = OneLine(described.text);
+    }
     if (OneLine(described.text) == OneLine(described.name)) {
         described.text.clear();
     }

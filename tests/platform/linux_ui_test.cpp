@@ -249,7 +249,8 @@ TEST_F(InfoWindowOnLinux, AScreenReaderSaysAlsoWhatDoesNotFit) {
         AtkObject* const label =
             gtk_widget_get_accessible(GTK_WIDGET(In("lblLongestExpansion").GetHandle()));
         EXPECT_EQ(std::string(atk_object_get_name(label)),
-                  expansion + " (5000 letters, abbreviated as LONG)");
+                  "Longest expansion including parenthetical note*: " + expansion +
+                      " (5000 letters, abbreviated as LONG)");
     });
 }
 

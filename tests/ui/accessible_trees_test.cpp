@@ -59,12 +59,15 @@ class AccessibleTrees : public SideWindowTest {
             name, [&] { window_->Run(command); }, [&] { ExpectTree(Side(), name); });
     }
 
-    // Waits for the end of a search, which a label tells.
-    void SearchFor(const char* box, const char* text, const char* label, const char* end) {
+    // Waits for the end of a search, which a label tells, and for the focus on its result.
+    void SearchFor(const char* box, const char* text, const char* label, const char* end,
+                   const char* result) {
         In<wxComboBox>(box).SetValue(text);
         EXPECT_TRUE(WaitFor([&] { return In("cmdSearch").IsEnabled(); }));
         Click("cmdSearch");
-        EXPECT_TRUE(WaitFor([&] { return Label(label) == end; })) << Label(label);
+        EXPECT_TRUE(WaitFor([&] { return Label(label) == end && HasFocus(result); }))
+            << Label(label);
+        LetEventsArrive();
     }
 };
 
@@ -99,7 +102,7 @@ TEST_F(AccessibleTrees, OfTheSearchWindowWithItsResult) {
     InSideWindow(
         "frmSearch", [&] { window_->Run(Command::Search); },
         [&] {
-            SearchFor("cboSearchWhat", "bus", "lblStatus", "Number of Hits: 3");
+            SearchFor("cboSearchWhat", "bus", "lblStatus", "Number of Hits: 3", "txtSearchResult");
             ExpectTree(Side(), "frmSearch-result");
         });
 }
@@ -112,7 +115,7 @@ TEST_F(AccessibleTrees, OfTheAnagramWindowWithItsResult) {
     InSideWindow(
         "frmAnagram", [&] { window_->Run(Command::Anagram); },
         [&] {
-            SearchFor("cboLetters", "AB", "lblPercentDone", "Found 3");
+            SearchFor("cboLetters", "AB", "lblPercentDone", "Found 3", "lstAnagrams");
             ExpectTree(Side(), "frmAnagram-result");
         });
 }

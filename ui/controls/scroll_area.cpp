@@ -55,7 +55,7 @@ void ScrollArea::DescribeAs(const wxString& name) {
             text += (text.empty() ? "" : "\n") + line.text.Strip(wxString::both);
         }
     }
-    SetSpokenObject(*this, {.role = SpokenRole::Text, .name = name, .text = text});
+    SetSpokenObject(*this, {.role = SpokenRole::Text, .name = text, .description = name});
 }
 
 void ScrollArea::Measure() {

@@ -26,8 +26,7 @@ class ScrollArea final : public Backdrop {
 
     [[nodiscard]] const std::vector<ScrollLine>& Lines() const { return lines_; }
 
-    /// Gives the text a name for screen readers, which read all lines but rules and a title that is
-    /// the name.
+    /// Tells screen readers all lines but rules and a title that is `name`, and that name.
     void DescribeAs(const wxString& name);
 
     /// The current distance of the first line from the top, in pixels.

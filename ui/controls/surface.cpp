@@ -12,6 +12,7 @@
 #include <wx/sizer.h>
 
 #include "platform/window/own_layout.h"
+#include "platform/window/spoken_object.h"
 #include "ui/controls/modGeneral.h"
 
 namespace brelex {
@@ -52,6 +53,7 @@ Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
     SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     window->SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     SetScrollRate(0, 0);
+    MakeSpokenPanel(*this);
     LayOutAlone(*this);
 }
 
