@@ -99,6 +99,7 @@ Layout LayoutOf(const wxHtmlWindow& window) {
 
 // The toolkit does not tell that another page is open or that lines break elsewhere.
 void SpeakPages(wxHtmlWindow& window) {
+    SetSpokenObject(window, {.role = SpokenRole::Page});  // before a reader asks what it is
     const auto described = std::make_shared<Layout>();
     window.Bind(wxEVT_IDLE, [&window, described](wxIdleEvent& event) {
         event.Skip();

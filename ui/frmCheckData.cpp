@@ -147,6 +147,10 @@ void frmCheckData::ShowResult(const CheckDisplay& display) {
     if (isThere) {
         Announce(*imgResult);
     }
+    // Some readers hear only of what has the focus.
+    for (wxButton* const button : {cmdCheck, cmdCancel}) {
+        SetSpokenDescription(*button, isThere ? WxText(display.resultText) : wxString());
+    }
     const wxColour ground = lblResult->GetBackgroundColour();
     lblResult->SetForegroundColour(passed ? BlueOn(ground) : DarkRedOn(ground));
     lblResult->SetLabelText(WxText(display.resultText));
