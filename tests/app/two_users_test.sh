@@ -21,7 +21,7 @@ for user in "${users[@]}"; do
     mkdir -m 700 "$folder/home$user"
     chown "$user:$user" "$folder/home$user"
     rm -f "$folder/display"
-    Xvfb -displayfd 5 -ac -nolisten tcp 5>"$folder/display" 2>/dev/null & servers+=($!)
+    Xvfb -displayfd 5 -noreset -ac -nolisten tcp 5>"$folder/display" 2>/dev/null & servers+=($!)
     until [ -s "$folder/display" ]; do sleep 0.02; done
     displays+=(":$(cat "$folder/display")")
 done
