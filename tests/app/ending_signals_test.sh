@@ -2,9 +2,8 @@
 # SPDX-License-Identifier: MIT
 # ending_signals_test.sh COUNT FOLDER [SEED]: ends the program in FOLDER by the signals TERM, HUP and
 # INT, COUNT times at random moments of its start and of a long check and search, and once each in
-# every other situation. The program must end by that signal, leave no file, and
-# close the help. The same SEED gives the same moments. Requires a display of its own with a
-# notification area.
+# every other situation. The program must end by that signal, leave no file, and close the help. The
+# same SEED gives the same moments. Requires a display of its own with a notification area.
 set -u
 times=$1 programs=$2
 seed=${3:-$$}
@@ -28,7 +27,7 @@ until_in_front() {  # TITLE
         sleep 0.02
     done
 }
-start_until_main() { start "$@"; until_in_front '^Brevilexicon \('; }
+start_until_main() { start; until_in_front '^Brevilexicon \('; }
 press() { xdotool key --delay 30 "$@"; }
 
 # end_by SIGNAL: sends it to the program and looks at how that ends.
@@ -68,7 +67,10 @@ random_pause() {
 entry_viewer() { start_until_main; press c; press Return; until_in_front '^Current Selection'; }
 question() { start_until_main; press F5; until_in_front '^Go to Record'; }
 # The message has the same title as the question, and may get its number, but has another size.
-size() { wmctrl -lG 2>/dev/null | sed -n 's/^0x[0-9a-f]* *[^ ]* *[^ ]* *[^ ]* *\([^ ]* *[^ ]*\).* Go to Record$/\1/p'; }
+size() {
+    wmctrl -lG 2>/dev/null |
+        sed -n 's/^0x[0-9a-f]* *[^ ]* *[^ ]* *[^ ]* *\([^ ]* *[^ ]*\).* Go to Record$/\1/p'
+}
 message_box() {
     local asking end=$((SECONDS + 20))
     question
@@ -132,7 +134,8 @@ end_by TERM
 
 # A database that takes some time.
 cp "$program" "$folder/large/"
-seq -f 'E%06.0f' 100000 | sed 's/.*/&\tThe long meaning of this entry with the name &/' >"$folder/large/list.tsv"
+seq -f 'E%06.0f' 100000 | sed 's/.*/&\tThe long meaning of this entry with the name &/' \
+    >"$folder/large/list.tsv"
 "$programs/brelex" build -o "$folder/large/Acronyms.dat" "$folder/large/list.tsv" >/dev/null
 program=$folder/large/brevilexicon
 for time in $(seq $((times / 2))); do
