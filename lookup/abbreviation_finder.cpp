@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <functional>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -62,11 +64,9 @@ const auto kSignatureBits = TableOfBytes([](unsigned char byte) {
 
 // The bits of all characters of the key.
 std::uint64_t SignatureOf(std::string_view text) {
-    std::uint64_t signature = 0;
-    for (const char c : text) {
-        signature |= kSignatureBits[static_cast<unsigned char>(c)];
-    }
-    return signature;
+    return std::transform_reduce(
+        text.begin(), text.end(), std::uint64_t{}, std::bit_or<>(),
+        [](char c) { return kSignatureBits[static_cast<unsigned char>(c)]; });
 }
 
 // The kinds of edits, most likely slip first.
