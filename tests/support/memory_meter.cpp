@@ -18,15 +18,27 @@ std::atomic<std::size_t> bytesCounted = 0;
 
 // The test program uses these in place of the standard library's own.
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
     if (size >= smallestCounted) {
         bytesCounted += size;
     }
-    void* const block = std::malloc(std::max<std::size_t>(size, 1));
+    return std::malloc(std::max<std::size_t>(size, 1));
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+    return operator new(size, tag);
+}
+
+void* operator new(std::size_t size) {
+    void* const block = operator new(size, std::nothrow);
     if (block == nullptr) {
         throw std::bad_alloc();
     }
     return block;
+}
+
+void* operator new[](std::size_t size) {
+    return operator new(size);
 }
 
 void operator delete(void* block) noexcept {
@@ -34,6 +46,14 @@ void operator delete(void* block) noexcept {
 }
 
 void operator delete(void* block, std::size_t /*size*/) noexcept {
+    std::free(block);
+}
+
+void operator delete[](void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete[](void* block, std::size_t /*size*/) noexcept {
     std::free(block);
 }
 
