@@ -261,6 +261,9 @@ class User:
 
     def minimize(self):
         window = self.any_window()
+        # Windows lets nobody minimize a window behind a modal one. Wine does, and may then lose both.
+        if self.program.emulator and window != self.screen.active():
+            return None
         if window:
             self.screen.minimize(window)
             if self.chance(0.5):
