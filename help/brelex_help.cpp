@@ -3,7 +3,6 @@
 // at its first page. "brelex-help --register" makes this program open help books for the current
 // user; "--unregister" undoes that.
 #include <wx/app.h>
-#include <wx/clipbrd.h>
 #include <wx/filename.h>
 #include <wx/filesys.h>
 #include <wx/msgdlg.h>
@@ -52,18 +51,6 @@ class HelpApp final : public wxApp {
             return wxApp::OnRun();
         }
         return done_ ? 0 : 1;
-    }
-
-    // What the user copied stays on the clipboard if the desktop keeps it. The toolkit clears only
-    // the selection that was used last. Windows has only one, and it is the clipboard.
-    int OnExit() override {
-        wxTheClipboard->UsePrimarySelection(true);
-        if (wxTheClipboard->IsUsingPrimarySelection()) {
-            wxTheClipboard->Clear();
-        }
-        wxTheClipboard->UsePrimarySelection(false);
-        wxTheClipboard->Flush();
-        return wxApp::OnExit();
     }
 
   private:
