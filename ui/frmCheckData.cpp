@@ -147,10 +147,7 @@ void frmCheckData::ShowResult(const CheckDisplay& display) {
     if (isThere) {
         Announce(*imgResult);
     }
-    // Some readers hear only of what has the focus.
-    for (wxButton* const button : {cmdCheck, cmdCancel}) {
-        SetSpokenDescription(*button, isThere ? WxText(display.resultText) : wxString());
-    }
+    SetSpokenDescription(*cmdCheck, wxEmptyString);  // until it has the focus again
     const wxColour ground = lblResult->GetBackgroundColour();
     lblResult->SetForegroundColour(passed ? BlueOn(ground) : DarkRedOn(ground));
     lblResult->SetLabelText(WxText(display.resultText));
@@ -172,6 +169,12 @@ void frmCheckData::OnBlink() {
 
 void frmCheckData::MoveFocus(CheckFocus focus) {
     (focus == CheckFocus::CheckButton ? cmdCheck : cmdCancel)->SetFocus();
+    if (focus == CheckFocus::CheckButton && shown_) {
+        // Some readers hear only of what has the focus, once they know that it has it.
+        CallAfter([this, result = WxText(shown_->resultText)] {
+            SetSpokenDescription(*cmdCheck, result);
+        });
+    }
 }
 
 void frmCheckData::LetEventsRun(int restMs) {

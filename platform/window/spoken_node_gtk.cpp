@@ -267,6 +267,8 @@ AtkAttributeSet* GetPartAttributes(AtkObject* object) {
 
 void InitPartClass(gpointer klass, gpointer /*data*/) {
     auto* const object = ATK_OBJECT_CLASS(klass);
+    object->get_n_children = &CountParts;
+    object->ref_child = &RefPart;
     object->get_parent = &GetWhole;
     object->get_index_in_parent = &GetIndex;
     object->ref_state_set = &RefPartStates;

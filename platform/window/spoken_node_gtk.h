@@ -14,7 +14,7 @@ struct SpokenNode {
     wxWindow* window = nullptr;  ///< null once the window is gone
     SpokenObject object{};
     std::string text{};               ///< UTF-8
-    AtkObject* whole = nullptr;       ///< of a part: the window that it is in
+    AtkObject* whole = nullptr;       ///< of a part: what it is a part of
     int index = 0;                    ///< of a part
     std::vector<AtkObject*> parts{};  ///< with a reference to each
     AtkHyperlink* address = nullptr;  ///< of a link, with a reference

@@ -19,6 +19,7 @@ enum class SpokenRole {
     Link,
     Page,  ///< of a book; its parts are read one after the other
     ProgressBar,
+    Section,  ///< holds the parts of a Page where the system wants it
     Text,
     ToolBar,
     Tree,

@@ -27,6 +27,8 @@ AtkRole AtkRoleOf(SpokenRole role) {
             return ATK_ROLE_DOCUMENT_TEXT;
         case SpokenRole::ProgressBar:
             return ATK_ROLE_PROGRESS_BAR;
+        case SpokenRole::Section:
+            return ATK_ROLE_SECTION;
         case SpokenRole::ToolBar:
             return ATK_ROLE_TOOL_BAR;
         case SpokenRole::Tree:
@@ -58,28 +60,59 @@ void Fill(AtkObject* object, SpokenObject description) {
     }
 }
 
+// Readers that still hold a part learn that it is gone.
+void Detach(AtkObject* part) {
+    SpokenNode& node = NodeOf(part);
+    for (AtkObject* const inner : std::exchange(node.parts, {})) {
+        Detach(inner);
+        g_object_unref(inner);
+    }
+    node.window = nullptr;
+    node.whole = nullptr;
+    node.object.act = nullptr;
+}
+
 void LetPartsGo(AtkObject* whole) {
-    SpokenNode& node = NodeOf(whole);
-    const std::vector<AtkObject*> parts = std::exchange(node.parts, {});
+    const std::vector<AtkObject*> parts = std::exchange(NodeOf(whole).parts, {});
     for (std::size_t i = parts.size(); i > 0; --i) {
         AtkObject* const part = parts[i - 1];
-        NodeOf(part).window = nullptr;
-        NodeOf(part).whole = nullptr;
-        NodeOf(part).object.act = nullptr;
+        Detach(part);
         g_signal_emit_by_name(whole, "children-changed::remove", static_cast<guint>(i - 1), part);
         atk_object_notify_state_change(part, ATK_STATE_DEFUNCT, TRUE);
         g_object_unref(part);
     }
 }
 
-void AddPart(AtkObject* whole, const SpokenObject& description) {
-    SpokenNode& node = NodeOf(whole);
+AtkObject* NewPart(AtkObject* holder, const SpokenObject& description) {
+    SpokenNode& node = NodeOf(holder);
     auto* const part = ATK_OBJECT(g_object_new(SpokenType(description.role, true), nullptr));
-    const auto index = static_cast<int>(node.parts.size());
-    SetNode(part, {.window = node.window, .whole = whole, .index = index});
-    node.parts.push_back(part);
+    SetNode(part,
+            {.window = node.window, .whole = holder, .index = static_cast<int>(node.parts.size())});
     Fill(part, description);
-    g_signal_emit_by_name(whole, "children-changed::add", static_cast<guint>(index), part);
+    node.parts.push_back(part);
+    return part;
+}
+
+void TellOfPart(AtkObject* part) {
+    const SpokenNode& node = NodeOf(part);
+    g_signal_emit_by_name(node.whole, "children-changed::add", static_cast<guint>(node.index),
+                          part);
+}
+
+// A page has a hundred parts. They come and go as one, or else a reader would be busy for seconds
+// with what it is told.
+void AddParts(AtkObject* whole, const std::vector<SpokenObject>& descriptions) {
+    if (NodeOf(whole).object.role == SpokenRole::Page && !descriptions.empty()) {
+        AtkObject* const section = NewPart(whole, {.role = SpokenRole::Section});
+        for (const SpokenObject& description : descriptions) {
+            NewPart(section, description);
+        }
+        TellOfPart(section);
+        return;
+    }
+    for (const SpokenObject& description : descriptions) {
+        TellOfPart(NewPart(whole, description));
+    }
 }
 
 bool HaveSameRoles(const std::vector<AtkObject*>& parts,
@@ -140,9 +173,7 @@ void SetSpokenObject(wxWindow& window, SpokenObject whole, std::vector<SpokenObj
         return;
     }
     LetPartsGo(object);
-    for (const SpokenObject& part : parts) {
-        AddPart(object, part);
-    }
+    AddParts(object, parts);
 }
 
 void MakeSpokenPanel(wxWindow& area) {

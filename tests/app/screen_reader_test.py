@@ -109,7 +109,8 @@ def check_donation(application):
     """The text that scrolls can be read line by line."""
     Atspi.Action.do_action(await_object(application, 'push button', 'Donate via PayPal'), 0)
     dialog = await_object(application, 'dialog')
-    text = await_object(dialog, 'label', 'Behind the scenes')
+    text = await_object(dialog, 'label')
+    expect(text.get_description(), 'Behind the scenes', 'what the text is')
     lines = text_of(text).split('\n')
     second = Atspi.Text.get_string_at_offset(text, len(lines[0]) + 3, Atspi.TextGranularity.LINE)
     expect(second.content.rstrip('\n'), lines[1], 'the second line')

@@ -72,9 +72,9 @@ bool IsOfMenu(AtkRole role) {
 
 // Without a name they mean nothing to a reader.
 bool OnlyHolds(AtkRole role) {
-    constexpr std::array<AtkRole, 6> kHolders = {ATK_ROLE_PANEL,       ATK_ROLE_FILLER,
-                                                 ATK_ROLE_SCROLL_PANE, ATK_ROLE_VIEWPORT,
-                                                 ATK_ROLE_SPLIT_PANE,  ATK_ROLE_UNKNOWN};
+    constexpr std::array<AtkRole, 7> kHolders = {
+        ATK_ROLE_PANEL,      ATK_ROLE_FILLER,  ATK_ROLE_SCROLL_PANE, ATK_ROLE_VIEWPORT,
+        ATK_ROLE_SPLIT_PANE, ATK_ROLE_UNKNOWN, ATK_ROLE_SECTION};
     return std::find(kHolders.begin(), kHolders.end(), role) != kHolders.end();
 }
 
@@ -203,9 +203,9 @@ bool Walk(AtkObject* object, int depth, const Visit& visit) {
         return false;
     }
     const int count = atk_object_get_n_accessible_children(object);
-    const int most = ATK_IS_TABLE(object)             ? kMostCells
-                     : role == ATK_ROLE_DOCUMENT_TEXT ? kMostParts
-                                                      : count;
+    const int most = ATK_IS_TABLE(object)       ? kMostCells
+                     : role == ATK_ROLE_SECTION ? kMostParts
+                                                : count;
     for (int i = 0; i < std::min(count, most); ++i) {
         AtkObject* const child = atk_object_ref_accessible_child(object, i);
         if (child == nullptr) {
