@@ -121,7 +121,16 @@ class Screen:
         XTEST.XTestFakeMotionEvent(self.display, -1, int(x), int(y), ctypes.c_ulong(0))
         self.sync()
 
+    def is_over_desktop(self):
+        ids = [ctypes.c_ulong(), ctypes.c_ulong()]
+        rest = [ctypes.c_int() for _ in range(5)]
+        XLIB.XQueryPointer(self.display, self.root, *map(ctypes.byref, ids + rest))
+        return ids[1].value == 0
+
     def button(self, number, down):
+        # The desktop's own menu would start other programs.
+        if down and self.is_over_desktop():
+            return
         XTEST.XTestFakeButtonEvent(self.display, number, int(down), ctypes.c_ulong(0))
         self.sync()
 
