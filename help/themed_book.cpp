@@ -15,8 +15,6 @@
 
 namespace brelex {
 
-wxIMPLEMENT_DYNAMIC_CLASS(ThemedBook, wxZipFSHandler);  // NOLINT: the toolkit's macro
-
 namespace {
 
 bool isOnPaper = false;
@@ -71,5 +69,7 @@ ThemedBook::OnPaper::OnPaper() {
 ThemedBook::OnPaper::~OnPaper() {
     isOnPaper = false;
 }
+
+wxIMPLEMENT_DYNAMIC_CLASS(ThemedBook, wxZipFSHandler)  // NOLINT: the toolkit's macro
 
 }  // namespace brelex
