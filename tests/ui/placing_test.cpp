@@ -74,6 +74,22 @@ INSTANTIATE_TEST_SUITE_P(Windows, PlacingOfAll,
                                          SideWindowCase{"frmDonation", Command::Donate}),
                          CaseName());
 
+// A window out of sight would keep the main window from being used.
+TEST_F(Placing, AWindowIsInSightEvenIfTheMainWindowIsMostlyNot) {
+    const wxSize size = window_->GetSize();
+    window_->Move(60 - size.x, 100);
+    ASSERT_TRUE(WaitFor([&] {
+        const wxRect main = FrameOnScreen(*window_);
+        return main.x + main.width / 2 < 0;
+    }));
+    LetEventsArrive();
+    Open(Command::Search, "frmSearch", [&] {
+        const wxRect screen(ScreenSize());
+        EXPECT_TRUE(WaitFor([&] { return screen.Contains(FrameOnScreen(Side())); }))
+            << FrameOnScreen(Side()).x << ", " << FrameOnScreen(Side()).y;
+    });
+}
+
 TEST_F(Placing, TheSearchWindowIsCenteredExpandedAndShrunk) {
     MoveMain(200, 100);
     Open(Command::Search, "frmSearch", [&] {

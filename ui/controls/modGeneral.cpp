@@ -33,6 +33,17 @@ bool PutOnClipboard(const wxString& text) {
     return wxTheClipboard->SetData(new wxTextDataObject(text));
 }
 
+// The free part of the screen that the center of an area is on. If the center is beyond all
+// screens, because the user has moved the main window mostly out of sight, then of the main
+// window's screen.
+wxRect ScreenOf(const wxRect& area, const wxTopLevelWindow& main) {
+    int display = wxDisplay::GetFromPoint({area.x + area.width / 2, area.y + area.height / 2});
+    if (display == wxNOT_FOUND) {
+        display = wxDisplay::GetFromWindow(&main);
+    }
+    return wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
+}
+
 }  // namespace
 
 void Draw3DFrame(wxDC& dc, const wxRect& area) {
@@ -99,13 +110,9 @@ void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main) {
     wxRect place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x,
                  size.y);
     // If the window would reach beyond the screen, its title and upper left corner stay visible.
-    const int display =
-        wxDisplay::GetFromPoint({area.x + area.width / 2, area.y + area.height / 2});
-    if (display != wxNOT_FOUND) {
-        const wxRect screen = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
-        place.x = std::max(std::min(place.x, screen.GetRight() + 1 - size.x), screen.x);
-        place.y = std::max(std::min(place.y, screen.GetBottom() + 1 - size.y), screen.y);
-    }
+    const wxRect screen = ScreenOf(area, main);
+    place.x = std::max(std::min(place.x, screen.GetRight() + 1 - size.x), screen.x);
+    place.y = std::max(std::min(place.y, screen.GetBottom() + 1 - size.y), screen.y);
     MoveFrame(window, place.GetTopLeft());
 }
 

@@ -37,7 +37,8 @@ void AddToComboHistory(wxComboBox& combo);
 void SelectAllText(wxTextEntry& control);
 
 /// Centers a window over the main window, or on the screen if the main window is minimized or
-/// hidden. Keeps it within the edges of the screen that the center is on.
+/// hidden. Keeps it within the edges of the screen that the center is on, or of the main window's
+/// screen if the center is on none.
 void CenterWindow(wxTopLevelWindow& window, const wxTopLevelWindow& main);
 
 /// Shows what program this is. The text box loses its selection but keeps its caret.
