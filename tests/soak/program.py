@@ -26,6 +26,8 @@ ALLOWED_LINES = [
     # A window that closes while a list in it still glides to where it was scrolled. GTK ends that twice.
     r"gdk_frame_clock_idle_end_updating: assertion 'priv->updating_count > 0' failed",
     r"g_signal_handler_disconnect: assertion 'handler_id > 0' failed",
+    # Controls in a help window that a user has made smaller than they are.
+    r"Gtk-WARNING \*\*: (\S+ )?(Negative content|for_size smaller than min-size)",
     # The toolkit also moves those controls in a scrolled window that are hidden.
     r"gtk_widget_set_allocation: assertion '_gtk_widget_get_visible",
     # A menu that cannot open because another program, such as the window manager, has the mouse.
