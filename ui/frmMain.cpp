@@ -105,7 +105,8 @@ void frmMain::PlaceControls() {
     picToolbar->SetSize(0, 0, inner.x, picToolbar->GetBestSize().y);
     const int top = picToolbar->GetSize().y;
     const int belowBox = lookup_.PlaceBox(boxLeft, top, inner.x - boxLeft - margin);
-    title_.Place({margin, top, px(kTitleWidth), belowBox - top}, units_);
+    // One pixel lower, because the toolbar would cover the upper edge of the frame.
+    title_.Place({margin, top + 1, px(kTitleWidth), belowBox - top - 1}, units_);
     // The list ends with a full row, and so does the window.
     const int belowList = status_.Height() + margin;
     inner.y = belowList + lookup_.PlaceList(margin, belowBox + margin, inner.x - 2 * margin,

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/image.h>
 #include <wx/menu.h>
 #include <wx/modalhook.h>
 #include <wx/stattext.h>
@@ -15,6 +16,7 @@
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"
+#include "ui/controls/colours.h"
 #include "ui/main/main_menus.h"
 
 namespace brelex {
@@ -59,6 +61,24 @@ TEST_F(FrmMainLayout, TheColumnHeaderStandsOnTheListWithItsWidth) {
     EXPECT_EQ(header.width, list.width);
     EXPECT_EQ(header.y + header.height, list.y);
     EXPECT_EQ(Control("picColHeader")->GetParent(), Control("lblColHeaderBack"));
+}
+
+// As the screen has it: another control could cover an edge.
+TEST_F(FrmMainLayout, TheTitleHasAFrameOnEachSide) {
+    const wxRect label = Control("lblAppTitle")->GetScreenRect();
+    const Rgb face = RgbOf(wxSYS_COLOUR_BTNFACE);
+    const auto contrastAt = [&](int x, int y) {
+        const wxImage dot = PictureOfScreen({x, y, 1, 1});
+        return dot.IsOk() ? ContrastRatio(RgbOf(ColourAt(dot, 0, 0)), face) : 0;
+    };
+    const int middle = label.x + label.width / 2;
+    const int halfway = label.y + label.height / 2;
+    for (const wxPoint& edge :
+         {wxPoint(middle, label.y - 1), wxPoint(middle, label.y + label.height),
+          wxPoint(label.x - 1, halfway), wxPoint(label.x + label.width, halfway)}) {
+        EXPECT_TRUE(WaitFor([&] { return contrastAt(edge.x, edge.y) >= kLineContrast; }))
+            << edge.x << ", " << edge.y;
+    }
 }
 
 TEST_F(FrmMainLayout, TheTitleImageIsCentredOnItsLabel) {
