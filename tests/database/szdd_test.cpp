@@ -203,7 +203,7 @@ TEST(ExpandSzdd, AFileThatDeclaresTooLittleTakesTwiceTheMemoryInASecondBlock) {
     const std::size_t first = kRingAndGap + data.size();
     EXPECT_EQ(BytesToExpand(File(data, 0)), first + kRingAndGap + 2 * kManyBlanks + 2 * kRest);
     EXPECT_EQ(BytesToExpand(File(data, 0), kManyBlanks + 8),
-              first + kRingAndGap + kManyBlanks + 8 + 8 * 18 + kRest);
+              first + kRingAndGap + kManyBlanks + 8 + std::size_t{8} * 18 + kRest);
 }
 
 // 31 groups of long matches leave room for two more groups with little to spare.

@@ -157,8 +157,10 @@ std::int64_t StepsFor(const RecordStore& store, std::string_view text) {
 }
 
 TEST(FindFirstByPrefix, LooksAtOneRowForEachTimeThatTheRowsCanBeHalved) {
+    constexpr int kRecords = 1023;
     std::vector<std::string> records;
-    for (int i = 0; i < 1023; ++i) {
+    records.reserve(kRecords);
+    for (int i = 0; i < kRecords; ++i) {
         records.push_back(std::to_string(1000 + i) + "\tx");
     }
     RecordStore store;

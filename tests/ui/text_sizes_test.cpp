@@ -87,7 +87,7 @@ TEST_F(TextSizes, ResultsCanBeReadInTheUsersColors) {
         "frmCheckData", [&] { window_->Run(Command::CheckData); },
         [&] {
             Click("cmdCheck");
-            ASSERT_TRUE(WaitFor([&] { return Label("lblResult") != ""; }));
+            ASSERT_TRUE(WaitFor([&] { return !Label("lblResult").empty(); }));
             EXPECT_GE(contrast(In("lblResult")), kTextContrast);
         });
 }
