@@ -4,6 +4,7 @@
 namespace brelex {
 
 // The toolkit ends the program when the session ends.
+// NOLINTNEXTLINE(performance-unnecessary-value-param): on Linux it is kept
 void PrepareForEndingSignals(std::function<void()> /*prepare*/) {}
 
 }  // namespace brelex
