@@ -31,12 +31,12 @@ class Event(ctypes.Union):
     _fields_ = [("type", ctypes.c_int), ("client", ClientMessage), ("pad", ctypes.c_long * 24)]
 
 
-class ClientId(ctypes.Structure):
+class ClientMask(ctypes.Structure):
     _fields_ = [("client", ctypes.c_ulong), ("mask", ctypes.c_uint)]
 
 
 class ClientId(ctypes.Structure):
-    _fields_ = [("owner", ClientId), ("length", ctypes.c_long), ("value", ctypes.c_void_p)]
+    _fields_ = [("owner", ClientMask), ("length", ctypes.c_long), ("value", ctypes.c_void_p)]
 
 
 class WindowAttributes(ctypes.Structure):
@@ -271,7 +271,7 @@ class Screen:
     def resources(self, process):
         """How many windows, pictures and so on the display keeps for a process."""
         counts = collections.Counter()
-        asked = ClientId(0, 1 << 1)  # all clients, by process
+        asked = ClientMask(0, 1 << 1)  # all clients, by process
         number, ids = ctypes.c_long(), ctypes.POINTER(ClientId)()
         XRES.XResQueryClientIds(self.display, ctypes.c_long(1), ctypes.byref(asked),
                                 ctypes.byref(number), ctypes.byref(ids))
