@@ -17,9 +17,6 @@ struct Rgb {
 /// The contrast at which a line is seen beside the area that it is drawn on.
 inline constexpr double kLineContrast = 1.3;
 
-/// The contrast that marks which control has the focus need (WCAG 2.1, success criterion 1.4.11).
-inline constexpr double kMarkContrast = 3.0;
-
 /// The contrast that text needs (WCAG 2.1, success criterion 1.4.3).
 inline constexpr double kTextContrast = 4.5;
 

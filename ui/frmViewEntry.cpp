@@ -32,6 +32,11 @@ constexpr int kExpansionLines = 3;
 constexpr int kTextMargin = 5;
 constexpr int kEdge = 2;
 
+// Larger than usual, because the entry is what the window is about.
+wxFont BoxFont(const wxWindow& window) {
+    return window.GetFont().Larger();
+}
+
 // A text that the user can read and select but not change. Boxes of one line and of several look
 // different on GTK, so both are of the second kind. On Windows the TAB key would otherwise skip
 // them (seen with wxWidgets 3.2.2).
@@ -40,7 +45,7 @@ class ReadOnlyBox final : public wxTextCtrl {
     ReadOnlyBox(wxWindow* parent, long scrollStyle)
         : wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                      wxTE_READONLY | wxTE_MULTILINE | scrollStyle) {
-        SetFont(GetFont().Larger());
+        SetFont(BoxFont(*parent));
         SetSideMargins(*this, FromDIP(kTextMargin));
         SetTopMargin(*this, FromDIP(kTextMargin));
     }
@@ -92,7 +97,11 @@ wxStaticText* frmViewEntry::NewCount() const {
 
 // Windows shows a scroll bar whether it is needed or not.
 long frmViewEntry::ScrollStyle() const {
-    const int width = GetTextExtent(WxTextOfBytes(GetExpansion(selectedEntry_()))).x;
+    const wxFont font = BoxFont(*this);
+    int width = 0;
+    int height = 0;
+    GetTextExtent(WxTextOfBytes(GetExpansion(selectedEntry_())), &width, &height, nullptr, nullptr,
+                  &font);
     return width < units_.Pixels(kWidthWithoutScrolling) ? wxTE_NO_VSCROLL : 0;
 }
 
