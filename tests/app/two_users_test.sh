@@ -10,8 +10,8 @@ folder=$(mktemp -d)
 servers=()
 trap 'kill "${servers[@]}" 2>/dev/null; rm -rf "$folder"' EXIT
 chmod 755 "$folder"
-mkdir "$folder/program" "$folder/shared"
-chmod 1777 "$folder/shared"
+mkdir "$folder/program" "$folder/common"
+chmod 1777 "$folder/common"
 cp "$1/brevilexicon" "$1/Acronyms.dat" "$folder/program/"
 chmod -R a+rX "$folder/program"
 users=(64001 64002) displays=()
@@ -29,7 +29,7 @@ done
 as() {
     local user=${users[$1]} display=${displays[$1]}; shift
     exec setpriv --reuid "$user" --regid "$user" --clear-groups env -i PATH="$PATH" \
-        HOME="$folder/home$user" TMPDIR="$folder/shared" DISPLAY="$display" NO_AT_BRIDGE=1 \
+        HOME="$folder/home$user" TMPDIR="$folder/common" DISPLAY="$display" NO_AT_BRIDGE=1 \
         GSETTINGS_BACKEND=memory LC_ALL=C.UTF-8 "$@"
 }
 shows_main() { DISPLAY=${displays[$1]} xwininfo -root -tree 2>/dev/null | grep -F 'Brevilexicon (' >/dev/null; }
@@ -48,7 +48,7 @@ as 0 "$folder/program/brevilexicon" 2>/dev/null & first=$!
 as 1 "$folder/program/brevilexicon" 2>/dev/null & second=$!
 await_main 0
 await_main 1
-lock=$folder/shared/brevilexicon-${users[0]}.lock
+lock=$folder/common/brevilexicon-${users[0]}.lock
 entry=$folder/home${users[0]}/.config/autostart/brevilexicon.desktop
 for file in "$lock" "$entry"; do
     [ -e "$file" ] || failed "there is no $file"
@@ -56,7 +56,7 @@ for file in "$lock" "$entry"; do
     ! (as 1 rm -f "$file") 2>/dev/null || failed "the second user can remove $file"
 done
 finish $first $second
-[ -z "$(ls -A "$folder/shared")" ] || failed "left behind: $(ls -A "$folder/shared")"
+[ -z "$(ls -A "$folder/common")" ] || failed "left behind: $(ls -A "$folder/common")"
 
 # plant KIND PATH: as the second user.
 plant() {
@@ -64,7 +64,7 @@ plant() {
         file) (as 1 sh -c 'echo planted >"$1"; chmod 666 "$1"' sh "$2") ;;
         link) (as 1 ln -s "$folder/victim" "$2") ;;
         'link to nowhere') (as 1 ln -s "$folder/home${users[0]}/nowhere" "$2") ;;
-        'hard link') (as 1 ln "$folder/shared/seconds" "$2") ;;
+        'hard link') (as 1 ln "$folder/common/seconds" "$2") ;;
         pipe) (as 1 mkfifo -m 666 "$2") ;;
         folder) (as 1 mkdir -m 777 "$2") ;;
     esac
@@ -73,8 +73,8 @@ echo precious >"$folder/victim"
 chown "${users[0]}" "$folder/victim"
 for name in '~bx6120.tmp' "brevilexicon-${users[0]}.lock"; do
     for kind in file link 'link to nowhere' 'hard link' pipe folder; do
-        what="$kind at $name" planted=$folder/shared/$name
-        (as 1 sh -c 'echo planted >"$1"; chmod 666 "$1"' sh "$folder/shared/seconds")
+        what="$kind at $name" planted=$folder/common/$name
+        (as 1 sh -c 'echo planted >"$1"; chmod 666 "$1"' sh "$folder/common/seconds")
         plant "$kind" "$planted"
         before=$(stat -c '%i %u %F %s' "$planted")
         holder=
@@ -88,8 +88,8 @@ for name in '~bx6120.tmp' "brevilexicon-${users[0]}.lock"; do
         [ "$(stat -c '%i %u %F %s' "$planted")" = "$before" ] || failed "it was changed"
         [ "$(cat "$folder/victim")" = precious ] || failed "another file was changed"
         [ ! -e "$folder/home${users[0]}/nowhere" ] || failed "a link was followed"
-        rm -rf "${folder:?}/shared"/*
-        rm -f "$folder/shared"/brevilexicon-* "$folder/shared"/~bx*
+        rm -rf "${folder:?}/common"/*
+        rm -f "$folder/common"/brevilexicon-* "$folder/common"/~bx*
     done
 done
 echo "$starts starts, $failures failures"

@@ -54,9 +54,17 @@ class AccessibleTrees : public SideWindowTest {
         Start(FewEntries());  // the end of the first window has moved the mouse away
     }
 
-    void ExpectSideWindow(Command command, const char* name) {
+    // As it opens or, if there is `work`, after that.
+    void ExpectSideWindow(Command command, const std::string& name, const std::string& state = "",
+                          const std::function<void()>& work = nullptr) {
         InSideWindow(
-            name, [&] { window_->Run(command); }, [&] { ExpectTree(Side(), name); });
+            name.c_str(), [&] { window_->Run(command); },
+            [&] {
+                if (work) {
+                    work();
+                }
+                ExpectTree(Side(), name + state);
+            });
     }
 
     // Waits for the end of a search, which a label tells, and for the focus on its result.
@@ -99,12 +107,9 @@ TEST_F(AccessibleTrees, OfTheSearchWindow) {
 }
 
 TEST_F(AccessibleTrees, OfTheSearchWindowWithItsResult) {
-    InSideWindow(
-        "frmSearch", [&] { window_->Run(Command::Search); },
-        [&] {
-            SearchFor("cboSearchWhat", "bus", "lblStatus", "Number of Hits: 3", "txtSearchResult");
-            ExpectTree(Side(), "frmSearch-result");
-        });
+    ExpectSideWindow(Command::Search, "frmSearch", "-result", [&] {
+        SearchFor("cboSearchWhat", "bus", "lblStatus", "Number of Hits: 3", "txtSearchResult");
+    });
 }
 
 TEST_F(AccessibleTrees, OfTheAnagramWindow) {
@@ -112,12 +117,9 @@ TEST_F(AccessibleTrees, OfTheAnagramWindow) {
 }
 
 TEST_F(AccessibleTrees, OfTheAnagramWindowWithItsResult) {
-    InSideWindow(
-        "frmAnagram", [&] { window_->Run(Command::Anagram); },
-        [&] {
-            SearchFor("cboLetters", "AB", "lblPercentDone", "Found 3", "lstAnagrams");
-            ExpectTree(Side(), "frmAnagram-result");
-        });
+    ExpectSideWindow(Command::Anagram, "frmAnagram", "-result", [&] {
+        SearchFor("cboLetters", "AB", "lblPercentDone", "Found 3", "lstAnagrams");
+    });
 }
 
 TEST_F(AccessibleTrees, OfTheDatabaseCheck) {
