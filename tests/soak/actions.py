@@ -227,8 +227,13 @@ class User:
         """About, and from there the window with the credits, by Tab and the link's key."""
         for name in "alt+h", "Up", "Return":
             self.screen.key(name)
-        time.sleep(0.3)
-        for _ in range(self.random.randint(1, 4)):
+        tabs = self.random.randint(1, 4)
+        # It opens slowly on a busy machine, and does not open at all over a modal window.
+        for _ in range(30):
+            time.sleep(0.1)
+            if self.screen.title(self.screen.active()).startswith("About"):
+                break
+        for _ in range(tabs):
             self.screen.key("Tab")
         self.screen.key("space")
 

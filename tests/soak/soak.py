@@ -18,6 +18,7 @@ notification area; scripts/soak provides that. Exits with 77 if a tool is missin
 
 import argparse
 import collections
+import contextlib
 import math
 import pathlib
 import random
@@ -37,7 +38,7 @@ MOST_FAILURES = 50
 ALL_WINDOWS = ["Brevilexicon (", "About Brevilexicon", "Anagrammatic Search", "Check Data Integrity",
                "Credits", "Database Info", "Donate via PayPal", "Search Database",
                "The Smiley Dictionary", "Current Selection (Read Only)", "Brevilexicon Help",
-               "Go to Row"]
+               "Go to Record"]
 # A run that is shorter need not come through all windows, and says little about memory.
 LONG_SECONDS = 600
 MEMORY_GROWTH = 1.10  # from the end of the warm-up on
@@ -128,26 +129,29 @@ class Soak:
 
     def check_answers(self):
         for window in {self.program.main, *self.program.windows()}:
-            process = self.screen.process(window)
-            waited = self.waited_for_processor(process)
+            processes = (self.screen.process(window), self.screen.server_process())
+            waited = self.waited_for_processor(processes)
             seconds = self.screen.answer_seconds(window, WAIT_SECONDS, self.program.is_over)
             if seconds is None:
                 continue
             if seconds == math.inf:
                 self.fail(f"no answer after {WAIT_SECONDS} s\n{self.program.stack()}")
-            seconds -= max(0, self.waited_for_processor(process) - waited)
+            seconds -= max(0, self.waited_for_processor(processes) - waited)
             if seconds > self.longest[0]:
                 self.longest = (seconds, self.number, self.last[-1])
             if seconds > self.options.answer_seconds:
                 self.fail(f"answers only after {seconds:.2f} s: {self.screen.title(window)}")
 
     @staticmethod
-    def waited_for_processor(process):
-        """The seconds that a process has been ready to run while other programs ran."""
-        try:
-            return int(pathlib.Path(f"/proc/{process}/schedstat").read_text().split()[1]) / 1e9
-        except OSError:
-            return 0.0
+    def waited_for_processor(processes):
+        """The seconds that processes, of which one waits for the other, have been ready to run while
+        other programs ran."""
+        seconds = 0.0
+        for process in processes:
+            with contextlib.suppress(OSError):
+                delay = pathlib.Path(f"/proc/{process}/schedstat").read_text().split()[1]
+                seconds += int(delay) / 1e9
+        return seconds
 
     def check(self):
         """Looks for anything that went wrong, and starts the program again if it ended."""

@@ -4,6 +4,8 @@ are used, so the same calls drive the Linux program and the Windows program unde
 
 import collections
 import ctypes
+import os
+import pathlib
 import subprocess
 import time
 
@@ -239,6 +241,12 @@ class Screen:
     def change_state(self, window, state):
         toggle = 2
         self.send(window, "_NET_WM_STATE", [toggle, self.atom(state), 0, FROM_PAGER])
+
+    @staticmethod
+    def server_process():
+        """The number of the display's own process."""
+        number = os.environ["DISPLAY"].split(":")[1].split(".")[0]
+        return int(pathlib.Path(f"/tmp/.X{number}-lock").read_text())
 
     def answer_seconds(self, window, longest, is_over):
         """Sends what a window manager sends in order to see whether a program still handles its
