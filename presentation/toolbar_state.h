@@ -120,6 +120,9 @@ class ToolbarState {
     /// Adds the next icon. Where icons overlap, the mouse counts as over the later one.
     void AddIcon(const IconBounds& bounds) { icons_.push_back(bounds); }
 
+    /// Removes all icons, for example to add them at other places. None may be hot.
+    void RemoveIcons() { icons_.clear(); }
+
     /// Sets the size of the toolbar in pixels.
     void SetSize(double width, double height);
 

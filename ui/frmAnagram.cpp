@@ -15,6 +15,7 @@
 #include "platform/window/drop_down_list.h"
 #include "platform/window/plain_text.h"
 #include "platform/window/prompt_button.h"
+#include "platform/window/window_place.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/access_keys.h"
@@ -54,6 +55,7 @@ frmAnagram::frmAnagram(wxTopLevelWindow* main, ProgramValues& values,
     textLimit_->Set(session_.LetterLimit());
     PlaceControls();
     picColHeader->SetSize(lblColHeaderBack->GetSize());
+    OnEachShowing(*this, [this] { LetUserEnlarge(); });
 }
 
 // Destroys the controls first, because they still send events while they are destroyed.
@@ -166,6 +168,8 @@ void frmAnagram::BindEvents() {
     cmdSearch->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.RunSearch(TypedLetters()); });
     cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.DismissAnagramWindow(); });
     lstAnagrams->onEnter = [this] { session_.ChooseRow(lstAnagrams->SelectedRow()); };
+    lblColHeaderBack->Bind(wxEVT_SIZE,
+                           [this](wxSizeEvent& event) { picColHeader->SetSize(event.GetSize()); });
     picColHeader->Bind(wxEVT_LEFT_DOWN,
                        [this](wxMouseEvent&) { lstAnagrams->Window().SetFocus(); });
 }
@@ -173,6 +177,7 @@ void frmAnagram::BindEvents() {
 void frmAnagram::ShowAnagramWindow() {
     session_.Open();
     ShowModal();
+    EndEnlarging();
 }
 
 // Closing by the user hides the window. When the program ends, the session is abandoned, and the

@@ -95,6 +95,7 @@ frmMain::~frmMain() {
 
 void frmMain::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
+    surface_->ForgetAreas();
     const int margin = px(kMargin);
     const int boxLeft = 2 * margin + px(kTitleWidth);
     // If the screen is too narrow, the instruction takes more lines; if it is too low, the list
@@ -126,6 +127,13 @@ void frmMain::BindEvents() {
     Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
         picToolbar->LetGo();
         event.Skip();
+    });
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        units_.Rescale(ScaleOf(event));
+        picToolbar->Rescale();
+        // The toolkit first gives the window the size that Windows suggests.
+        CallAfter([this] { PlaceControls(); });
     });
     Bind(wxEVT_TIMER, &frmMain::OnCheckCommand, this, tmrCheckCommand.GetId());
     // If a control has no window of its own, its mouse events go to the window under it.

@@ -2,6 +2,7 @@
 #include "ui/frmSearch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <utility>
 
@@ -167,6 +168,13 @@ void frmSearch::PlaceControls() {
     ShrunkHeight = lblColHeaderBack->GetPosition().y + px(kShrunkMargin);
 }
 
+void frmSearch::OnRescaled(double times) {
+    SideWindow::OnRescaled(times);
+    for (int* const pixels : {&innerWidth_, &ExpandedHeight, &ShrunkHeight}) {
+        *pixels = static_cast<int>(std::lround(*pixels * times));
+    }
+}
+
 void frmSearch::BindEvents() {
     LeadAccessKeysTo(*this, {{lblPrompt_, cboSearchWhat}});
     Bind(wxEVT_CLOSE_WINDOW, &frmSearch::OnClose, this);
@@ -181,6 +189,7 @@ void frmSearch::BindEvents() {
     cmdCancel->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnCancel(); });
     cmdHelp->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { messages_.Show(WildcardHelp()); });
     cmdExpandShrink->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { session_.ToggleResultArea(); });
+    lblColHeaderBack->Bind(wxEVT_SIZE, [this](wxSizeEvent&) { DrawColumnHeader(); });
     picColHeader->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) { txtSearchResult->SetFocus(); });
     ShowAppInfoOnMenuRequest(*txtSearchResult, values_.info);
 }
@@ -293,9 +302,13 @@ void frmSearch::ShowResultArea(bool show) {
     // The TAB key must not reach hidden controls either.
     lblColHeaderBack->Show(show);
     txtSearchResult->Show(show);
+    EndEnlarging();
     surface_->FillWindow({innerWidth_, show ? ExpandedHeight : ShrunkHeight});
     surface_->Refresh();
     CenterOverOwner();
+    if (show) {
+        LetUserEnlarge();
+    }
 }
 
 void frmSearch::MoveFocus(SearchFocus focus) {

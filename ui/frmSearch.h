@@ -61,6 +61,7 @@ class frmSearch final : public SideWindow, private SearchView {
     void BindEvents();
     void FillHistory();
 
+    void OnRescaled(double times) override;
     void ShowDisplay(const SearchDisplay& display) override;
     void ShowResult(const std::string& text, Tone tone) override;
     void MoveFocus(SearchFocus focus) override;

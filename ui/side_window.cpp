@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/side_window.h"
 
+#include <cmath>
+#include <utility>
+
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 #include <wx/timer.h>
 
 #include "platform/window/spoken_object.h"
+#include "platform/window/user_size.h"
 #include "platform/window/window_place.h"
 #include "toolkit/app_icon.h"
 #include "ui/controls/menu_request.h"
@@ -25,6 +29,28 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
     MakeSpokenDialog(*this);
     // Centers again once the desktop has put its frame around the window.
     OnEachShowing(*this, [this] { CenterOverOwner(); });
+    OnEachNewFrame(*this, [this] {
+        if (std::exchange(awaitsFrame_, false)) {
+            CenterOverOwner();
+        }
+    });
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        OnRescaled(ScaleOf(event));
+    });
+}
+
+void SideWindow::OnRescaled(double times) {
+    units_.Rescale(times);
+    surface_->Rescale(times);
+    const auto scale = [times](wxSize& size) {
+        if (size.IsFullySpecified()) {
+            size = {static_cast<int>(std::lround(size.x * times)),
+                    static_cast<int>(std::lround(size.y * times))};
+        }
+    };
+    scale(smallest_);
+    scale(enlarged_);
 }
 
 bool SideWindow::Show(bool show) {
@@ -51,6 +77,33 @@ void SideWindow::StopWithWindow(wxTimer& timer) {
 
 void SideWindow::CenterOverOwner() {
     CenterWindow(*this, owner_);
+}
+
+void SideWindow::LetUserEnlarge() {
+    if (std::exchange(mayEnlarge_, true)) {
+        return;
+    }
+    if (!smallest_.IsFullySpecified()) {
+        smallest_ = GetClientSize();
+    }
+    LetUserResize(*this, smallest_);
+    wxSize wanted = enlarged_;
+    wanted.DecTo(LargestInside(*this));
+    wanted.IncTo(smallest_);
+    if (wanted != GetClientSize()) {
+        SetClientSize(wanted);
+    }
+    awaitsFrame_ = true;
+    CenterOverOwner();
+}
+
+void SideWindow::EndEnlarging() {
+    if (std::exchange(mayEnlarge_, false)) {
+        enlarged_ = GetClientSize();
+        KeepSizeFromUser(*this);
+        SetClientSize(smallest_);
+        awaitsFrame_ = true;
+    }
 }
 
 void SideWindow::ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info) {

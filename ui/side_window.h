@@ -40,15 +40,30 @@ class SideWindow : public wxDialog {
     /// `info` must outlive the window.
     void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info);
 
+    /// Lets the user make the window larger than it is now, the first time that this is called.
+    /// Gives it the size back to which the user made it before. The window is on the screen.
+    void LetUserEnlarge();
+
+    /// Ends that. The window goes back to the size that it had before.
+    void EndEnlarging();
+
     /// Centers the window again. For a window that changes its size while it is shown.
     void CenterOverOwner();
 
-    const LayoutUnits units_;
+    /// Scales what a window has measured itself, after it has moved to a screen with `times` as
+    /// many dots per inch. The toolkit takes care of sizers and fonts.
+    virtual void OnRescaled(double times);
+
+    LayoutUnits units_;
     WxMessageSink messages_;  ///< shows messages over the window
     Surface* const surface_;  ///< holds the controls
 
   private:
     wxTopLevelWindow& owner_;
+    wxSize smallest_ = wxDefaultSize;  // of the inside while the user may make it larger
+    wxSize enlarged_ = wxDefaultSize;  // of the inside, as the user left it
+    bool mayEnlarge_ = false;
+    bool awaitsFrame_ = false;  // which is different where the user may enlarge the window
     std::vector<wxTimer*> timers_;
 };
 

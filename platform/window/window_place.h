@@ -25,4 +25,8 @@ void MoveFrame(wxTopLevelWindow& window, const wxPoint& corner);
 /// window.
 void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act);
 
+/// Calls `act` each time the desktop has put another frame around the window, if it does that only
+/// after it was asked to. Works for the lifetime of the window. Call once for each window.
+void OnEachNewFrame(wxTopLevelWindow& window, const std::function<void()>& act);
+
 }  // namespace brelex

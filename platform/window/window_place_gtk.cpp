@@ -37,6 +37,17 @@ void DeleteShowing(gpointer showing, GClosure* /*closure*/) {
     delete static_cast<Showing*>(showing);
 }
 
+gboolean OnProperty(GtkWidget* /*widget*/, GdkEventProperty* event, gpointer act) {
+    if (event->atom == gdk_atom_intern_static_string("_NET_FRAME_EXTENTS")) {
+        (*static_cast<std::function<void()>*>(act))();
+    }
+    return FALSE;
+}
+
+void DeleteAct(gpointer act, GClosure* /*closure*/) {
+    delete static_cast<std::function<void()>*>(act);
+}
+
 }  // namespace
 
 // Asks the display, because the toolkit remembers only the values that it requested.
@@ -75,6 +86,12 @@ void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act) {
     g_signal_connect(window.GetHandle(), "show", G_CALLBACK(OnShow), showing);
     g_signal_connect_data(window.GetHandle(), "map-event", G_CALLBACK(OnMapped), showing,
                           DeleteShowing, G_CONNECT_AFTER);
+}
+
+void OnEachNewFrame(wxTopLevelWindow& window, const std::function<void()>& act) {
+    gtk_widget_add_events(GTK_WIDGET(window.GetHandle()), GDK_PROPERTY_CHANGE_MASK);
+    g_signal_connect_data(window.GetHandle(), "property-notify-event", G_CALLBACK(OnProperty),
+                          new std::function<void()>(act), DeleteAct, G_CONNECT_AFTER);
 }
 
 }  // namespace brelex

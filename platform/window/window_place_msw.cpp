@@ -26,4 +26,7 @@ void OnEachShowing(wxTopLevelWindow& window, const std::function<void()>& act) {
     });
 }
 
+// Windows changes the frame at once.
+void OnEachNewFrame(wxTopLevelWindow& /*window*/, const std::function<void()>& /*act*/) {}
+
 }  // namespace brelex

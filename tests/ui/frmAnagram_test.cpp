@@ -111,6 +111,26 @@ class AnagramWindowTest : public SideWindowTest {
 const std::vector<std::string> kCpuHits = {"C-PU\tHyphenated", "CPU\tCentral Processing Unit",
                                            "UCP\tUniform Cp"};
 
+TEST_F(AnagramWindowTest, TheListGrowsWithTheWindow) {
+    const wxSize more(60, 80);
+    wxSize designed;
+    InAnagramWindow([&] {
+        designed = anagram_->GetClientSize();
+        const wxSize list = In("lstAnagrams").GetSize();
+        ASSERT_TRUE(WaitFor([&] { return CanBeResized(SystemWindowOf(*anagram_)); }));
+        DragCorner(*anagram_, {more.x, more.y});
+        ASSERT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed + more; }));
+        EXPECT_TRUE(WaitFor([&] { return In("lstAnagrams").GetSize() == list + more; }));
+        EXPECT_EQ(In("picColHeader").GetSize().x, In("lblColHeaderBack").GetClientSize().x);
+    });
+    InAnagramWindow([&] {
+        EXPECT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed + more; }));
+        DragCorner(*anagram_, {-300, -300});
+        EXPECT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed; }))
+            << anagram_->GetClientSize().x << " x " << anagram_->GetClientSize().y;
+    });
+}
+
 TEST_F(AnagramWindowTest, WhatIsTypedAfterItsStartIsNotSearchedFor) {
     InAnagramWindow([&] {
         const auto searchThenType = [&](const std::string& keys, const std::string& letters,

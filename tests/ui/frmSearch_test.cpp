@@ -23,6 +23,7 @@
 #include "database/database_header.h"
 #include "search/wildcard_help.h"
 #include "tests/platform/keyboard.h"
+#include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
@@ -254,6 +255,7 @@ TEST_F(SearchWindowTest, TakesTheOptionsThatAreSet) {
         Search("x");
         EXPECT_EQ(Result(), "Search text is not found");
         Click("chkMatchCase");
+        EXPECT_TRUE(WaitFor([&] { return !In<wxCheckBox>("chkMatchCase").GetValue(); }));
         Search("x");
         EXPECT_EQ(Label("lblStatus"), "Number of Hits: 2");
         Click("optPosition0");
@@ -624,6 +626,35 @@ TEST_F(SearchWindowTest, TheButtonShowsAndHidesTheResultArea) {
         EXPECT_TRUE(In("txtSearchResult").IsShown());
         Click("cmdExpandShrink");
         EXPECT_TRUE(hasHeight(search_->ShrunkHeight));
+    });
+}
+
+TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
+    InSearchWindow([&] {
+        const auto canResize = [&] { return CanBeResized(SystemWindowOf(*search_)); };
+        const wxSize shrunk = search_->GetClientSize();
+        EXPECT_FALSE(canResize());
+        Click("cmdExpandShrink");
+        ASSERT_TRUE(WaitFor(canResize));
+        const wxSize designed = search_->GetClientSize();
+        const wxSize box = In("txtSearchResult").GetSize();
+        const int above = In("txtSearchResult").GetPosition().y;
+
+        const wxSize more(80, 60);
+        DragCorner(*search_, {more.x, more.y});
+        ASSERT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
+        EXPECT_TRUE(WaitFor([&] { return In("txtSearchResult").GetSize() == box + more; }));
+        EXPECT_EQ(In("txtSearchResult").GetPosition().y, above);
+        EXPECT_EQ(In("lblColHeaderBack").GetSize().x, In("txtSearchResult").GetSize().x);
+        EXPECT_EQ(In("picColHeader").GetSize().x, In("lblColHeaderBack").GetClientSize().x);
+
+        Click("cmdExpandShrink");
+        EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == shrunk && !canResize(); }));
+        Click("cmdExpandShrink");
+        EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
+        DragCorner(*search_, {-300, -300});
+        EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed; }))
+            << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
     });
 }
 

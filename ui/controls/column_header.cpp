@@ -26,8 +26,7 @@ constexpr double kArrowHeight = 4;
 
 ColumnHeader::ColumnHeader(wxWindow* parent, const LayoutUnits& units)
     : Backdrop(parent),
-      units_(units),
-      secondColumn_(units.Pixels(kExpansionTextAt)) {
+      units_(units) {
     SetName("picColHeader");
     SetSpokenObject(*this, {.role = SpokenRole::Text, .name = "Abbreviation, Expansion"});
     SetBackgroundStyle(wxBG_STYLE_PAINT);
@@ -45,6 +44,7 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
     dc.Clear();
     const wxSize size = GetClientSize();
     const int line = units_.Pixels(kLineAt);
+    const int secondColumn = secondColumn_.value_or(units_.Pixels(kExpansionTextAt));
     const SystemEdges edges = EdgesOnFace();
     const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
 
@@ -52,11 +52,11 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
     dc.SetTextForeground(text);
     const int textTop = (line - dc.GetCharHeight()) / 2;
     dc.DrawText("Abbreviation", units_.Pixels(kAbbreviationAt), textTop);
-    dc.DrawText("E x p a n s i o n", secondColumn_, textTop);
+    dc.DrawText("E x p a n s i o n", secondColumn, textTop);
 
     dc.SetPen(wxPen(edges.shadow));
     dc.DrawLine(0, line, size.x, line);
-    const int divider = secondColumn_ - units_.Pixels(kSunkenLineBefore);
+    const int divider = secondColumn - units_.Pixels(kSunkenLineBefore);
     dc.DrawLine(divider, units_.Pixels(2), divider, line - units_.Pixels(1));
     dc.SetPen(wxPen(edges.light));
     dc.DrawLine(divider + 1, units_.Pixels(2), divider + 1, line - units_.Pixels(1));

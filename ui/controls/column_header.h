@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "ui/controls/backdrop.h"
 #include "ui/controls/layout_units.h"
 
@@ -24,7 +26,7 @@ class ColumnHeader final : public Backdrop {
     void OnPaint(wxPaintEvent& event);
 
     const LayoutUnits& units_;
-    int secondColumn_;
+    std::optional<int> secondColumn_;  // where it begins, unless at its usual place
 };
 
 }  // namespace brelex

@@ -21,14 +21,28 @@ int TextHeight(const wxWindow& window, const wxFont& font) {
 
 }  // namespace
 
-LayoutUnits::LayoutUnits(const wxWindow& window) : window_(window), stripFont_(window.GetFont()) {
-    const int room = window.FromDIP(kStripTextUnits);
-    if (TextHeight(window, stripFont_) > room) {
+double ScaleOf(const wxDPIChangedEvent& event) {
+    return static_cast<double>(event.GetNewDPI().x) / event.GetOldDPI().x;
+}
+
+LayoutUnits::LayoutUnits(const wxWindow& window)
+    : window_(window),
+      dip_(window.FromDIP(1000) / 1000.0) {
+    Measure();
+}
+
+void LayoutUnits::Rescale(double times) {
+    dip_ *= times;
+    Measure();
+}
+
+void LayoutUnits::Measure() {
+    const double room = std::round(kStripTextUnits * dip_);
+    stripFont_ = window_.GetFont();
+    if (TextHeight(window_, stripFont_) > room) {
         stripFont_.MakeSmaller();
     }
-    const double dip = window.FromDIP(1000) / 1000.0;
-    pixelsPerUnit_ =
-        dip * std::max(1.0, static_cast<double>(TextHeight(window, stripFont_)) / room);
+    pixelsPerUnit_ = dip_ * std::max(1.0, TextHeight(window_, stripFont_) / room);
 }
 
 int LayoutUnits::Pixels(double units) const {

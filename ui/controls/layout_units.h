@@ -4,6 +4,7 @@
 #include <wx/font.h>
 #include <wx/string.h>
 
+class wxDPIChangedEvent;
 class wxWindow;
 
 namespace brelex {
@@ -14,6 +15,9 @@ inline constexpr double kWindowMargin = 12;
 inline constexpr double kGroupGap = 12;
 inline constexpr double kControlGap = 6;
 
+/// How many times as many dots per inch the new screen has.
+[[nodiscard]] double ScaleOf(const wxDPIChangedEvent& event);
+
 /// The unit for the layout of windows: a pixel at 96 dots per inch. If the user's font is so large
 /// that a line of small text would not fit into a frame of the status strip (18 units high), the
 /// unit grows with the font, so that nothing is cut off.
@@ -21,6 +25,10 @@ class LayoutUnits {
   public:
     /// `window` must outlive the units.
     explicit LayoutUnits(const wxWindow& window);
+
+    /// Measures the window again. For a window that has moved to a screen with `times` as many dots
+    /// per inch, once its font has followed.
+    void Rescale(double times);
 
     /// Converts `units` to device pixels, rounded.
     [[nodiscard]] int Pixels(double units) const;
@@ -34,8 +42,11 @@ class LayoutUnits {
     [[nodiscard]] const wxFont& StripFont() const { return stripFont_; }
 
   private:
+    void Measure();
+
     const wxWindow& window_;
     wxFont stripFont_;
+    double dip_ = 1;  // the pixels for one at 96 dots per inch
     double pixelsPerUnit_ = 1;
 };
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 
 #include <wx/dc.h>
 #include <wx/display.h>
@@ -55,9 +56,11 @@ Surface::Surface(wxTopLevelWindow* window) : window_(*window) {
     SetScrollRate(0, 0);
     MakeSpokenPanel(*this);
     LayOutAlone(*this);
+    Bind(wxEVT_SIZE, &Surface::OnSize, this);
 }
 
 void Surface::FillWindow(const wxSize& size) {
+    needed_ = size;
     wxSize inside = LargestInside(window_);
     const bool scrollsDown = size.y > inside.y;
     const bool scrollsAcross = size.x > inside.x;
@@ -70,6 +73,18 @@ void Surface::FillWindow(const wxSize& size) {
     SetScrollRate(scrollsAcross ? step : 0, scrollsDown ? step : 0);
     window_.SetClientSize(inside);
     SetSize(inside);
+    LayOutContents();
+}
+
+void Surface::OnSize(wxSizeEvent& event) {
+    event.Skip();
+    LayOutContents();
+    Refresh();  // the frames have moved
+}
+
+void Surface::LayOutContents() {
+    wxSize size = GetClientSize();
+    size.IncTo(needed_);
     SetVirtualSize(size);
     if (GetSizer() != nullptr) {
         GetSizer()->SetDimension(CalcScrolledPosition(wxPoint(0, 0)), size);
@@ -83,6 +98,22 @@ void Surface::FrameChild(const wxWindow& child, int above) {
 
 void Surface::FrameArea(const wxRect& area) {
     framedAreas_.push_back(area);
+}
+
+void Surface::Rescale(double times) {
+    const auto scaled = [times](int pixels) {
+        return static_cast<int>(std::lround(pixels * times));
+    };
+    needed_ = {scaled(needed_.x), scaled(needed_.y)};
+    if (GetSizer() != nullptr) {
+        needed_.IncTo(GetSizer()->CalcMin());
+    }
+    for (FramedChild& framed : framedChildren_) {
+        framed.above = scaled(framed.above);
+    }
+    for (wxRect& area : framedAreas_) {
+        area = {scaled(area.x), scaled(area.y), scaled(area.width), scaled(area.height)};
+    }
 }
 
 // The toolkit has already moved the scrolled contents when it calls this.

@@ -13,8 +13,8 @@ class wxTopLevelWindow;
 namespace brelex {
 
 /// Fills the inside of a window, holds its controls and draws sunken frames between them. It
-/// scrolls if the screen is too small for all of it. A control that gets the focus scrolls into
-/// view.
+/// scrolls if the screen is too small for all of it, and lays them out again if the user makes the
+/// window larger. A control that gets the focus scrolls into view.
 class Surface final : public wxScrolled<wxPanel> {
   public:
     explicit Surface(wxTopLevelWindow* window);
@@ -29,6 +29,13 @@ class Surface final : public wxScrolled<wxPanel> {
     /// Draws a frame on the boundary of `area`, in pixels from the surface's upper left corner.
     void FrameArea(const wxRect& area);
 
+    /// Forgets the frames of areas, which are to be set again.
+    void ForgetAreas() { framedAreas_.clear(); }
+
+    /// Makes room for contents that have become `times` as large. The window's size follows by
+    /// itself.
+    void Rescale(double times);
+
     void OnDraw(wxDC& dc) override;
 
   private:
@@ -37,7 +44,11 @@ class Surface final : public wxScrolled<wxPanel> {
         int above;
     };
 
+    void OnSize(wxSizeEvent& event);
+    void LayOutContents();
+
     wxTopLevelWindow& window_;
+    wxSize needed_;  // by the contents, in pixels
     std::vector<FramedChild> framedChildren_;
     std::vector<wxRect> framedAreas_;
 };

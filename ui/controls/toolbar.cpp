@@ -103,6 +103,14 @@ void Toolbar::PlaceIcons() {
     state_.SetSize(whole.x, whole.y);
 }
 
+void Toolbar::Rescale() {
+    LetGo();
+    state_.RemoveIcons();
+    separators_.clear();
+    PlaceIcons();
+    Refresh();
+}
+
 void Toolbar::DescribeIcons() {
     std::vector<SpokenObject> icons;
     for (int i = 0; i < state_.IconCount(); ++i) {

@@ -30,6 +30,9 @@ class Toolbar final : public Backdrop, private ToolbarView {
     /// Flattens the icon under the mouse and releases the mouse, because another window needs it.
     void LetGo();
 
+    /// Places the icons again, after the layout units have changed.
+    void Rescale();
+
     /// The place of an icon in the toolbar's pixels, and the state of its edge.
     [[nodiscard]] const IconBounds& BoundsOf(int icon) const { return state_.BoundsOf(icon); }
 

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/gdicmn.h>
+
+class wxTopLevelWindow;
+
+namespace brelex {
+
+/// Lets the user change the size of a window that is on the screen, but not make its inside smaller
+/// than `smallest` pixels. The window keeps its size.
+void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest);
+
+/// Keeps the size of the window from the user again. Call before you give it another size.
+void KeepSizeFromUser(wxTopLevelWindow& window);
+
+}  // namespace brelex
