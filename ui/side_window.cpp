@@ -37,6 +37,8 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
         OnRescaled(ScaleOf(event));
+        // The toolkit first gives the window the size that Windows suggests, which is rounded.
+        CallAfter([this] { surface_->FitWindow(); });
     });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A window that moves to a screen of another scale. Wine has one scale for all screens, so these
-// tests send the message by which Windows tells a window of it.
+// A window that moves to a screen of another scale. Wine has one scale for all screens, and its
+// programs never ask for the scale of each, so that the toolkit ignores the message by which
+// Windows tells of it. These tests call what the toolkit calls for that message.
 #include <map>
 #include <string>
 
@@ -16,11 +17,12 @@ namespace {
 
 class OnAnotherScreen : public SideWindowTest {
   protected:
-    static void MoveToScreenOf(int dotsPerInch, wxTopLevelWindow& window) {
-        RECT suggested{};
-        GetWindowRect(window.GetHWND(), &suggested);
-        SendMessageW(window.GetHWND(), WM_DPICHANGED, MAKEWPARAM(dotsPerInch, dotsPerInch),
-                     reinterpret_cast<LPARAM>(&suggested));
+    // The toolkit's handler of the message. It then gives the window the size that Windows
+    // suggests.
+    static void MoveToScreen(int from, int to, wxTopLevelWindow& window) {
+        const wxSize size = window.GetSize();
+        window.MSWUpdateOnDPIChange(wxSize(from, from), wxSize(to, to));
+        window.SetSize(size * to / from);
         LetEventsArrive();
     }
 
@@ -30,7 +32,7 @@ class OnAnotherScreen : public SideWindowTest {
         for (const wxWindow* const child : window.GetChildren()) {
             if (!child->IsTopLevel()) {
                 const wxRect area(child->GetScreenPosition() - origin, child->GetSize());
-                places[(child->GetName() + "/" + child->GetLabelText()).utf8_string()] = area;
+                places[(child->GetName() + "/" + child->GetLabel()).utf8_string()] = area;
                 AddPlaces(*child, origin, places);
             }
         }
@@ -45,13 +47,13 @@ class OnAnotherScreen : public SideWindowTest {
     static void ExpectLaidOutOnEachScreen(wxTopLevelWindow& window) {
         const auto before = PlacesIn(window);
         const wxSize size = window.GetClientSize();
-        MoveToScreenOf(120, window);
+        MoveToScreen(96, 120, window);
         EXPECT_NEAR(window.GetClientSize().x, size.x * 1.25, 30);
         EXPECT_NEAR(window.GetClientSize().y, size.y * 1.25, 30);
         for (const std::string& fault : LayoutFaults(window)) {
             ADD_FAILURE() << window.GetName() << ": " << fault;
         }
-        MoveToScreenOf(96, window);
+        MoveToScreen(120, 96, window);
         EXPECT_EQ(window.GetClientSize(), size);
         for (const auto& [name, area] : PlacesIn(window)) {
             const wxRect& was = before.at(name);

@@ -224,18 +224,25 @@ class User:
         self.screen.key("Return")
 
     def credits(self):
-        """About, and from there the window with the credits, by Tab and the link's key."""
+        """About, and from there the window with the credits, by a click on the title with Ctrl."""
         for name in "alt+h", "Up", "Return":
             self.screen.key(name)
-        tabs = self.random.randint(1, 4)
-        # It opens slowly on a busy machine, and does not open at all over a modal window.
+        # It opens slowly on a busy machine, and not at all over a modal window.
         for _ in range(30):
             time.sleep(0.1)
-            if self.screen.title(self.screen.active()).startswith("About"):
+            window = self.screen.active()
+            if self.screen.title(window).startswith("About"):
                 break
-        for _ in range(tabs):
-            self.screen.key("Tab")
-        self.screen.key("space")
+        else:
+            return None
+        area = self.screen.area(window)
+        if area is None:
+            return None
+        self.screen.move(area[0] + 40, area[1] + 30)
+        self.screen.hold("ctrl", True)
+        self.screen.click()
+        self.screen.hold("ctrl", False)
+        return None
 
     def escape(self):
         for _ in range(self.random.randint(1, 3)):

@@ -118,14 +118,14 @@ TEST_F(AnagramWindowTest, TheListGrowsWithTheWindow) {
         designed = anagram_->GetClientSize();
         const wxSize list = In("lstAnagrams").GetSize();
         ASSERT_TRUE(WaitFor([&] { return CanBeResized(SystemWindowOf(*anagram_)); }));
-        DragCorner(*anagram_, {more.x, more.y});
+        EnlargeAsUser(*anagram_, more);
         ASSERT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed + more; }));
         EXPECT_TRUE(WaitFor([&] { return In("lstAnagrams").GetSize() == list + more; }));
         EXPECT_EQ(In("picColHeader").GetSize().x, In("lblColHeaderBack").GetClientSize().x);
     });
     InAnagramWindow([&] {
         EXPECT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed + more; }));
-        DragCorner(*anagram_, {-300, -300});
+        EnlargeAsUser(*anagram_, {-300, -300});
         EXPECT_TRUE(WaitFor([&] { return anagram_->GetClientSize() == designed; }))
             << anagram_->GetClientSize().x << " x " << anagram_->GetClientSize().y;
     });

@@ -641,9 +641,12 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         const int above = In("txtSearchResult").GetPosition().y;
 
         const wxSize more(80, 60);
-        DragCorner(*search_, {more.x, more.y});
+        EnlargeAsUser(*search_, more);
         ASSERT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
-        EXPECT_TRUE(WaitFor([&] { return In("txtSearchResult").GetSize() == box + more; }));
+        EXPECT_TRUE(WaitFor([&] {
+            const wxSize grown = In("txtSearchResult").GetSize() - box;
+            return grown.x == more.x && std::abs(grown.y - more.y) <= 1;
+        }));
         EXPECT_EQ(In("txtSearchResult").GetPosition().y, above);
         EXPECT_EQ(In("lblColHeaderBack").GetSize().x, In("txtSearchResult").GetSize().x);
         EXPECT_EQ(In("picColHeader").GetSize().x, In("lblColHeaderBack").GetClientSize().x);
@@ -652,7 +655,7 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == shrunk && !canResize(); }));
         Click("cmdExpandShrink");
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
-        DragCorner(*search_, {-300, -300});
+        EnlargeAsUser(*search_, {-300, -300});
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed; }))
             << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
     });

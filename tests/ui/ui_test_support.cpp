@@ -17,7 +17,6 @@
 #include <wx/utils.h>
 
 #include "tests/platform/keyboard.h"
-#include "tests/platform/screen.h"
 #include "toolkit/wx_text.h"
 
 namespace brelex {
@@ -63,28 +62,6 @@ wxDialog* OpenModalDialog() {
         last = dialog != nullptr && dialog->IsModal() && dialog->IsShown() ? dialog : last;
     }
     return last;
-}
-
-void DragCorner(const wxTopLevelWindow& window, const wxPoint& by) {
-    // The desktop gives a window another frame when it may be resized, and may then move it.
-    wxRect frame;
-    EXPECT_TRUE(WaitFor([&] {
-        frame = FrameOnScreen(window);
-        return StaysFor(100, [&] { return FrameOnScreen(window) == frame; });
-    }));
-    wxUIActionSimulator user;
-    // Wine and the window manager have frames of different widths, but both have one below.
-    const wxPoint corner =
-        window.ClientToScreen(wxPoint(0, 0)) + window.GetClientSize() + wxPoint(-2, 2);
-    user.MouseMove(corner);
-    user.MouseDown();
-    LetEventsArrive();
-    for (int part = 1; part <= 4; ++part) {
-        user.MouseMove(corner + by * part / 4);
-        LetEventsArrive();
-    }
-    user.MouseUp();
-    LetEventsArrive();
 }
 
 bool IsFocusIn(const wxWindow& control) {

@@ -109,9 +109,6 @@ class ExpectedExceptions {
 /// The open modal dialog, or the newest if there are several; null if there is none.
 [[nodiscard]] wxDialog* OpenModalDialog();
 
-/// Drags the lower right corner of a window's frame with the mouse, by so many pixels.
-void DragCorner(const wxTopLevelWindow& window, const wxPoint& by);
-
 /// Whether a control, or the part of it that takes typing, has the focus.
 [[nodiscard]] bool IsFocusIn(const wxWindow& control);
 

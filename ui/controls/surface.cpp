@@ -105,9 +105,6 @@ void Surface::Rescale(double times) {
         return static_cast<int>(std::lround(pixels * times));
     };
     needed_ = {scaled(needed_.x), scaled(needed_.y)};
-    if (GetSizer() != nullptr) {
-        needed_.IncTo(GetSizer()->CalcMin());
-    }
     for (FramedChild& framed : framedChildren_) {
         framed.above = scaled(framed.above);
     }

@@ -32,6 +32,9 @@ class Surface final : public wxScrolled<wxPanel> {
     /// Forgets the frames of areas, which are to be set again.
     void ForgetAreas() { framedAreas_.clear(); }
 
+    /// Gives the window the size that the contents need.
+    void FitWindow() { FillWindow(wxSize(needed_)); }
+
     /// Makes room for contents that have become `times` as large. The window's size follows by
     /// itself.
     void Rescale(double times);
