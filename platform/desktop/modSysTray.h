@@ -14,6 +14,10 @@ namespace brelex {
 
 /// Reports events on the icon, and supplies its menu.
 struct TrayEvents {
+    /// The desktop hands over its permission to bring a window to the front. The other event for
+    /// which it does so follows. See UseActivationToken.
+    std::function<void(const std::string& token)> onToken;
+
     std::function<void()> onLeftRelease;
     std::function<void()> onRightRelease;
 

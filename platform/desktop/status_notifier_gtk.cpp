@@ -35,6 +35,7 @@ constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotif
   <property name="ItemIsMenu" type="b" access="read"/>
   <property name="Menu" type="o" access="read"/>
   <method name="Activate"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
+  <method name="ProvideXdgActivationToken"><arg type="s" direction="in"/></method>
   <method name="SecondaryActivate"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
   <method name="ContextMenu"><arg type="i" direction="in"/><arg type="i" direction="in"/></method>
   <method name="Scroll"><arg type="i" direction="in"/><arg type="s" direction="in"/></method>
@@ -231,10 +232,15 @@ class StatusNotifier::Item {
 
     static void OnMethod(GDBusConnection* /*connection*/, const char* /*sender*/,
                          const char* /*path*/, const char* /*interface*/, const char* method,
-                         GVariant* /*parameters*/, GDBusMethodInvocation* call, void* data) {
+                         GVariant* arguments, GDBusMethodInvocation* call, void* data) {
+        const auto* const self = static_cast<const Item*>(data);
+        if (g_strcmp0(method, "ProvideXdgActivationToken") == 0) {
+            const char* token = nullptr;
+            g_variant_get(arguments, "(&s)", &token);
+            self->events_.onToken(token);
+        }
         // Answer first, because the rest may wait for the user.
         g_dbus_method_invocation_return_value(call, nullptr);
-        const auto* const self = static_cast<const Item*>(data);
         if (g_strcmp0(method, "Activate") == 0) {
             self->events_.onLeftRelease();
         }

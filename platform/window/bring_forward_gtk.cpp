@@ -7,6 +7,8 @@
 
 #include <gtk/gtk.h>
 
+#include "platform/window/activation_token_gtk.h"
+
 namespace brelex {
 
 void BringForward(wxFrame& window) {
@@ -14,6 +16,7 @@ void BringForward(wxFrame& window) {
     // when a window is hidden, and the window would come up minimized again (wxWidgets 3.2).
     window.Iconize(false);
     window.Show();
+    HandTokenToToolkit();
     // With the time of a key press, window managers that prevent focus stealing accept the request.
     const guint32 keyTime = keybinder_get_current_event_time();
     gtk_window_present_with_time(GTK_WINDOW(window.GetHandle()),

@@ -6,6 +6,7 @@
 #include <wx/frame.h>
 
 #include "base/app_info.h"
+#include "platform/window/activation_token.h"
 #include "platform/window/bring_forward.h"
 
 namespace brelex {
@@ -30,6 +31,7 @@ TrayPresence::~TrayPresence() {
 
 TrayEvents TrayPresence::EventsOfIcon() {
     TrayEvents events;
+    events.onToken = &UseActivationToken;
     events.onLeftRelease = [this] { behaviour_.OnLeftRelease(); };
     events.onRightRelease = [this] { behaviour_.OnRightRelease(); };
     events.menu = [this] { return behaviour_.Menu(); };
