@@ -11,6 +11,9 @@ inline constexpr const char* kAppTitle = "Brevilexicon";
 /// What Linux desktops call the application: the name of its desktop entry and of its icon.
 inline constexpr const char* kApplicationId = "example.brevilexicon.Brevilexicon";
 
+/// The same for the help viewer, which is a program of its own.
+inline constexpr const char* kHelpApplicationId = "example.brevilexicon.Brevilexicon.Help";
+
 /// What the program says about itself. Texts are UTF-8.
 struct AppInfo {
     int majorVersion = 0;

@@ -11,6 +11,7 @@
 #   BRELEX_MIME_TYPE        the MIME type, for share/mime/packages
 #   BRELEX_ICON_THEME       the folder "hicolor", for share/icons
 set(BRELEX_APPLICATION_ID "example.brevilexicon.Brevilexicon")
+set(BRELEX_HELP_APPLICATION_ID "${BRELEX_APPLICATION_ID}.Help")
 
 set(BRELEX_SHARE "${CMAKE_BINARY_DIR}/share")
 set(BRELEX_METAINFO "${BRELEX_SHARE}/metainfo/${BRELEX_APPLICATION_ID}.metainfo.xml")
@@ -29,7 +30,7 @@ function(desktop_entries folder programs)
     set(DICTIONARY_COMMAND "\"${DICTIONARY_COMMAND}\"")
     set(HELP_COMMAND "\"${HELP_COMMAND}\"")
   endif()
-  foreach(entry ${BRELEX_APPLICATION_ID} brelex-help)
+  foreach(entry ${BRELEX_APPLICATION_ID} ${BRELEX_HELP_APPLICATION_ID})
     configure_file("${desktop_templates}/${entry}.desktop.in" "${folder}/${entry}.desktop" @ONLY)
   endforeach()
 endfunction()
@@ -45,7 +46,7 @@ desktop_entries("${BRELEX_SHARE}/applications" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY
 set(installed_entries "${CMAKE_BINARY_DIR}/installed/applications")
 desktop_entries("${installed_entries}" "")
 set(BRELEX_DESKTOP_ENTRIES "${installed_entries}/${BRELEX_APPLICATION_ID}.desktop"
-                           "${installed_entries}/brelex-help.desktop")
+                           "${installed_entries}/${BRELEX_HELP_APPLICATION_ID}.desktop")
 
 xml_text(PUBLISHER_XML "${BRELEX_PUBLISHER}")
 xml_text(HOME_PAGE_XML "${BRELEX_HOME_PAGE}")
@@ -56,7 +57,7 @@ configure_file("${desktop_templates}/${BRELEX_APPLICATION_ID}.metainfo.xml.in" "
 configure_file("${desktop_templates}/brelex-help-type.xml" "${BRELEX_MIME_TYPE}" COPYONLY)
 # This is what update-desktop-database would write.
 file(WRITE "${BRELEX_SHARE}/applications/mimeinfo.cache"
-     "[MIME Cache]\napplication/x-brelex-help=brelex-help.desktop;\n")
+     "[MIME Cache]\napplication/x-brelex-help=${BRELEX_HELP_APPLICATION_ID}.desktop;\n")
 find_program(UPDATE_MIME_DATABASE update-mime-database)
 if(UPDATE_MIME_DATABASE)
   execute_process(COMMAND "${UPDATE_MIME_DATABASE}" "${BRELEX_SHARE}/mime" ERROR_QUIET)

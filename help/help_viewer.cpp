@@ -23,7 +23,6 @@
 
 #include "help/spoken_page.h"
 #include "help/themed_book.h"
-#include "platform/desktop/help_page.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/window/accessible_name.h"
 #include "platform/window/spoken_controls.h"
@@ -106,14 +105,6 @@ void LayOut(wxHtmlHelpFrame& frame, int column) {
     for (std::size_t i = 0; i < notebook->GetPageCount(); ++i) {
         notebook->GetPage(i)->SetSize(notebook->GetClientSize());
         notebook->GetPage(i)->Layout();
-    }
-}
-
-// Shows a page of the book, or a place on it ("page.html#place"). The page comes from outside. If
-// it is not a page of the book, it is ignored, so files outside the book cannot be opened.
-void TurnTo(wxHtmlHelpWindow& help, const wxString& page) {
-    if (!page.empty() && page.find_first_of(":/\\") == wxString::npos) {
-        help.Display(page);
     }
 }
 
@@ -227,7 +218,6 @@ void BindEvents(wxHtmlHelpFrame& frame) {
     help.Bind(
         wxEVT_TOOL, [&help](wxCommandEvent& event) { Print(help, event); }, wxID_HTML_PRINT);
     page.Bind(wxEVT_KEY_DOWN, [&page](wxKeyEvent& event) { OnPageKey(page, event); });
-    HearHelpPages(frame, [&help](const std::string& name) { TurnTo(help, WxText(name)); });
 }
 
 }  // namespace
@@ -245,9 +235,15 @@ bool HelpViewer::Show(const wxString& bookPath, const wxString& page) {
         return false;
     }
     DisplayContents();
-    TurnTo(*GetHelpWindow(), page);
+    TurnTo(page);
     GetHelpWindow()->GetHtmlWindow()->SetFocus();  // so that keys scroll the page
     return true;
+}
+
+void HelpViewer::TurnTo(const wxString& page) {
+    if (!page.empty() && page.find_first_of(":/\\") == wxString::npos) {
+        GetHelpWindow()->Display(page);
+    }
 }
 
 wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {

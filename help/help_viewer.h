@@ -16,6 +16,10 @@ class HelpViewer final : public wxHtmlHelpController {
     /// not a book.
     [[nodiscard]] bool Show(const wxString& bookPath, const wxString& page);
 
+    /// Shows a page of the book in the open window, or a place on it. The page comes from outside.
+    /// If it is not a page of the book, it is ignored, so files outside the book cannot be opened.
+    void TurnTo(const wxString& page);
+
   protected:
     wxHtmlHelpFrame* CreateHelpFrame(wxHtmlHelpData* data) override;
 };

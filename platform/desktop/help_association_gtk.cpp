@@ -9,6 +9,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/app_info.h"
 #include "base/file_io.h"
 #include "embedded/kHelpDesktopEntry.h"
 #include "embedded/kHelpMimeType.h"
@@ -27,7 +28,7 @@ struct UnrefObject {
 };
 
 std::filesystem::path DesktopEntryPath(const std::filesystem::path& data) {
-    return data / "applications" / "brelex-help.desktop";
+    return data / "applications" / (std::string(kHelpApplicationId) + ".desktop");
 }
 
 std::filesystem::path MimeTypePath(const std::filesystem::path& data) {

@@ -9,7 +9,7 @@ class wxTopLevelWindow;
 
 namespace brelex {
 
-/// A window of any program: its X11 number, or its handle on Windows.
+/// A window of any program, by its handle. The whole file is for Windows only.
 using SystemWindow = std::uintptr_t;
 
 /// Tells the help viewer with this window to turn to a page of its book. Does not wait for that.

@@ -19,6 +19,9 @@ void SetDesktopEntry(const char* id) {
 
 void SetSpokenProgramName(const char* name) {
     g_set_application_name(name);
+    // GTK makes the windows' class from the ID, but with a capital letter at the beginning.
+    // Desktops that go by the class would not find the entry.
+    gdk_set_program_class(g_get_prgname());
     // GTK (3.24) always answers with the name that SetDesktopEntry sets.
     ATK_OBJECT_GET_CLASS(atk_get_root())->get_name = &SpokenName;
 }

@@ -1,105 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/system_desktop.h"
 
-#include <X11/Xatom.h>
-#include <cstring>
 #include <gio/gio.h>
 #include <memory>
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
-#include "platform/desktop/help_page.h"
+#include "platform/desktop/help_viewer_bus_gtk.h"
 
 namespace brelex {
 
 namespace {
 
-struct XFreeBytes {
-    void operator()(unsigned char* bytes) const { XFree(bytes); }
-};
-
-// A property of a window. Each of its items has 32 or 8 bits.
-struct Property {
-    std::unique_ptr<unsigned char, XFreeBytes> bytes;
-    unsigned long items = 0;
-};
-
-Property PropertyOf(Display* display, Window window, const char* name, Atom type, int itemBits) {
-    constexpr long kMostWords = 65536;
-    Property property;
-    Atom actualType = None;
-    int bits = 0;
-    unsigned long rest = 0;
-    unsigned char* bytes = nullptr;
-    if (XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, kMostWords, False,
-                           type, &actualType, &bits, &property.items, &rest, &bytes) != Success ||
-        actualType != type || bits != itemBits) {
-        property.items = 0;
-    }
-    property.bytes.reset(bytes);
-    return property;
-}
-
-// The X11 display and its window with this title, if there is one.
-struct FoundWindow {
-    GdkDisplay* gdk = nullptr;
-    Display* display = nullptr;
-    Window window = None;
-};
-
-FoundWindow WindowTitled(const std::string& title) {
-    GdkDisplay* const gdk = gdk_display_get_default();
-    if (gdk == nullptr || !GDK_IS_X11_DISPLAY(gdk)) {
-        return {};
-    }
-    Display* const display = gdk_x11_display_get_xdisplay(gdk);
-    Window found = None;
-    // A window may be destroyed while we ask about it.
-    gdk_x11_display_error_trap_push(gdk);
-    const Property list =
-        PropertyOf(display, DefaultRootWindow(display), "_NET_CLIENT_LIST", XA_WINDOW, 32);
-    for (unsigned long i = 0; i < list.items && found == None; ++i) {
-        // Items of 32 bits arrive as long, whatever the size of that type.
-        unsigned long window = None;
-        std::memcpy(&window, list.bytes.get() + i * sizeof window, sizeof window);
-        const Property name = PropertyOf(display, window, "_NET_WM_NAME",
-                                         XInternAtom(display, "UTF8_STRING", False), 8);
-        if (name.items == title.size() &&
-            std::memcmp(name.bytes.get(), title.data(), title.size()) == 0) {
-            found = window;
-        }
-    }
-    gdk_x11_display_error_trap_pop_ignored(gdk);
-    return {gdk, display, found};
-}
-
-// Asks the window manager to do something with a window, as a pager would.
-void Ask(const FoundWindow& found, const char* message, long first, long second) {
-    XEvent event{};
-    event.xclient.type = ClientMessage;
-    event.xclient.window = found.window;
-    event.xclient.message_type = XInternAtom(found.display, message, False);
-    event.xclient.format = 32;
-    event.xclient.data.l[0] = first;
-    event.xclient.data.l[1] = second;
-    gdk_x11_display_error_trap_push(found.gdk);
-    XSendEvent(found.display, DefaultRootWindow(found.display), False,
-               SubstructureRedirectMask | SubstructureNotifyMask, &event);
-    XFlush(found.display);
-    gdk_x11_display_error_trap_pop_ignored(found.gdk);
-}
-
-constexpr long kFromPager = 2;
-
 struct UnrefObject {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
+
+using Bus = std::unique_ptr<GDBusConnection, UnrefObject>;
+using AppInfo = std::unique_ptr<GAppInfo, UnrefObject>;
 
 // Allows the new window to come to the front.
 std::unique_ptr<GdkAppLaunchContext, UnrefObject> LaunchContext() {
     return std::unique_ptr<GdkAppLaunchContext, UnrefObject>(
         gdk_display_get_app_launch_context(gdk_display_get_default()));
+}
+
+// A token with which another program can bring its window to the front now.
+std::string TokenForOther() {
+    GdkDisplay* const display = gdk_display_get_default();
+    if (GDK_IS_X11_DISPLAY(display)) {  // the time of the user's last action is enough
+        return "_TIME" + std::to_string(gdk_x11_display_get_user_time(display));
+    }
+    const AppInfo other(g_app_info_create_from_commandline("brelex-help", kHelpTitle,
+                                                           G_APP_INFO_CREATE_NONE, nullptr));
+    char* const made = g_app_launch_context_get_startup_notify_id(
+        G_APP_LAUNCH_CONTEXT(LaunchContext().get()), other.get(), nullptr);
+    const std::string token = made == nullptr ? "" : made;
+    g_free(made);
+    return token;
 }
 
 // Formats an argument for a command line that GLib splits: quoted as for a shell, although no shell
@@ -116,19 +55,20 @@ std::string Quoted(const std::string& argument) {
 
 }  // namespace
 
+// The only window of another program that we use is the help viewer's.
 bool SystemDesktop::BringWindowForward(const std::string& title) {
-    const FoundWindow found = WindowTitled(title);
-    if (found.window != None) {
-        Ask(found, "_NET_ACTIVE_WINDOW", kFromPager, CurrentTime);
-        return true;
+    const Bus bus(title == kHelpTitle ? SessionBus() : nullptr);
+    if (bus == nullptr || !HasHelpViewer(bus.get())) {
+        return false;
     }
-    return false;
+    TellHelpViewer(bus.get(), "Activate", g_variant_new("(@a{sv})", PlatformData(TokenForOther())));
+    return true;
 }
 
 void SystemDesktop::TurnToPage(const std::string& title, const std::string& page) {
-    const FoundWindow found = WindowTitled(title);
-    if (found.window != None) {
-        TellHelpPage(found.window, page);
+    const Bus bus(title == kHelpTitle ? SessionBus() : nullptr);
+    if (bus != nullptr) {
+        TellHelpViewer(bus.get(), "ActivateAction", ActionCall(kShowPage, page.c_str()));
     }
 }
 
@@ -143,7 +83,7 @@ bool SystemDesktop::StartHelpViewer(const std::string& folder, const std::string
     if (!page.empty()) {
         command += " " + Quoted(page);
     }
-    const std::unique_ptr<GAppInfo, UnrefObject> info(g_app_info_create_from_commandline(
+    const AppInfo info(g_app_info_create_from_commandline(
         command.c_str(), kHelpTitle, G_APP_INFO_CREATE_SUPPORTS_STARTUP_NOTIFICATION, nullptr));
     return info != nullptr &&
            g_app_info_launch(info.get(), nullptr, G_APP_LAUNCH_CONTEXT(LaunchContext().get()),
@@ -151,9 +91,9 @@ bool SystemDesktop::StartHelpViewer(const std::string& folder, const std::string
 }
 
 void SystemDesktop::AskWindowToClose(const std::string& title) {
-    const FoundWindow found = WindowTitled(title);
-    if (found.window != None) {
-        Ask(found, "_NET_CLOSE_WINDOW", CurrentTime, kFromPager);
+    const Bus bus(title == kHelpTitle ? SessionBus() : nullptr);
+    if (bus != nullptr) {
+        TellHelpViewer(bus.get(), "ActivateAction", ActionCall(kQuit, nullptr));
     }
 }
 

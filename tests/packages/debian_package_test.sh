@@ -79,7 +79,7 @@ grep -q '^TryExec=/usr/lib/brevilexicon/brevilexicon$' "$entry" ||
 
 step "looking at what the desktop sees"
 id=example.brevilexicon.Brevilexicon
-grep -q "application/x-brelex-help=.*brelex-help" "$root/usr/share/applications/mimeinfo.cache" ||
+grep -q "application/x-brelex-help=.*Brevilexicon.Help" "$root/usr/share/applications/mimeinfo.cache" ||
     fail "no program is known for the help book"
 [ -f "$root/usr/share/icons/hicolor/scalable/apps/$id.svg" ] || fail "the icon is not there"
 [ -f "$root/usr/share/metainfo/$id.metainfo.xml" ] || fail "the AppStream data is not there"

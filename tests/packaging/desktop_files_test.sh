@@ -62,11 +62,11 @@ check "whether it is installed" equal brevilexicon "$(value TryExec "$entries/$e
 check "minimized" equal "brevilexicon /minimize" \
     "$(value Exec "$entries/$entry" "Desktop Action minimized")"
 check "the help" equal brelex-help "$(value Exec "$entries/$entry" "Desktop Action help")"
-check "the help book" equal "brelex-help %f" "$(value Exec "$entries/brelex-help.desktop")"
+check "the help book" equal "brelex-help %f" "$(value Exec "$entries/$id.Help.desktop")"
 check "the built program" equal "\"$bin/brevilexicon\"" "$(value Exec "$share/applications/$entry")"
 check "whether it is built" equal "$bin/brevilexicon" "$(value TryExec "$share/applications/$entry")"
 check "the built help" equal "\"$bin/brelex-help\" %f" \
-    "$(value Exec "$share/applications/brelex-help.desktop")"
+    "$(value Exec "$share/applications/$id.Help.desktop")"
 
 # Nothing above a hint: a domain that is not registered, and the capital letter, are hints.
 check "the metadata are valid" appstreamcli validate --no-net --no-color "$metainfo"
@@ -92,7 +92,7 @@ for picture in $(text image); do
 done
 
 check "the help viewer opens the type in the metadata" \
-    equal "$(text mediatype);" "$(value MimeType "$entries/brelex-help.desktop")"
+    equal "$(text mediatype);" "$(value MimeType "$entries/$id.Help.desktop")"
 mkdir -p "$folder/mime/packages"
 cp "$share/mime/packages/brelex-help-type.xml" "$folder/mime/packages"
 check "the MIME type is valid" \

@@ -47,13 +47,14 @@ TEST(HelpRegistration, MakesTheViewerTheUsersAndTakesThatBack) {
     const std::filesystem::path data = g_get_user_data_dir();
     const std::filesystem::path defaults =
         std::filesystem::path(g_get_user_config_dir()) / "mimeapps.list";
-    const auto entry = data / "applications" / "brelex-help.desktop";
+    const auto entry = data / "applications" / "example.brevilexicon.Brevilexicon.Help.desktop";
     const auto type = data / "mime" / "packages" / "brelex-help-type.xml";
     const TestFolder folder;
     const std::string program = folder.Write("a$ \"b\\ `c", "#!/bin/sh\n");
     std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     ASSERT_TRUE(OpenHelpFilesWith(program));
-    EXPECT_NE(ReadText(defaults).find("application/x-brelex-help=brelex-help.desktop"),
+    EXPECT_NE(ReadText(defaults).find(
+                  "application/x-brelex-help=example.brevilexicon.Brevilexicon.Help.desktop"),
               std::string::npos);
     EXPECT_NE(ReadText(type).find("Brelex.hlp"), std::string::npos);
     EXPECT_NE(ReadText(data / "mime" / "globs2").find(":brelex.hlp"), std::string::npos);
