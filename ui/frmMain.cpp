@@ -11,6 +11,7 @@
 
 #include "platform/desktop/unopened_menus.h"
 #include "platform/desktop/wx_message_sink.h"
+#include "platform/window/bring_forward.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/modGeneral.h"
@@ -77,6 +78,7 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
     SetName("frmMain");
     SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
+    GetMenuBar()->Enable(IdOf(Command::StayOnTop), CanStayOnTop());
     LetGoOfUnopenedMenus();
     PlaceControls();
     BindEvents();
@@ -126,6 +128,11 @@ void frmMain::BindEvents() {
     // GTK does not report that the mouse leaves while a menu is open.
     Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
         picToolbar->LetGo();
+        ExplainMenu(event);
+        event.Skip();
+    });
+    Bind(wxEVT_MENU_CLOSE, [this](wxMenuEvent& event) {
+        status_.ShowHint("");
         event.Skip();
     });
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
@@ -191,6 +198,14 @@ void frmMain::OnModal(bool begins) {
     tray_.MenuChanged();
     if (IsStayOnTop) {
         SetTopMost(*this, !begins);
+    }
+}
+
+// A disabled item cannot be selected, so the hint on it comes with its menu.
+void frmMain::ExplainMenu(const wxMenuEvent& event) {
+    if (!CanStayOnTop() && event.GetMenu() != nullptr &&
+        event.GetMenu()->FindItem(IdOf(Command::StayOnTop)) != nullptr) {
+        status_.ShowHint("On Wayland, windows cannot stay on top");
     }
 }
 

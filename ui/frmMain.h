@@ -82,6 +82,7 @@ class frmMain final : public wxFrame {
     void BindEvents();
 
     void OnModal(bool begins);
+    void ExplainMenu(const wxMenuEvent& event);
     void CheckStayOnTop(bool stays);
     void CheckRunAtStartup(bool runs);
     void PopUpListMenu(const wxPoint& place);

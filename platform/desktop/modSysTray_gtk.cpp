@@ -5,6 +5,7 @@
 
 #include <wx/icon.h>
 
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
 #include "platform/desktop/status_notifier.h"
@@ -22,9 +23,14 @@ class TrayIconGtk final : public TrayIcon {
   public:
     TrayIconGtk(const wxIconBundle& pictures, const std::string& tip, TrayEvents events)
         : events_(std::move(events)),
-          icon_(gtk_status_icon_new_from_pixbuf(
-              pictures.GetIcon(wxSize(kPanelIcon, kPanelIcon)).GetPixbuf())),
+          icon_(GDK_IS_X11_DISPLAY(gdk_display_get_default())
+                    ? gtk_status_icon_new_from_pixbuf(
+                          pictures.GetIcon(wxSize(kPanelIcon, kPanelIcon)).GetPixbuf())
+                    : nullptr),
           notifier_(pictures, tip, events_, [this] { OnHostChanged(); }) {
+        if (icon_ == nullptr) {
+            return;
+        }
         gtk_status_icon_set_title(icon_, tip.c_str());
         gtk_status_icon_set_tooltip_text(icon_, tip.c_str());
         g_signal_connect(icon_, "activate", G_CALLBACK(&TrayIconGtk::OnActivate), this);
@@ -36,14 +42,18 @@ class TrayIconGtk final : public TrayIcon {
     TrayIconGtk& operator=(const TrayIconGtk&) = delete;
 
     ~TrayIconGtk() override {
-        g_signal_handlers_disconnect_by_data(icon_, this);
         CloseMenu();
+        if (icon_ == nullptr) {
+            return;
+        }
+        g_signal_handlers_disconnect_by_data(icon_, this);
         gtk_status_icon_set_visible(icon_, FALSE);
         g_object_unref(icon_);
     }
 
     [[nodiscard]] bool IsShown() const override {
-        return notifier_.IsShown() || gtk_status_icon_is_embedded(icon_) != FALSE;
+        return notifier_.IsShown() ||
+               (icon_ != nullptr && gtk_status_icon_is_embedded(icon_) != FALSE);
     }
 
     void PopUpMenu() override {
@@ -90,7 +100,9 @@ class TrayIconGtk final : public TrayIcon {
     }
 
     void OnHostChanged() {
-        gtk_status_icon_set_visible(icon_, notifier_.IsShown() ? FALSE : TRUE);
+        if (icon_ != nullptr) {
+            gtk_status_icon_set_visible(icon_, notifier_.IsShown() ? FALSE : TRUE);
+        }
         Tell();
     }
 
@@ -104,7 +116,7 @@ class TrayIconGtk final : public TrayIcon {
     }
 
     TrayEvents events_;
-    GtkStatusIcon* icon_;
+    GtkStatusIcon* icon_;  // null on Wayland, which has no place for it
     GtkWidget* menu_ = nullptr;
     guint pressedButton_ = 0;
     guint pressTime_ = 0;

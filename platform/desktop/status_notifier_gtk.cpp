@@ -305,6 +305,8 @@ class StatusNotifier::Item {
             entries_.push_back(entry);
         }
         MenuChanged();
+        g_signal_connect(root_, DBUSMENU_MENUITEM_SIGNAL_ABOUT_TO_SHOW,
+                         G_CALLBACK(&Item::OnAboutToShow), this);
         dbusmenu_server_set_root(menuServer_, root_);
     }
 
@@ -315,8 +317,16 @@ class StatusNotifier::Item {
             g_object_unref(entry);
         }
         entries_.clear();
+        if (root_ != nullptr) {
+            g_signal_handlers_disconnect_by_data(root_, this);
+        }
         g_clear_object(&root_);
         g_clear_object(&menuServer_);
+    }
+
+    static gboolean OnAboutToShow(DbusmenuMenuitem* /*root*/, Item* self) {
+        self->MenuChanged();
+        return FALSE;  // the desktop hears of changes by itself
     }
 
     static void OnMenuItem(DbusmenuMenuitem* entry, guint /*time*/, Item* self) {

@@ -13,4 +13,11 @@ void BringForward(wxFrame& window);
 /// toolkit, so on Windows this asks the system itself.
 [[nodiscard]] bool SystemShows(const wxFrame& window);
 
+/// Whether a shown window is minimized, as far as the desktop tells. Wayland does not tell. There,
+/// a window may be minimized unless the user is working in it or in a window over it.
+[[nodiscard]] bool MayBeMinimized(const wxFrame& window);
+
+/// Whether this desktop can keep a window above the windows of other programs. Wayland cannot.
+[[nodiscard]] bool CanStayOnTop();
+
 }  // namespace brelex

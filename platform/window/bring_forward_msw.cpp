@@ -22,4 +22,12 @@ bool SystemShows(const wxFrame& window) {
     return IsWindowVisible(window.GetHWND()) != 0 && IsIconic(window.GetHWND()) == 0;
 }
 
+bool MayBeMinimized(const wxFrame& window) {
+    return window.IsIconized();
+}
+
+bool CanStayOnTop() {
+    return true;
+}
+
 }  // namespace brelex

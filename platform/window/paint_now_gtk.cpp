@@ -3,6 +3,7 @@
 
 #include <wx/window.h>
 
+#include <gdk/gdkwayland.h>
 #include <gtk/gtk.h>
 
 namespace brelex {
@@ -50,6 +51,10 @@ void PaintNow(wxWindow& window) {
     G_GNUC_BEGIN_IGNORE_DEPRECATIONS  // GTK 3 offers no other way, GTK 4 none at all
         gdk_window_process_updates(inside, TRUE);
     G_GNUC_END_IGNORE_DEPRECATIONS
+    // On Wayland, GTK hands over what it has painted only at the end of a frame.
+    if (GDK_IS_WAYLAND_DISPLAY(gtk_widget_get_display(widget))) {
+        g_signal_emit_by_name(gtk_widget_get_frame_clock(widget), "after-paint");
+    }
     gdk_display_flush(gtk_widget_get_display(widget));
 }
 

@@ -88,6 +88,10 @@ void StatusStrip::ShowNumber(const wxString& text) {
     SetSpokenName(*lblRecNumber, "Record number " + text);
 }
 
+void StatusStrip::ShowHint(const wxString& text) {
+    lblDescription->SetLabelText(text);
+}
+
 void StatusStrip::ShowHintOfIcon(int icon) {
     lblDescription->SetLabelText(
         icon < 0 ? "" : kToolbarIcons.at(static_cast<std::size_t>(icon)).description);

@@ -35,6 +35,9 @@ class StatusStrip {
     /// strip is laid out.
     void WatchHints(const std::vector<ControlHint>& hints);
 
+    /// Shows a hint where the hints on controls appear.
+    void ShowHint(const wxString& text);
+
     /// Shows the hint of a toolbar icon (0-based), or nothing for -1.
     void ShowHintOfIcon(int icon);
 

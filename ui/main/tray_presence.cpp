@@ -102,6 +102,7 @@ void TrayPresence::OnActivate(wxActivateEvent& event) {
     if (event.GetActive()) {
         CatchUpWithSystem();
     }
+    MenuChanged();
     event.Skip();
 }
 
@@ -118,7 +119,7 @@ bool TrayPresence::IsWindowVisible() const {
 }
 
 bool TrayPresence::IsWindowMinimized() const {
-    return window_.IsIconized() || !window_.IsShown();
+    return !window_.IsShown() || MayBeMinimized(window_);
 }
 
 bool TrayPresence::IsModalWindowOpen() const {
