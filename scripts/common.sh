@@ -60,6 +60,9 @@ mutation_packages=(clang binutils libgtest-dev googletest util-linux)
 # A screen reader's interface, and what talks to it.
 accessibility_packages=(at-spi2-core python3-gi gir1.2-atspi-2.0)
 
+# A Wayland compositor, and what takes part in it.
+wayland_packages=(sway gir1.2-gtk-3.0)
+
 # They open what brelex exports.
 dictionary_packages=(dictd sdcv)
 

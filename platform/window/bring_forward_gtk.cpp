@@ -10,6 +10,7 @@
 #include <gtk/gtk.h>
 
 #include "platform/window/activation_token_gtk.h"
+#include "platform/window/paint_now.h"
 
 namespace brelex {
 
@@ -64,7 +65,7 @@ bool IsAnyActive(const std::vector<GtkWidget*>& windows) {
 // Notes that a window has just been shown. Returns false if it already was: the compositor needs a
 // moment to make it the active one.
 bool NoteShown(GtkWidget* window) {
-    constexpr gint64 kMoment = 500'000;  // microseconds
+    constexpr gint64 kMoment = 100'000;  // microseconds
     const gint64 now = g_get_monotonic_time();
     auto* const last = static_cast<gint64*>(g_object_get_data(G_OBJECT(window), kShownAt));
     if (last != nullptr && now - *last < kMoment) {
@@ -76,20 +77,30 @@ bool NoteShown(GtkWidget* window) {
     return true;
 }
 
+// Hides a window and those over it, and shows them again. A dialog has to wait for the window under
+// it, or it could come up below.
+void ShowAnew(wxFrame& window, const std::vector<GtkWidget*>& stack) {
+    for (auto top = stack.rbegin(); top != stack.rend(); ++top) {
+        gtk_widget_hide(*top);
+    }
+    gtk_widget_show(stack.front());
+    if (stack.size() > 1) {
+        PaintFirst(window);
+    }
+    for (GtkWidget* const each : stack) {
+        gtk_widget_show(each);
+    }
+}
+
 // Wayland lets a program bring a window to the front with a token, and show a new one. So without a
 // token, the window becomes a new one.
-void BringForwardOnWayland(GtkWidget* window, bool wasHidden) {
-    const std::vector<GtkWidget*> stack = StackOn(window);
-    const bool isNew = (wasHidden || !IsAnyActive(stack)) && NoteShown(window);
+void BringForwardOnWayland(wxFrame& window, bool wasHidden) {
+    const std::vector<GtkWidget*> stack = StackOn(window.GetHandle());
+    const bool isNew = (wasHidden || !IsAnyActive(stack)) && NoteShown(stack.front());
     if (HandTokenToToolkit()) {
         gtk_window_present(GTK_WINDOW(stack.back()));
     } else if (isNew && !wasHidden) {
-        for (auto top = stack.rbegin(); top != stack.rend(); ++top) {
-            gtk_widget_hide(*top);
-        }
-        for (GtkWidget* const each : stack) {
-            gtk_widget_show(each);
-        }
+        ShowAnew(window, stack);
     }
 }
 
@@ -102,7 +113,7 @@ void BringForward(wxFrame& window) {
     window.Iconize(false);
     window.Show();
     if (IsOnWayland()) {
-        BringForwardOnWayland(window.GetHandle(), wasHidden);
+        BringForwardOnWayland(window, wasHidden);
         return;
     }
     HandTokenToToolkit();
