@@ -140,10 +140,12 @@ class Tray:
         call.return_value(None)
 
     def call(self, path, interface, method, arguments):
-        answers = []
+        """Calls the icon's program and returns the answer. Raises GLib.Error."""
+        results = []
         self.bus.call(self.item, path, interface, method, arguments, None, 0, -1, None,
-                      lambda bus, result: answers.append(bus.call_finish(result)))
-        return wait_for(lambda: answers, f'the answer to {method}')[0].unpack()
+                      lambda _bus, result: results.append(result))
+        return self.bus.call_finish(
+            wait_for(lambda: results, f'the answer to {method}')[0]).unpack()
 
     def use(self, method, signature, *arguments):
         self.call('/StatusNotifierItem', 'org.kde.StatusNotifierItem', method,
