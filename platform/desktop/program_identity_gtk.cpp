@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/program_identity.h"
 
-#include <wx/app.h>
-
 #include <gtk/gtk.h>
 
 namespace brelex {
@@ -21,9 +19,6 @@ void SetDesktopEntry(const char* id) {
 
 void SetSpokenProgramName(const char* name) {
     g_set_application_name(name);
-    // The toolkit makes the windows' class from the program's name. Desktops that go by the class
-    // would not find the entry.
-    wxTheApp->SetClassName(wxString::FromUTF8(g_get_prgname()));
     // GTK (3.24) always answers with the name that SetDesktopEntry sets.
     ATK_OBJECT_GET_CLASS(atk_get_root())->get_name = &SpokenName;
 }

@@ -39,10 +39,10 @@ belongs() {
     local window class wanted
     window=$(window_called "$1")
     [ -n "$window" ] || { fail "no window \"$1\""; return; }
-    class=$(xprop -id "$window" WM_CLASS | sed -n 's/^WM_CLASS(STRING) = //p')
+    class=$(xprop -id "$window" WM_CLASS | sed -n 's/^WM_CLASS(STRING) = "\([^"]*\)".*/\1/p')
     wanted=$(sed -n 's/^StartupWMClass=//p' "$2")
     [ -n "$wanted" ] || wanted=$(basename "$2" .desktop)
-    [ "$class" = "\"$wanted\", \"$wanted\"" ] || fail "the window \"$1\" has the class $class instead of $wanted"
+    [ "$class" = "$wanted" ] || fail "the window \"$1\" has the class $class instead of $wanted"
 }
 
 start "$(command_of "$entry" "Desktop Entry")"
