@@ -23,6 +23,8 @@ for row, first in (('1234567890', 2), ('qwertyuiop', 16), ('asdfghjkl', 30), ('z
     KEYS.update({key: first + i for i, key in enumerate(row)})
 MODIFIERS = {'shift': (42, 1), 'ctrl': (29, 4), 'alt': (56, 8)}
 
+LEFT, RIGHT = 0x110, 0x111
+
 DISPLAY = 1  # the first object of each connection
 
 
@@ -126,6 +128,12 @@ class Seat:
         self.send(self.pointer, 1, word(now(), x, y, 1000, 1000))
         self.send(self.pointer, 4)
         self.wait()
+
+    def click(self, button):
+        for is_down in (True, False):
+            self.send(self.pointer, 2, word(now(), button, is_down))
+            self.send(self.pointer, 4)
+            self.wait()
 
 
 def now():
