@@ -35,7 +35,7 @@ std::string Environment(const char* name) {
 
 std::string UriOf(const std::string& path) {
     char* const uri = g_filename_to_uri(std::filesystem::absolute(path).c_str(), nullptr, nullptr);
-    const std::string text = uri == nullptr ? "" : uri;
+    std::string text = uri == nullptr ? "" : uri;
     g_free(uri);
     return text;
 }

@@ -36,7 +36,7 @@ std::string TokenForOther() {
                                                            G_APP_INFO_CREATE_NONE, nullptr));
     char* const made = g_app_launch_context_get_startup_notify_id(
         G_APP_LAUNCH_CONTEXT(LaunchContext().get()), other.get(), nullptr);
-    const std::string token = made == nullptr ? "" : made;
+    std::string token = made == nullptr ? "" : made;
     g_free(made);
     return token;
 }

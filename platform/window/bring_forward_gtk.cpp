@@ -2,6 +2,7 @@
 #include "platform/window/bring_forward.h"
 
 #include <keybinder.h>
+#include <ranges>
 #include <vector>
 
 #include <wx/frame.h>
@@ -80,8 +81,8 @@ bool NoteShown(GtkWidget* window) {
 // Hides a window and those over it, and shows them again. A dialog has to wait for the window under
 // it, or it could come up below.
 void ShowAnew(wxFrame& window, const std::vector<GtkWidget*>& stack) {
-    for (auto top = stack.rbegin(); top != stack.rend(); ++top) {
-        gtk_widget_hide(*top);
+    for (GtkWidget* const top : std::ranges::reverse_view(stack)) {
+        gtk_widget_hide(top);
     }
     gtk_widget_show(stack.front());
     if (stack.size() > 1) {
