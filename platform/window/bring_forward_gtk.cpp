@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/window/bring_forward.h"
 
+#include <cstddef>
 #include <keybinder.h>
-#include <ranges>
 #include <vector>
 
 #include <wx/frame.h>
@@ -81,8 +81,8 @@ bool NoteShown(GtkWidget* window) {
 // Hides a window and those over it, and shows them again. A dialog has to wait for the window under
 // it, or it could come up below.
 void ShowAnew(wxFrame& window, const std::vector<GtkWidget*>& stack) {
-    for (GtkWidget* const top : std::ranges::reverse_view(stack)) {
-        gtk_widget_hide(top);
+    for (std::size_t i = stack.size(); i > 0; --i) {
+        gtk_widget_hide(stack[i - 1]);
     }
     gtk_widget_show(stack.front());
     if (stack.size() > 1) {
