@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 class wxFrame;
 
 namespace brelex {
@@ -16,6 +18,11 @@ void BringForward(wxFrame& window);
 /// Whether a shown window is minimized, as far as the desktop tells. Wayland does not tell. There,
 /// a window may be minimized unless the user is working in it or in a window over it.
 [[nodiscard]] bool MayBeMinimized(const wxFrame& window);
+
+/// Calls `act` when the user presses the button for minimizing that GTK draws in the title of a
+/// window on Wayland, which reports nothing of it. `act` runs before the window is minimized and
+/// may be called as long as the window exists. Elsewhere this does nothing.
+void OnMinimizeButton(wxFrame& window, std::function<void()> act);
 
 /// Whether this desktop can keep a window above the windows of other programs. Wayland cannot.
 [[nodiscard]] bool CanStayOnTop();

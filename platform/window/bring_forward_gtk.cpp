@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <keybinder.h>
+#include <utility>
 #include <vector>
 
 #include <wx/frame.h>
@@ -97,12 +98,45 @@ void ShowAnew(wxFrame& window, const std::vector<GtkWidget*>& stack) {
 // token, the window becomes a new one.
 void BringForwardOnWayland(wxFrame& window, bool wasHidden) {
     const std::vector<GtkWidget*> stack = StackOn(window.GetHandle());
-    const bool isNew = (wasHidden || !IsAnyActive(stack)) && NoteShown(stack.front());
-    if (HandTokenToToolkit()) {
+    const bool hasToken = HandTokenToToolkit();
+    if (hasToken) {
         gtk_window_present(GTK_WINDOW(stack.back()));
-    } else if (isNew && !wasHidden) {
+    }
+    if (wasHidden) {
+        NoteShown(stack.front());
+    } else if (!hasToken && !IsAnyActive(stack) && NoteShown(stack.front())) {
         ShowAnew(window, stack);
     }
+}
+
+// A window, null once it is destroyed, and what to do when its button is pressed.
+struct MinimizeButton {
+    GtkWidget* window;
+    std::function<void()> act;
+};
+
+bool HasClass(GtkWidget* widget, const char* name) {
+    return gtk_style_context_has_class(gtk_widget_get_style_context(widget), name) != FALSE;
+}
+
+gboolean OnClicked(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* values,
+                   gpointer data) {
+    const auto& wanted = *static_cast<MinimizeButton*>(data);
+    auto* const button = static_cast<GtkWidget*>(g_value_get_object(values));
+    if (wanted.window != nullptr && gtk_widget_get_toplevel(button) == wanted.window &&
+        HasClass(button, "titlebutton") && HasClass(button, "minimize")) {
+        wanted.act();
+    }
+    return wanted.window != nullptr ? TRUE : FALSE;
+}
+
+void ForgetButton(gpointer data) {
+    auto* const button = static_cast<MinimizeButton*>(data);
+    if (button->window != nullptr) {
+        g_object_remove_weak_pointer(G_OBJECT(button->window),
+                                     reinterpret_cast<gpointer*>(&button->window));
+    }
+    delete button;
 }
 
 }  // namespace
@@ -130,6 +164,19 @@ bool SystemShows(const wxFrame& window) {
 
 bool MayBeMinimized(const wxFrame& window) {
     return window.IsIconized() || (IsOnWayland() && !IsAnyActive(StackOn(window.GetHandle())));
+}
+
+// GTK makes the button anew at times, so this watches all buttons.
+void OnMinimizeButton(wxFrame& window, std::function<void()> act) {
+    if (!IsOnWayland()) {
+        return;
+    }
+    auto* const button = new MinimizeButton{window.GetHandle(), std::move(act)};
+    g_object_add_weak_pointer(G_OBJECT(button->window),
+                              reinterpret_cast<gpointer*>(&button->window));
+    g_type_class_ref(GTK_TYPE_BUTTON);  // otherwise the signal does not exist yet
+    g_signal_add_emission_hook(g_signal_lookup("clicked", GTK_TYPE_BUTTON), 0, &OnClicked, button,
+                               &ForgetButton);
 }
 
 bool CanStayOnTop() {

@@ -26,6 +26,8 @@ bool MayBeMinimized(const wxFrame& window) {
     return window.IsIconized();
 }
 
+void OnMinimizeButton(wxFrame& /*window*/, std::function<void()> /*act*/) {}
+
 bool CanStayOnTop() {
     return true;
 }

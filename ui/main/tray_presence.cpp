@@ -20,6 +20,13 @@ TrayPresence::TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPr
     window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
     window_.Bind(wxEVT_ACTIVATE, &TrayPresence::OnActivate, this);
+    OnMinimizeButton(window_, [this] {
+        window_.CallAfter([this] {
+            if (HasIcon()) {
+                window_.Hide();
+            }
+        });
+    });
 }
 
 // The window still sends many events while it is destroyed.
