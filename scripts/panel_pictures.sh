@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 . scripts/common.sh
 [ $# = 1 ] || fail "usage: $0 FOLDER"
 program=$PWD/build/dev/bin/brevilexicon
-[ -x "$program" ] && [ -f build/dev/bin/Acronyms.dat ] || fail "build the preset dev first: ./test"
+[[ -x $program && -f build/dev/bin/Acronyms.dat ]] || fail "build the preset dev first: ./test"
 mkdir -p "$1"
 out=$(realpath "$1")
 need_packages "${display_packages[@]}" "${wayland_packages[@]}" grim waybar xdotool xfce4-panel xfconf
