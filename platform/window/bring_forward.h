@@ -22,7 +22,7 @@ void BringForward(wxFrame& window);
 /// Calls `act` when the user presses the button for minimizing that GTK draws in the title of a
 /// window on Wayland, which reports nothing of it. `act` runs before the window is minimized and
 /// may be called as long as the window exists. Elsewhere this does nothing.
-void OnMinimizeButton(wxFrame& window, std::function<void()> act);
+void OnMinimizeButton(wxFrame& window, const std::function<void()>& act);
 
 /// Whether this desktop can keep a window above the windows of other programs. Wayland cannot.
 [[nodiscard]] bool CanStayOnTop();

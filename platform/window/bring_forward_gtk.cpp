@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <keybinder.h>
-#include <utility>
 #include <vector>
 
 #include <wx/frame.h>
@@ -167,11 +166,11 @@ bool MayBeMinimized(const wxFrame& window) {
 }
 
 // GTK makes the button anew at times, so this watches all buttons.
-void OnMinimizeButton(wxFrame& window, std::function<void()> act) {
+void OnMinimizeButton(wxFrame& window, const std::function<void()>& act) {
     if (!IsOnWayland()) {
         return;
     }
-    auto* const button = new MinimizeButton{window.GetHandle(), std::move(act)};
+    auto* const button = new MinimizeButton{window.GetHandle(), act};
     g_object_add_weak_pointer(G_OBJECT(button->window),
                               reinterpret_cast<gpointer*>(&button->window));
     g_type_class_ref(GTK_TYPE_BUTTON);  // otherwise the signal does not exist yet

@@ -26,7 +26,7 @@ bool MayBeMinimized(const wxFrame& window) {
     return window.IsIconized();
 }
 
-void OnMinimizeButton(wxFrame& /*window*/, std::function<void()> /*act*/) {}
+void OnMinimizeButton(wxFrame& /*window*/, const std::function<void()>& /*act*/) {}
 
 bool CanStayOnTop() {
     return true;

@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 """help_test.py PROGRAM VIEWER: there is one help viewer on a Wayland compositor, which comes forward,
 turns its pages and closes with the program."""
+import os
+import shutil
 import subprocess
 import sys
 
@@ -44,6 +46,15 @@ def main():
     expect(subprocess.run([viewer, book, 'keys.html'], timeout=PATIENCE_S, check=False).returncode, 0,
            'the status of the second viewer')
     await_object(application, 'document text', 'Keys')
+    await_active(HELP)
+
+    # A viewer with another book is not the one that is asked for.
+    copy = shutil.copy(book, os.path.join(os.environ['HOME'], 'Other.hlp'))
+    with subprocess.Popen([viewer, copy]) as other:
+        wait_for(lambda: titles().count(HELP) == 2, 'the second window')
+        other.terminate()
+    wait_for(lambda: titles().count(HELP) == 1, 'the second window to go')
+    sway(f'[title="^{HELP}$"] focus')
     await_active(HELP)
     seat.press('Escape')
     expect(first.process.wait(PATIENCE_S), 0, 'the status of the viewer')
