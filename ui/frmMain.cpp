@@ -9,9 +9,11 @@
 #include <wx/app.h>
 #include <wx/utils.h>
 
+#include "lookup/desktop_answers.h"
 #include "platform/desktop/unopened_menus.h"
 #include "platform/desktop/wx_message_sink.h"
 #include "platform/window/bring_forward.h"
+#include "platform/window/activation_token.h"
 #include "toolkit/app_icon.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/modGeneral.h"
@@ -74,7 +76,8 @@ frmMain::frmMain(ProgramValues& values, const MainSurroundings& surroundings)
             {.isModalOpen = [this] { return IsModalOpen(); },
              .raiseModal = [this] { sideWindows_.RaiseModal(); },
              .onCommand = [this](Command command) { Run(command); }}),
-      tmrCheckCommand(this) {
+      tmrCheckCommand(this),
+      requests_(EventsOfRequests()) {
     SetName("frmMain");
     SetIcons(icons_);
     SetMenuBar(CreateMainMenus());
@@ -244,6 +247,35 @@ void frmMain::PopUpListMenu(const wxPoint& place) {
     if (!wxTheApp->IsScheduledForDestruction(this) && !IsModalOpen()) {
         PopupMenu(CreateListMenu().get(),
                   place == wxDefaultPosition ? place : ScreenToClient(place));
+    }
+}
+
+// Requests wait until the desktop has its answer, because what they start may wait for the user.
+EntryRequestEvents frmMain::EventsOfRequests() {
+    return {
+        .onShow =
+            [this](const std::string& id, const std::string& /*activationToken*/) {
+                CallAfter([this, id] { ShowRequested(id); });
+            },
+        .onCopy = [this](const std::string& id) { CallAfter([this, id] { CopyRequested(id); }); }};
+}
+
+// Behind a modal window, the entry stays as it is.
+void frmMain::ShowRequested(const std::string& id) {
+    if (wxTheApp->IsScheduledForDestruction(this)) {
+        return;
+    }
+    if (!id.empty() && !IsModalOpen()) {
+        GoToRecordNumber(RecordNumberOf(RowToShow(*values_.AcronymList, id)));
+        lookup_.GiveBoxTheFocus();
+    }
+    tray_.BringWindowForward();
+}
+
+void frmMain::CopyRequested(const std::string& id) {
+    if (const auto row = RowOfAnswer(*values_.AcronymList, id)) {
+        WxMessageSink messages(this);
+        CopyEntryToClipboard(values_.AcronymList->RowText(*row), messages);
     }
 }
 

@@ -13,6 +13,7 @@
 #include "base/temporary_files.h"
 #include "database/program_values.h"
 #include "database/record_number.h"
+#include "platform/desktop/entry_requests.h"
 #include "platform/system/modShowHelp.h"
 #include "presentation/commands.h"
 #include "ui/controls/layout_units.h"
@@ -86,6 +87,9 @@ class frmMain final : public wxFrame {
     void CheckStayOnTop(bool stays);
     void CheckRunAtStartup(bool runs);
     void PopUpListMenu(const wxPoint& place);
+    [[nodiscard]] EntryRequestEvents EventsOfRequests();
+    void ShowRequested(const std::string& id);
+    void CopyRequested(const std::string& id);
     [[nodiscard]] std::string_view SelectedEntry() const;
 
     void OnShow(wxShowEvent& event);
@@ -109,6 +113,7 @@ class frmMain final : public wxFrame {
     wxIconBundle icons_;
     TrayPresence tray_;
     wxTimer tmrCheckCommand;
+    EntryRequests requests_;
 };
 
 }  // namespace brelex

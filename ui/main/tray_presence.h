@@ -38,6 +38,9 @@ class TrayPresence final : private TrayOwner {
     /// Minimizes the window. Hides it if its icon is on the screen.
     void MinimizeWindow() override;
 
+    /// Shows the window in front, or the modal window over it.
+    void BringWindowForward() { ActivateWindow(); }
+
     /// The contents of the icon's menu have changed.
     void MenuChanged();
 
