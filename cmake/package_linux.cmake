@@ -16,6 +16,9 @@ the terminal and to scripts, and builds databases from your own lists.
 The database of more than 25,000 entries is part of the package. Nothing is
 looked up on the network.")
 
+# The archive has only what works wherever it is unpacked (see cmake/desktop_search.cmake).
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_LIST_DIR}/package_contents.cmake")
+
 if(NOT BRELEX_PACKAGING)
   return()
 endif()

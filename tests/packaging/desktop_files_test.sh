@@ -68,6 +68,33 @@ check "whether it is built" equal "$bin/brevilexicon" "$(value TryExec "$share/a
 check "the built help" equal "\"$bin/brelex-help\" %f" \
     "$(value Exec "$share/applications/$id.Help.desktop")"
 
+# What searches from the desktop, and what the session bus starts for them. An installed file names the
+# program by its absolute path.
+search=$id.Search
+provider=$share/gnome-shell/search-providers/$id.search-provider.ini
+runner=$share/krunner/dbusplugins/brevilexicon.desktop
+check "GNOME Shell knows the desktop entry" \
+    equal "$entry" "$(value DesktopId "$provider" "Shell Search Provider")"
+check "GNOME Shell knows the service" \
+    equal "$search" "$(value BusName "$provider" "Shell Search Provider")"
+check "KRunner knows the service" equal "$search" "$(value X-Plasma-DBusRunner-Service "$runner")"
+check "both know the same object" \
+    equal "$(value ObjectPath "$provider" "Shell Search Provider")" \
+    "$(value X-Plasma-DBusRunner-Path "$runner")"
+check "KRunner shows the program's name" equal "$(value Name "$entries/$entry")" "$(value Name "$runner")"
+check "KRunner shows the icon" equal "$id" "$(value Icon "$runner")"
+for service in "$id brevilexicon" "$search brevilexicon-search"; do
+    file=dbus-1/services/${service% *}.service
+    for folder_of_it in "$share" "$(dirname "$entries")"; do
+        check "the name in $folder_of_it/$file" \
+            equal "${service% *}" "$(value Name "$folder_of_it/$file" "D-BUS Service")"
+    done
+    check "the built program in $file" \
+        equal "\"$bin/${service#* }\"" "$(value Exec "$share/$file" "D-BUS Service")"
+    check "the installed program in $file" grep -qE "^Exec=\"/.*/${service#* }\"\$" \
+        "$(dirname "$entries")/$file"
+done
+
 # Nothing above a hint: a domain that is not registered, and the capital letter, are hints.
 check "the metadata are valid" appstreamcli validate --no-net --no-color "$metainfo"
 check "the metadata have only known hints" equal "" "$(
