@@ -9,6 +9,7 @@
 #include "base/windows1252.h"
 #include "database/record_text.h"
 #include "database/string_order.h"
+#include "lookup/desktop_answers.h"
 #include "lookup/prefix_search.h"
 
 namespace brelex {
@@ -104,8 +105,17 @@ void LookupBox::GoToRecordNumber(RecordNumber nRecordNumber) {
         return;
     }
     const auto last = RecordNumberOf(values_.RecordCount - 1);
-    const std::int32_t row = RowOf(std::clamp(*wanted, RecordNumberOf(0), last));
-    view_.SelectRow(row, Scrolling::IntoSight);
+    GoToRow(RowOf(std::clamp(*wanted, RecordNumberOf(0), last)), Scrolling::IntoSight);
+}
+
+void LookupBox::ShowChosen(const std::string& id) {
+    if (values_.AcronymList->RowCount() > 0) {
+        GoToRow(RowToShow(*values_.AcronymList, id), Scrolling::SecondFromTop);
+    }
+}
+
+void LookupBox::GoToRow(std::int32_t row, Scrolling scrolling) {
+    view_.SelectRow(row, scrolling);
     ShowEntry(row);
     view_.MoveCaretToEnd();
 }

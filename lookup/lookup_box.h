@@ -90,6 +90,10 @@ class LookupBox {
     /// entry. kAskForRecord asks the user for the number.
     void GoToRecordNumber(RecordNumber nRecordNumber);
 
+    /// Shows what the user chose outside the window, for example in the search of the desktop (see
+    /// RowToShow), and makes it the second visible row, as typing would.
+    void ShowChosen(const std::string& id);
+
     bool IsNavigating = false;  ///< the list drives the box, not the user's typing
     bool IsLookupBusy = false;
     std::string LastText;     ///< last looked up, or last written by the list
@@ -99,6 +103,9 @@ class LookupBox {
   private:
     /// Shows the number of a row and writes its abbreviation into the box.
     void ShowEntry(std::int32_t row);
+
+    /// Selects a row and writes its abbreviation into the box.
+    void GoToRow(std::int32_t row, Scrolling scrolling);
 
     /// Asks the user for a number, which may be out of range. Nothing if the user gives none.
     [[nodiscard]] std::optional<RecordNumber> AskRecordNumber();

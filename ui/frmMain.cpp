@@ -266,8 +266,7 @@ void frmMain::ShowRequested(const std::string& id) {
         return;
     }
     if (!id.empty() && !IsModalOpen()) {
-        GoToRecordNumber(RecordNumberOf(RowToShow(*values_.AcronymList, id)));
-        lookup_.GiveBoxTheFocus();
+        lookup_.ShowChosen(id);
     }
     tray_.BringWindowForward();
 }

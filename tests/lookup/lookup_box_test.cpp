@@ -279,6 +279,36 @@ TEST_F(LookupBoxTest, AReportWithoutAChangeIsNone) {
     EXPECT_EQ(view_.selected, 5);
 }
 
+TEST_F(LookupBoxTest, AnEntryChosenElsewhereIsSecondFromTheTop) {
+    lookup_.ShowChosen("AB\ty");
+    EXPECT_EQ(view_.selected, 2);
+    EXPECT_EQ(view_.topRow, 1);
+    EXPECT_EQ(view_.box, "AB");
+    EXPECT_EQ(view_.number, "3");
+    EXPECT_EQ(view_.caretMoves, 1);
+    lookup_.ShowChosen("xs");
+    EXPECT_EQ(view_.selected, 5);
+    EXPECT_EQ(view_.box, "XSS");
+}
+
+TEST_F(LookupBoxTest, ChoosingWhatTheBoxHasIsNotTyping) {
+    Type("AB");
+    lookup_.ShowChosen("AB\tx");
+    lookup_.ShowChosen("AB\tx");
+    EXPECT_FALSE(lookup_.IsLookupBusy);
+    EXPECT_FALSE(lookup_.IsNavigating);
+    Type("XS");
+    EXPECT_EQ(view_.selected, 5);
+}
+
+TEST_F(LookupBoxTest, NothingCanBeChosenFromAnEmptyList) {
+    const FakeRows none({});
+    values_.AcronymList = &none;
+    lookup_.ShowChosen("AB\tx");
+    EXPECT_EQ(view_.selected, -1);
+    EXPECT_EQ(view_.box, "");
+}
+
 TEST_F(LookupBoxTest, GoToRecordNumberSelectsAndLooksNothingUp) {
     lookup_.GoToRecordNumber(RecordNumber{3});
     EXPECT_EQ(view_.selected, 2);

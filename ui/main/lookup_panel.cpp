@@ -143,6 +143,12 @@ void LookupPanel::GoToRecordNumber(RecordNumber nRecordNumber) {
     lookup_.GoToRecordNumber(nRecordNumber);
 }
 
+void LookupPanel::ShowChosen(const std::string& id) {
+    FlushBoxChange();
+    lookup_.ShowChosen(id);
+    GiveBoxTheFocus();
+}
+
 std::vector<ControlHint> LookupPanel::Hints() const {
     const char* const listHint =
         "Press Carriage Return or double-click an entry in the list to view it";

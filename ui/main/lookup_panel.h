@@ -69,6 +69,9 @@ class LookupPanel final : private LookupView {
     /// See LookupBox::GoToRecordNumber. Its questions and messages are modal.
     void GoToRecordNumber(RecordNumber nRecordNumber);
 
+    /// See LookupBox::ShowChosen. The box gets the focus.
+    void ShowChosen(const std::string& id);
+
     /// The selected row (0-based), -1 if there is none.
     [[nodiscard]] std::int32_t SelectedRow() const override;
 
