@@ -16,6 +16,8 @@ programs=("$place"/brevilexicon-*-linux-*/bin)
 bin=${programs[0]}
 listing() { (cd "$place" && find . -printf '%p %y %s %m\n') | sort; }
 before=$(listing)
+# The session bus wants absolute paths, and the archive can be unpacked anywhere.
+equal "what the session bus would start" "$(find "$place" -path '*/dbus-1/*' -o -name '*-search*')" ""
 
 # as_user COMMAND...: as another user if this one is root, who could write everywhere.
 as_user() {

@@ -10,7 +10,7 @@ version=$(dpkg-deb -f "$package" Version)
 
 step "making a clean Debian"
 mmdebstrap --quiet --mode=root --variant=minbase --aptopt='Acquire::Retries "3"' \
-    --include=desktop-file-utils,shared-mime-info,gtk-update-icon-cache,man-db \
+    --include=desktop-file-utils,shared-mime-info,gtk-update-icon-cache,man-db,dbus \
     "$(. /etc/os-release; echo "$VERSION_CODENAME")" "$root"
 useradd --root "$root" --create-home anna
 mkdir "$root/packages"
@@ -77,8 +77,16 @@ entry=$root/home/anna/.config/autostart/brevilexicon.desktop
 grep -q '^TryExec=/usr/lib/brevilexicon/brevilexicon$' "$entry" ||
     fail "the log-on entry does not name the program: $(cat "$entry")"
 
-step "looking at what the desktop sees"
+step "searching from the desktop"
 id=example.brevilexicon.Brevilexicon
+# The session has no other programs. The service finds its database from the folder of the package.
+as_anna dbus-run-session -- dbus-send --session --print-reply=literal --dest=$id.Search \
+    /example/brevilexicon/Brevilexicon/Search \
+    org.gnome.Shell.SearchProvider2.GetInitialResultSet array:string:sbom >"$root/packages/out"
+grep -q "SBOM.Software Bill of Materials" "$root/packages/out" ||
+    fail "the search finds: $(cat "$root/packages/out")"
+
+step "looking at what the desktop sees"
 grep -q "application/x-brelex-help=.*Brevilexicon.Help" "$root/usr/share/applications/mimeinfo.cache" ||
     fail "no program is known for the help book"
 [ -f "$root/usr/share/icons/hicolor/scalable/apps/$id.svg" ] || fail "the icon is not there"
