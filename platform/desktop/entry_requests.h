@@ -23,7 +23,7 @@ struct EntryRequestEvents {
 /// asks on Windows.
 class EntryRequests {
   public:
-    explicit EntryRequests(EntryRequestEvents events);
+    explicit EntryRequests(const EntryRequestEvents& events);
     EntryRequests(const EntryRequests&) = delete;
     EntryRequests& operator=(const EntryRequests&) = delete;
     ~EntryRequests();

@@ -126,8 +126,8 @@ class EntryRequests::Listener {
     guint name_;  // the last member, because the bus may answer as soon as it is asked for
 };
 
-EntryRequests::EntryRequests(EntryRequestEvents events)
-    : listener_(std::make_unique<Listener>(std::move(events))) {}
+EntryRequests::EntryRequests(const EntryRequestEvents& events)
+    : listener_(std::make_unique<Listener>(events)) {}
 
 EntryRequests::~EntryRequests() = default;
 

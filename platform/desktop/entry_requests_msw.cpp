@@ -5,7 +5,7 @@ namespace brelex {
 
 class EntryRequests::Listener {};
 
-EntryRequests::EntryRequests(EntryRequestEvents /*events*/) {}
+EntryRequests::EntryRequests(const EntryRequestEvents& /*events*/) {}
 
 EntryRequests::~EntryRequests() = default;
 
