@@ -15,9 +15,7 @@ namespace brelex {
 namespace {
 
 bool IsControl(char c) {
-    constexpr unsigned char kDelete = 0x7F;
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < ' ' || byte == kDelete;
+    return static_cast<unsigned char>(c) < ' ';
 }
 
 // Adds the rows from the first one on that begins with `text`, as long as they do.

@@ -24,6 +24,7 @@ std::vector<std::string> SampleRows() {
             "dns\tdomain name system",
             "DNS\tDomain Name System",
             "DNSSEC\tDNS Security Extensions",
+            "\x80\tEuro",
             "\xC9T\xC9\tSummer",
             "RAM\tOne",
             "RAM\tTwo",
@@ -94,6 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
         AnswerCase{"AnAccent", "\xC3\xA9t\xC3\xA9", {"\xC9T\xC9\tSummer"}},
         AnswerCase{"ARecordWithoutExpansion", "whole record", {"Whole record"}},
         AnswerCase{"Nothing", "", {}}, AnswerCase{"OnlyBlanks", "   ", {}},
+        AnswerCase{"TheEuroSign", "\xE2\x82\xAC", {"\x80\tEuro"}},
         AnswerCase{"ATabLeadsNotIntoTheExpansion", "XML\tMark", {}},
         AnswerCase{"ANulEndsNothing", std::string("XML\0Q", 5), {}},
         AnswerCase{"AControlCharacter", "XML\x1B", {}}, AnswerCase{"Delete", "XML\x7F", {}},
@@ -151,6 +153,7 @@ TEST(RowToShow, IsThatOfTheEntryOrTheOneThatTypingSelects) {
     EXPECT_EQ(RowToShow(list, "XM\xD0\x9A"), 3);
     EXPECT_EQ(RowToShow(list, std::string(1000000, 'X')), 3);
     EXPECT_EQ(RowToShow(list, ""), 0);
+    EXPECT_EQ(RowToShow(FakeRows({"AB A\tx", "AB C\tx"}), "AB C\tRemoved"), 1);
     EXPECT_EQ(RowToShow(FakeRows({}), "AB\tFirst"), 0);
 }
 

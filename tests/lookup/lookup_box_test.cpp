@@ -301,6 +301,13 @@ TEST_F(LookupBoxTest, ChoosingWhatTheBoxHasIsNotTyping) {
     EXPECT_EQ(view_.selected, 5);
 }
 
+TEST_F(LookupBoxTest, TheOnlyEntryCanBeChosen) {
+    const FakeRows one({"AB\tx"});
+    values_.AcronymList = &one;
+    lookup_.ShowChosen("AB\tx");
+    EXPECT_EQ(view_.box, "AB");
+}
+
 TEST_F(LookupBoxTest, NothingCanBeChosenFromAnEmptyList) {
     const FakeRows none({});
     values_.AcronymList = &none;
