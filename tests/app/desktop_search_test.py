@@ -201,6 +201,27 @@ def check_idle_end(desktop):
     expect(desktop.find('dns'), DNS, 'what is found after its end')
 
 
+def check_call_at_the_end(desktop):
+    """A search that arrives at the moment when the service ends is answered."""
+    process = desktop.process_of(SERVICE)
+    answers = []
+
+    def on_answer(bus, result):
+        try:
+            answers.append(bus.call_finish(result).unpack()[0])
+        except GLib.Error as error:
+            answers.append(error.message)
+
+    os.kill(process, signal.SIGSTOP)
+    desktop.bus.call(SERVICE, SERVICE_PATH, SHELL, 'GetInitialResultSet',
+                     GLib.Variant('(as)', (['dns'],)), None, Gio.DBusCallFlags.NONE,
+                     PATIENCE_S * 1000, None, on_answer)
+    time.sleep(IDLE_S + 1.5)  # its time is over before it can look at the call
+    os.kill(process, signal.SIGCONT)
+    wait_for(lambda: answers, 'an answer')
+    expect(answers, [DNS], 'the answer at the end')
+
+
 def objects_below(parent):
     for index in range(parent.get_child_count()):
         child = parent.get_child_at_index(index)
@@ -277,7 +298,7 @@ def main():
         try:
             desktop.write_database(ENTRIES)
             for check in (check_shell_search, check_krunner, check_changed_data, check_idle_end,
-                          check_choosing):
+                          check_call_at_the_end, check_choosing):
                 check(desktop)
         finally:
             desktop.daemon.terminate()
