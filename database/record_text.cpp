@@ -16,6 +16,13 @@ std::string_view GetExpansion(std::string_view recordText) {
     return tab == std::string_view::npos ? recordText : recordText.substr(tab + 1);
 }
 
+std::string CopiedText(std::string_view recordText) {
+    std::string text(GetAbbreviation(recordText));
+    text += " = ";
+    text += GetExpansion(recordText);
+    return text;
+}
+
 std::size_t LetterCount(std::string_view text) {
     return text.size() - static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
 }

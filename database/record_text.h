@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace brelex {
@@ -12,6 +13,9 @@ namespace brelex {
 /// The expansion of a record: its text after the first TAB, including further TABs. The whole
 /// record if there is no TAB.
 [[nodiscard]] std::string_view GetExpansion(std::string_view recordText);
+
+/// A record in the form in which it is copied: "RAM = Random Access Memory".
+[[nodiscard]] std::string CopiedText(std::string_view recordText);
 
 /// The number of characters in a text (Windows-1252 bytes) that are not blanks. The user is told
 /// that they are its "letters".

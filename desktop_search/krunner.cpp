@@ -53,13 +53,15 @@ GVariant* Matches(const RowList& rows, const std::string& query) {
 
 }  // namespace
 
-void KRunner::Run(GVariant* parameters) {
+void KRunner::Run(GVariant* parameters, const RowList& rows) {
     const char* id = nullptr;
     const char* action = nullptr;
     g_variant_get(parameters, "(&s&s)", &id, &action);
     const std::string token = std::exchange(activationToken_, {});
     if (std::string_view(action) == kCopy) {
-        window_.Copy(id);
+        if (const auto row = RowOfAnswer(rows, id)) {
+            window_.Copy(rows.RowText(*row));
+        }
     } else if (std::string_view(action).empty()) {
         window_.Show(id, {token, token});
     }
@@ -82,7 +84,7 @@ GVariant* KRunner::Answer(std::string_view method, GVariant* parameters, const R
         g_variant_get(parameters, "(&s)", &token);
         activationToken_ = token;
     } else if (method == "Run") {
-        Run(parameters);
+        Run(parameters, rows);
     }
     return nullptr;
 }

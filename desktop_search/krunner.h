@@ -37,7 +37,7 @@ class KRunner {
                                    const RowList& rows);
 
   private:
-    void Run(GVariant* parameters);
+    void Run(GVariant* parameters, const RowList& rows);
 
     WindowProgram& window_;
     std::string activationToken_;  // for the next Run

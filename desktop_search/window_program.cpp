@@ -3,9 +3,13 @@
 
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <utility>
 
 #include "base/app_info.h"
+#include "base/windows1252.h"
+#include "database/record_text.h"
+#include "lookup/desktop_answers.h"
 
 namespace brelex {
 
@@ -14,7 +18,33 @@ namespace {
 // A start takes long if a question is open, for example where the database is.
 constexpr int kPatienceMs = 120'000;
 
+// An entry that is being copied.
+struct Copying {
+    WindowProgram& window;
+    std::string id;
+};
+
 }  // namespace
+
+void WindowProgram::Copy(std::string_view record) {
+    ++awaited_;
+    g_dbus_connection_call(bus_, "org.kde.klipper", "/klipper", "org.kde.klipper.klipper",
+                           "setClipboardContents",
+                           g_variant_new("(s)", Utf8OfBytes(CopiedText(record)).c_str()), nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, nullptr, &WindowProgram::OnCopied,
+                           new Copying{*this, AnswerId(record)});
+}
+
+void WindowProgram::OnCopied(GObject* bus, GAsyncResult* result, void* data) {
+    const std::unique_ptr<Copying> copying(static_cast<Copying*>(data));
+    GVariant* const answer = g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, nullptr);
+    if (answer != nullptr) {
+        g_variant_unref(answer);
+    } else {
+        copying->window.Ask("copy-entry", copying->id, {});
+    }
+    --copying->window.awaited_;
+}
 
 void WindowProgram::Ask(const char* action, const std::string& id, const Permission& permission) {
     GVariantBuilder parameters;

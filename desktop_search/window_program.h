@@ -3,6 +3,7 @@
 
 #include <gio/gio.h>
 #include <string>
+#include <string_view>
 
 namespace brelex {
 
@@ -24,8 +25,10 @@ class WindowProgram {
         Ask("show-entry", id, permission);
     }
 
-    /// Copies an entry.
-    void Copy(const std::string& id) { Ask("copy-entry", id, {}); }
+    /// Copies the entry with this record text (Windows-1252 bytes). KDE's clipboard takes it
+    /// without a window, even under Wayland, where only a program that has the keyboard can copy.
+    /// Without that clipboard, the program with the window copies.
+    void Copy(std::string_view record);
 
     /// Whether it still has to answer.
     [[nodiscard]] bool IsAwaited() const { return awaited_ > 0; }
@@ -33,6 +36,7 @@ class WindowProgram {
   private:
     void Ask(const char* action, const std::string& id, const Permission& permission);
     static void OnAnswer(GObject* bus, GAsyncResult* result, void* data);
+    static void OnCopied(GObject* bus, GAsyncResult* result, void* data);
 
     GDBusConnection* bus_;
     int awaited_ = 0;

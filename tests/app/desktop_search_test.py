@@ -256,6 +256,31 @@ def await_shown(text, entry):
     wait_for(lambda: title_in_front().startswith('Brevilexicon ('), 'the window to be in front')
 
 
+def check_copying_in_kde(desktop):
+    """KDE has a clipboard on the bus, so that no window is needed."""
+    copied = []
+
+    def on_call(_bus, _sender, _path, _interface, _method, parameters, invocation):
+        copied.append(parameters.unpack()[0])
+        invocation.return_value(None)
+
+    node = Gio.DBusNodeInfo.new_for_xml(
+        '<node><interface name="org.kde.klipper.klipper"><method name="setClipboardContents">'
+        '<arg type="s" direction="in"/></method></interface></node>')
+    clipboard = desktop.bus.register_object('/klipper', node.interfaces[0], on_call, None, None)
+    name = Gio.bus_own_name_on_connection(desktop.bus, 'org.kde.klipper',
+                                          Gio.BusNameOwnerFlags.NONE, None, None)
+    wait_for(lambda: desktop.runs('org.kde.klipper'), 'the clipboard of KDE')
+    for entry in ('XML\tGone', '\u00c5S\tWith a ring'):
+        desktop.search(RUNNER, 'Run', '(ss)', entry, 'copy')
+    wait_for(lambda: copied, 'the copied entry')
+    expect(copied, ['\u00c5S = With a ring'], 'what is copied')
+    expect(desktop.runs(ID), False, 'whether copying starts the window')
+    Gio.bus_unown_name(name)
+    desktop.bus.unregister_object(clipboard)
+    wait_for(lambda: not desktop.runs('org.kde.klipper'), 'the clipboard of KDE to go')
+
+
 def check_choosing(desktop):
     expect(desktop.runs(ID), False, 'whether the window is there before')
     desktop.search(SHELL, 'ActivateResult', '(sasu)', DNS[1], ['dns'], 0)
@@ -298,7 +323,7 @@ def main():
         try:
             desktop.write_database(ENTRIES)
             for check in (check_shell_search, check_krunner, check_changed_data, check_idle_end,
-                          check_call_at_the_end, check_choosing):
+                          check_call_at_the_end, check_copying_in_kde, check_choosing):
                 check(desktop)
         finally:
             desktop.daemon.terminate()

@@ -29,6 +29,13 @@ TEST(RecordText, ARecordWithoutTabStandsInTheFirstColumn) {
     EXPECT_EQ(ColumnText("ABC\tOne\tTwo", 1), "One\tTwo");
 }
 
+TEST(CopiedText, HasAnEqualsSignBetweenTheParts) {
+    EXPECT_EQ(CopiedText("RAM\tRandom Access Memory"), "RAM = Random Access Memory");
+    EXPECT_EQ(CopiedText("A\tB\tC"), "A = B\tC");
+    EXPECT_EQ(CopiedText("No TAB"), " = No TAB");
+    EXPECT_EQ(CopiedText(""), " = ");
+}
+
 TEST(LetterCount, CountsAllButBlanks) {
     EXPECT_EQ(LetterCount("Read Only Memory"), 14U);
     EXPECT_EQ(LetterCount("Basic Input/Output System"), 23U);

@@ -73,8 +73,7 @@ void SetTopMost(wxTopLevelWindow& window, bool topMost) {
 void CopyEntryToClipboard(std::string_view recordText, MessageSink& messages) {
     constexpr int kAttempts = 10;
     constexpr int kPauseMs = 20;
-    const wxString text = WxTextOfBytes(GetAbbreviation(recordText)) + " = " +
-                          WxTextOfBytes(GetExpansion(recordText));
+    const wxString text = WxTextOfBytes(CopiedText(recordText));
     // Another program that has the clipboard open usually releases it soon.
     bool done = PutOnClipboard(text);
     for (int i = 1; i < kAttempts && !done; ++i) {
