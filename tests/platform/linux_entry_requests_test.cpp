@@ -16,7 +16,7 @@ namespace brelex {
 namespace {
 
 class EntryRequestsTest : public SideWindowTest {
-  protected:
+  public:
     EntryRequestsTest() : bus_(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)) {}
 
     EntryRequestsTest(const EntryRequestsTest&) = delete;
@@ -24,6 +24,7 @@ class EntryRequestsTest : public SideWindowTest {
 
     ~EntryRequestsTest() override { g_object_unref(bus_); }
 
+  protected:
     void SetUp() override {
         SideWindowTest::SetUp();
         ASSERT_TRUE(WaitFor([&] { return Call("Activate", "(@a{sv} {},)").empty(); }));
