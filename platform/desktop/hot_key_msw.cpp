@@ -10,7 +10,8 @@ namespace brelex {
 // The system drops the key when the window is destroyed, so there is nothing to undo.
 class ActivationHotKey::Binding {};
 
-ActivationHotKey::ActivationHotKey(wxFrame& window, const std::function<void()>& /*bringForward*/) {
+ActivationHotKey::ActivationHotKey(
+    wxFrame& window, const std::function<void(const std::string& token)>& /*bringForward*/) {
     constexpr WPARAM kShiftControlG = 839;  // 'G' in the low byte, Shift (1) + Control (2) above
     SendMessageW(window.GetHWND(), WM_SETHOTKEY, kShiftControlG, 0);
 }

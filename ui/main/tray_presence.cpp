@@ -15,7 +15,11 @@ TrayPresence::TrayPresence(wxFrame& window, const wxIconBundle& pictures, TrayPr
     : window_(window),
       events_(std::move(events)),
       behaviour_(*this),
-      hotKey_(window, [this] { ActivateWindow(); }),
+      hotKey_(window,
+              [this](const std::string& token) {
+                  UseActivationToken(token);
+                  ActivateWindow();
+              }),
       icon_(AddTrayIcon(pictures, kAppTitle, EventsOfIcon())) {
     window_.Bind(wxEVT_ICONIZE, &TrayPresence::OnIconize, this);
     window_.Bind(wxEVT_SHOW, &TrayPresence::OnShow, this);
