@@ -48,8 +48,8 @@ package_packages=(git gzip zip file fakeroot dpkg-dev python3 librsvg2-bin base-
 windows_package_packages=(nsis imagemagick wx3.2-headers unzip)
 package_test_packages=(lintian desktop-file-utils appstream mandoc mmdebstrap bubblewrap xdotool
                        xclip unzip binutils binutils-mingw-w64-i686 e2fsprogs passwd)
-# They draw the icons for Linux and check what a desktop gets.
-desktop_packages=(librsvg2-bin desktop-file-utils appstream imagemagick)
+# They draw the icons for Linux, check what a desktop gets, and are its portal.
+desktop_packages=(librsvg2-bin desktop-file-utils appstream imagemagick xdg-desktop-portal)
 
 # They build the fuzz targets, and tell which lines they reach.
 fuzz_packages=(clang llvm-14 bsdextrautils)
