@@ -15,6 +15,7 @@
 #include "platform/window/drop_down_list.h"
 #include "platform/window/plain_text.h"
 #include "platform/window/prompt_button.h"
+#include "platform/window/spoken_controls.h"
 #include "platform/window/window_place.h"
 #include "toolkit/pending_events.h"
 #include "toolkit/wx_text.h"
@@ -84,6 +85,7 @@ void frmAnagram::CreateControls() {
     LeaveUnspoken(*lblRearrangements_);
     lblPossiblePerms = Named(NewFact("999,999,999,999,999,999,999,999"), "lblPossiblePerms");
     lblPercentDone = Named(NewFact("Done 100%  Found 999", wxALIGN_RIGHT), "lblPercentDone");
+    SpeakOnlyName(*lblPercentDone, wxEmptyString);
     picAnim = new BusyAnimation(surface_, AnagramFilmStrip(), kAnimationIntervalMs);
     StopWithWindow(picAnim->tmrAnimation);
     lblColHeaderBack = Named(new Backdrop(surface_), "lblColHeaderBack");
@@ -205,6 +207,11 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
     cmdSearch->Enable(display.canSearch);
     ShowFact(*lblWordLen, WxText(display.letterCount), "letter(s)");
     ShowFact(*lblPossiblePerms, WxText(display.rearrangements), "possible rearrangements");
+    if (isNew(&AnagramDisplay::letterCount) || isNew(&AnagramDisplay::rearrangements)) {
+        SetSpokenDescription(*cboLetters, lblWordLen->GetLabelText() + " letter(s), " +
+                                              lblPossiblePerms->GetLabelText() +
+                                              " possible rearrangements");
+    }
     lblPercentDone->SetLabelText(WxText(display.percentDone));
     if (isNew(&AnagramDisplay::percentDone) && !display.isBusy) {
         SetSpokenDescription(lstAnagrams->Window(), WxText(display.percentDone));
@@ -212,6 +219,8 @@ void frmAnagram::ShowDisplay(const AnagramDisplay& display) {
     }
     if (display.isBusy) {
         lblPercentDone->Update();
+    } else {
+        SpeakOnlyName(*lblPercentDone, WxText(display.percentDone));
     }
     if (isNew(&AnagramDisplay::listIsWarning)) {
         lstAnagrams->SetTextColour(display.listIsWarning

@@ -19,6 +19,7 @@
 #include "platform/window/drop_down_list.h"
 #include "platform/window/paint_now.h"
 #include "platform/window/prompt_button.h"
+#include "platform/window/spoken_controls.h"
 #include "search/search_list.h"
 #include "search/wildcard_help.h"
 #include "toolkit/pending_events.h"
@@ -103,6 +104,7 @@ void frmSearch::CreateResultArea() {
     surface_->FrameChild(*statusArea_);
     lblStatus = Named(NewStatus(statusArea_), "lblStatus");
     lblCount = Named(NewStatus(statusArea_, wxALIGN_RIGHT), "lblCount");
+    SpeakOnlyName(*lblCount, wxEmptyString);
     cmdExpandShrink =
         Named(new wxBitmapButton(surface_, wxID_ANY, ExpandPicture()), "cmdExpandShrink");
     lblColHeaderBack = Named(new Backdrop(surface_), "lblColHeaderBack");
@@ -258,6 +260,9 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
                                           : wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT));
         lblCount->SetLabelText(WxText(display.count));
         lblCount->Update();
+    }
+    if (!display.isBusy) {
+        SpeakOnlyName(*lblCount, WxText(display.count));
     }
     if (isNew(&SearchDisplay::resultAreaShown)) {
         ShowResultArea(display.resultAreaShown);

@@ -4,6 +4,8 @@
 #include <wx/string.h>
 #include <wx/window.h>
 
+class wxMenuItem;
+
 namespace brelex {
 
 /// Sets the name that a screen reader says for a window.
@@ -14,7 +16,12 @@ void SetSpokenName(wxWindow& window, const wxString& spokenName);
 void SetSpokenDescription(wxWindow& window, const wxString& description);
 
 /// Has a screen reader say the name or text of a window now, although it does not have the focus.
+/// Does nothing on Linux, where readers only listen to what has the focus: give that the
+/// description.
 void Announce(wxWindow& window);
+
+/// Sets the name that a screen reader says for an item of a menu. Does nothing on Windows.
+void SetSpokenName(wxMenuItem& item, const wxString& spokenName);
 
 /// Has screen readers leave a window out, because another one has a name that says it all.
 void LeaveUnspoken(wxWindow& window);

@@ -3,6 +3,7 @@
 
 #include <wx/combobox.h>
 #include <wx/dataview.h>
+#include <wx/menuitem.h>
 
 #include <gtk/gtk.h>
 
@@ -50,12 +51,11 @@ void LeaveUnspoken(wxWindow& window) {
     atk_object_set_role(SpokenObjectOf(window), ATK_ROLE_REDUNDANT_OBJECT);
 }
 
-void Announce(wxWindow& window) {
-    AtkObject* const object = SpokenObjectOf(window);
-    const char* const text = atk_object_get_name(object);
-    if (text != nullptr && *text != '\0' && g_signal_lookup("announcement", ATK_TYPE_OBJECT) != 0) {
-        g_signal_emit_by_name(object, "announcement", text);
-    }
+// Orca 43 does not know ATK's signal for this, and later ones would say the text a second time.
+void Announce(wxWindow& /*window*/) {}
+
+void SetSpokenName(wxMenuItem& item, const wxString& spokenName) {
+    atk_object_set_name(gtk_widget_get_accessible(item.GetMenuItem()), spokenName.utf8_str());
 }
 
 }  // namespace brelex

@@ -15,6 +15,9 @@ void SetSpokenDescription(wxWindow& window, const wxString& description) {
     SpokenAccessible::Of(window).SetDescription(description);
 }
 
+// The system's menus have no names of their own.
+void SetSpokenName(wxMenuItem& /*item*/, const wxString& /*spokenName*/) {}
+
 void LeaveUnspoken(wxWindow& window) {
     SpokenAccessible::Of(window).LeaveUnspoken();
 }

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <wx/stattext.h>
 #include <wx/toolbar.h>
 #include <wx/treectrl.h>
 
@@ -70,6 +71,11 @@ void DescribeTree(wxTreeCtrl& tree, Current current) {
 
 void NameToolsByTips(wxToolBar& toolBar) {
     NameByTip(toolBar.GetHandle(), nullptr);
+}
+
+// An object of our own knows nothing of the label's text. GTK tells of each text, three times.
+void SpeakOnlyName(wxStaticText& label, const wxString& name) {
+    SetSpokenObject(label, {.role = SpokenRole::Text, .name = name});
 }
 
 void SpeakTree(wxTreeCtrl& tree) {

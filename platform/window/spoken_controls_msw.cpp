@@ -3,8 +3,10 @@
 
 namespace brelex {
 
-// Both controls are the system's.
+// All these controls are the system's.
 void NameToolsByTips(wxToolBar& /*toolBar*/) {}
+
+void SpeakOnlyName(wxStaticText& /*label*/, const wxString& /*name*/) {}
 
 void SpeakTree(wxTreeCtrl& /*tree*/) {}
 

@@ -140,11 +140,11 @@ void OnWidgetDestroyed(GtkWidget* /*widget*/, gpointer object) {
     gtk_accessible_set_widget(GTK_ACCESSIBLE(object), nullptr);
 }
 
-// The object takes the place of the one that the widgets of plain windows have from the toolkit.
-// Their class is the toolkit's own, so no other widgets are asked here.
+// The object takes the place of the one that plain windows and labels have from the toolkit. The
+// classes of their widgets all get that from GtkWidget.
 AtkObject* NewWhole(wxWindow& window, GtkWidget* widget, SpokenRole role) {
     GtkWidgetClass* const klass = GTK_WIDGET_GET_CLASS(widget);
-    if (usualObject == nullptr) {
+    if (klass->get_accessible != &OwnOrUsualObject) {
         usualObject = std::exchange(klass->get_accessible, &OwnOrUsualObject);
     }
     auto* const object =

@@ -105,6 +105,32 @@ def check_tool_bar(application):
     wait_for(lambda: find(application, 'dialog', 'About Brevilexicon') is None, 'the dialog to close')
 
 
+def check_search(application):
+    """The number that changes with each hit keeps silent, so that the result is heard."""
+    told = []
+    listener = Atspi.EventListener.new(lambda event: told.append(event.source.get_role_name()))
+    Atspi.Action.do_action(await_object(application, 'push button', 'Search Database'),
+                           0)
+    dialog = await_object(application, 'dialog', 'Search Database')
+    text = await_object(dialog, 'text', 'Search text')
+    Atspi.EditableText.set_text_contents(text, 'database')
+    for event in ('object:text-changed', 'object:property-change:accessible-name'):
+        listener.register(event)
+    search = await_object(dialog, 'push button', 'Search')
+    wait_for(lambda: search.get_state_set().contains(Atspi.StateType.SENSITIVE), 'the text to arrive')
+    Atspi.Action.do_action(search, 0)
+    result = await_object(dialog, 'text', 'Entries found')
+    hits = wait_for(lambda: result.get_description().startswith('Number of Hits: ') and
+                    result.get_description(), 'the number of hits')
+    if int(hits.split()[-1]) < 100:
+        sys.exit(f'there is too little to find: {hits}')
+    if told.count('label') > 20:
+        sys.exit(f'labels have told of {told.count("label")} changes: nobody can listen to that')
+    for event in ('object:text-changed', 'object:property-change:accessible-name'):
+        listener.deregister(event)
+    Atspi.Action.do_action(await_object(dialog, 'push button', 'Cancel'), 0)
+
+
 def check_donation(application):
     """The text that scrolls can be read line by line."""
     Atspi.Action.do_action(await_object(application, 'push button', 'Donate via PayPal'), 0)
@@ -136,7 +162,7 @@ def check_help(application):
 def main():
     program, viewer = sys.argv[1:]
     process, application = start(program)
-    for check in (check_look_up, check_tool_bar, check_donation):
+    for check in (check_look_up, check_tool_bar, check_search, check_donation):
         check(application)
     Atspi.Action.do_action(await_object(application, 'push button', 'Exit'), 0)
     expect(process.wait(PATIENCE_S), 0, 'the status of the program')

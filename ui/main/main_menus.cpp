@@ -1,12 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/main_menus.h"
 
+#include "platform/window/accessible_name.h"
+
 namespace brelex {
 
 namespace {
 
 wxItemKind ItemKindOf(const CommandDetails& details) {
     return details.kind == CommandKind::CheckMark ? wxITEM_CHECK : wxITEM_NORMAL;
+}
+
+// Puts one blank for each row of blanks.
+wxString SingleSpaced(wxString text) {
+    while (text.Replace("  ", " ") != 0) {
+    }
+    return text;
 }
 
 wxMenu* CreateMenu(CommandMenu which) {
@@ -22,7 +31,11 @@ wxMenu* CreateMenu(CommandMenu which) {
         if (*details.shortcut != '\0') {
             text << '\t' << details.shortcut;
         }
-        menu->Append(IdOf(details.command), text, wxEmptyString, ItemKindOf(details));
+        wxMenuItem* const item =
+            menu->Append(IdOf(details.command), text, wxEmptyString, ItemKindOf(details));
+        if (text.Contains("  ")) {  // which a screen reader would say or show as they are
+            SetSpokenName(*item, SingleSpaced(item->GetItemLabelText()));
+        }
     }
     return menu;
 }
