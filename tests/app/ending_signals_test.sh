@@ -82,6 +82,22 @@ message_box() {
         sleep 0.02
     done
 }
+open_menus() {
+    local window
+    for window in $(xdotool search --onlyvisible --pid $pid 2>/dev/null); do
+        xprop -id "$window" _NET_WM_WINDOW_TYPE 2>/dev/null
+    done | grep _MENU
+}
+menu() { start_until_main; press alt+f; until_equal 1 open_menus || failed "no menu"; }
+# The icon has the title of the program, as the splash window had.
+icon() { xdotool search --all --onlyvisible --pid $pid --name '^Brevilexicon$' 2>/dev/null; }
+icons_menu() {
+    start_until_main
+    until_equal 1 icon || failed "no icon"
+    xdotool mousemove 12 12 click 3
+    until_equal 1 open_menus || failed "no menu at the icon"
+    xdotool mousemove 640 700
+}
 in_the_tray() { start /minimize; until_equal 1 main_windows; until_equal 0 main_windows; }
 help() { start_until_main; press F1; until_equal 1 windows 'Brevilexicon Help'; }
 second_copy() { start; until_equal 1 messages; }
@@ -105,6 +121,8 @@ in_each_case 'main window' start_until_main
 in_each_case 'entry viewer' entry_viewer
 in_each_case 'question' question
 in_each_case 'message box' message_box
+in_each_case 'menu' menu
+in_each_case "icon's menu" icons_menu
 in_each_case 'notification area' in_the_tray
 in_each_case 'help' help
 start_until_main; first=$pid
