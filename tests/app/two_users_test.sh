@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# two_users_test.sh FOLDER: two users run the program in a copy of FOLDER, each on a display of their
-# own, with only a folder for temporary files that both share. They do not see each other. Then the
+# two_users_test.sh FOLDER: two users run the program in a copy of FOLDER, each on a display and with a
+# session bus of their own, with only a folder for temporary files that both share. They do not see
+# each other, and neither disturbs the other by starting, ending or starting again. Then the
 # second user plants files, links, pipes and folders at the paths that the first will use. That must
 # not keep the first from starting, and must divert nothing. Only the superuser can be two users.
 set -u
@@ -14,7 +15,7 @@ mkdir "$folder/program" "$folder/common"
 chmod 1777 "$folder/common"
 cp "$1/brevilexicon" "$1/Acronyms.dat" "$folder/program/"
 chmod -R a+rX "$folder/program"
-users=(64001 64002) displays=()
+users=(64001 64002) displays=() buses=()
 failures=0 starts=0 what='both at once'
 failed() { echo "FAILED: $what: $*"; failures=$((failures + 1)); }
 for user in "${users[@]}"; do
@@ -24,13 +25,25 @@ for user in "${users[@]}"; do
     Xvfb -displayfd 5 -noreset -ac -nolisten tcp 5>"$folder/display" 2>/dev/null & servers+=($!)
     until [ -s "$folder/display" ]; do sleep 0.02; done
     displays+=(":$(cat "$folder/display")")
+    # The bus does not run for a user that nobody knows, but it serves one.
+    cat >"$folder/bus$user.conf" <<END
+<busconfig>
+  <type>session</type><listen>unix:path=$folder/bus$user</listen><auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow user="*"/><allow own="*"/><allow send_destination="*"/><allow receive_sender="*"/>
+  </policy>
+</busconfig>
+END
+    dbus-daemon --nofork --nopidfile --config-file="$folder/bus$user.conf" 2>/dev/null & servers+=($!)
+    until [ -S "$folder/bus$user" ]; do sleep 0.02; done
+    buses+=("unix:path=$folder/bus$user")
 done
 # as NUMBER COMMAND...: runs the command as one of the users, 0 or 1.
 as() {
-    local user=${users[$1]} display=${displays[$1]}; shift
+    local user=${users[$1]} display=${displays[$1]} bus=${buses[$1]}; shift
     exec setpriv --reuid "$user" --regid "$user" --clear-groups env -i PATH="$PATH" \
         HOME="$folder/home$user" TMPDIR="$folder/common" DISPLAY="$display" NO_AT_BRIDGE=1 \
-        GSETTINGS_BACKEND=memory LC_ALL=C.UTF-8 "$@"
+        DBUS_SESSION_BUS_ADDRESS="$bus" GSETTINGS_BACKEND=memory LC_ALL=C.UTF-8 "$@"
 }
 shows_main() { DISPLAY=${displays[$1]} xwininfo -root -tree 2>/dev/null | grep -F 'Brevilexicon (' >/dev/null; }
 await_main() {
@@ -41,6 +54,14 @@ await_main() {
     done
     starts=$((starts + 1))
 }
+# The message of another start has the title of the program and a button.
+await_message() {
+    local end=$((SECONDS + 30))
+    until DISPLAY=${displays[1]} xwininfo -root -tree 2>/dev/null | grep '"Brevilexicon": ' >/dev/null; do
+        [ $SECONDS -lt $end ] || { failed "the second user's other start says nothing"; return; }
+        sleep 0.05
+    done
+}
 # finish PID...: ends programs.
 finish() { kill "$@"; wait "$@" 2>/dev/null; }
 
@@ -48,6 +69,11 @@ as 0 "$folder/program/brevilexicon" 2>/dev/null & first=$!
 as 1 "$folder/program/brevilexicon" 2>/dev/null & second=$!
 await_main 0
 await_main 1
+for number in 0 1; do
+    names=$( (as $number dbus-send --session --print-reply --dest=org.freedesktop.DBus / \
+        org.freedesktop.DBus.ListNames) | grep -c '":1\.')
+    [ "$names" -ge 2 ] || failed "user $number has a session bus without the program"
+done
 lock=$folder/common/brevilexicon-${users[0]}.lock
 entry=$folder/home${users[0]}/.config/autostart/brevilexicon.desktop
 for file in "$lock" "$entry"; do
@@ -55,7 +81,15 @@ for file in "$lock" "$entry"; do
     ! (as 1 cat "$file") >/dev/null 2>&1 || failed "the second user can read $file"
     ! (as 1 rm -f "$file") 2>/dev/null || failed "the second user can remove $file"
 done
-finish $first $second
+# The second user ends the program and starts it again, and once more while it runs.
+finish $second
+as 1 "$folder/program/brevilexicon" 2>/dev/null & second=$!
+await_main 1
+as 1 "$folder/program/brevilexicon" 2>/dev/null & again=$!
+await_message
+finish $again $second
+kill -0 $first 2>/dev/null && shows_main 0 || failed "the first user's program is gone"
+finish $first
 [ -z "$(ls -A "$folder/common")" ] || failed "left behind: $(ls -A "$folder/common")"
 
 # plant KIND PATH: as the second user.
