@@ -176,7 +176,7 @@ class PortalHotKey::Client {
     // can listen before the request is there and could be answered.
     std::string AwaitResponse(Step step) {
         step_ = step;
-        const std::string token = "brevilexicon" + std::to_string(++requests_);
+        std::string token = "brevilexicon" + std::to_string(++requests_);
         std::string sender = g_dbus_connection_get_unique_name(connection_);
         sender.erase(0, 1);  // a colon
         std::replace(sender.begin(), sender.end(), '.', '_');
