@@ -137,6 +137,13 @@ class Session:
             for letter in value:
                 self.screen.type(letter)
                 time.sleep(0.05)
+        elif kind == 'ctrl-click':  # in the window in front
+            area = self.screen.area(self.screen.active())
+            x, y = map(int, value.split())
+            self.screen.hold('ctrl', True)
+            self.screen.move(area.x + x, area.y + y)
+            self.screen.click()
+            self.screen.hold('ctrl', False)
         elif kind == 'window':
             wait_for(lambda: self.in_front(value), f'the window "{value}"')
         else:
