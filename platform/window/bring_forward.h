@@ -11,6 +11,10 @@ namespace brelex {
 /// the keyboard.
 void BringForward(wxFrame& window);
 
+/// Gives the keyboard to a window that was just opened over `window` at the request of the desktop,
+/// if that needs a token and there is one; see UseActivationToken.
+void BringOpenedForward(wxFrame& window);
+
 /// Whether the window is shown and not minimized. Windows may restore a window without telling the
 /// toolkit, so on Windows this asks the system itself.
 [[nodiscard]] bool SystemShows(const wxFrame& window);

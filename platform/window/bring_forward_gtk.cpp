@@ -157,6 +157,13 @@ void BringForward(wxFrame& window) {
                                  keyTime != 0 ? keyTime : gtk_get_current_event_time());
 }
 
+void BringOpenedForward(wxFrame& window) {
+    const std::vector<GtkWidget*> stack = StackOn(window.GetHandle());
+    if (IsOnWayland() && stack.size() > 1 && HandTokenToToolkit()) {
+        gtk_window_present(GTK_WINDOW(stack.back()));
+    }
+}
+
 bool SystemShows(const wxFrame& window) {
     return window.IsShown() && !window.IsIconized();
 }

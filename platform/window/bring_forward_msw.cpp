@@ -18,6 +18,8 @@ void BringForward(wxFrame& window) {
     SetForegroundWindow(GetLastActivePopup(handle));
 }
 
+void BringOpenedForward(wxFrame& /*window*/) {}
+
 bool SystemShows(const wxFrame& window) {
     return IsWindowVisible(window.GetHWND()) != 0 && IsIconic(window.GetHWND()) == 0;
 }

@@ -49,7 +49,11 @@ TrayEvents TrayPresence::EventsOfIcon() {
     // Waits until the menu, and the desktop that may have sent this, are done with it. The command
     // can end the program.
     events.onMenuItem = [this](Command command) {
-        window_.CallAfter([this, command] { behaviour_.OnMenuItem(command); });
+        window_.CallAfter([this, command] {
+            // While the command runs: it opens its window and waits until the user closes it.
+            window_.CallAfter([this] { BringOpenedForward(window_); });
+            behaviour_.OnMenuItem(command);
+        });
     };
     // A program that starts with the session is often running before the panel is.
     events.onShown = [this] {
