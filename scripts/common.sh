@@ -62,6 +62,7 @@ accessibility_packages=(at-spi2-core python3-gi gir1.2-atspi-2.0)
 
 # A Wayland compositor, and what takes part in it.
 wayland_packages=(sway gir1.2-gtk-3.0)
+
 # A screen reader, without sound.
 speech_packages=(orca speech-dispatcher)
 
