@@ -35,11 +35,6 @@ using SystemWindow = void*;
 [[nodiscard]] bool IsInTaskBar(SystemWindow window);
 [[nodiscard]] bool CanBeResized(SystemWindow window);
 
-/// Makes a window larger by so many pixels, or smaller, as its user would: within its limits, and not
-/// at all if it has a fixed size. With the mouse on Linux. Where Wine shares the screen with a window
-/// manager, simulated clicks do not reach the frames, so there it is the system that does it.
-void EnlargeAsUser(wxTopLevelWindow& window, const wxSize& by);
-
 /// Whether the desktop keeps a window above the usual ones.
 [[nodiscard]] bool IsKeptAbove(SystemWindow window);
 [[nodiscard]] bool IsKeptAbove(const wxTopLevelWindow& window);

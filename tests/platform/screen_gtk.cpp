@@ -18,7 +18,6 @@
 #include <gtk/gtk.h>
 
 #include "platform/list/entry_list_control.h"
-#include "tests/ui/ui_test_support.h"
 
 namespace brelex {
 
@@ -169,27 +168,6 @@ bool IsKeptAbove(SystemWindow window) {
 
 bool IsKeptAbove(const wxTopLevelWindow& window) {
     return IsKeptAbove(SystemWindowOf(window));
-}
-
-void EnlargeAsUser(wxTopLevelWindow& window, const wxSize& by) {
-    // The window manager gives a window another frame when it may be resized, and may then move it.
-    wxRect frame;
-    WaitFor([&] {
-        frame = FrameOnScreen(window);
-        return StaysFor(100, [&] { return FrameOnScreen(window) == frame; });
-    });
-    wxUIActionSimulator user;
-    const wxPoint corner =
-        window.ClientToScreen(wxPoint(0, 0)) + window.GetClientSize() + wxPoint(-2, 2);
-    user.MouseMove(corner);
-    user.MouseDown();
-    LetEventsArrive();
-    for (int part = 1; part <= 4; ++part) {
-        user.MouseMove(corner + wxPoint(by.x, by.y) * part / 4);
-        LetEventsArrive();
-    }
-    user.MouseUp();
-    LetEventsArrive();
 }
 
 bool CanBeResized(SystemWindow window) {

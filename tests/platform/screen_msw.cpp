@@ -132,14 +132,6 @@ bool IsKeptAbove(const wxTopLevelWindow& window) {
     return IsKeptAbove(SystemWindowOf(window));
 }
 
-void EnlargeAsUser(wxTopLevelWindow& window, const wxSize& by) {
-    if (!CanBeResized(SystemWindowOf(window))) {
-        return;
-    }
-    const wxSize size = window.GetSize() + by;
-    SetWindowPos(window.GetHWND(), nullptr, 0, 0, size.x, size.y, SWP_NOMOVE | SWP_NOZORDER);
-}
-
 bool CanBeResized(SystemWindow window) {
     return (GetWindowLongW(Handle(window), GWL_STYLE) & (WS_THICKFRAME | WS_MAXIMIZEBOX)) != 0;
 }

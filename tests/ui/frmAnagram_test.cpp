@@ -13,6 +13,7 @@
 #include <wx/utils.h>
 
 #include "base/windows1252.h"
+#include "tests/platform/enlarge.h"
 #include "tests/platform/keyboard.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"

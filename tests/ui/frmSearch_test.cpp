@@ -22,6 +22,7 @@
 
 #include "database/database_header.h"
 #include "search/wildcard_help.h"
+#include "tests/platform/enlarge.h"
 #include "tests/platform/keyboard.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
