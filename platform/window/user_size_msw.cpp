@@ -3,15 +3,21 @@
 
 #include <wx/toplevel.h>
 
+#include <windows.h>
+
 namespace brelex {
 
 namespace {
 
-// The frame that one can drag is wider. The inside keeps its size.
+// The frame that one can drag may be wider. The inside keeps its size. The toolkit's style for this
+// would add a grip to dialogs, which lies over the contents and has no name for screen readers.
 void GiveFrame(wxTopLevelWindow& window, bool canDrag) {
     const wxSize inside = window.GetClientSize();
-    const long style = window.GetWindowStyleFlag();
-    window.SetWindowStyleFlag(canDrag ? style | wxRESIZE_BORDER : style & ~wxRESIZE_BORDER);
+    HWND handle = window.GetHWND();
+    const LONG style = GetWindowLongW(handle, GWL_STYLE);
+    SetWindowLongW(handle, GWL_STYLE, canDrag ? style | WS_THICKFRAME : style & ~WS_THICKFRAME);
+    SetWindowPos(handle, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     window.SetClientSize(inside);
 }
 
