@@ -32,6 +32,15 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
     OnEachNewFrame(*this, [this] {
         if (std::exchange(awaitsFrame_, false)) {
             CenterOverOwner();
+            awaitsSize_ = wanted_.IsFullySpecified() && GetClientSize() != wanted_;
+        }
+    });
+    // Its size may arrive after its frame.
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        if (awaitsSize_ && GetClientSize() == wanted_) {
+            awaitsSize_ = false;
+            CenterOverOwner();
         }
     });
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
@@ -88,22 +97,20 @@ void SideWindow::LetUserEnlarge() {
     if (!smallest_.IsFullySpecified()) {
         smallest_ = GetClientSize();
     }
-    LetUserResize(*this, smallest_);
-    wxSize wanted = enlarged_;
-    wanted.DecTo(LargestInside(*this));
-    wanted.IncTo(smallest_);
-    if (wanted != GetClientSize()) {
-        SetClientSize(wanted);
-    }
+    wanted_ = enlarged_;
+    wanted_.DecTo(LargestInside(*this));
+    wanted_.IncTo(smallest_);
+    LetUserResize(*this, smallest_, wanted_);
     awaitsFrame_ = true;
     CenterOverOwner();
 }
 
 void SideWindow::EndEnlarging() {
     if (std::exchange(mayEnlarge_, false)) {
-        enlarged_ = GetClientSize();
+        enlarged_ = IsShown() ? GetClientSize() : wxDefaultSize;
         KeepSizeFromUser(*this);
         SetClientSize(smallest_);
+        wanted_ = wxDefaultSize;
         awaitsFrame_ = true;
     }
 }

@@ -41,7 +41,8 @@ class SideWindow : public wxDialog {
     void ShowAppInfoOnMenuRequest(wxTextCtrl& box, const AppInfo& info);
 
     /// Lets the user make the window larger than it is now, the first time that this is called.
-    /// Gives it the size back to which the user made it before. The window is on the screen.
+    /// Gives it the size back to which the user made it before, unless it was closed since. The
+    /// window is on the screen.
     void LetUserEnlarge();
 
     /// Ends that. The window goes back to the size that it had before.
@@ -62,7 +63,9 @@ class SideWindow : public wxDialog {
     wxTopLevelWindow& owner_;
     wxSize smallest_ = wxDefaultSize;  // of the inside while the user may make it larger
     wxSize enlarged_ = wxDefaultSize;  // of the inside, as the user left it
+    wxSize wanted_ = wxDefaultSize;    // the size that it has or will have then, if it is known
     bool mayEnlarge_ = false;
+    bool awaitsSize_ = false;
     bool awaitsFrame_ = false;  // which is different where the user may enlarge the window
     std::vector<wxTimer*> timers_;
 };

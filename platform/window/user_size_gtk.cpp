@@ -30,8 +30,7 @@ void AllowResizing(wxTopLevelWindow& window, bool allow) {
 
 }  // namespace
 
-void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest) {
-    const wxSize size = window.GetClientSize();
+void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest, const wxSize& size) {
     gtk_widget_set_size_request(GTK_WIDGET(window.GetHandle()), smallest.x, smallest.y);
     // GTK would tell later. By then a window manager may have put the frame of a fixed size around
     // it.
@@ -43,6 +42,8 @@ void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest) {
         gdk_window_set_geometry_hints(shown, &limits, GDK_HINT_MIN_SIZE);
     }
     AllowResizing(window, true);
+    window.SetClientSize(size);
+    // The toolkit does nothing if it believes that the window has that size, as it had once.
     gtk_window_resize(GTK_WINDOW(window.GetHandle()), size.x, size.y);
 }
 

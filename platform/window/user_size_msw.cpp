@@ -23,9 +23,10 @@ void GiveFrame(wxTopLevelWindow& window, bool canDrag) {
 
 }  // namespace
 
-void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest) {
+void LetUserResize(wxTopLevelWindow& window, const wxSize& smallest, const wxSize& size) {
     GiveFrame(window, true);
     window.SetMinClientSize(smallest);
+    window.SetClientSize(size);
 }
 
 void KeepSizeFromUser(wxTopLevelWindow& window) {

@@ -5,7 +5,8 @@ are used, so the same calls drive the Linux program and the Windows program unde
 import collections
 import ctypes
 import os
-import pathlib
+import socket
+import struct
 import subprocess
 import time
 
@@ -242,11 +243,12 @@ class Screen:
         toggle = 2
         self.send(window, "_NET_WM_STATE", [toggle, self.atom(state), 0, FROM_PAGER])
 
-    @staticmethod
-    def server_process():
-        """The number of the display's own process."""
-        number = os.environ["DISPLAY"].split(":")[1].split(".")[0]
-        return int(pathlib.Path(f"/tmp/.X{number}-lock").read_text())
+    def server_process(self):
+        """The number of the display's own process; 0 if it is on another machine."""
+        connection = os.dup(XLIB.XConnectionNumber(self.display))
+        with socket.socket(fileno=connection) as peer:
+            credentials = peer.getsockopt(socket.SOL_SOCKET, socket.SO_PEERCRED, 12)
+        return struct.unpack("iii", credentials)[0]
 
     def answer_seconds(self, window, longest, is_over):
         """Sends what a window manager sends in order to see whether a program still handles its
