@@ -272,6 +272,7 @@ void frmSearch::ShowDisplay(const SearchDisplay& display) {
     }
     if (display.isBusy && isNew(&SearchDisplay::isBusy)) {
         PaintNow(*this);
+        heldEnter_->SearchIsShown();  // the window may have taken its time to become larger
     }
 }
 

@@ -23,6 +23,10 @@ class HeldEnter {
     void SearchBegins();
     void SearchEnds();
 
+    /// The user can see now that a search is running. Before that, any Enter is still meant for its
+    /// start.
+    void SearchIsShown() { lastEnter_ = Clock::now(); }
+
     /// Whether a button pressed now, during a search, was pressed by the Enter that started the
     /// search or by another one right after it. Windows presses buttons without passing the key to
     /// the window.
