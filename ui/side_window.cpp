@@ -6,7 +6,6 @@
 
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
-#include <wx/timer.h>
 
 #include "platform/window/spoken_object.h"
 #include "platform/window/user_size.h"
@@ -31,18 +30,13 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
     OnEachShowing(*this, [this] { CenterOverOwner(); });
     OnEachNewFrame(*this, [this] {
         if (std::exchange(awaitsFrame_, false)) {
-            CenterOverOwner();
-            awaitsSize_ = wanted_.IsFullySpecified() && GetClientSize() != wanted_;
+            // The display tells of frame and size one after the other.
+            constexpr int kUntilBothAreThereMs = 50;
+            centering_.StartOnce(kUntilBothAreThereMs);
         }
     });
-    // Its size may arrive after its frame.
-    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
-        event.Skip();
-        if (awaitsSize_ && GetClientSize() == wanted_) {
-            awaitsSize_ = false;
-            CenterOverOwner();
-        }
-    });
+    centering_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { CenterOverOwner(); });
+    StopWithWindow(centering_);
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
         OnRescaled(ScaleOf(event));
@@ -97,10 +91,10 @@ void SideWindow::LetUserEnlarge() {
     if (!smallest_.IsFullySpecified()) {
         smallest_ = GetClientSize();
     }
-    wanted_ = enlarged_;
-    wanted_.DecTo(LargestInside(*this));
-    wanted_.IncTo(smallest_);
-    LetUserResize(*this, smallest_, wanted_);
+    wxSize wanted = enlarged_;
+    wanted.DecTo(LargestInside(*this));
+    wanted.IncTo(smallest_);
+    LetUserResize(*this, smallest_, wanted);
     awaitsFrame_ = true;
     CenterOverOwner();
 }
@@ -110,7 +104,6 @@ void SideWindow::EndEnlarging() {
         enlarged_ = IsShown() ? GetClientSize() : wxDefaultSize;
         KeepSizeFromUser(*this);
         SetClientSize(smallest_);
-        wanted_ = wxDefaultSize;
         awaitsFrame_ = true;
     }
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <wx/dialog.h>
+#include <wx/timer.h>
 
 #include "base/app_info.h"
 #include "platform/desktop/wx_message_sink.h"
@@ -11,7 +12,6 @@
 
 class wxSizer;
 class wxTextCtrl;
-class wxTimer;
 
 namespace brelex {
 
@@ -63,10 +63,9 @@ class SideWindow : public wxDialog {
     wxTopLevelWindow& owner_;
     wxSize smallest_ = wxDefaultSize;  // of the inside while the user may make it larger
     wxSize enlarged_ = wxDefaultSize;  // of the inside, as the user left it
-    wxSize wanted_ = wxDefaultSize;    // the size that it has or will have then, if it is known
     bool mayEnlarge_ = false;
-    bool awaitsSize_ = false;
     bool awaitsFrame_ = false;  // which is different where the user may enlarge the window
+    wxTimer centering_;
     std::vector<wxTimer*> timers_;
 };
 
