@@ -11,15 +11,11 @@ import sys
 import tempfile
 import time
 
-try:
-    import gi
-    gi.require_version('Atspi', '2.0')
-    from gi.repository import Atspi, Gio, GLib
-except (ImportError, ValueError):
-    print('python3-gi or the typelib of AT-SPI is not installed')
-    sys.exit(77)
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
+                                'support'))
+from at_spi import Atspi, PATIENCE_S, objects_below, wait_for  # noqa: E402
+from gi.repository import Gio, GLib  # noqa: E402
 
-PATIENCE_S = 30
 IDLE_S = 3
 ID = 'example.brevilexicon.Brevilexicon'
 SERVICE = ID + '.Search'
@@ -43,22 +39,6 @@ def expect(actual, expected, what):
     if actual != expected:
         failures += 1
         print(f'FAILED: {what}: {actual!r} instead of {expected!r}')
-
-
-def wait_for(found, what):
-    """Runs events until found() returns something true, which it returns."""
-    end = time.monotonic() + PATIENCE_S
-    while time.monotonic() < end:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        try:
-            result = found()
-        except GLib.Error:  # an object may vanish while it is looked at
-            result = None
-        if result:
-            return result
-        time.sleep(0.05)
-    sys.exit(f'waited in vain for {what}')
 
 
 class Desktop:
@@ -220,15 +200,6 @@ def check_call_at_the_end(desktop):
     os.kill(process, signal.SIGCONT)
     wait_for(lambda: answers, 'an answer')
     expect(answers, [DNS], 'the answer at the end')
-
-
-def objects_below(parent):
-    for index in range(parent.get_child_count()):
-        child = parent.get_child_at_index(index)
-        if child is not None:
-            yield child
-            if not child.get_state_set().contains(Atspi.StateType.MANAGES_DESCENDANTS):
-                yield from objects_below(child)
 
 
 def shown_entry():

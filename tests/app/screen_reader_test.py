@@ -7,50 +7,10 @@ of changes. Needs a display and a session bus."""
 import os
 import subprocess
 import sys
-import time
 
-try:
-    import gi
-    gi.require_version('Atspi', '2.0')
-    from gi.repository import Atspi, GLib
-except (ImportError, ValueError):
-    print('python3-gi or the typelib of AT-SPI is not installed')
-    sys.exit(77)
-
-PATIENCE_S = 30
-
-
-def wait_for(found, what):
-    """Runs events until found() returns something true, which it returns."""
-    end = time.monotonic() + PATIENCE_S
-    while time.monotonic() < end:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        try:
-            result = found()
-        except GLib.Error:  # an object may vanish while it is looked at
-            result = None
-        if result:
-            return result
-        time.sleep(0.05)
-    sys.exit(f'waited in vain for {what}')
-
-
-def objects_below(parent):
-    for index in range(parent.get_child_count()):
-        child = parent.get_child_at_index(index)
-        if child is not None:
-            yield child
-            # The many cells of a table are not looked for.
-            if not child.get_state_set().contains(Atspi.StateType.MANAGES_DESCENDANTS):
-                yield from objects_below(child)
-
-
-def find(parent, role, name):
-    for child in objects_below(parent):
-        if child.get_role_name() == role and (name is None or child.get_name() == name):
-            return child
-    return None
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
+                                'support'))
+from at_spi import Atspi, PATIENCE_S, application_of, find, wait_for  # noqa: E402
 
 
 def await_object(parent, role, name=None):
@@ -59,16 +19,7 @@ def await_object(parent, role, name=None):
 
 def start(program):
     process = subprocess.Popen([program], env={**os.environ, 'NO_AT_BRIDGE': '0'})
-
-    def application():
-        desktop = Atspi.get_desktop(0)
-        for index in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(index)
-            if child is not None and child.get_process_id() == process.pid:
-                return child
-        return None
-
-    return process, wait_for(application, program)
+    return process, wait_for(lambda: application_of(process), program)
 
 
 def expect(actual, expected, what):

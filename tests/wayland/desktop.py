@@ -5,36 +5,20 @@ import json
 import os
 import subprocess
 import sys
-import time
 
-try:
-    import gi
-    gi.require_version('Atspi', '2.0')
-    from gi.repository import Atspi, Gio, GLib
-except (ImportError, ValueError):
-    print('python3-gi or the typelib of AT-SPI is not installed')
-    sys.exit(77)
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
+                                'support'))
+import at_spi  # noqa: E402
+from at_spi import Atspi, PATIENCE_S, find  # noqa: E402, F401
+from gi.repository import Gio, GLib  # noqa: E402
 
-PATIENCE_S = 30
 ID = 'example.brevilexicon.Brevilexicon'
 MAIN = 'Brevilexicon (www.brevilexicon.example)'
 HELP = 'Brevilexicon Help'
 
 
 def wait_for(found, what):
-    """Runs events until found() returns something true, which it returns."""
-    end = time.monotonic() + PATIENCE_S
-    while time.monotonic() < end:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        try:
-            result = found()
-        except GLib.Error:  # an object may vanish while it is looked at
-            result = None
-        if result:
-            return result
-        time.sleep(0.02)
-    sys.exit(f'waited in vain for {what}; the windows are {windows()}')
+    return at_spi.wait_for(found, what, lambda: f'; the windows are {windows()}')
 
 
 def expect(actual, expected, what):
@@ -86,13 +70,8 @@ class Program:
 
     def application(self):
         """The program as screen readers see it."""
-        def found():
-            desktop = Atspi.get_desktop(0)
-            children = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-            return next((child for child in children if child is not None
-                         and child.get_process_id() == self.process.pid), None)
-
-        return wait_for(found, 'the program on the accessibility bus')
+        return wait_for(lambda: at_spi.application_of(self.process),
+                        'the program on the accessibility bus')
 
     def expect_end(self):
         """Expects that the program ends without trouble and has not complained."""
@@ -101,20 +80,8 @@ class Program:
         expect(self.errors.read(), '', 'standard error')
 
 
-def objects_below(parent):
-    for index in range(parent.get_child_count()):
-        child = parent.get_child_at_index(index)
-        if child is not None:
-            yield child
-            # The many cells of a table are not looked for.
-            if not child.get_state_set().contains(Atspi.StateType.MANAGES_DESCENDANTS):
-                yield from objects_below(child)
-
-
 def await_object(parent, role, name):
-    return wait_for(lambda: next((child for child in objects_below(parent)
-                                  if child.get_role_name() == role and child.get_name() == name),
-                                 None), f'{role} "{name}"')
+    return wait_for(lambda: find(parent, role, name), f'{role} "{name}"')
 
 
 WATCHER = 'org.kde.StatusNotifierWatcher'
