@@ -635,14 +635,6 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         const auto canResize = [&] { return CanBeResized(SystemWindowOf(*search_)); };
         const wxSize shrunk = search_->GetClientSize();
         EXPECT_FALSE(canResize());
-        // It moves to the middle again soon after its size has changed.
-        const auto comesToRest = [&] {
-            wxRect frame;
-            return WaitFor([&] {
-                frame = FrameOnScreen(*search_);
-                return StaysFor(200, [&] { return FrameOnScreen(*search_) == frame; });
-            });
-        };
         Click("cmdExpandShrink");
         ASSERT_TRUE(WaitFor(canResize));
         const wxSize designed = search_->GetClientSize();
@@ -660,10 +652,10 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         EXPECT_EQ(In("lblColHeaderBack").GetSize().x, In("txtSearchResult").GetSize().x);
         EXPECT_EQ(In("picColHeader").GetSize().x, In("lblColHeaderBack").GetClientSize().x);
 
-        ASSERT_TRUE(comesToRest());
+        ASSERT_TRUE(ComesToRest(*search_));
         Click("cmdExpandShrink");
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == shrunk && !canResize(); }));
-        ASSERT_TRUE(comesToRest());
+        ASSERT_TRUE(ComesToRest(*search_));
         Click("cmdExpandShrink");
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
         EnlargeAsUser(*search_, {-300, -300});

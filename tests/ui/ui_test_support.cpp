@@ -17,6 +17,7 @@
 #include <wx/utils.h>
 
 #include "tests/platform/keyboard.h"
+#include "tests/platform/screen.h"
 #include "toolkit/wx_text.h"
 
 namespace brelex {
@@ -46,6 +47,13 @@ void LetEventsArrive() {
 
 bool StaysFor(int ms, const std::function<bool()>& condition) {
     return !WaitFor([&] { return !condition(); }, ms);
+}
+
+bool ComesToRest(const wxTopLevelWindow& window) {
+    return WaitFor([&] {
+        const wxRect frame = FrameOnScreen(window);
+        return StaysFor(200, [&] { return FrameOnScreen(window) == frame; });
+    });
 }
 
 void Settle(int ms) {

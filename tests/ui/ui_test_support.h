@@ -42,6 +42,10 @@ void LetEventsArrive();
 /// hold.
 [[nodiscard]] bool StaysFor(int ms, const std::function<bool()>& condition);
 
+/// Waits until the frame of a window has kept its place and size for a while. A window whose size
+/// has changed may move to the middle again soon after.
+[[nodiscard]] bool ComesToRest(const wxTopLevelWindow& window);
+
 /// Runs the event loop for a while.
 void Settle(int ms = 80);
 
