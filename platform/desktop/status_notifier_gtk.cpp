@@ -65,6 +65,15 @@ GVariant* PixmapOf(GdkPixbuf* picture) {
     return g_variant_new("(iiay)", width, height, &bytes);
 }
 
+// The icon in one color, which hosts draw in the color of their texts. Empty if no theme has it, for
+// example because the program is not installed; then hosts show the picture that we supply.
+std::string IconName() {
+    std::string name = std::string(kApplicationId) + "-symbolic";
+    return gtk_icon_theme_has_icon(gtk_icon_theme_get_default(), name.c_str()) != FALSE
+               ? name
+               : std::string();
+}
+
 }  // namespace
 
 std::string MenuLabel(const std::string& caption) {
@@ -271,8 +280,9 @@ class StatusNotifier::Item {
         if (name == "Status") {
             return g_variant_new_string("Active");
         }
-        // The name of the icon stays empty, because we supply the picture. The theme of the host
-        // might not have the name, for example if the program is not installed.
+        if (name == "IconName") {
+            return g_variant_new_string(IconName().c_str());
+        }
         return g_variant_new_string(name == "Id"      ? kApplicationId
                                     : name == "Title" ? tip_.c_str()
                                                       : "");

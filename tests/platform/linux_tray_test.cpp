@@ -2,13 +2,18 @@
 // The icon on Linux desktops: with a panel or without, or as an item that the desktop itself shows.
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <gio/gio.h>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include <gtk/gtk.h>
+
+#include "platform/system/program_folder.h"
 #include "tests/platform/screen.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/main/main_menus.h"
@@ -234,9 +239,43 @@ TEST_F(StatusNotifierItem, SaysWhatItIs) {
     EXPECT_EQ(host_.Property("Category"), "(<'ApplicationStatus'>,)");
     EXPECT_EQ(host_.Property("ItemIsMenu"), "(<false>,)");
     EXPECT_EQ(host_.Property("Menu"), "(<objectpath '/MenuBar'>,)");
-    EXPECT_EQ(host_.Property("IconName"), "(<''>,)");
     EXPECT_EQ(host_.Property("IconPixmap").rfind("(<[(16, 16, [", 0), 0U);
     EXPECT_NE(host_.Property("ToolTip").find("'Brevilexicon'"), std::string::npos);
+}
+
+// While this exists, the program finds the icons of the system and those in one other folder only.
+class IconsIn {
+  public:
+    explicit IconsIn(const std::string& folder) {
+        gtk_icon_theme_get_search_path(theme_, &folders_, &count_);
+        std::vector<const char*> folders{"/usr/share/icons", folder.c_str()};
+        gtk_icon_theme_set_search_path(theme_, folders.data(), static_cast<int>(folders.size()));
+    }
+
+    IconsIn(const IconsIn&) = delete;
+    IconsIn& operator=(const IconsIn&) = delete;
+
+    ~IconsIn() {
+        std::vector<const char*> folders(folders_, folders_ + count_);
+        gtk_icon_theme_set_search_path(theme_, folders.data(), count_);
+        g_strfreev(folders_);
+    }
+
+  private:
+    GtkIconTheme* theme_ = gtk_icon_theme_get_default();
+    char** folders_ = nullptr;
+    int count_ = 0;
+};
+
+TEST_F(StatusNotifierItem, NamesTheIconInOneColorThatThePanelColors) {
+    const IconsIn built(std::filesystem::path(ProgramFolder()).parent_path().parent_path() /
+                        "share/icons");
+    EXPECT_EQ(host_.Property("IconName"), "(<'example.brevilexicon.Brevilexicon-symbolic'>,)");
+}
+
+TEST_F(StatusNotifierItem, NamesNoIconThatNoThemeHas) {
+    const IconsIn none("/nonexistent");
+    EXPECT_EQ(host_.Property("IconName"), "(<''>,)");
 }
 
 TEST_F(StatusNotifierItem, ActivatingItBringsTheHiddenWindowBack) {
