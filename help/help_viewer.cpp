@@ -21,6 +21,7 @@
 #include <wx/toolbar.h>
 #include <wx/treectrl.h>
 
+#include "help/page_links.h"
 #include "help/spoken_page.h"
 #include "help/themed_book.h"
 #include "platform/system/modShowHelp.h"
@@ -141,11 +142,14 @@ void ChangeSides(const wxHtmlHelpWindow& help) {
     }
 }
 
-void OnKey(wxHtmlHelpFrame& frame, wxKeyEvent& event) {
+void OnKey(wxHtmlHelpFrame& frame, PageLinks& links, wxKeyEvent& event) {
     // The frame also receives the keys of the windows that it owns.
     auto* const window = wxDynamicCast(event.GetEventObject(), wxWindow);
     const bool isPlain =
         wxGetTopLevelParent(window) == &frame && event.GetModifiers() == wxMOD_NONE;
+    if (window == frame.GetHelpWindow()->GetHtmlWindow() && links.HandleKey(event)) {
+        return;
+    }
     if (isPlain && event.GetKeyCode() == WXK_ESCAPE) {
         frame.Close();
     } else if (isPlain && event.GetKeyCode() == WXK_F6) {
@@ -214,7 +218,8 @@ void BindEvents(wxHtmlHelpFrame& frame) {
     wxHtmlHelpWindow& help = *frame.GetHelpWindow();
     wxHtmlWindow& page = *help.GetHtmlWindow();
     frame.Bind(wxEVT_CLOSE_WINDOW, [&frame](wxCloseEvent&) { CloseFrame(frame); });
-    frame.Bind(wxEVT_CHAR_HOOK, [&frame](wxKeyEvent& event) { OnKey(frame, event); });
+    const auto links = std::make_shared<PageLinks>(page);
+    frame.Bind(wxEVT_CHAR_HOOK, [&frame, links](wxKeyEvent& event) { OnKey(frame, *links, event); });
     help.Bind(
         wxEVT_TOOL, [&help](wxCommandEvent& event) { Print(help, event); }, wxID_HTML_PRINT);
     page.Bind(wxEVT_KEY_DOWN, [&page](wxKeyEvent& event) { OnPageKey(page, event); });

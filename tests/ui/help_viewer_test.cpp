@@ -271,8 +271,8 @@ TEST_F(HelpViewerTest, TheBookOpensFromAFolderWithBlanksAndAccents) {
 // The window of the viewer, in this program.
 class HelpWindowTest : public testing::Test {
   protected:
-    void Show() {
-        ASSERT_TRUE(viewer_.Show(WxText(Book()), ""));
+    void Show(const char* page = "") {
+        ASSERT_TRUE(viewer_.Show(WxText(Book()), page));
         ASSERT_TRUE(WaitFor([&] { return HasKeyboard(Frame()); }));
     }
 
@@ -310,9 +310,69 @@ class HelpWindowTest : public testing::Test {
         EXPECT_FALSE(viewer_.GetHelpWindow()->GetHtmlWindow()->HasScrollbar(wxHORIZONTAL));
     }
 
+    [[nodiscard]] wxHtmlWindow& Page() { return *viewer_.GetHelpWindow()->GetHtmlWindow(); }
+
+    // How many points of the page on the screen have the color of its texts.
+    [[nodiscard]] int InkOfPage() {
+        const wxImage picture = PictureOfScreen(Page().GetScreenRect());
+        const wxColour ink = SystemColour(wxSYS_COLOUR_WINDOWTEXT);
+        int points = 0;
+        for (int y = 0; y < picture.GetHeight(); ++y) {
+            for (int x = 0; x < picture.GetWidth(); ++x) {
+                points += ColourAt(picture, x, y) == ink ? 1 : 0;
+            }
+        }
+        return points;
+    }
+
+    void Press(int key, int modifiers = 0) {
+        ASSERT_TRUE(WaitFor([&] { return Page().HasFocus(); }));
+        user_.Char(key, modifiers);
+        LetEventsArrive();
+    }
+
     HelpViewer viewer_;
+    wxUIActionSimulator user_;
     int titles_ = 0;
 };
+
+TEST_F(HelpWindowTest, TabFramesALinkAndEnterFollowsIt) {
+    Show("keys.html");
+    Settle();
+    const int before = InkOfPage();
+    Press(WXK_TAB);
+    constexpr int kLeastFrame = 200;
+    EXPECT_TRUE(WaitFor([&] { return InkOfPage() >= before + kLeastFrame; }));
+    Press(WXK_RETURN);
+    EXPECT_TRUE(WaitFor([&] { return Page().GetOpenedPageTitle() == "Searching the Database"; }))
+        << Page().GetOpenedPageTitle();
+}
+
+TEST_F(HelpWindowTest, ShiftTabGoesBackToTheLinkBefore) {
+    Show("keys.html");
+    Press(WXK_TAB);
+    Press(WXK_TAB);
+    Press(WXK_TAB);
+    Press(WXK_TAB, wxMOD_SHIFT);
+    Press(WXK_RETURN);
+    EXPECT_TRUE(WaitFor([&] { return Page().GetOpenedPage().Contains("lookup.html"); }))
+        << Page().GetOpenedPage();
+}
+
+TEST_F(HelpWindowTest, ALinkBelowTheViewScrollsIntoIt) {
+    Show("keys.html");
+    const int top = Page().GetViewStart().y;
+    Press(WXK_TAB, wxMOD_SHIFT);  // the last one
+    EXPECT_TRUE(WaitFor([&] { return Page().GetViewStart().y > top; }));
+    EXPECT_TRUE(Page().HasFocus());
+}
+
+TEST_F(HelpWindowTest, BeyondTheLastLinkTabLeavesThePage) {
+    Show("keys.html");
+    Press(WXK_TAB, wxMOD_SHIFT);  // the last one
+    Press(WXK_TAB);
+    EXPECT_TRUE(WaitFor([&] { return !Page().HasFocus(); }));
+}
 
 TEST_F(HelpWindowTest, TitlesAndTabsAreWhole) {
     ExpectWholeColumn();
