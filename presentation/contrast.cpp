@@ -43,9 +43,10 @@ std::optional<Rgb> MixUntilSeen(Rgb from, Rgb towards, std::initializer_list<Rgb
 }
 
 // The mixture with the first of these colors that leads to a line that is seen.
-Rgb FirstSeen(Rgb from, std::initializer_list<Rgb> towards, std::initializer_list<Rgb> grounds) {
+Rgb FirstSeen(Rgb from, std::initializer_list<Rgb> towards, std::initializer_list<Rgb> grounds,
+              double contrast) {
     for (const Rgb& target : towards) {
-        if (const auto mixed = MixUntilSeen(from, target, grounds, kLineContrast)) {
+        if (const auto mixed = MixUntilSeen(from, target, grounds, contrast)) {
             return *mixed;
         }
     }
@@ -73,8 +74,12 @@ Rgb Mix(Rgb from, Rgb towards, double share) {
 }
 
 EdgeColours VisibleEdges(Rgb face, EdgeColours system) {
-    const Rgb light = FirstSeen(system.light, {kWhite, system.shadow, kBlack}, {face});
-    const Rgb shadow = FirstSeen(system.shadow, {kBlack, kWhite}, {face, light});
+    // A theme with strong lines wants all sides of a frame to be strong.
+    const bool isStrong = ContrastRatio(system.shadow, face) >= kStrongLineContrast &&
+                          ContrastRatio(system.light, face) < kLineContrast;
+    const double contrast = isStrong ? kStrongLineContrast : kLineContrast;
+    const Rgb light = FirstSeen(system.light, {kWhite, system.shadow, kBlack}, {face}, contrast);
+    const Rgb shadow = FirstSeen(system.shadow, {kBlack, kWhite}, {face, light}, kLineContrast);
     return {light, shadow};
 }
 

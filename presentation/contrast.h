@@ -17,6 +17,9 @@ struct Rgb {
 /// The contrast at which a line is seen beside the area that it is drawn on.
 inline constexpr double kLineContrast = 1.3;
 
+/// The contrast of lines in themes with high contrast (WCAG 2.1, success criterion 1.4.11).
+inline constexpr double kStrongLineContrast = 3;
+
 /// The contrast that text needs (WCAG 2.1, success criterion 1.4.3).
 inline constexpr double kTextContrast = 4.5;
 
@@ -40,7 +43,8 @@ struct EdgeColours {
 
 /// The system's pair, if both are seen on `face` and told apart. A theme may give colors that are
 /// not. Then the light one is mixed with white or, where not even white is seen, with the shadow,
-/// and the shadow with black, as little as necessary.
+/// and the shadow with black, as little as necessary. Where the shadow has kStrongLineContrast, as
+/// in themes with high contrast, a light one that is not seen gets it, too.
 [[nodiscard]] EdgeColours VisibleEdges(Rgb face, EdgeColours system);
 
 /// A color for text on `ground`. On a light ground it is the color itself, which was chosen for it.

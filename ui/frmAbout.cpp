@@ -88,7 +88,7 @@ wxSizer* frmAbout::LayoutOfTexts() {
         labels->Add(label, 0, wxEXPAND | wxBOTTOM, gap / 3);
     }
     auto* texts = new wxBoxSizer(wxVERTICAL);
-    texts->Add(labels, 0, wxEXPAND | wxLEFT | wxBOTTOM, FromDIP(Link::kFocusMargin));
+    texts->Add(labels, 0, wxEXPAND | wxALL, FromDIP(Link::kFocusMargin));
     for (Link* link : lblHyperLink) {
         texts->Add(link, 0, wxBOTTOM, gap / 4);
     }
@@ -105,8 +105,11 @@ void frmAbout::PlaceControls() {
     end->Add(cmdOK, 0, wxALIGN_CENTRE_VERTICAL);
 
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(LayoutOfTexts(), 0, wxEXPAND | wxALL, gap);
-    all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    auto* inner = new wxBoxSizer(wxVERTICAL);
+    inner->Add(LayoutOfTexts(), 0, wxEXPAND | wxBOTTOM, gap);
+    inner->Add(end, 0, wxEXPAND | wxRIGHT, FromDIP(Link::kFocusMargin));
+    all->Add(inner, 0, wxEXPAND | wxLEFT | wxTOP | wxRIGHT, gap - FromDIP(Link::kFocusMargin));
+    all->AddSpacer(gap - imgPayPalDonate->ReachBelow(*cmdOK));
     FillWindow(all);
 }
 

@@ -77,7 +77,7 @@ void frmAnagram::CreateControls() {
     ShowItemsAsList(*cboLetters);
     cmdSearch = Named(new wxButton(surface_, wxID_ANY, "&Search"), "cmdSearch");
     cmdCancel = Named(new wxButton(surface_, wxID_ANY, "Cancel"), "cmdCancel");
-    lblWordLen = Named(NewFact("999"), "lblWordLen");
+    lblWordLen = Named(NewFact("99", wxALIGN_RIGHT), "lblWordLen");
     lblLetters_ = NewPlainText(surface_, "letter(s)");
     lblRearrangements_ = NewPlainText(surface_, "Number of possible rearrangements:");
     // The numbers have these in their names.

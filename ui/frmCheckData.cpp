@@ -77,7 +77,8 @@ void frmCheckData::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
     const int gap = px(kWindowMargin);
     auto* result = new wxBoxSizer(wxHORIZONTAL);
-    result->Add(imgResult, 0, wxALIGN_CENTRE_VERTICAL | wxALL | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
+    result->Add(imgResult, 0,
+                wxALIGN_CENTRE_VERTICAL | wxTOP | wxRIGHT | wxBOTTOM | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
                 px(6));
     result->Add(lblResult, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
                 px(6));

@@ -64,9 +64,14 @@ void frmDonation::PlaceControls() {
     end->Add(cmdDonate, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, gap);
     end->Add(cmdCancel, 0, wxALIGN_CENTRE_VERTICAL);
     picCredit->SetMinSize({picCredit->LinesWidth(), units_.Pixels(kTextHeight)});
+    const int mark = FromDIP(Link::kFocusMargin);
+    auto* inner = new wxBoxSizer(wxVERTICAL);
+    inner->Add(picCredit, 1, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, mark);
+    inner->AddSpacer(gap - mark);
+    inner->Add(end, 0, wxEXPAND | wxRIGHT, mark);
     auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(picCredit, 1, wxEXPAND | wxALL, gap);
-    all->Add(end, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    all->Add(inner, 1, wxEXPAND | wxLEFT | wxTOP | wxRIGHT, gap - mark);
+    all->AddSpacer(gap - imgPayPalDonate->ReachBelow(*cmdDonate));
     FillWindow(all);
 }
 

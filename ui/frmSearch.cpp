@@ -161,7 +161,10 @@ void frmSearch::PlaceControls() {
     all->AddSpacer(px(kGroupGap));
     lblColHeaderBack->SetMinSize({-1, px(kColumnHeaderHeight)});
     all->Add(lblColHeaderBack, 0, wxEXPAND | wxLEFT | wxRIGHT, margin);
-    txtSearchResult->SetMinSize({-1, px(kResultHeight)});
+    // It ends with a full line.
+    const int line = LineDistance(*txtSearchResult);
+    txtSearchResult->SetMinSize(
+        {-1, px(kResultHeight) / line * line + 2 * FrameWidth(*txtSearchResult)});
     all->Add(txtSearchResult, 1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, margin);
     const wxSize needed = all->GetMinSize();
     innerWidth_ = std::max(px(kInnerWidth), needed.x);
@@ -205,8 +208,7 @@ void frmSearch::FillHistory() {
 void frmSearch::DrawColumnHeader() {
     const wxSize size = lblColHeaderBack->GetSize();
     picColHeader->SetSize(0, 0, size.x, size.y);
-    const int border = (txtSearchResult->GetSize().x - txtSearchResult->GetClientSize().x) / 2;
-    picColHeader->SetSecondColumn(std::max(border, 0) + kTextMarginPixels +
+    picColHeader->SetSecondColumn(FrameWidth(*txtSearchResult) + kTextMarginPixels +
                                   SetTabStop(*txtSearchResult, kTabStopDialogUnits));
 }
 

@@ -89,9 +89,11 @@ void frmViewEntry::CreateControls() {
     SetEscapeId(wxID_OK);
 }
 
+// As wide as any number of letters in the entry.
 wxStaticText* frmViewEntry::NewCount() const {
     auto* count = NewPlainText(surface_, wxEmptyString, wxALIGN_RIGHT | wxST_NO_AUTORESIZE);
-    count->SetMinSize({GetTextExtent("99999").x, -1});
+    const std::size_t digits = std::to_string(selectedEntry_().size()).size();
+    count->SetMinSize({GetTextExtent(wxString('9', digits)).x, -1});
     return count;
 }
 
@@ -117,7 +119,7 @@ void frmViewEntry::PlaceControls() {
     const int gap = units_.Pixels(kWindowMargin);
     auto* entry = new wxFlexGridSizer(3, wxSize(gap, gap));
     entry->AddGrowableCol(1);
-    const int toFirstLine = units_.Pixels(6);
+    const int toFirstLine = units_.Pixels(8);
     MakeRoomForLines(1, *txtAbbrv);
     MakeRoomForLines(kExpansionLines, *txtExpn);
     entry->Add(lblAbbreviation_, 0, wxTOP, toFirstLine);
@@ -127,10 +129,14 @@ void frmViewEntry::PlaceControls() {
     entry->Add(txtExpn, 0, wxEXPAND);
     entry->Add(LayoutOfCount(lblExpnLen, lblExpnUnit_), 0, wxTOP, toFirstLine);
 
+    wxSize size = cmdCopy->GetBestSize();
+    size.IncTo(cmdOK->GetBestSize());
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     buttons->AddStretchSpacer();
-    buttons->Add(cmdCopy, 0, wxEXPAND | wxRIGHT, gap);
-    buttons->Add(cmdOK);
+    for (wxButton* button : {cmdCopy, cmdOK}) {
+        button->SetMinSize(size);
+        buttons->Add(button, 0, wxLEFT, gap);
+    }
 
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(entry, 0, wxEXPAND | wxALL, gap);

@@ -65,15 +65,20 @@ wxBoxSizer* SearchOptions::Layout(int gap) const {
     const auto addFrame = [&](wxStaticBox* frame, const auto& buttons) {
         auto* column = new wxStaticBoxSizer(frame, wxVERTICAL);
         for (wxRadioButton* button : buttons) {
-            column->Add(button, 0, wxALL, gap / 4);
+            column->Add(button, 0, wxLEFT | wxRIGHT | wxBOTTOM, gap / 2);
         }
         all->Add(column, 0, wxEXPAND | wxRIGHT, gap);
     };
     addFrame(fraPosition, optPosition);
     addFrame(fraSearchIn, optSearchIn);
+    // Beside the buttons in the frames.
     auto* checks = new wxBoxSizer(wxVERTICAL);
+    int toFirst = 0;
+    int beside = 0;
+    fraPosition->GetBordersForSizer(&toFirst, &beside);
+    checks->AddSpacer(toFirst);
     for (wxCheckBox* check : {chkMatchCase, chkWholeWord, chkNextSearch}) {
-        checks->Add(check, 0, wxTOP, gap);
+        checks->Add(check, 0, wxBOTTOM, gap / 2);
     }
     all->Add(checks);
     return all;

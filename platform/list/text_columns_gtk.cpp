@@ -25,6 +25,23 @@ void SetTopMargin(wxTextCtrl& box, int pixels) {
     gtk_text_view_set_top_margin(TextViewOf(box), pixels);
 }
 
+// The library rounds the height of a line up; the toolkit's measures are rounded to the nearest.
+int LineDistance(wxTextCtrl& box) {
+    PangoLayout* const line = gtk_widget_create_pango_layout(GTK_WIDGET(TextViewOf(box)), "X");
+    int height = 0;
+    pango_layout_get_size(line, nullptr, &height);
+    g_object_unref(line);
+    return PANGO_PIXELS_CEIL(height);
+}
+
+// The toolkit assumes a wider frame than that of the theme. Scroll bars lie over the text.
+int FrameWidth(wxTextCtrl& box) {
+    GtkStyleContext* const style = gtk_widget_get_style_context(box.GetHandle());
+    GtkBorder border{};
+    gtk_style_context_get_border(style, gtk_style_context_get_state(style), &border);
+    return border.top;
+}
+
 int SetTabStop(wxTextCtrl& box, int dialogUnits) {
     const int pixels = box.ConvertDialogToPixels(wxPoint(dialogUnits, 0)).x;
     PangoTabArray* const tabs = pango_tab_array_new_with_positions(1, TRUE, PANGO_TAB_LEFT, pixels);

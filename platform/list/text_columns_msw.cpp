@@ -51,6 +51,14 @@ void SetTopMargin(wxTextCtrl& box, int pixels) {
     });
 }
 
+int LineDistance(wxTextCtrl& box) {
+    return box.GetCharHeight();
+}
+
+int FrameWidth(wxTextCtrl& box) {
+    return box.GetWindowBorderSize().x / 2;
+}
+
 int SetTabStop(wxTextCtrl& box, int dialogUnits) {
     UINT stop = static_cast<UINT>(dialogUnits);
     SendMessageW(WindowOf(box), EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&stop));

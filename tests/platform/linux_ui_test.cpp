@@ -240,6 +240,28 @@ TEST_F(MainWindowTest, AResultBoxHasItsMarginsAndItsTabStop) {
     box->Destroy();
 }
 
+using SearchWindowOnLinux = SideWindowTest;
+
+TEST_F(SearchWindowOnLinux, TheResultEndsWithAFullLine) {
+    InSideWindow(
+        "frmSearch", [&] { window_->Run(Command::Search); },
+        [&] {
+            Click("cmdExpandShrink");
+            auto& box = In<wxTextCtrl>("txtSearchResult");
+            ASSERT_TRUE(WaitFor([&] { return box.IsShownOnScreen(); }));
+            box.ChangeValue("a\nb");
+            int line = 0;
+            EXPECT_TRUE(WaitFor([&] {
+                line = box.PositionToCoords(2).y - box.PositionToCoords(0).y;
+                return line > 0;
+            }));
+            GtkTextView* const view = GTK_TEXT_VIEW(gtk_bin_get_child(GTK_BIN(box.GetHandle())));
+            GdkRectangle seen{};
+            gtk_text_view_get_visible_rect(view, &seen);
+            EXPECT_EQ(seen.height % line, 0) << seen.height << "/" << line;
+        });
+}
+
 using InfoWindowOnLinux = SideWindowTest;
 
 TEST_F(InfoWindowOnLinux, AScreenReaderSaysAlsoWhatDoesNotFit) {

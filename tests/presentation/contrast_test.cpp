@@ -66,6 +66,14 @@ TEST(VisibleEdges, AreSeenAndToldApartInEachTheme) {
     }
 }
 
+TEST(VisibleEdges, AreStrongOnAllSidesInAThemeOfHighContrast) {
+    const Rgb face{253, 253, 252};
+    const EdgeColours edges = VisibleEdges(face, {{255, 255, 255}, {135, 123, 110}});
+    EXPECT_GE(ContrastRatio(edges.light, face), 3);
+    EXPECT_GE(ContrastRatio(edges.shadow, face), 3);
+    EXPECT_GE(ContrastRatio(edges.light, edges.shadow), 1.3);
+}
+
 TEST(VisibleEdges, StayAsNearToTheThemeAsTheyCan) {
     const EdgeColours dark = VisibleEdges({53, 53, 53}, {{55, 55, 55}, {27, 27, 27}});
     EXPECT_LT(ContrastRatio(dark.light, Rgb{53, 53, 53}), 1.4);

@@ -2,6 +2,7 @@
 #include "ui/frmCheckData.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <utility>
@@ -163,14 +164,17 @@ TEST_F(CheckWindowTest, ShowsHowFarItIsAndLetsTheWindowWork) {
     });
 }
 
-// The first and last column behind `from` with ink of a text, away from the edges.
-std::pair<int, int> ColumnsOfText(const wxImage& image, int from) {
-    constexpr int kDark = 100;
+// The first and last column behind `from` with the color of a text, away from the edges.
+std::pair<int, int> ColumnsOfText(const wxImage& image, int from, const wxColour& text) {
+    constexpr int kNear = 60;
+    const auto near = [](int one, int other) { return std::abs(one - other) < kNear; };
     int first = image.GetWidth();
     int last = 0;
     for (int x = from; x < image.GetWidth() - 1; ++x) {
         for (int y = 2; y < image.GetHeight() - 2; ++y) {
-            const bool ink = image.GetRed(x, y) < kDark && image.GetGreen(x, y) < kDark;
+            const bool ink = near(image.GetRed(x, y), text.Red()) &&
+                             near(image.GetGreen(x, y), text.Green()) &&
+                             near(image.GetBlue(x, y), text.Blue());
             first = ink ? std::min(first, x) : first;
             last = ink ? x : last;
         }
@@ -199,7 +203,11 @@ TEST_F(CheckWindowTest, TheBarEndsAtThePercentageWrittenOnIt) {
             ExpectBarUpTo(picture, right);
             EXPECT_TRUE(percent == 100 || ColourAt(picture, right + 2, 4) == background);
             // The text stands in the middle, over the bar or beside it.
-            const auto [first, last] = ColumnsOfText(picture, percent < 100 ? right + 1 : 1);
+            EXPECT_EQ(ColourAt(picture, right / 4, 4), SystemColour(wxSYS_COLOUR_HIGHLIGHT));
+            const auto [first, last] =
+                percent < 100
+                    ? ColumnsOfText(picture, right + 1, SystemColour(wxSYS_COLOUR_WINDOWTEXT))
+                    : ColumnsOfText(picture, 1, SystemColour(wxSYS_COLOUR_HIGHLIGHTTEXT));
             EXPECT_GT(last, first);
             EXPECT_NEAR((first + last) / 2.0, width / 2.0, 3.0);
         }

@@ -25,6 +25,7 @@
 #include "tests/platform/enlarge.h"
 #include "tests/platform/keyboard.h"
 #include "tests/platform/screen.h"
+#include "tests/ui/pictures.h"
 #include "tests/ui/ui_test_support.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/artwork.h"
@@ -497,7 +498,7 @@ TEST_F(SearchWindowTest, SelectingAllLeavesTheNextPositionToGoOnFrom) {
     Start(NumberedRecords(1200));
     InSearchWindow([&] {
         const MessageBoxes boxes;
-        Search("e");
+        Search("bus");
         ASSERT_TRUE(IsEnabled("chkNextSearch"));
         FocusSearchText();
         user_.Char(WXK_END);
@@ -661,6 +662,25 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         EnlargeAsUser(*search_, {-300, -300});
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed; }))
             << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
+    });
+}
+
+// On Windows the box always has scroll bars.
+TEST_F(SearchWindowTest, TheHeaderStandsOverTheExpansions) {
+    InSearchWindow([&] {
+        Search("bus");
+        ASSERT_TRUE(ComesToRest(*search_));
+        const auto& box = In<wxTextCtrl>("txtSearchResult");
+        const long expansion = box.GetLineText(0).Find('\t') + 1;
+        const wxWindow& header = In("picColHeader");
+        const int left = box.GetScreenRect().x + LeftOfCharacter(box, 0, expansion) -
+                         header.GetScreenRect().x;
+        constexpr int kLetter = 4;
+        const int height = header.GetSize().y / 2;
+        const wxImage picture = PictureOfScreen(header.GetScreenRect());
+        const wxColour face = SystemColour(wxSYS_COLOUR_BTNFACE);
+        EXPECT_GT(InkIn(picture, face, {left, 2, kLetter, height}), 0);
+        EXPECT_EQ(InkIn(picture, face, {left - kLetter - 1, 2, kLetter, height}), 0);
     });
 }
 

@@ -16,6 +16,7 @@
 #include "tests/platform/screen.h"
 #include "toolkit/wx_text.h"
 #include "ui/controls/layout_units.h"
+#include "ui/controls/link.h"
 #include "ui/side_window.h"
 
 namespace brelex {
@@ -105,14 +106,21 @@ class Inspection {
     }
 };
 
+// What a user sees of a control: a link without the room for its focus mark.
+wxRect SeenPlaceOf(const wxWindow& control) {
+    const bool isLink = dynamic_cast<const Link*>(&control) != nullptr;
+    return control.GetRect().Deflate(isLink ? control.FromDIP(Link::kFocusMargin) : 0);
+}
+
 // The least distance between a control and the edge of its surface.
 int MarginOf(const wxScrolled<wxPanel>& surface) {
     const wxSize room = surface.GetVirtualSize();
     int margin = room.x;
     for (const wxWindow* const control : surface.GetChildren()) {
         if (control->IsShown()) {
-            const wxPoint corner = surface.CalcUnscrolledPosition(control->GetPosition());
-            const wxSize size = control->GetSize();
+            const wxRect place = SeenPlaceOf(*control);
+            const wxPoint corner = surface.CalcUnscrolledPosition(place.GetPosition());
+            const wxSize size = place.GetSize();
             margin = std::min({margin, corner.x, corner.y, room.x - corner.x - size.x,
                                room.y - corner.y - size.y});
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/link.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <wx/dcclient.h>
@@ -81,6 +82,11 @@ wxSize Link::DoGetBestClientSize() const {
                                        : GetTextExtent(text_) + wxSize(GetCharWidth(), 0);
     const int margin = FromDIP(kFocusMargin);
     return inner + wxSize(2 * margin, 2 * margin);
+}
+
+int Link::ReachBelow(const wxWindow& neighbour) const {
+    const int overhang = (GetBestSize().y - neighbour.GetBestSize().y) / 2;
+    return std::clamp(overhang, 0, FromDIP(kFocusMargin));
 }
 
 // While the mouse is captured, a button was pressed here and is still down.

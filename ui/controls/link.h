@@ -29,6 +29,10 @@ class Link final : public wxWindow {
     /// text, or the purpose if it is a picture.
     void DescribeAs(const wxString& purpose, const wxString& address);
 
+    /// How far the room for the mark may reach into a margin below, if `neighbour` is centered
+    /// beside the link. In pixels.
+    [[nodiscard]] int ReachBelow(const wxWindow& neighbour) const;
+
     [[nodiscard]] bool IsUnderlined() const { return isHot_; }
 
     /// Draws the text or picture, but not the mark of the focus.

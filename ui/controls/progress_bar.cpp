@@ -6,7 +6,6 @@
 
 #include <wx/dcbuffer.h>
 #include <wx/math.h>
-#include <wx/settings.h>
 
 #include "platform/window/spoken_object.h"
 #include "ui/controls/colours.h"
@@ -52,17 +51,13 @@ void ProgressBar::Draw(wxDC& dc) const {
     const wxSize size = GetClientSize();
     const int right = wxRound(size.x / 100.0 * percent_ - 1);
     const int bottom = size.y - 1;
+    DrawText(dc, wxSYS_COLOUR_WINDOWTEXT);
     if (right > 0) {
+        const wxDCClipper bar(dc, 0, 0, right + 1, size.y);
         dc.SetPen(*wxTRANSPARENT_PEN);
-        dc.SetBrush(wxBrush(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE)));
+        dc.SetBrush(wxBrush(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT)));
         dc.DrawRectangle(0, 0, right + 1, size.y);
-    }
-    const wxString text = std::to_string(percent_) + "%";
-    dc.SetFont(GetFont());
-    const wxSize extent = dc.GetTextExtent(text);
-    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
-    dc.DrawText(text, (size.x - extent.x) / 2, (size.y - extent.y) / 2);
-    if (right > 0) {
+        DrawText(dc, wxSYS_COLOUR_HIGHLIGHTTEXT);
         const SystemEdges edges = EdgesOnFace();
         dc.SetPen(wxPen(edges.light));
         dc.DrawLine(0, 0, 0, bottom);
@@ -71,6 +66,15 @@ void ProgressBar::Draw(wxDC& dc) const {
         dc.DrawLine(right, bottom, right, 0);
         dc.DrawLine(right, bottom, 0, bottom);
     }
+}
+
+void ProgressBar::DrawText(wxDC& dc, wxSystemColour colour) const {
+    const wxString text = std::to_string(percent_) + "%";
+    dc.SetFont(GetFont());
+    const wxSize size = GetClientSize();
+    const wxSize extent = dc.GetTextExtent(text);
+    dc.SetTextForeground(wxSystemSettings::GetColour(colour));
+    dc.DrawText(text, (size.x - extent.x) / 2, (size.y - extent.y) / 2);
 }
 
 }  // namespace brelex

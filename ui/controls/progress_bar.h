@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <wx/settings.h>
+
 #include "ui/controls/backdrop.h"
 
 namespace brelex {
@@ -25,6 +27,7 @@ class ProgressBar final : public Backdrop {
   private:
     void OnPaint(wxPaintEvent& event);
     void Describe();
+    void DrawText(wxDC& dc, wxSystemColour colour) const;
 
     int percent_ = -1;
 };

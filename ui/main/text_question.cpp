@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main/text_question.h"
 
+#include <cstddef>
+
 #include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -11,6 +13,27 @@
 #include "toolkit/app_icon.h"
 
 namespace brelex {
+
+namespace {
+
+// The buttons in the system's order. The toolkit's own row does not end below the edge of the field.
+wxSizer* RowOfButtons(wxSizer* system, int gap) {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->AddStretchSpacer();
+    for (std::size_t i = 0; i < system->GetItemCount();) {
+        wxWindow* const button = system->GetItem(i)->GetWindow();
+        if (button == nullptr) {
+            ++i;
+            continue;
+        }
+        system->Detach(button);
+        row->Add(button, 0, row->GetItemCount() > 1 ? wxLEFT : 0, gap);
+    }
+    delete system;
+    return row;
+}
+
+}  // namespace
 
 // Builds the toolkit's dialog from its parts, because the toolkit's own layout would make the
 // window resizable.
@@ -36,7 +59,8 @@ TextQuestion::TextQuestion(wxWindow* owner, const wxString& title, const wxStrin
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(lblPrompt, 0, wxLEFT | wxTOP | wxRIGHT, gap);
     all->Add(m_textctrl, 0, wxEXPAND | wxALL, gap);
-    all->Add(CreateButtonSizer(m_dialogStyle), 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
+    all->Add(RowOfButtons(CreateStdDialogButtonSizer(m_dialogStyle), gap), 0,
+             wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, gap);
     SetSizerAndFit(all);
     CentreOnParent();
 }
