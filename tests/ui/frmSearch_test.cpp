@@ -498,7 +498,7 @@ TEST_F(SearchWindowTest, SelectingAllLeavesTheNextPositionToGoOnFrom) {
     Start(NumberedRecords(1200));
     InSearchWindow([&] {
         const MessageBoxes boxes;
-        Search("bus");
+        Search("e");
         ASSERT_TRUE(IsEnabled("chkNextSearch"));
         FocusSearchText();
         user_.Char(WXK_END);
