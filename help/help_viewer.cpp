@@ -219,7 +219,8 @@ void BindEvents(wxHtmlHelpFrame& frame) {
     wxHtmlWindow& page = *help.GetHtmlWindow();
     frame.Bind(wxEVT_CLOSE_WINDOW, [&frame](wxCloseEvent&) { CloseFrame(frame); });
     const auto links = std::make_shared<PageLinks>(page);
-    frame.Bind(wxEVT_CHAR_HOOK, [&frame, links](wxKeyEvent& event) { OnKey(frame, *links, event); });
+    frame.Bind(wxEVT_CHAR_HOOK,
+               [&frame, links](wxKeyEvent& event) { OnKey(frame, *links, event); });
     help.Bind(
         wxEVT_TOOL, [&help](wxCommandEvent& event) { Print(help, event); }, wxID_HTML_PRINT);
     page.Bind(wxEVT_KEY_DOWN, [&page](wxKeyEvent& event) { OnPageKey(page, event); });

@@ -48,7 +48,8 @@ void PageLinks::KeepUp() {
     }
     layout_ = now;
     links_ = RunsOf(window_);
-    std::erase_if(links_, [](const PageRun& run) { return run.target.empty() || run.lines.empty(); });
+    std::erase_if(links_,
+                  [](const PageRun& run) { return run.target.empty() || run.lines.empty(); });
 }
 
 // The link after the current one, or before it; without a current one the first or the last.

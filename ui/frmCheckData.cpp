@@ -77,9 +77,10 @@ void frmCheckData::PlaceControls() {
     const auto px = [this](double units) { return units_.Pixels(units); };
     const int gap = px(kWindowMargin);
     auto* result = new wxBoxSizer(wxHORIZONTAL);
-    result->Add(imgResult, 0,
-                wxALIGN_CENTRE_VERTICAL | wxTOP | wxRIGHT | wxBOTTOM | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
-                px(6));
+    result->Add(
+        imgResult, 0,
+        wxALIGN_CENTRE_VERTICAL | wxTOP | wxRIGHT | wxBOTTOM | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
+        px(6));
     result->Add(lblResult, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT | wxRESERVE_SPACE_EVEN_IF_HIDDEN,
                 px(6));
     resultArea_->SetSizer(result);

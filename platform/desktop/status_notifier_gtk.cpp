@@ -65,8 +65,8 @@ GVariant* PixmapOf(GdkPixbuf* picture) {
     return g_variant_new("(iiay)", width, height, &bytes);
 }
 
-// The icon in one color, which hosts draw in the color of their texts. Empty if no theme has it, for
-// example because the program is not installed; then hosts show the picture that we supply.
+// The icon in one color, which hosts draw in the color of their texts. Empty if no theme has it,
+// for example because the program is not installed; then hosts show the picture that we supply.
 std::string IconName() {
     std::string name = std::string(kApplicationId) + "-symbolic";
     return gtk_icon_theme_has_icon(gtk_icon_theme_get_default(), name.c_str()) != FALSE

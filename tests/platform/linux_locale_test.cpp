@@ -69,6 +69,7 @@ TEST_F(UsersLocale, WritesTheNumbers) {
 // The texts are English. If their windows were mirrored, periods and brackets would change sides.
 TEST_F(UsersLocale, DoesNotMirrorTheEnglishWindows) {
     ExpectFromLeftToRight(*window_);
+
     struct Opened {
         const char* name;
         Command command;

@@ -673,8 +673,8 @@ TEST_F(SearchWindowTest, TheHeaderStandsOverTheExpansions) {
         const auto& box = In<wxTextCtrl>("txtSearchResult");
         const long expansion = box.GetLineText(0).Find('\t') + 1;
         const wxWindow& header = In("picColHeader");
-        const int left = box.GetScreenRect().x + LeftOfCharacter(box, 0, expansion) -
-                         header.GetScreenRect().x;
+        const int left =
+            box.GetScreenRect().x + LeftOfCharacter(box, 0, expansion) - header.GetScreenRect().x;
         constexpr int kLetter = 4;
         const int height = header.GetSize().y / 2;
         const wxImage picture = PictureOfScreen(header.GetScreenRect());

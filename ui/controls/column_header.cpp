@@ -69,8 +69,7 @@ void ColumnHeader::OnPaint(wxPaintEvent& /*event*/) {
         wxPoint(left + units_.Pixels(kArrowWidth / 2), top)};
     // Fainter than the text, but seen in every theme.
     constexpr double kFaint = 0.35;
-    const wxColour faint =
-        WxColourOf(Mix(RgbOf(text), RgbOf(wxSYS_COLOUR_BTNFACE), kFaint));
+    const wxColour faint = WxColourOf(Mix(RgbOf(text), RgbOf(wxSYS_COLOUR_BTNFACE), kFaint));
     dc.SetPen(wxPen(faint));
     dc.SetBrush(wxBrush(faint));
     dc.DrawPolygon(static_cast<int>(arrow.size()), arrow.data());

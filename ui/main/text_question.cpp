@@ -16,7 +16,8 @@ namespace brelex {
 
 namespace {
 
-// The buttons in the system's order. The toolkit's own row does not end below the edge of the field.
+// The buttons in the system's order. The toolkit's own row does not end below the edge of the
+// field.
 wxSizer* RowOfButtons(wxSizer* system, int gap) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->AddStretchSpacer();
