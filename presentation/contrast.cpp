@@ -75,8 +75,8 @@ Rgb Mix(Rgb from, Rgb towards, double share) {
 
 EdgeColours VisibleEdges(Rgb face, EdgeColours system) {
     // A theme with strong lines wants all sides of a frame to be strong.
-    const bool isStrong = ContrastRatio(system.shadow, face) >= kStrongLineContrast &&
-                          ContrastRatio(system.light, face) < kLineContrast;
+    const bool isStrong = HasContrast(system.shadow, {face}, kStrongLineContrast) &&
+                          !HasContrast(system.light, {face}, kLineContrast);
     const double contrast = isStrong ? kStrongLineContrast : kLineContrast;
     const Rgb light = FirstSeen(system.light, {kWhite, system.shadow, kBlack}, {face}, contrast);
     const Rgb shadow = FirstSeen(system.shadow, {kBlack, kWhite}, {face, light}, kLineContrast);

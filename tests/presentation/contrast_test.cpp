@@ -83,6 +83,18 @@ TEST(VisibleEdges, StayAsNearToTheThemeAsTheyCan) {
     EXPECT_LT(ContrastRatio(light.light, light.shadow), 1.4);
 }
 
+TEST(VisibleEdges, GoAsFarAsBlackAndWhiteIfTheyMust) {
+    const Rgb dark{34, 34, 34};
+    EXPECT_EQ(VisibleEdges(dark, {kWhite, dark}).shadow, (Rgb{2, 2, 2}));
+    // A lighter gray than 254 is white.
+    EXPECT_EQ(VisibleEdges({225, 225, 225}, {{199, 199, 199}, {160, 160, 160}}).light, kWhite);
+}
+
+TEST(VisibleEdges, AreMixedInSmallSteps) {
+    EXPECT_EQ(VisibleEdges(kWhite, {kWhite, kWhite}),
+              (EdgeColours{.light = {223, 223, 223}, .shadow = {195, 195, 195}}));
+}
+
 TEST(ReadableOn, LeavesTheChosenColorsOnALightGround) {
     for (const Rgb colour : {Rgb{255, 0, 0}, Rgb{192, 0, 0}, Rgb{0, 0, 255}}) {
         EXPECT_EQ(ReadableOn(kWhite, colour), colour);
