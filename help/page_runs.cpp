@@ -60,7 +60,8 @@ std::vector<PageRun> RunsOf(const wxHtmlWindow& window) {
 
 PageLayout LayoutOf(const wxHtmlWindow& window) {
     const wxHtmlContainerCell* const page = window.GetInternalRepresentation();
-    return {page, window.GetOpenedPage(), page == nullptr ? 0 : page->GetWidth()};
+    return {page, window.GetOpenedPage(),
+            page == nullptr ? wxSize() : wxSize(page->GetWidth(), page->GetHeight())};
 }
 
 }  // namespace brelex

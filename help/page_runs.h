@@ -30,7 +30,7 @@ struct PageRun {
 struct PageLayout {
     const wxHtmlCell* page = nullptr;
     wxString address;
-    int width = 0;
+    wxSize size;  // another page may lie where the last one was
 
     bool operator==(const PageLayout&) const = default;
 };
