@@ -2,6 +2,7 @@
 #include "platform/desktop/status_notifier.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <libdbusmenu-glib/menuitem.h>
 #include <libdbusmenu-glib/server.h>
 #include <utility>
@@ -30,6 +31,7 @@ constexpr char kDescription[] = R"xml(<node><interface name="org.kde.StatusNotif
   <property name="Title" type="s" access="read"/>
   <property name="Status" type="s" access="read"/>
   <property name="IconName" type="s" access="read"/>
+  <property name="IconThemePath" type="s" access="read"/>
   <property name="IconPixmap" type="a(iiay)" access="read"/>
   <property name="ToolTip" type="(sa(iiay)ss)" access="read"/>
   <property name="ItemIsMenu" type="b" access="read"/>
@@ -65,13 +67,31 @@ GVariant* PixmapOf(GdkPixbuf* picture) {
     return g_variant_new("(iiay)", width, height, &bytes);
 }
 
-// The icon in one color, which hosts draw in the color of their texts. Empty if no theme has it,
-// for example because the program is not installed; then hosts show the picture that we supply.
-std::string IconName() {
+// The icon in one color, which hosts draw in the color of their texts.
+struct ThemedIcon {
+    std::string name;
+    std::string folder;  // of icon themes; the host may know others than this program
+};
+
+// Both texts are empty if no theme has the icon. Then hosts show the picture that we supply.
+ThemedIcon SymbolicIcon() {
     std::string name = std::string(kApplicationId) + "-symbolic";
-    return gtk_icon_theme_has_icon(gtk_icon_theme_get_default(), name.c_str()) != FALSE
-               ? name
-               : std::string();
+    constexpr int kSize = 16;
+    GtkIconInfo* const icon = gtk_icon_theme_lookup_icon(gtk_icon_theme_get_default(), name.c_str(),
+                                                         kSize, static_cast<GtkIconLookupFlags>(0));
+    if (icon == nullptr) {
+        return {};
+    }
+    const char* const file = gtk_icon_info_get_filename(icon);
+    // THEMES/THEME/SIZE/apps/NAME
+    std::string folder = std::filesystem::path(file == nullptr ? "" : file)
+                             .parent_path()
+                             .parent_path()
+                             .parent_path()
+                             .parent_path()
+                             .string();
+    g_object_unref(icon);
+    return {std::move(name), std::move(folder)};
 }
 
 }  // namespace
@@ -281,7 +301,10 @@ class StatusNotifier::Item {
             return g_variant_new_string("Active");
         }
         if (name == "IconName") {
-            return g_variant_new_string(IconName().c_str());
+            return g_variant_new_string(SymbolicIcon().name.c_str());
+        }
+        if (name == "IconThemePath") {
+            return g_variant_new_string(SymbolicIcon().folder.c_str());
         }
         return g_variant_new_string(name == "Id"      ? kApplicationId
                                     : name == "Title" ? tip_.c_str()

@@ -268,14 +268,17 @@ class IconsIn {
 };
 
 TEST_F(StatusNotifierItem, NamesTheIconInOneColorThatThePanelColors) {
-    const IconsIn built(std::filesystem::path(ProgramFolder()).parent_path().parent_path() /
-                        "share/icons");
+    const std::string folder =
+        std::filesystem::path(ProgramFolder()).parent_path().parent_path() / "share/icons";
+    const IconsIn built(folder);
     EXPECT_EQ(host_.Property("IconName"), "(<'example.brevilexicon.Brevilexicon-symbolic'>,)");
+    EXPECT_EQ(host_.Property("IconThemePath"), "(<'" + folder + "'>,)");
 }
 
 TEST_F(StatusNotifierItem, NamesNoIconThatNoThemeHas) {
     const IconsIn none("/nonexistent");
     EXPECT_EQ(host_.Property("IconName"), "(<''>,)");
+    EXPECT_EQ(host_.Property("IconThemePath"), "(<''>,)");
 }
 
 TEST_F(StatusNotifierItem, ActivatingItBringsTheHiddenWindowBack) {
