@@ -218,11 +218,12 @@ class Program:
                     self.screen.click()
 
     def usage(self, action):
-        """What the program has of the system, memory in KiB. None if it is just ending."""
+        """What the program has of the system. Its memory, in KiB, is what no other program has: pages
+        of libraries and fonts come and go with what the system keeps. None if it is just ending."""
         resources = self.screen.resources(self.id)
         try:
             status = pathlib.Path(f"/proc/{self.id}/status").read_text()
-            memory = re.search(r"VmRSS:\s*(\d+)", status)
+            memory = re.search(r"RssAnon:\s*(\d+)", status)
             handles = len(os.listdir(f"/proc/{self.id}/fd"))
         except OSError:
             return None
