@@ -37,6 +37,8 @@ namespace {
 // At 96 dots per inch: the pictures in the pages are up to 602 pixels wide.
 constexpr int kPageWidth = 680;
 constexpr int kHeight = 660;
+constexpr int kLeastWidth = 480;
+constexpr int kLeastHeight = 360;
 
 // The project file in a book, which is a ZIP archive.
 const char* const kProjectInBook = "#zip:brelex.hhp";
@@ -265,6 +267,8 @@ wxHtmlHelpFrame* HelpViewer::CreateHelpFrame(wxHtmlHelpData* data) {
     const wxSize screen = wxDisplay(frame).GetClientArea().GetSize();
     frame->SetClientSize(std::min(column + frame->FromDIP(kPageWidth), screen.x),
                          std::min(frame->FromDIP(kHeight), screen.y));
+    // GTK complains about the parts of a window that has no room for them.
+    frame->SetMinClientSize(frame->FromDIP(wxSize(kLeastWidth, kLeastHeight)));
     frame->CentreOnScreen();
     LayOut(*frame, column);
     return frame;

@@ -24,6 +24,7 @@
 #include "platform/desktop/system_desktop.h"
 #include "platform/system/modShowHelp.h"
 #include "platform/system/program_folder.h"
+#include "tests/platform/enlarge.h"
 #include "tests/platform/help_registration.h"
 #include "tests/platform/help_window.h"
 #include "tests/platform/keyboard.h"
@@ -335,6 +336,14 @@ class HelpWindowTest : public testing::Test {
     wxUIActionSimulator user_;
     int titles_ = 0;
 };
+
+TEST_F(HelpWindowTest, CannotBeMadeTooSmallToRead) {
+    Show();
+    EnlargeAsUser(Frame(), {-2000, -2000});
+    EXPECT_FALSE(WaitFor([&] { return Frame().GetClientSize().x < 450; }, 500));
+    EXPECT_GE(Frame().GetClientSize().y, 300);
+    EXPECT_LT(Frame().GetClientSize().y, 400) << "smaller than it was";
+}
 
 TEST_F(HelpWindowTest, TabFramesALinkAndEnterFollowsIt) {
     Show("keys.html");
