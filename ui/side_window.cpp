@@ -35,7 +35,7 @@ SideWindow::SideWindow(wxTopLevelWindow& owner, const wxString& name, const wxSt
             centering_.StartOnce(kUntilBothAreThereMs);
         }
     });
-    centering_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { CenterOverOwner(); });
+    centering_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { ComeToRest(); });
     StopWithWindow(centering_);
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
@@ -91,11 +91,24 @@ void SideWindow::LetUserEnlarge() {
     if (!smallest_.IsFullySpecified()) {
         smallest_ = GetClientSize();
     }
-    wxSize wanted = enlarged_;
-    wanted.DecTo(LargestInside(*this));
-    wanted.IncTo(smallest_);
-    LetUserResize(*this, smallest_, wanted);
+    LetUserResize(*this, smallest_, EnlargedSize());
     awaitsFrame_ = true;
+    CenterOverOwner();
+}
+
+// The size of the inside as the user left it, as far as there is room.
+wxSize SideWindow::EnlargedSize() const {
+    wxSize size = enlarged_;
+    size.DecTo(LargestInside(*this));
+    size.IncTo(smallest_);
+    return size;
+}
+
+// On a busy display, a size from before the enlarging may arrive last.
+void SideWindow::ComeToRest() {
+    if (mayEnlarge_ && GetClientSize() == smallest_ && EnlargedSize() != smallest_) {
+        LetUserResize(*this, smallest_, EnlargedSize());
+    }
     CenterOverOwner();
 }
 

@@ -60,12 +60,15 @@ class SideWindow : public wxDialog {
     Surface* const surface_;  ///< holds the controls
 
   private:
+    [[nodiscard]] wxSize EnlargedSize() const;
+    void ComeToRest();
+
     wxTopLevelWindow& owner_;
     wxSize smallest_ = wxDefaultSize;  // of the inside while the user may make it larger
     wxSize enlarged_ = wxDefaultSize;  // of the inside, as the user left it
     bool mayEnlarge_ = false;
     bool awaitsFrame_ = false;  // which is different where the user may enlarge the window
-    wxTimer centering_;
+    wxTimer centering_;         // until the display has told of frame and size
     std::vector<wxTimer*> timers_;
 };
 

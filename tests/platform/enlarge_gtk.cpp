@@ -11,11 +11,7 @@ namespace brelex {
 
 void EnlargeAsUser(wxTopLevelWindow& window, const wxSize& by) {
     // The window manager gives a window another frame when it may be resized, and may then move it.
-    wxRect frame;
-    WaitFor([&] {
-        frame = FrameOnScreen(window);
-        return StaysFor(100, [&] { return FrameOnScreen(window) == frame; });
-    });
+    EXPECT_TRUE(ComesToRest(window));
     wxUIActionSimulator user;
     const wxPoint corner =
         window.ClientToScreen(wxPoint(0, 0)) + window.GetClientSize() + wxPoint(-2, 2);

@@ -637,14 +637,15 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         const wxSize shrunk = search_->GetClientSize();
         EXPECT_FALSE(canResize());
         Click("cmdExpandShrink");
-        ASSERT_TRUE(WaitFor(canResize));
+        ASSERT_TRUE(WaitFor(canResize) && ComesToRest(*search_));
         const wxSize designed = search_->GetClientSize();
         const wxSize box = In("txtSearchResult").GetSize();
         const int above = In("txtSearchResult").GetPosition().y;
 
         const wxSize more(80, 60);
         EnlargeAsUser(*search_, more);
-        ASSERT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
+        ASSERT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }))
+            << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
         EXPECT_TRUE(WaitFor([&] {
             const wxSize grown = In("txtSearchResult").GetSize() - box;
             return grown.x == more.x && std::abs(grown.y - more.y) <= 1;
@@ -658,7 +659,8 @@ TEST_F(SearchWindowTest, OnlyTheResultAreaCanBeMadeLarger) {
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == shrunk && !canResize(); }));
         ASSERT_TRUE(ComesToRest(*search_));
         Click("cmdExpandShrink");
-        EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }));
+        EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed + more; }))
+            << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
         EnlargeAsUser(*search_, {-300, -300});
         EXPECT_TRUE(WaitFor([&] { return search_->GetClientSize() == designed; }))
             << search_->GetClientSize().x << " x " << search_->GetClientSize().y;
