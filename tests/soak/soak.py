@@ -97,6 +97,8 @@ class Soak:
             running = self.check()
         if running:
             self.settle()
+            self.program.close_menus()  # GTK takes no request to close a window while a menu is open
+            time.sleep(0.2)
             self.screen.close(self.program.main)
             self.check_end()
         self.check_flat()
