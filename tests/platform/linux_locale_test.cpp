@@ -20,6 +20,9 @@ struct Numbers {
     const char* version;
 };
 
+// Where no locale is set.
+constexpr Numbers kPlain{.entries = "1,506 entries", .version = "version 1.0"};
+
 // How each locale writes the numbers.
 const std::map<std::string, Numbers> kLocales{
     {"ar_EG.UTF-8", {"1,506 entries", "version 1.0"}},
@@ -33,10 +36,7 @@ class UsersLocale : public SideWindowTest {
     void SetUp() override {
         const char* const locale = std::getenv("LC_ALL");
         const auto found = kLocales.find(locale == nullptr ? "" : locale);
-        if (found == kLocales.end()) {
-            GTEST_SKIP() << "not in one of the locales";
-        }
-        numbers_ = found->second;
+        numbers_ = found == kLocales.end() ? kPlain : found->second;
         SideWindowTest::SetUp();
     }
 
