@@ -9,7 +9,7 @@
 
 #include <gtk/gtk.h>
 
-#include "presentation/commands.h"
+#include "tests/ui/side_windows.h"
 #include "tests/ui/ui_test_support.h"
 
 namespace brelex {
@@ -70,16 +70,7 @@ TEST_F(UsersLocale, WritesTheNumbers) {
 TEST_F(UsersLocale, DoesNotMirrorTheEnglishWindows) {
     ExpectFromLeftToRight(*window_);
 
-    struct Opened {
-        const char* name;
-        Command command;
-    };
-
-    for (const Opened& opened :
-         {Opened{"frmSearch", Command::Search}, Opened{"frmAnagram", Command::Anagram},
-          Opened{"frmDataInfo", Command::DatabaseInfo}, Opened{"frmSmiley", Command::Smileys},
-          Opened{"frmAbout", Command::About}, Opened{"frmCheckData", Command::CheckData},
-          Opened{"frmDonation", Command::Donate}}) {
+    for (const OpenedWindow& opened : kSideWindows) {
         InSideWindow(
             opened.name, [&] { window_->Run(opened.command); },
             [this] { ExpectFromLeftToRight(Side()); });

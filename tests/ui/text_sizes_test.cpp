@@ -11,6 +11,7 @@
 
 #include "tests/platform/screen.h"
 #include "tests/ui/layout_faults.h"
+#include "tests/ui/side_windows.h"
 #include "tests/ui/ui_test_support.h"
 #include "ui/controls/colours.h"
 
@@ -40,16 +41,7 @@ TEST_F(TextSizes, TheMainWindowCutsNoText) {
 }
 
 TEST_F(TextSizes, NoSideWindowCutsAText) {
-    struct Opened {
-        const char* name;
-        Command command;
-    };
-
-    for (const Opened& opened :
-         {Opened{"frmSearch", Command::Search}, Opened{"frmAnagram", Command::Anagram},
-          Opened{"frmDataInfo", Command::DatabaseInfo}, Opened{"frmSmiley", Command::Smileys},
-          Opened{"frmAbout", Command::About}, Opened{"frmCheckData", Command::CheckData},
-          Opened{"frmDonation", Command::Donate}}) {
+    for (const OpenedWindow& opened : kSideWindows) {
         InSideWindow(
             opened.name, [&] { window_->Run(opened.command); },
             [&] {
